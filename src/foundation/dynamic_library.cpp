@@ -1,0 +1,121 @@
+#include "foundation/dynamic_library.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <link.h>
+#include <unistd.h>
+
+#include "foundation/log.h"
+#include "foundation/paths.h"
+
+const char *const hostOpenGLLibraryName = "libGL.so.1";
+const char *const es1LibraryName = "libGLESv1_CM.so.1";
+const char *const es2LibraryName = "libGLESv2.so.2";
+
+namespace {
+
+// A longer temporary directory opens nothing; callers rely on that limit.
+constexpr size_t linkNameLimit = 1024;
+
+// A name in the temporary directory that nothing has now. mkstemp would leave a file where the link has to go.
+bool makeLinkTo(const std::string &target, std::string &link) {
+    link = getTemporaryDirectory();
+    if (link.size() >= linkNameLimit) return false;
+    link += "tmp.XXXXXX";
+    const int file = mkstemp(link.data());
+    if (file < 0) return false;
+    close(file);
+    unlink(link.c_str());
+    return symlink(target.c_str(), link.c_str()) == 0;
+}
+
+void *openThroughLink(const std::string &path) {
+    std::string link;
+    if (!makeLinkTo(path, link)) return nullptr;
+    void *handle = dlopen(link.c_str(), RTLD_LAZY | RTLD_GLOBAL);
+    remove(link.c_str());
+    return handle;
+}
+
+} // namespace
+
+DynamicLibrary::DynamicLibrary(std::string name) : m_useCount(new uint32_t(1)), m_name(std::move(name)) {}
+
+DynamicLibrary::DynamicLibrary(const DynamicLibrary &other)
+    : m_useCount(other.m_useCount), m_name(other.m_name), m_handle(other.m_handle) {
+    ++*m_useCount;
+}
+
+DynamicLibrary &DynamicLibrary::operator=(const DynamicLibrary &other) {
+    if (this == &other) return *this;
+    ++*other.m_useCount;
+    if (--*m_useCount == 0) delete m_useCount;
+    m_useCount = other.m_useCount;
+    m_name = other.m_name;
+    m_handle = other.m_handle;
+    return *this;
+}
+
+DynamicLibrary::~DynamicLibrary() {
+    if (--*m_useCount > 0) return;
+    if (m_handle) dlclose(m_handle);
+    delete m_useCount;
+}
+
+bool DynamicLibrary::open(const std::vector<std::string> &searchPaths) {
+    if (*m_useCount > 1) {
+        // Copies go on with the old handle, and the last of them closes it.
+        --*m_useCount;
+        m_useCount = new uint32_t(1);
+    } else if (m_handle) {
+        dlclose(m_handle);
+    }
+    m_handle = nullptr;
+    for (const auto &directory : searchPaths) {
+        m_handle = openThroughLink(directory + "/" + m_name);
+        if (m_handle) return true;
+    }
+    m_handle = openThroughLink(m_name);
+    return m_handle != nullptr;
+}
+
+void *DynamicLibrary::getSymbol(const char *symbol) const {
+    return m_handle && symbol ? dlsym(m_handle, symbol) : nullptr;
+}
+
+void DynamicLibrary::keepLoaded() const {
+    link_map *loaded = nullptr;
+    if (!m_handle || dlinfo(m_handle, RTLD_DI_LINKMAP, &loaded) != 0) return;
+    // Found by the name that it was loaded under, though the link is gone; the flag sticks to what is loaded.
+    if (void *handle = dlopen(loaded->l_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) dlclose(handle);
+}
+
+std::vector<std::string> esLibrarySearchPaths() {
+    std::vector<std::string> paths{getOwnDirectory()};
+    if (const char *extra = getenv("KZRTRACE_LIB_PATH")) paths.emplace_back(extra);
+    return paths;
+}
+
+std::vector<std::string> hostLibrarySearchPaths() {
+    return {getOwnDirectory(),
+            "/usr/lib/" ZELVANE_MULTIARCH,
+            "/lib/" ZELVANE_MULTIARCH,
+            "/usr/lib64",
+            "/usr/lib",
+            "/lib64",
+            "/lib",
+            "/usr/local/lib"};
+}
+
+DynamicLibrary openEsLibrary(const char *name, const std::vector<std::string> &searchPaths) {
+    DynamicLibrary library(name);
+    if (!library.open(searchPaths)) logMessage(LogError, "%s", failureText("load library", name).c_str());
+    return library;
+}
+
+std::string failureText(std::string_view action, std::string_view name) {
+    std::string text = "failed to ";
+    text.append(action).append(" '").append(name).append("'");
+    return text;
+}

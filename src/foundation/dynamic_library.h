@@ -1,0 +1,51 @@
+// A library opened at run time through a temporary symbolic link, so that the loader never meets the name of a library
+// that the application may have loaded already. Copies share one handle, and the last one closes it. The use count is
+// plain: keep an object and its copies on one thread at a time.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class DynamicLibrary {
+public:
+    // name is the file name without a directory. Opens nothing.
+    explicit DynamicLibrary(std::string name);
+    DynamicLibrary(const DynamicLibrary &other);
+    // Takes over the other's handle and count and closes nothing: the old handle stays open for good.
+    DynamicLibrary &operator=(const DynamicLibrary &other);
+    ~DynamicLibrary();
+
+    // Tries each directory in turn and then the bare name, which only finds a library in the temporary directory.
+    // Closes a handle that is held first, but leaves it to the copies if there are any. False when nothing could be
+    // opened.
+    bool open(const std::vector<std::string> &searchPaths);
+    // Null when nothing is loaded, when the library lacks the symbol, or when symbol is null.
+    [[nodiscard]] void *getSymbol(const char *symbol) const;
+    // The library stays in the process for good, whoever closes it. Does nothing when nothing is loaded.
+    void keepLoaded() const;
+    [[nodiscard]] bool isLoaded() const { return m_handle != nullptr; }
+    [[nodiscard]] const std::string &name() const { return m_name; }
+
+private:
+    uint32_t *m_useCount;
+    std::string m_name;
+    void *m_handle = nullptr;
+};
+
+// File names of the four libraries on this platform.
+extern const char *const hostOpenGLLibraryName;
+extern const char *const es1LibraryName;
+extern const char *const es2LibraryName;
+
+// The directory of this library, then $KZRTRACE_LIB_PATH where it is set. The variable is read at every call.
+[[nodiscard]] std::vector<std::string> esLibrarySearchPaths();
+// The directory of this library, then the system's library directories.
+[[nodiscard]] std::vector<std::string> hostLibrarySearchPaths();
+
+// Opens the library, or logs why not and gives it back with nothing loaded.
+[[nodiscard]] DynamicLibrary openEsLibrary(const char *name, const std::vector<std::string> &searchPaths);
+
+// "failed to ACTION 'NAME'"
+[[nodiscard]] std::string failureText(std::string_view action, std::string_view name);

@@ -1,0 +1,24 @@
+// Where this library, the user's files and temporary files lie. All of it may be called from any thread that does not
+// change the environment at the same time.
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+// Directory of this library without a trailing slash, found once for the process. Empty when the loader cannot tell.
+[[nodiscard]] const std::string &getOwnDirectory();
+
+// $HOME, or the home directory of the user database when the variable is not set. False when the result is empty.
+[[nodiscard]] bool getHomeDirectory(std::string &path);
+
+// The home directory followed by "/.kzrconfig/Tarnwell Graphics". False, with nothing appended, without a home.
+[[nodiscard]] bool getConfigDirectory(std::string &path);
+
+// $ZELVANE_PROFILE_PATH. False, with path untouched, when the variable is not set.
+[[nodiscard]] bool getProfilePathFromEnvironment(std::string &path);
+
+// $TMPDIR or /tmp, always ended by exactly one slash where the variable has none.
+[[nodiscard]] std::string getTemporaryDirectory();
+
+// Null when the file cannot be opened. The caller closes the stream.
+[[nodiscard]] FILE *openForReading(const std::string &path);

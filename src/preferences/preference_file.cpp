@@ -1,0 +1,137 @@
+#include "preferences/preference_file.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "foundation/paths.h"
+#include "preferences/fnv1_hash.h"
+
+namespace {
+
+constexpr std::string_view fileTemplate = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                          "<!DOCTYPE plist PUBLIC \"-//Apple Computer//DTD PLIST 1.0//EN\" "
+                                          "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                                          "<plist version=\"1.0\">\n"
+                                          "<dict>\n"
+                                          "</dict>\n"
+                                          "</plist>\n";
+
+constexpr mode_t directoryMode = 0775;
+
+std::string fileIn(const std::string &directory, const std::string &name) {
+    return directory + "/com.tarnlight." + name + ".plist";
+}
+
+// Only the last step counts: a directory on the way may exist already or be closed to us.
+bool makeDirectories(const std::string &directory) {
+    size_t slash = directory.find('/');
+    while ((slash = directory.find('/', slash + 1)) != std::string::npos) {
+        mkdir(directory.substr(0, slash).c_str(), directoryMode);
+    }
+    return mkdir(directory.c_str(), directoryMode) == 0 || errno == EEXIST;
+}
+
+// Writes the template where there is no file. A file that holds something is left alone, though it could not be read:
+// false then, with errno telling why it could not, unless another process was just quicker than us.
+bool createFile(const std::string &path, int readError) {
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    if (descriptor < 0) return false;
+    struct stat found {};
+    if (fstat(descriptor, &found) != 0 || found.st_size > 0) {
+        close(descriptor);
+        errno = readError;
+        return readError == ENOENT;
+    }
+    FILE *stream = fdopen(descriptor, "wb");
+    if (!stream) {
+        close(descriptor);
+        return false;
+    }
+    fwrite(fileTemplate.data(), 1, fileTemplate.size(), stream);
+    fclose(stream);
+    return true;
+}
+
+// Sets error and gives false when there is no file to read and none can be made.
+bool ensureFile(const std::string &directory, const std::string &path, std::string &error) {
+    if (FILE *existing = fopen(path.c_str(), "r")) {
+        fclose(existing);
+        return true;
+    }
+    const int readError = errno;
+    if (!makeDirectories(directory)) {
+        error = std::string("Failed to create preference directory structure: ") + strerror(errno);
+        return false;
+    }
+    if (!createFile(path, readError)) {
+        error = std::string("Failed to create preference file: ") + strerror(errno);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool KZRPreferencesUnix::getPreferenceDirectory(std::string &directory, bool systemWide) {
+    directory.clear();
+    if (systemWide) {
+        directory = "/etc/.kzrconfig/Tarnwell Graphics";
+        return true;
+    }
+    return getConfigDirectory(directory);
+}
+
+PreferenceFile KZRPreferencesUnix::openPreferenceFile(const std::string &name, int mode, bool systemWide, bool atomic,
+                                                      std::string &error) {
+    PreferenceFile file;
+    std::string directory;
+    if (!getPreferenceDirectory(directory, systemWide)) {
+        error = "Failed to retrieve $(HOME) variable.";
+        return file;
+    }
+    file.path = fileIn(directory, name);
+    if (mode == readPreferences) {
+        if (!ensureFile(directory, file.path, error)) return file;
+        file.stream = fopen(file.path.c_str(), "rb");
+    } else {
+        const bool usesTemporaryName = mode == writePreferences && atomic;
+        file.stream = fopen((usesTemporaryName ? file.path + ".tmp" : file.path).c_str(), "wb");
+    }
+    if (!file.stream) error = std::string("Failed to open preference file: ") + strerror(errno);
+    return file;
+}
+
+void KZRPreferencesUnix::closePreferenceFile(PreferenceFile file, bool commit) {
+    if (!file.stream) return;
+    const bool isWhole = !ferror(file.stream);
+    const bool isClosed = fclose(file.stream) == 0;
+    if (!commit) return;
+    const std::string temporary = file.path + ".tmp";
+    // A full disk must not cost the user the file that was good.
+    if (!isWhole || !isClosed) {
+        remove(temporary.c_str());
+        return;
+    }
+    // Deliberately two steps: the old file goes before the new one takes its name.
+    remove(file.path.c_str());
+    rename(temporary.c_str(), file.path.c_str());
+}
+
+bool KZRPreferencesUnix::getPreferenceFileStamp(const std::string &name, bool systemWide, uint32_t &stamp) {
+    std::string directory;
+    // Without a home directory the name is looked for at the root, which callers take for a missing file.
+    (void)getPreferenceDirectory(directory, systemWide);
+    struct stat found {};
+    if (stat(fileIn(directory, name).c_str(), &found) != 0) return false;
+
+    uint32_t hash = fnv1Basis;
+    for (uint64_t seconds = static_cast<uint64_t>(found.st_mtime), byte = 0; byte < sizeof(seconds); ++byte) {
+        hash = fnv1Step(hash, static_cast<uint8_t>(seconds >> (8 * byte)));
+    }
+    stamp = hash;
+    return true;
+}

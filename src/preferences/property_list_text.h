@@ -1,0 +1,35 @@
+// How values stand in the text of a property list. The application's global locale has no say in it.
+#pragma once
+
+#include <locale>
+#include <sstream>
+#include <string>
+
+[[nodiscard]] inline std::string textOf(const std::string &value) {
+    return value;
+}
+
+// As a default-formatted stream writes it, a bool as a word.
+template <typename T>
+[[nodiscard]] std::string textOf(const T &value) {
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    stream << std::boolalpha << value;
+    return stream.str();
+}
+
+inline bool parseText(const std::string &text, std::string &value) {
+    value = text;
+    return true;
+}
+
+// Skips leading white space and ignores what follows the value. A failure leaves what the extraction left, or zero
+// where there was nothing to extract from.
+template <typename T>
+[[nodiscard]] bool parseText(const std::string &text, T &value) {
+    std::istringstream stream(text);
+    stream.imbue(std::locale::classic());
+    value = T();
+    stream >> std::boolalpha >> value;
+    return !stream.fail();
+}
