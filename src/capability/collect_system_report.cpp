@@ -1,0 +1,80 @@
+#include "capability/collect_system_report.h"
+
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "capability/feature_sets.h"
+#include "capability/host_probe.h"
+
+namespace capability {
+
+namespace {
+
+void sendFeature(SystemReportReceiver &receiver, Feature feature, const FeatureBinding &binding) {
+    const auto &descriptor = descriptorOf(feature);
+    receiver.receive(FeatureRecord{descriptor.name, featureAvailable(binding, descriptor)});
+    for (const auto &alternative : descriptor.alternatives) {
+        FeatureAlternativeRecord record{descriptor.name, alternative.minVersion, {}};
+        for (const char *name : alternative.extensions)
+            record.extensions.push_back(hostExtensionFromName(name));
+        receiver.receive(record);
+    }
+}
+
+// Asking for each extension of the catalogue apart walks the host's list hundreds of times, for tens of milliseconds in
+// the first call of a process. A list is walked once here; the answers are those of hostHasExtensionId.
+std::vector<bool> extensionsPresent(const HostGlView &view) {
+    std::vector<bool> isPresent(hostExtensionCount + 1);
+    if (!view.listsExtensions(hostGlVersion(view))) {
+        for (HostExtension id = 1; id <= hostExtensionCount; ++id)
+            isPresent[id] = hostHasExtensionId(view, id);
+        return isPresent;
+    }
+    std::unordered_set<std::string_view> listed;
+    const int32_t count = view.listedExtensionCount();
+    for (int32_t index = 0; index < count; ++index) {
+        if (const char *name = view.listedExtension(index)) listed.insert(name);
+    }
+    for (HostExtension id = 1; id <= hostExtensionCount; ++id)
+        isPresent[id] = listed.contains(hostExtensionName(id));
+    return isPresent;
+}
+
+void sendHost(SystemReportReceiver &receiver, const HostGlView &view) {
+    receiver.receive(GlVersionRecord{hostGlVersion(view)});
+    const auto isPresent = extensionsPresent(view);
+    for (HostExtension id = 1; id <= hostExtensionCount; ++id)
+        receiver.receive(ExtensionRecord{id, isPresent[id]});
+}
+
+void sendAll(SystemReportReceiver &receiver, const DynamicLibrary &library) {
+    const EsBaseFeatures base(library);
+    const Es20Features es20(library);
+    const Es30Features es30(library);
+    const Es31Features es31(library);
+    const Es31Features es32(library);
+    sendHost(receiver, base.view());
+
+    // Requirements go out whatever the state of the feature.
+#define REPORTED(set, feature) sendFeature(receiver, Feature::feature, set.feature);
+#define ES_REQUIREMENT(section, feature)                                                                               \
+    receiver.receive(EsRequirementRecord{section, descriptorOf(Feature::feature).name});
+#define ES_EXTENSION_REQUIREMENT(extension, feature)                                                                   \
+    receiver.receive(EsExtensionRequirementRecord{extension, descriptorOf(Feature::feature).name});
+#include "capability/data/report_records.def"
+#undef ES_EXTENSION_REQUIREMENT
+#undef ES_REQUIREMENT
+#undef REPORTED
+}
+
+} // namespace
+
+void collectSystemReport(const DynamicLibrary &library, const std::shared_ptr<glove::WSAPI> &windowSystem,
+                         SystemReportReceiver &receiver) {
+    const HostProbe probe(windowSystem);
+    if (probe.isCurrent()) sendAll(receiver, library);
+    receiver.receive(EndRecord{});
+}
+
+} // namespace capability

@@ -1,0 +1,131 @@
+#include "capability/feature_binding.h"
+
+#include <algorithm>
+#include <array>
+#include <ranges>
+
+namespace capability {
+
+namespace {
+
+// The two look-ups are one on this platform. They are kept apart so that each family says which it wants.
+using Lookup = void *(*)(const DynamicLibrary &library, const char *name);
+
+void *core(const DynamicLibrary &library, const char *name) {
+    return library.getSymbol(name);
+}
+
+void *extension(const DynamicLibrary &library, const char *name) {
+    return library.getSymbol(name);
+}
+
+constexpr int32_t anyVariant = -2;
+
+struct FamilyRow {
+    Feature feature;
+    int32_t variant;
+    Lookup lookup;
+};
+
+constexpr auto families = std::to_array<FamilyRow>({
+#define FAMILY(feature, variant, lookup) {Feature::feature, variant, lookup},
+#define ENTRY_POINT(...)
+#define DIRECT_STORAGE_ENTRY_POINT(...)
+#include "capability/data/feature_entry_points.def"
+#undef DIRECT_STORAGE_ENTRY_POINT
+#undef ENTRY_POINT
+#undef FAMILY
+});
+
+struct EntryPointRow {
+    Feature feature;
+    std::array<const char *, 3> names; // by family; alone, the first one stands for all
+
+    [[nodiscard]] const char *nameIn(size_t family) const { return names[1] ? names[family] : names[0]; }
+};
+
+constexpr auto entryPoints = std::to_array<EntryPointRow>({
+#define FAMILY(...)
+#define ENTRY_POINT(feature, ...) {Feature::feature, {__VA_ARGS__}},
+#define DIRECT_STORAGE_ENTRY_POINT(...)
+#include "capability/data/feature_entry_points.def"
+#undef DIRECT_STORAGE_ENTRY_POINT
+#undef ENTRY_POINT
+#undef FAMILY
+});
+
+constexpr auto directStorageEntryPoints = std::to_array<const char *>({
+#define FAMILY(...)
+#define ENTRY_POINT(...)
+#define DIRECT_STORAGE_ENTRY_POINT(feature, name) name,
+#include "capability/data/feature_entry_points.def"
+#undef DIRECT_STORAGE_ENTRY_POINT
+#undef ENTRY_POINT
+#undef FAMILY
+});
+
+static_assert(std::ranges::is_sorted(families, {}, &FamilyRow::feature) &&
+                  std::ranges::is_sorted(entryPoints, {}, &EntryPointRow::feature),
+              "the rows of a feature stand together, and the features in their order");
+
+template <typename Rows>
+auto rowsOf(const Rows &rows, Feature feature) {
+    return std::ranges::equal_range(rows, feature, {}, &Rows::value_type::feature);
+}
+
+// Not the alternative that was selected: a host of OpenGL 4 can have texture storage without these functions.
+void bindDirectStorage(FeatureBinding &binding, const HostGlView &view, const DynamicLibrary &library) {
+    const auto &descriptor = descriptorOf(Feature::textureStorage);
+    const auto byExtension = std::ranges::find(descriptor.alternatives, 1u, &FeatureAlternative::variant);
+    binding.hasDirectStorage = alternativeSatisfied(view, *byExtension);
+    if (!binding.hasDirectStorage) return;
+    binding.functions.resize(rowsOf(entryPoints, Feature::textureStorage).size());
+    for (const char *name : directStorageEntryPoints)
+        binding.functions.push_back(extension(library, name));
+}
+
+} // namespace
+
+void *FeatureBinding::find(Feature feature, std::string_view name) const {
+    const auto rows = rowsOf(entryPoints, feature);
+    const auto row = std::ranges::find(rows, name, [](const auto &row) { return std::string_view(row.names[0]); });
+    const auto index = static_cast<size_t>(row - rows.begin());
+    return row == rows.end() || index >= functions.size() ? nullptr : functions[index];
+}
+
+bool featureAvailable(const FeatureBinding &binding, const FeatureDescriptor &descriptor) {
+    return binding.variant != noVariant || descriptor.alternatives.empty();
+}
+
+bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative) {
+    if (hostGlVersion(view) < alternative.minVersion) return false;
+    return std::ranges::all_of(alternative.extensions, [&](const char *name) { return hostHasExtension(view, name); });
+}
+
+int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &view) {
+    for (const auto &alternative : descriptor.alternatives) {
+        if (alternativeSatisfied(view, alternative)) return static_cast<int32_t>(alternative.variant);
+    }
+    return noVariant;
+}
+
+bool bindFeature(Feature feature, FeatureBinding &binding, const HostGlView &view, const DynamicLibrary &library) {
+    const auto &descriptor = descriptorOf(feature);
+    binding.variant = selectVariant(descriptor, view);
+    const bool isAvailable = featureAvailable(binding, descriptor);
+
+    const auto known = rowsOf(families, feature);
+    if (known.empty()) return isAvailable;
+    const auto family = std::ranges::find_if(known, [&](const auto &row) {
+        return row.variant == binding.variant || (row.variant == anyVariant && isAvailable);
+    });
+    if (family != known.end()) {
+        binding.functions.clear();
+        for (const auto &row : rowsOf(entryPoints, feature))
+            binding.functions.push_back(family->lookup(library, row.nameIn(family - known.begin())));
+    }
+    if (feature == Feature::textureStorage) bindDirectStorage(binding, view, library);
+    return family != known.end();
+}
+
+} // namespace capability

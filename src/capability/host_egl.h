@@ -1,0 +1,32 @@
+// The host functions that the library calls by itself, from the features that they belong to. Made with a host context
+// current. A function that the host lacks, or whose feature it lacks, is null.
+#pragma once
+
+#include <cstdint>
+
+#include "capability/feature_binding.h"
+
+namespace host {
+
+struct EGL {
+    explicit EGL(const DynamicLibrary &library);
+
+    capability::FeatureBinding fenceSync;
+    capability::FeatureBinding get;
+    capability::FeatureBinding openGl;
+    capability::FeatureBinding textureUpload;
+    capability::FeatureBinding textures;
+
+    using Sync = void *;
+    uint32_t (*glClientWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs);
+    void (*glDeleteSync)(Sync sync);
+    Sync (*glFenceSync)(uint32_t condition, uint32_t flags);
+    void (*glGetSynciv)(Sync sync, uint32_t name, int32_t size, int32_t *length, int32_t *values);
+    void (*glWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs);
+    uint32_t (*glGetError)();
+    void (*glCopyTexImage2D)(uint32_t target, int32_t level, uint32_t internalFormat, int32_t x, int32_t y,
+                             int32_t width, int32_t height, int32_t border);
+    void (*glBindTexture)(uint32_t target, uint32_t texture);
+};
+
+} // namespace host

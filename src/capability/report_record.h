@@ -1,0 +1,70 @@
+// The records of the system report, each one fact about the host. They travel in this form to whoever receives them;
+// the GUI link gives each type the number of its place in the list.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "capability/extension_catalogue.h"
+#include "capability/versions.h"
+
+namespace capability {
+
+// A text as a record can carry it: at most 511 characters, the rest is cut silently.
+class ReportText {
+public:
+    ReportText(const char *text) : m_text(text, strnlen(text, maxLength)) {}
+    [[nodiscard]] const std::string &str() const { return m_text; }
+    bool operator==(const ReportText &) const = default;
+
+private:
+    static constexpr size_t maxLength = 511;
+    std::string m_text;
+};
+
+struct GlVersionRecord {
+    GlVersion version;
+};
+
+struct ExtensionRecord {
+    HostExtension extension;
+    bool isPresent;
+};
+
+struct FeatureRecord {
+    ReportText feature;
+    bool isAvailable;
+};
+
+struct FeatureAlternativeRecord {
+    ReportText feature;
+    GlVersion minVersion;
+    std::vector<HostExtension> extensions; // a 0 ends the list for the receiver
+};
+
+struct EsRequirementRecord {
+    int32_t section; // 0 or an EsVersion
+    ReportText feature;
+};
+
+struct EsExtensionRequirementRecord {
+    EsExtension extension;
+    ReportText feature;
+};
+
+struct EndRecord {};
+
+using ReportRecord = std::variant<GlVersionRecord, ExtensionRecord, FeatureRecord, FeatureAlternativeRecord,
+                                  EsRequirementRecord, EsExtensionRequirementRecord, EndRecord>;
+
+constexpr uint32_t firstReportRecordType = 14;
+
+[[nodiscard]] inline uint32_t reportRecordType(const ReportRecord &record) {
+    return firstReportRecordType + static_cast<uint32_t>(record.index());
+}
+
+} // namespace capability

@@ -1,0 +1,9 @@
+// The EGL version that the library speaks.
+#pragma once
+
+namespace host {
+
+constexpr int eglMajorVersion() { return 1; }
+constexpr int eglMinorVersion() { return 5; }
+
+} // namespace host

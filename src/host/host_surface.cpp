@@ -1,0 +1,148 @@
+#include "host/host_surface.h"
+
+#include <EGL/egl.h>
+
+#include "host/host_context.h"
+
+namespace {
+
+using host::platform::NativeObject;
+using host::platform::operations;
+using host::platform::PixelBuffer;
+
+constexpr uint32_t glRgb = 0x1907;
+constexpr uint32_t glRgba = 0x1908;
+constexpr uint32_t glTexture2D = 0xDE1;
+
+// No view equals no object: a context without a view flushes for a surface without a native object.
+bool isViewOf(const host::platform::ContextContainer *container, const NativeObject &native) {
+    if (native.isPixelBuffer()) return false; // a pixel buffer is nobody's view
+    const auto view = operations.view(container);
+    return native.isView() ? view == native.view : view.window == 0;
+}
+
+// Acts on what the thread last made current, whatever surface asks.
+void flushIfBound(const NativeObject &native) {
+    const auto context = host::lockCurrentHostContext();
+    if (context && isViewOf(context->container(), native)) operations.flushBuffer(context->container());
+}
+
+// The two texture attributes are crossed over: the target's value becomes a colour format and the format's value a
+// target. Callers rely on it.
+uint32_t bufferTarget(int32_t textureTarget) {
+    switch (textureTarget) {
+    case EGL_NO_TEXTURE:
+    case EGL_TEXTURE_RGBA:
+        return glRgba;
+    case EGL_TEXTURE_RGB:
+        return glRgb;
+    default:
+        return static_cast<uint32_t>(textureTarget);
+    }
+}
+
+uint32_t bufferFormat(int32_t textureFormat) {
+    const bool isPlain = textureFormat == EGL_NO_TEXTURE || textureFormat == EGL_TEXTURE_2D;
+    return isPlain ? glTexture2D : static_cast<uint32_t>(textureFormat);
+}
+
+struct Size {
+    int32_t width = 0;
+    int32_t height = 0;
+};
+
+Size sizeOf(const host::platform::View &view) {
+    Size size;
+    operations.viewSize(view, &size.width, &size.height);
+    return size;
+}
+
+Size sizeOf(const PixelBuffer *buffer) {
+    Size size;
+    operations.pixelBufferSize(buffer, &size.width, &size.height);
+    return size;
+}
+
+} // namespace
+
+namespace glove {
+
+int32_t WindowSurface::width() const {
+    return sizeOf(m_view).width;
+}
+
+int32_t WindowSurface::height() const {
+    return sizeOf(m_view).height;
+}
+
+std::string WindowSurface::title() const {
+    return operations.viewTitle(m_view);
+}
+
+void WindowSurface::swapBuffers() {
+    flushIfBound(nativeHandle());
+}
+
+PBufferSurface::~PBufferSurface() {
+    operations.releasePixelBuffer(m_buffer);
+}
+
+int32_t PBufferSurface::width() const {
+    return sizeOf(m_buffer).width;
+}
+
+int32_t PBufferSurface::height() const {
+    return sizeOf(m_buffer).height;
+}
+
+void PBufferSurface::swapBuffers() {
+    flushIfBound(nativeHandle());
+}
+
+} // namespace glove
+
+namespace host {
+
+PBufferRequest readPBufferRequest(const int32_t *attributes) {
+    PBufferRequest request;
+    if (!attributes) return request;
+    for (; *attributes != EGL_NONE; attributes += 2) {
+        const int32_t value = attributes[1];
+        switch (*attributes) {
+        case EGL_WIDTH:
+            request.width = value;
+            break;
+        case EGL_HEIGHT:
+            request.height = value;
+            break;
+        case EGL_MIPMAP_LEVEL:
+            request.maxMipLevel = value;
+            break;
+        case EGL_TEXTURE_TARGET:
+            request.target = bufferTarget(value);
+            break;
+        case EGL_TEXTURE_FORMAT:
+            request.internalFormat = bufferFormat(value);
+            break;
+        default:
+            break;
+        }
+    }
+    return request;
+}
+
+std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow) {
+    return std::make_shared<glove::WindowSurface>(platform::View{display, nativeWindow});
+}
+
+std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes) {
+    const auto request = readPBufferRequest(attributes);
+    return std::make_shared<glove::PBufferSurface>(operations.createPixelBuffer(
+        request.target, request.internalFormat, request.maxMipLevel, request.width, request.height));
+}
+
+std::shared_ptr<glove::ISurface> createHostPixmapSurface() {
+    return nullptr;
+}
+
+} // namespace host

@@ -1,0 +1,87 @@
+// Host surfaces: what stands under an EGL surface. They answer size and title, flush, and name the native object that
+// a context is bound to. Pixmaps have none.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "host/platform/operations.h"
+
+namespace glove {
+
+// No virtual destructor: the shared pointer that holds a surface destroys the concrete type.
+class ISurface {
+public:
+    // In pixels, asked anew at every call. 0 where the host cannot tell.
+    virtual int32_t width() const = 0;
+    virtual int32_t height() const = 0;
+    virtual std::string title() const = 0;
+    // Flushes the calling thread's current host context if this surface is its view; otherwise does nothing.
+    virtual void swapBuffers() = 0;
+    virtual int32_t isPBuffer() const = 0;
+    virtual host::platform::NativeObject nativeHandle() const = 0;
+
+protected:
+    ~ISurface() = default;
+};
+
+class WindowSurface final : public ISurface {
+public:
+    explicit WindowSurface(const host::platform::View &view) : m_view(view) {}
+    WindowSurface(const WindowSurface &) = delete;
+    WindowSurface &operator=(const WindowSurface &) = delete;
+
+    int32_t width() const override;
+    int32_t height() const override;
+    std::string title() const override;
+    void swapBuffers() override;
+    int32_t isPBuffer() const override { return 0; }
+    host::platform::NativeObject nativeHandle() const override { return {m_view, nullptr}; }
+
+private:
+    host::platform::View m_view; // the application owns the window
+};
+
+class PBufferSurface final : public ISurface {
+public:
+    // Takes over the buffer, which may be null.
+    explicit PBufferSurface(host::platform::PixelBuffer *buffer) : m_buffer(buffer) {}
+    PBufferSurface(const PBufferSurface &) = delete;
+    PBufferSurface &operator=(const PBufferSurface &) = delete;
+    ~PBufferSurface();
+
+    int32_t width() const override;
+    int32_t height() const override;
+    std::string title() const override { return "pbuffer"; }
+    void swapBuffers() override;
+    int32_t isPBuffer() const override { return 1; }
+    host::platform::NativeObject nativeHandle() const override { return {{}, m_buffer}; }
+
+private:
+    host::platform::PixelBuffer *m_buffer;
+};
+
+} // namespace glove
+
+namespace host {
+
+// The values of a pixel buffer as an EGL attribute list gives them.
+struct PBufferRequest {
+    uint32_t target = 0;
+    uint32_t internalFormat = 0;
+    int32_t width = 0;
+    int32_t height = 0;
+    int32_t maxMipLevel = 0;
+};
+
+// Reads the five attributes that matter and passes over all others. A null list is an empty one.
+[[nodiscard]] PBufferRequest readPBufferRequest(const int32_t *attributes);
+
+[[nodiscard]] std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow);
+// The buffer inside may be null when the host refuses the values.
+[[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes);
+// Always null: there is no host kind for pixmaps.
+[[nodiscard]] std::shared_ptr<glove::ISurface> createHostPixmapSurface();
+
+} // namespace host

@@ -1,0 +1,11 @@
+// The host's OpenGL library, opened by name and looked up by name. A name that it lacks gives null.
+#pragma once
+
+#include "foundation/dynamic_library.h"
+
+namespace host {
+
+// Looks beside this library, then in the system's library directories. The result may hold nothing: ask isLoaded().
+[[nodiscard]] DynamicLibrary openHostOpenGLLibrary();
+
+} // namespace host

@@ -1,0 +1,52 @@
+#include "host/pixel_format.h"
+
+#include <iterator>
+#include <vector>
+
+namespace host {
+
+using namespace platform;
+
+namespace {
+
+constexpr uint32_t readBack[] = {DoubleBuffer, ColorSize, AlphaSize, DepthSize, StencilSize, SampleBuffers, Samples};
+
+void append(std::vector<uint32_t> &list, uint32_t attribute, int32_t value) {
+    list.push_back(attribute);
+    list.push_back(static_cast<uint32_t>(value));
+}
+
+} // namespace
+
+PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request) {
+    std::vector<uint32_t> list{OpenGLProfile, profile3_2Core};
+    if (request.hasWindowBit) list.push_back(DoubleBuffer);
+    append(list, ColorSize, request.redSize + request.greenSize + request.blueSize);
+    append(list, AlphaSize, request.alphaSize);
+    append(list, DepthSize, request.depthSize);
+    append(list, StencilSize, request.stencilSize);
+    append(list, SampleBuffers, request.sampleBuffers);
+    append(list, Samples, request.samples);
+    list.push_back(0);
+    return operations.createPixelFormat(request.display, list.data());
+}
+
+PixelFormat *makeProbePixelFormat() {
+    constexpr uint32_t list[] = {OpenGLProfile, profile3_2Core, 0};
+    return operations.createPixelFormat(0, list);
+}
+
+PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy) {
+    int32_t values[std::size(readBack)];
+    for (size_t i = 0; i < std::size(readBack); ++i) {
+        values[i] = operations.pixelFormatValue(format, readBack[i]);
+    }
+    // Double-buffered whatever the format says: a context may be bound to a window later.
+    std::vector<uint32_t> list{OpenGLProfile, legacy ? profileLegacy : profile3_2Core, DoubleBuffer};
+    for (size_t i = 1; i < std::size(readBack); ++i)
+        append(list, readBack[i], values[i]);
+    list.push_back(0);
+    return operations.derivePixelFormat(format, list.data());
+}
+
+} // namespace host

@@ -1,0 +1,107 @@
+// Everything that the library needs of a window system and its OpenGL contexts: one list of operations, filled whole by
+// each implementation in this order and chosen at build time. The numbers are shared vocabulary, the handles opaque.
+// Operations run on the calling thread and may be called from any thread; contexts are current per thread.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace host::platform {
+
+struct PixelFormat;      // a chosen host format
+struct ContextContainer; // owns one host context
+struct PixelBuffer;      // an off-screen drawable
+struct SavedBinding;     // what a thread had current
+
+// A native window on the display with the given host word (0 is the host's default display). Window 0 is no view.
+struct View {
+    uint64_t display = 0;
+    uint64_t window = 0;
+    bool operator==(const View &) const = default;
+};
+
+// What a context draws to: nothing, a view, or a pixel buffer. A null pixel buffer is nothing.
+struct NativeObject {
+    View view;
+    PixelBuffer *pixelBuffer = nullptr;
+
+    [[nodiscard]] bool isView() const { return view.window != 0; }
+    [[nodiscard]] bool isPixelBuffer() const { return pixelBuffer != nullptr; }
+    [[nodiscard]] bool isNull() const { return !isView() && !isPixelBuffer(); }
+};
+
+// Attributes of a pixel format list. A list is pairs ended by 0, but for DoubleBuffer, which stands alone.
+enum PixelFormatAttribute : uint32_t {
+    DoubleBuffer = 5,
+    ColorSize = 8,
+    AlphaSize = 11,
+    DepthSize = 12,
+    StencilSize = 13,
+    SampleBuffers = 55,
+    Samples = 56,
+    OpenGLProfile = 99,
+};
+
+constexpr uint32_t profileLegacy = 0x1000;
+constexpr uint32_t profile3_2Core = 0x3200;
+
+struct PlatformOperations {
+    // A format for the display's server by an attribute list. Null when the server is not there or nothing fits.
+    // Formats live until releasePixelFormat.
+    PixelFormat *(*createPixelFormat)(uint64_t display, const uint32_t *attributes);
+    // The value that the list of the format asked for or the host gave; 0 for an attribute that it does not have.
+    int32_t (*pixelFormatValue)(const PixelFormat *format, uint32_t attribute);
+    // A copy of the format with another attribute list, for the same display.
+    PixelFormat *(*derivePixelFormat)(const PixelFormat *format, const uint32_t *attributes);
+    // Null is allowed.
+    void (*releasePixelFormat)(PixelFormat *format);
+
+    // A context on the format, sharing objects with share unless that is null. Null when the host refuses.
+    ContextContainer *(*createContext)(const PixelFormat *format, ContextContainer *share);
+    // Drops the owner's reference. A context that is current somewhere goes when it is no longer current.
+    void (*releaseContext)(ContextContainer *container);
+
+    // The container whose context is current on the thread. Null for none, and for a context that is not ours.
+    ContextContainer *(*currentContext)();
+    void (*clearCurrentContext)();
+    // Makes the context current with whatever is attached to it, or without a drawable. False when the host refuses.
+    bool (*makeCurrent)(ContextContainer *container);
+
+    // Attaches a view in place of whatever was attached; View{} detaches. Takes effect at once on a current context.
+    // False when the window is not there or cannot be drawn to.
+    bool (*setView)(ContextContainer *container, const View &view);
+    // The attached view; View{} when there is none or a pixel buffer is attached.
+    View (*view)(const ContextContainer *container);
+    // Attaches a pixel buffer in place of whatever was attached. Takes effect at once on a current context.
+    bool (*setPixelBuffer)(ContextContainer *container, PixelBuffer *buffer);
+    // Registers the context to follow the view's frame. Registrations add up, and none is ever removed.
+    void (*observeViewFrame)(ContextContainer *container, const View &view);
+
+    // Shows what was drawn on the attached view.
+    void (*flushBuffer)(ContextContainer *container);
+    // In frames per swap, handed to the host without a bound.
+    void (*setSwapInterval)(ContextContainer *container, int32_t interval);
+
+    // What the thread has current, drawables included, whoever made it current. Null for nothing.
+    SavedBinding *(*saveBinding)();
+    // Makes it current again and frees the record. Null is allowed and clears the current context.
+    void (*restoreBinding)(SavedBinding *binding);
+
+    // Null when the host refuses the values.
+    PixelBuffer *(*createPixelBuffer)(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
+                                      int32_t height);
+    // In pixels. Outputs may be null; a null buffer writes nothing.
+    void (*pixelBufferSize)(const PixelBuffer *buffer, int32_t *width, int32_t *height);
+    // Null is allowed.
+    void (*releasePixelBuffer)(PixelBuffer *buffer);
+
+    // The view's size now, in its own units. A view without a window, or one that is gone, writes nothing.
+    void (*viewSize)(const View &view, int32_t *width, int32_t *height);
+    // Title of the window that holds the view, in UTF-8. Empty for no view, no title, or a window that is gone.
+    std::string (*viewTitle)(const View &view);
+};
+
+// The implementation that this build links.
+extern const PlatformOperations operations;
+
+} // namespace host::platform

@@ -1,0 +1,44 @@
+// Children of application windows whose visual cannot be drawn to: each fills its parent, shows what is drawn, and lets
+// all input through to it. A child goes with its parent; until then it is used again. Any thread.
+#pragma once
+
+#include <map>
+#include <mutex>
+#include <utility>
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+namespace host::platform::x11 {
+
+class ChildWindows {
+public:
+    explicit ChildWindows(Display *display) : m_display(display) {}
+
+    // The child of that visual. None when the parent is gone.
+    [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual);
+    // Brings the parent's children to its size, which costs a round trip where there are any.
+    void follow(Window parent);
+    // The same for a size that is known already.
+    void resize(Window parent, unsigned width, unsigned height);
+    // For a parent that is gone.
+    void forget(Window parent);
+
+private:
+    struct Child {
+        Window window = 0;
+        unsigned width = 0;
+        unsigned height = 0;
+    };
+
+    Window create(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
+    void fit(Child &child, unsigned width, unsigned height);
+    bool isThere(Window window, unsigned &width, unsigned &height);
+
+    Display *m_display;
+    std::mutex m_mutex;
+    std::map<std::pair<Window, VisualID>, Child> m_children;
+    std::map<VisualID, Colormap> m_colormaps;
+};
+
+} // namespace host::platform::x11

@@ -1,0 +1,107 @@
+#include "host/platform/x11/connection.h"
+
+#include <map>
+#include <memory>
+#include <mutex>
+
+#include "host/platform/x11/x_errors.h"
+
+namespace host::platform::x11 {
+
+namespace {
+
+// Small words cannot be addresses: they all mean the default display.
+constexpr uint64_t firstAddress = 4096;
+
+struct Connections {
+    std::mutex mutex;
+    std::map<std::string, std::unique_ptr<Connection>, std::less<>> byName;
+    std::map<uint64_t, Connection *> byWord;
+};
+
+Connections &connections() {
+    static auto *instance = new Connections; // swaps come until the very end of the process
+    return *instance;
+}
+
+Display *applicationDisplay(uint64_t displayWord) {
+    return displayWord < firstAddress ? nullptr : reinterpret_cast<Display *>(displayWord);
+}
+
+// With the mutex held.
+Connection *openServer(Connections &all, const std::string &name) {
+    if (const auto known = all.byName.find(name); known != all.byName.end()) return known->second.get();
+    XInitThreads();
+    Display *display = XOpenDisplay(name.c_str());
+    if (!display) return nullptr;
+    return all.byName.emplace(name, std::make_unique<Connection>(display)).first->second.get();
+}
+
+bool isSoftwareRenderer(Display *display, int screen, bool canTell) {
+    const auto query = reinterpret_cast<PFNGLXQUERYRENDERERINTEGERMESAPROC>(
+        glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXQueryRendererIntegerMESA")));
+    unsigned isAccelerated = 1;
+    return canTell && query && query(display, screen, 0, GLX_RENDERER_ACCELERATED_MESA, &isAccelerated) &&
+           !isAccelerated;
+}
+
+Connection *unlessLost(Connection *connection) {
+    return connection && connection->isLost() ? nullptr : connection;
+}
+
+} // namespace
+
+Connection *Connection::open(uint64_t displayWord) {
+    Display *application = applicationDisplay(displayWord);
+    const std::string name = application ? XDisplayString(application) : XDisplayName(nullptr);
+    auto &all = connections();
+    const std::lock_guard lock(all.mutex);
+    if (auto *connection = openServer(all, name)) {
+        all.byWord[displayWord] = connection;
+        return unlessLost(connection);
+    }
+    if (application || all.byName.empty()) return nullptr;
+    return unlessLost(all.byName.begin()->second.get());
+}
+
+Connection *Connection::find(uint64_t displayWord) {
+    {
+        auto &all = connections();
+        const std::lock_guard lock(all.mutex);
+        const auto known = all.byWord.find(displayWord);
+        if (known != all.byWord.end()) return unlessLost(known->second);
+    }
+    return open(displayWord);
+}
+
+Connection::Connection(Display *display)
+    : m_display(display), m_screen(DefaultScreen(display)), m_configs(display, m_screen), m_children(display) {
+    keepErrorsFromProcess(display, m_isLost);
+    if (!glXQueryExtension(display, nullptr, nullptr)) return;
+    if (const char *extensions = glXQueryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
+    m_glxExtensions = " " + m_glxExtensions + " ";
+    m_isSoftware = isSoftwareRenderer(display, m_screen, hasGlxExtension("GLX_MESA_query_renderer"));
+}
+
+bool Connection::hasWindow(Window window) const {
+    Window root = 0;
+    int x = 0, y = 0;
+    unsigned width = 0, height = 0, border = 0, depth = 0;
+    return !isLost() && XGetGeometry(m_display, window, &root, &x, &y, &width, &height, &border, &depth);
+}
+
+bool Connection::hasGlxExtension(std::string_view name) const {
+    return m_glxExtensions.find(" " + std::string(name) + " ") != std::string::npos;
+}
+
+bool Connection::windowAttributes(const View &view, XWindowAttributes &attributes) {
+    if (isLost() || find(view.display) != this) return false;
+    if (XGetWindowAttributes(m_display, view.window, &attributes)) return true;
+    m_children.forget(view.window);
+    Display *application = applicationDisplay(view.display);
+    if (!application) return false;
+    XSync(application, False);
+    return XGetWindowAttributes(m_display, view.window, &attributes) != 0;
+}
+
+} // namespace host::platform::x11

@@ -1,0 +1,68 @@
+#include "host/platform/x11/context.h"
+
+#include "host/platform/x11/pixel_format.h"
+
+namespace host::platform::x11 {
+
+namespace {
+
+// Without a version the host gives its highest one that is compatible with the oldest.
+constexpr int legacyAttributes[] = {GLX_CONTEXT_PROFILE_MASK_ARB, GLX_CONTEXT_COMPATIBILITY_PROFILE_BIT_ARB, 0};
+constexpr int coreAttributes[] = {
+    GLX_CONTEXT_MAJOR_VERSION_ARB,    3, GLX_CONTEXT_MINOR_VERSION_ARB, 2, GLX_CONTEXT_PROFILE_MASK_ARB,
+    GLX_CONTEXT_CORE_PROFILE_BIT_ARB, 0};
+
+GLXContext create(const PixelFormat &format, GLXContext share) {
+    auto &connection = format.connection;
+    const bool isLegacy = format.profile == profileLegacy;
+    if (!connection.hasGlxExtension("GLX_ARB_create_context_profile")) {
+        if (!isLegacy) return nullptr;
+        return glXCreateNewContext(connection.display(), format.config.handle, GLX_RGBA_TYPE, share, True);
+    }
+    static const auto createAttribs = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
+        glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXCreateContextAttribsARB")));
+    if (!createAttribs) return nullptr;
+    return createAttribs(connection.display(), format.config.handle, share, True,
+                         isLegacy ? legacyAttributes : coreAttributes);
+}
+
+} // namespace
+
+ContextContainer *createContext(const PixelFormat *format, ContextContainer *share) {
+    if (!format || format->connection.isLost()) return nullptr;
+    // GLX shares within a connection only.
+    if (share && &share->connection != &format->connection) return nullptr;
+    const GLXContext context = create(*format, share ? share->context : nullptr);
+    if (!context) return nullptr;
+    return new ContextContainer{.connection = format->connection,
+                                .config = format->config,
+                                .context = context,
+                                .mutex = {},
+                                .attachment = {},
+                                .swapInterval = {}};
+}
+
+void releaseContext(ContextContainer *container) {
+    dropReference(container);
+}
+
+void addReference(ContextContainer *container) {
+    if (container) ++container->references;
+}
+
+void dropReference(ContextContainer *container) {
+    if (!container || --container->references > 0) return;
+    if (!container->connection.isLost()) {
+        Display *display = container->connection.display();
+        glXDestroyContext(display, container->context);
+        if (container->placeholder) glXDestroyPbuffer(display, container->placeholder);
+    }
+    delete container;
+}
+
+Attachment attachmentOf(const ContextContainer &container) {
+    const std::lock_guard lock(container.mutex);
+    return container.attachment;
+}
+
+} // namespace host::platform::x11

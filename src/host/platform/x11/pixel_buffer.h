@@ -1,0 +1,52 @@
+// Pixel buffers: a record of what was asked, and the GLX buffers made of it for the contexts that attach it. Those go
+// when the owner has released the record and nothing is attached to it any more. Any thread.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <utility>
+
+#include "host/platform/operations.h"
+#include "host/platform/x11/connection.h"
+
+namespace host::platform {
+
+namespace x11 {
+
+class Pbuffers {
+public:
+    Pbuffers(int32_t width, int32_t height) : m_width(width), m_height(height) {}
+    Pbuffers(const Pbuffers &) = delete;
+    Pbuffers &operator=(const Pbuffers &) = delete;
+    ~Pbuffers();
+
+    // Made at the first call for the config. None when the host refuses.
+    [[nodiscard]] GLXPbuffer bufferFor(Connection &connection, const FbConfig &config);
+
+private:
+    int32_t m_width;
+    int32_t m_height;
+    std::mutex m_mutex;
+    std::map<std::pair<Connection *, const FbConfig *>, GLXPbuffer> m_buffers;
+};
+
+PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
+                               int32_t height);
+void pixelBufferSize(const PixelBuffer *buffer, int32_t *width, int32_t *height);
+void releasePixelBuffer(PixelBuffer *buffer);
+
+} // namespace x11
+
+// GLX buffers have neither a target nor a format nor levels, so only the size is used.
+struct PixelBuffer {
+    uint32_t target = 0;
+    uint32_t internalFormat = 0;
+    int32_t maxMipLevel = 0;
+    int32_t width = 0;
+    int32_t height = 0;
+    std::shared_ptr<x11::Pbuffers> pbuffers;
+};
+
+} // namespace host::platform

@@ -1,0 +1,27 @@
+// Pixel formats on X11: a framebuffer config of one connection, and the profile that the list asked for.
+#pragma once
+
+#include <cstdint>
+
+#include "host/platform/operations.h"
+#include "host/platform/x11/connection.h"
+
+namespace host::platform {
+
+// Constant; the connection and its configs live as long as the process.
+struct PixelFormat {
+    x11::Connection &connection;
+    const x11::FbConfig &config;
+    uint32_t profile = profileLegacy; // what a list without a profile gets
+};
+
+namespace x11 {
+
+PixelFormat *createPixelFormat(uint64_t display, const uint32_t *attributes);
+int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute);
+PixelFormat *derivePixelFormat(const PixelFormat *format, const uint32_t *attributes);
+void releasePixelFormat(PixelFormat *format);
+
+} // namespace x11
+
+} // namespace host::platform

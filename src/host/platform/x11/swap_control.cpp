@@ -1,0 +1,47 @@
+#include "host/platform/x11/swap_control.h"
+
+#include "host/platform/x11/context.h"
+#include "host/platform/x11/current.h"
+
+namespace host::platform::x11 {
+
+namespace {
+
+template <typename Function>
+Function lookUp(const char *name) {
+    return reinterpret_cast<Function>(glXGetProcAddressARB(reinterpret_cast<const GLubyte *>(name)));
+}
+
+} // namespace
+
+void setSwapInterval(ContextContainer *container, int32_t interval) {
+    {
+        const std::lock_guard lock(container->mutex);
+        container->swapInterval = interval;
+    }
+    if (currentContext() == container) applySwapInterval(*container);
+}
+
+void applySwapInterval(const ContextContainer &container) {
+    int32_t interval = 0;
+    Attachment attachment;
+    {
+        const std::lock_guard lock(container.mutex);
+        if (!container.swapInterval || !container.attachment.view.window) return;
+        interval = *container.swapInterval;
+        attachment = container.attachment;
+    }
+    static const auto swapIntervalExt = lookUp<PFNGLXSWAPINTERVALEXTPROC>("glXSwapIntervalEXT");
+    static const auto swapIntervalMesa = lookUp<PFNGLXSWAPINTERVALMESAPROC>("glXSwapIntervalMESA");
+    static const auto swapIntervalSgi = lookUp<PFNGLXSWAPINTERVALSGIPROC>("glXSwapIntervalSGI");
+    const auto &connection = container.connection;
+    if (swapIntervalExt && connection.hasGlxExtension("GLX_EXT_swap_control")) {
+        swapIntervalExt(connection.display(), attachment.drawable, interval);
+    } else if (swapIntervalMesa && connection.hasGlxExtension("GLX_MESA_swap_control")) {
+        swapIntervalMesa(static_cast<unsigned>(interval));
+    } else if (swapIntervalSgi && connection.hasGlxExtension("GLX_SGI_swap_control")) {
+        swapIntervalSgi(interval);
+    }
+}
+
+} // namespace host::platform::x11

@@ -1,0 +1,63 @@
+#include "host/platform/x11/window_info.h"
+
+#include <X11/Xatom.h>
+#include <X11/Xutil.h>
+
+#include "host/platform/x11/connection.h"
+
+namespace host::platform::x11 {
+
+namespace {
+
+// In 32-bit units; longer titles are cut.
+constexpr long titleLimit = 4096;
+
+std::string netTitle(Display *display, Window window) {
+    const Atom property = XInternAtom(display, "_NET_WM_NAME", False);
+    const Atom utf8 = XInternAtom(display, "UTF8_STRING", False);
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0, rest = 0;
+    unsigned char *data = nullptr;
+    std::string title;
+    if (XGetWindowProperty(display, window, property, 0, titleLimit, False, utf8, &type, &format, &count, &rest,
+                           &data) != Success) {
+        return title;
+    }
+    if (type == utf8 && format == 8) title.assign(reinterpret_cast<const char *>(data), count);
+    if (data) XFree(data);
+    return title;
+}
+
+std::string plainTitle(Display *display, Window window) {
+    XTextProperty property{};
+    std::string title;
+    if (!XGetWMName(display, window, &property) || !property.value) return title;
+    char **list = nullptr;
+    int count = 0;
+    if (Xutf8TextPropertyToTextList(display, &property, &list, &count) >= Success && count > 0) title = list[0];
+    if (list) XFreeStringList(list);
+    XFree(property.value);
+    return title;
+}
+
+} // namespace
+
+void viewSize(const View &view, int32_t *width, int32_t *height) {
+    auto *connection = view.window ? Connection::find(view.display) : nullptr;
+    XWindowAttributes attributes{};
+    if (!connection || !connection->windowAttributes(view, attributes)) return;
+    connection->children().resize(view.window, static_cast<unsigned>(attributes.width),
+                                  static_cast<unsigned>(attributes.height));
+    if (width) *width = attributes.width;
+    if (height) *height = attributes.height;
+}
+
+std::string viewTitle(const View &view) {
+    auto *connection = view.window ? Connection::find(view.display) : nullptr;
+    if (!connection) return {};
+    const auto title = netTitle(connection->display(), view.window);
+    return title.empty() ? plainTitle(connection->display(), view.window) : title;
+}
+
+} // namespace host::platform::x11

@@ -1,0 +1,14 @@
+// Size and title of application windows, asked of the server at every call.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/platform/operations.h"
+
+namespace host::platform::x11 {
+
+void viewSize(const View &view, int32_t *width, int32_t *height);
+std::string viewTitle(const View &view);
+
+} // namespace host::platform::x11

@@ -1,0 +1,52 @@
+// X and GLX calls that can raise errors which nobody else may see or which are the only sign of failure: the same
+// parameters as the call of that name, and a result that tells. They wait for the server, so they are for what happens
+// seldom.
+#pragma once
+
+#include <mutex>
+
+#include <GL/glx.h>
+#include <X11/Xlib.h>
+#include <X11/Xproto.h>
+
+#include "host/platform/x11/x_errors.h"
+
+namespace host::platform::x11::calls {
+
+// A trap takes the errors of a whole display, so one thread traps at a time.
+inline std::mutex &trapMutex() {
+    static auto *mutex = new std::mutex;
+    return *mutex;
+}
+
+// None when the server refuses the parent, the visual or the size.
+inline Window createWindow(Display *display, Window parent, int x, int y, unsigned width, unsigned height,
+                           unsigned borderWidth, int depth, unsigned windowClass, Visual *visual, unsigned long mask,
+                           XSetWindowAttributes *attributes) {
+    const std::lock_guard lock(trapMutex());
+    ErrorTrap trap(display, X_CreateWindow);
+    const Window window =
+        XCreateWindow(display, parent, x, y, width, height, borderWidth, depth, windowClass, visual, mask, attributes);
+    return trap.sawError() ? None : window;
+}
+
+// None when the host refuses the size or the config.
+inline GLXPbuffer createPbuffer(Display *display, GLXFBConfig config, const int *attributes) {
+    int glxOpcode = 0, firstEvent = 0, firstError = 0;
+    if (!XQueryExtension(display, "GLX", &glxOpcode, &firstEvent, &firstError)) return None;
+    const std::lock_guard lock(trapMutex());
+    ErrorTrap trap(display, glxOpcode);
+    const GLXPbuffer buffer = glXCreatePbuffer(display, config, attributes);
+    return trap.sawError() ? None : buffer;
+}
+
+// For displays of the application: the errors of this call are ours, and its handler gets none of them. No lock is
+// held, since earlier errors of the application may be delivered meanwhile.
+inline Bool makeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
+    const ErrorTrap trap(display);
+    const Bool isCurrent = glXMakeContextCurrent(display, draw, read, context);
+    XSync(display, False);
+    return isCurrent;
+}
+
+} // namespace host::platform::x11::calls

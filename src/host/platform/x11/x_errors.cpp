@@ -1,0 +1,70 @@
+#include "host/platform/x11/x_errors.h"
+
+// Defines short macros; it has to come last.
+#include <X11/Xlibint.h>
+
+namespace host::platform::x11 {
+
+namespace {
+
+Bool dropError(Display *, xReply *reply, char *, int, XPointer) {
+    return reply->generic.type == X_Error;
+}
+
+void addHandler(Display *display, _XAsyncHandler *handler) {
+    LockDisplay(display);
+    handler->next = display->async_handlers;
+    display->async_handlers = handler;
+    UnlockDisplay(display);
+}
+
+void noteServerLost(Display *, void *isLost) {
+    static_cast<std::atomic<bool> *>(isLost)->store(true);
+}
+
+} // namespace
+
+// The handler runs with the display locked, in whichever thread reads the error.
+struct ErrorTrap::Record {
+    _XAsyncHandler handler{};
+    unsigned long firstSerial = 0;
+    int majorOpcode = 0;
+    std::atomic<bool> hasError = false;
+
+    static Bool take(Display *display, xReply *reply, char *, int, XPointer data) {
+        auto &record = *reinterpret_cast<Record *>(data);
+        if (reply->generic.type != X_Error) return False;
+        // GLX raises errors of its own with the serial of the last request, so the first serial counts too.
+        if (static_cast<long>(display->last_request_read - record.firstSerial) < 0) return False;
+        if (record.majorOpcode != 0 && record.majorOpcode != reply->error.majorCode) return False;
+        record.hasError = true;
+        return True;
+    }
+};
+
+void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost) {
+    addHandler(display, new _XAsyncHandler{.next = nullptr, .handler = dropError, .data = nullptr});
+    XSetIOErrorExitHandler(display, noteServerLost, &isLost);
+}
+
+ErrorTrap::ErrorTrap(Display *display, int majorOpcode) : m_display(display), m_record(std::make_unique<Record>()) {
+    XSync(display, False);
+    m_record->majorOpcode = majorOpcode;
+    m_record->firstSerial = XNextRequest(display) - 1;
+    m_record->handler.handler = Record::take;
+    m_record->handler.data = reinterpret_cast<XPointer>(m_record.get());
+    addHandler(display, &m_record->handler);
+}
+
+ErrorTrap::~ErrorTrap() {
+    LockDisplay(m_display);
+    DeqAsyncHandler(m_display, &m_record->handler);
+    UnlockDisplay(m_display);
+}
+
+bool ErrorTrap::sawError() {
+    XSync(m_display, False);
+    return m_record->hasError;
+}
+
+} // namespace host::platform::x11

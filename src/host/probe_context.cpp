@@ -1,0 +1,40 @@
+#include "host/probe_context.h"
+
+#include <utility>
+
+#include "host/pixel_format.h"
+
+namespace host {
+
+using platform::operations;
+
+std::unique_ptr<HostProbeContext> createHostProbeContext(std::shared_ptr<glove::WSAPI> windowSystem) {
+    auto record = std::make_unique<HostProbeContext>();
+    record->windowSystem = std::move(windowSystem);
+    // The format is made twice and the first one is never released. Callers rely on the host seeing both requests.
+    static_cast<void>(makeProbePixelFormat());
+    record->probe = createHostContext({.format = makeProbePixelFormat(), .legacy = 0});
+    record->previous = operations.saveBinding();
+    record->previousHostContext = currentHostContext();
+
+    auto *container = record->probe->context->container();
+    const bool isBound = makeContainerCurrent(container);
+    if (isBound) setCurrentHostContext(container);
+    record->isCurrent = isBound && container;
+    return record;
+}
+
+bool isHostProbeCurrent(const HostProbeContext &probe) {
+    return probe.isCurrent;
+}
+
+void destroyHostProbeContext(std::unique_ptr<HostProbeContext> probe) {
+    if (!probe->previous) {
+        operations.clearCurrentContext();
+        return;
+    }
+    operations.restoreBinding(probe->previous);
+    setCurrentHostContext(probe->previousHostContext);
+}
+
+} // namespace host
