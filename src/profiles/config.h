@@ -1,0 +1,62 @@
+// One EGL config: a map from attribute to value, and the host format that all configs of a list share.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "host/platform/operations.h"
+
+namespace egl {
+
+namespace osx {
+
+// The host pixel format behind a config list. It is never released: contexts of the process go on using it.
+class Config {
+public:
+    explicit Config(host::platform::PixelFormat *format) : m_format(format) {}
+    [[nodiscard]] host::platform::PixelFormat *format() const { return m_format; } // may be null
+
+private:
+    host::platform::PixelFormat *m_format;
+};
+
+} // namespace osx
+
+// A value type. Attribute lists are pairs ended by EGL_NONE; a null list is an empty one.
+class Config {
+public:
+    // The defaults that every config starts from, without a host format.
+    Config();
+    // The defaults, then each pair of the list, where a later pair wins.
+    Config(std::shared_ptr<osx::Config> hostConfig, const int32_t *attributes);
+
+    // Same attributes and the very same host format.
+    bool operator==(const Config &other) const;
+    // By EGL_CONFIG_ID; an absent id counts as 0.
+    bool operator<(const Config &other) const;
+
+    // False, with value untouched, when the config lacks the attribute.
+    [[nodiscard]] bool getAttribute(int32_t attribute, int32_t *value) const;
+    [[nodiscard]] int32_t attributeOr0(int32_t attribute) const;
+    void setAttribute(int32_t attribute, int32_t value);
+    void setAttributes(const int32_t *attributes);
+    // Pairs in attribute order, then one EGL_NONE.
+    [[nodiscard]] std::vector<int32_t> toAttributeList() const;
+    [[nodiscard]] const std::shared_ptr<osx::Config> &hostConfig() const { return m_hostConfig; }
+
+    // Whether the config answers the application's list; config_match.cpp tells the rules.
+    [[nodiscard]] bool matches(const int32_t *attributes) const;
+    // major is an ES version: 1, 2 or 3. Any other is never supported.
+    [[nodiscard]] bool supportsClientVersion(int32_t major) const;
+
+private:
+    std::map<int32_t, int32_t> m_attributes;
+    std::shared_ptr<osx::Config> m_hostConfig;
+};
+
+// Whether eglChooseConfig takes the list at all.
+[[nodiscard]] bool validateAttributeList(const int32_t *attributes);
+
+} // namespace egl

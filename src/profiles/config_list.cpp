@@ -1,0 +1,107 @@
+#include "profiles/config_list.h"
+
+#include <EGL/egl.h>
+#include <EGL/eglext.h>
+
+#include "host/pixel_format.h"
+#include "profiles/config_sort.h"
+
+namespace egl {
+
+namespace {
+
+constexpr int32_t builtInConfigAttributes[] = {
+#define CONFIG_ATTRIBUTE(attribute, value) attribute, value,
+#include "profiles/data/built_in_config_attributes.def"
+#undef CONFIG_ATTRIBUTE
+    EGL_NONE};
+
+// What the host is asked for: the built-in config, without an id since it is none of the list's, and without pixmaps.
+std::vector<int32_t> hostProbeAttributes() {
+    std::vector<int32_t> list;
+    for (const int32_t *pair = builtInConfigAttributes; *pair != EGL_NONE; pair += 2) {
+        if (pair[0] == EGL_CONFIG_ID) continue;
+        list.insert(list.end(), {pair[0], pair[0] == EGL_SURFACE_TYPE ? EGL_WINDOW_BIT | EGL_PBUFFER_BIT : pair[1]});
+    }
+    list.push_back(EGL_NONE);
+    return list;
+}
+
+// EGLConfig handles are the ids themselves, negative ones sign-extended.
+uint64_t toHandle(int32_t id) {
+    return static_cast<uint64_t>(static_cast<int64_t>(id));
+}
+
+void *toStored(const Config &config) {
+    return reinterpret_cast<void *>(static_cast<intptr_t>(config.attributeOr0(EGL_CONFIG_ID)));
+}
+
+} // namespace
+
+ConfigList::ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay) {
+    for (const Config &config : makeConfigs(makeHostConfig(nativeDisplay), profile))
+        m_configs[toHandle(config.attributeOr0(EGL_CONFIG_ID))] = config;
+    // A profile without a config 1 gets one here that says no id and has no host format. It stays in the list, and
+    // callers see it counted and stored as handle 0.
+    m_noConfig = m_configs[1];
+    m_noConfig.setAttribute(EGL_CONFIG_ID, 0);
+}
+
+uint32_t ConfigList::listConfigs(void **out, int32_t size) const {
+    if (!out) return configCount();
+    int32_t stored = 0;
+    for (const auto &[handle, config] : m_configs) {
+        if (stored >= size) break;
+        out[stored++] = toStored(config);
+    }
+    return static_cast<uint32_t>(stored);
+}
+
+uint32_t ConfigList::chooseConfigs(const int32_t *attributes, void **out, int32_t size) const {
+    std::vector<Config> matching;
+    matching.reserve(m_configs.size());
+    for (const auto &[handle, config] : m_configs)
+        if (config.matches(attributes)) matching.push_back(config);
+    if (!out) return static_cast<uint32_t>(matching.size());
+    sortConfigs(matching, ConfigSortOrder(attributes));
+    int32_t stored = 0;
+    for (const Config &config : matching) {
+        if (stored >= size) break;
+        out[stored++] = toStored(config);
+    }
+    return static_cast<uint32_t>(stored);
+}
+
+const Config *ConfigList::findConfig(uint64_t handle) const {
+    const auto found = m_configs.find(handle);
+    return found != m_configs.end() ? &found->second : nullptr;
+}
+
+std::shared_ptr<osx::Config> makeHostConfig(uint64_t nativeDisplay) {
+    const Config probe(nullptr, hostProbeAttributes().data());
+    const host::PixelFormatRequest request = {
+        .display = nativeDisplay,
+        .hasWindowBit = (probe.attributeOr0(EGL_SURFACE_TYPE) & EGL_WINDOW_BIT) != 0,
+        .redSize = probe.attributeOr0(EGL_RED_SIZE),
+        .greenSize = probe.attributeOr0(EGL_GREEN_SIZE),
+        .blueSize = probe.attributeOr0(EGL_BLUE_SIZE),
+        .alphaSize = probe.attributeOr0(EGL_ALPHA_SIZE),
+        .depthSize = probe.attributeOr0(EGL_DEPTH_SIZE),
+        .stencilSize = probe.attributeOr0(EGL_STENCIL_SIZE),
+        .sampleBuffers = probe.attributeOr0(EGL_SAMPLE_BUFFERS),
+        .samples = probe.attributeOr0(EGL_SAMPLES),
+    };
+    return std::make_shared<osx::Config>(host::makeHostPixelFormat(request));
+}
+
+std::vector<Config> makeConfigs(const std::shared_ptr<osx::Config> &hostConfig, const DeviceProfile &profile) {
+    if (!hostConfig) return {};
+    if (isDefaultProfile(profile)) return {Config(hostConfig, builtInConfigAttributes)};
+    std::vector<Config> configs;
+    configs.reserve(profile.configs.size());
+    for (const Config &config : profile.configs)
+        configs.emplace_back(hostConfig, config.toAttributeList().data());
+    return configs;
+}
+
+} // namespace egl

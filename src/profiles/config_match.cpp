@@ -1,0 +1,113 @@
+#include "profiles/config.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include <EGL/egl.h>
+
+namespace egl {
+
+namespace {
+
+enum class Test { atLeast, equalOrAny, equal, surfaceBits, allBits, untested };
+enum class Weight { counts, asksForRgb, transparentOnly, alone };
+
+struct MatchRule {
+    int32_t attribute;
+    Test test;
+    Weight weight;
+};
+
+constexpr MatchRule matchRules[] = {
+#define MATCH_RULE(attribute, test, weight) {attribute, Test::test, Weight::weight},
+#include "profiles/data/match_rules.def"
+#undef MATCH_RULE
+};
+
+constexpr MatchRule findRule(int32_t attribute) {
+    const auto *found = std::ranges::find(matchRules, attribute, &MatchRule::attribute);
+    return found != std::end(matchRules) ? *found : MatchRule{attribute, Test::untested, Weight::counts};
+}
+
+bool passes(Test test, int32_t offered, int32_t wanted) {
+    constexpr int32_t surfaceBits = EGL_WINDOW_BIT | EGL_PIXMAP_BIT | EGL_PBUFFER_BIT;
+    switch (test) {
+    case Test::atLeast:
+        return offered >= wanted;
+    case Test::equalOrAny:
+        return offered == wanted || wanted == EGL_DONT_CARE;
+    case Test::equal:
+        return offered == wanted;
+    case Test::surfaceBits:
+        return (offered & wanted & surfaceBits) == (wanted & surfaceBits);
+    case Test::allBits:
+        return (offered & wanted) == wanted;
+    case Test::untested:
+        break;
+    }
+    return true;
+}
+
+bool isValidPair(int32_t attribute, int32_t value) {
+    if (attribute < EGL_BUFFER_SIZE || attribute > EGL_CONFORMANT) return false;
+    switch (attribute) {
+    case EGL_MATCH_NATIVE_PIXMAP:
+        return false;
+    case EGL_BUFFER_SIZE:
+    case EGL_ALPHA_SIZE:
+    case EGL_BLUE_SIZE:
+    case EGL_GREEN_SIZE:
+    case EGL_RED_SIZE:
+    case EGL_DEPTH_SIZE:
+    case EGL_STENCIL_SIZE:
+        return value >= EGL_DONT_CARE;
+    case EGL_CONFIG_CAVEAT:
+        return value == EGL_NONE || value == EGL_SLOW_CONFIG || value == EGL_NON_CONFORMANT_CONFIG ||
+               value == EGL_DONT_CARE;
+    case EGL_NATIVE_RENDERABLE:
+    case EGL_BIND_TO_TEXTURE_RGB:
+    case EGL_BIND_TO_TEXTURE_RGBA:
+        return value == EGL_TRUE || value == EGL_FALSE || value == EGL_DONT_CARE;
+    case EGL_TRANSPARENT_TYPE:
+        // EGL_DONT_CARE is refused here, other than for the caveat. Callers see the error.
+        return value == EGL_NONE || value == EGL_TRANSPARENT_RGB;
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+// Attributes that the list leaves out are not tested: no default stands in for them, so that an empty list matches
+// every config, those without windows included.
+bool Config::matches(const int32_t *attributes) const {
+    if (!attributes) return true;
+    bool overall = true;
+    bool transparentOk = true;
+    bool wantsTransparentRgb = false;
+    for (; *attributes != EGL_NONE; attributes += 2) {
+        int32_t offered = 0;
+        if (!getAttribute(attributes[0], &offered)) continue;
+        const int32_t wanted = attributes[1];
+        const MatchRule rule = findRule(attributes[0]);
+        const bool ok = passes(rule.test, offered, wanted);
+        if (ok && rule.weight == Weight::alone) return true;
+        if (rule.weight == Weight::transparentOnly) {
+            transparentOk = transparentOk && ok;
+            continue;
+        }
+        // A failure does not end the walk: an id further on may still be the answer.
+        overall = overall && ok;
+        if (rule.weight == Weight::asksForRgb && wanted == EGL_TRANSPARENT_RGB) wantsTransparentRgb = true;
+    }
+    return overall && (transparentOk || !wantsTransparentRgb);
+}
+
+bool validateAttributeList(const int32_t *attributes) {
+    if (!attributes) return true;
+    for (; *attributes != EGL_NONE; attributes += 2)
+        if (!isValidPair(attributes[0], attributes[1])) return false;
+    return true;
+}
+
+} // namespace egl

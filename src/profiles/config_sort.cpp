@@ -1,0 +1,60 @@
+#include "profiles/config_sort.h"
+
+#include <map>
+#include <optional>
+
+#include <EGL/egl.h>
+
+#include "profiles/partition_sort.h"
+
+namespace egl {
+
+namespace {
+
+// The smaller comes first, in this order of weight.
+constexpr int32_t sizeKeys[] = {EGL_BUFFER_SIZE, EGL_SAMPLE_BUFFERS, EGL_SAMPLES, EGL_DEPTH_SIZE, EGL_STENCIL_SIZE};
+
+// Nothing when the caveats leave the order open, as an unknown one in a does. Beside EGL_NONE the two directions then
+// contradict: each may say that its a comes first. Callers rely on the lists that this gives.
+std::optional<bool> compareCaveats(int32_t a, int32_t b) {
+    if (a == b) return std::nullopt;
+    if (a == EGL_NON_CONFORMANT_CONFIG) return false;
+    if (a == EGL_SLOW_CONFIG && b == EGL_NONE) return false;
+    if (a == EGL_SLOW_CONFIG && b == EGL_NON_CONFORMANT_CONFIG) return true;
+    if (a == EGL_NONE) return true;
+    return std::nullopt;
+}
+
+} // namespace
+
+ConfigSortOrder::ConfigSortOrder(const int32_t *attributes) {
+    std::map<int32_t, int32_t> requested;
+    for (; attributes && *attributes != EGL_NONE; attributes += 2)
+        requested[attributes[0]] = attributes[1];
+    for (const int32_t channel : {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE})
+        if (requested[channel] != 0 && requested[channel] != EGL_DONT_CARE) m_channels.push_back(channel);
+}
+
+// Unsigned, since profiles may hold sizes whose sum overflows; only equality of sums is ever asked.
+uint32_t ConfigSortOrder::colourSum(const Config &config) const {
+    uint32_t sum = 0;
+    for (const int32_t channel : m_channels)
+        sum += static_cast<uint32_t>(config.attributeOr0(channel));
+    return sum;
+}
+
+bool ConfigSortOrder::operator()(const Config &a, const Config &b) const {
+    const auto byCaveat = compareCaveats(a.attributeOr0(EGL_CONFIG_CAVEAT), b.attributeOr0(EGL_CONFIG_CAVEAT));
+    if (byCaveat) return *byCaveat;
+    // False in both directions: more colour bits are no advantage. Callers rely on the order that this leaves.
+    if (colourSum(a) != colourSum(b)) return false;
+    for (const int32_t key : sizeKeys)
+        if (a.attributeOr0(key) != b.attributeOr0(key)) return a.attributeOr0(key) < b.attributeOr0(key);
+    return a < b;
+}
+
+void sortConfigs(std::vector<Config> &configs, const ConfigSortOrder &order) {
+    PartitionSort<Config, ConfigSortOrder>(configs, order).run();
+}
+
+} // namespace egl

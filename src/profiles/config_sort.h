@@ -1,0 +1,26 @@
+// The order in which eglChooseConfig lists what matches.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "profiles/config.h"
+
+namespace egl {
+
+// Whether a comes before b for the application's list. Two configs that differ in the colour bits that the list asks
+// for are neither before nor after one another, so this is no strict weak order: never give it to std::sort.
+class ConfigSortOrder {
+public:
+    explicit ConfigSortOrder(const int32_t *attributes);
+    [[nodiscard]] bool operator()(const Config &a, const Config &b) const;
+
+private:
+    [[nodiscard]] uint32_t colourSum(const Config &config) const;
+
+    std::vector<int32_t> m_channels; // the colour sizes that the list asks for
+};
+
+void sortConfigs(std::vector<Config> &configs, const ConfigSortOrder &order);
+
+} // namespace egl

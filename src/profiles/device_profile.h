@@ -1,0 +1,29 @@
+// Which device the process pretends to be: its EGL configs and the ES versions that contexts may have.
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+
+#include "profiles/config.h"
+
+namespace egl {
+
+enum EsVersion : int32_t { ES1 = 1, ES2, ES3, ES31, ES32 }; // ES 1.x, 2.0, 3.0, 3.1, 3.2
+
+struct DeviceProfile {
+    std::set<Config> configs;     // by id; of two with one id the first stays
+    std::string name;             // the name it was asked for by; empty in defaultProfile
+    std::set<int32_t> esVersions; // EsVersion values
+};
+
+// No device: one built-in config and every ES version.
+extern const DeviceProfile defaultProfile;
+
+// Compares configs and name; versions do not count.
+[[nodiscard]] bool isDefaultProfile(const DeviceProfile &profile);
+
+// Whether a context of this version may be made. Versions that ES never had are refused under every profile.
+[[nodiscard]] bool isEsVersionAllowed(const DeviceProfile &profile, int32_t major, int32_t minor);
+
+} // namespace egl

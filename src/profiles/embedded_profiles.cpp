@@ -1,0 +1,50 @@
+#include "profiles/embedded_profiles.h"
+
+#include <tinyxml2.h>
+
+// The bytes of each file between two symbols. The build knows that this object depends on the files.
+#define EMBEDDED_PROFILE(file)                                                                                         \
+    asm(".section .rodata\n"                                                                                           \
+        ".hidden zelvane_profile_" #file "\n.global zelvane_profile_" #file "\nzelvane_profile_" #file ":\n"           \
+        ".incbin \"" ZELVANE_PROFILE_DATA "/" #file ".xml\"\n"                                                         \
+        ".hidden zelvane_profile_end_" #file "\n.global zelvane_profile_end_" #file "\nzelvane_profile_end_" #file     \
+        ":\n.byte 0\n.previous");                                                                                      \
+    extern "C" const char zelvane_profile_##file[], zelvane_profile_end_##file[];
+#include "profiles/data/embedded_profiles.def"
+#undef EMBEDDED_PROFILE
+
+namespace egl {
+
+namespace {
+
+std::string textOf(const tinyxml2::XMLElement *element) {
+    const char *text = element->GetText();
+    return text ? text : "";
+}
+
+} // namespace
+
+const std::vector<std::string_view> embeddedProfiles = {
+#define EMBEDDED_PROFILE(file) std::string_view(zelvane_profile_##file, zelvane_profile_end_##file),
+#include "profiles/data/embedded_profiles.def"
+#undef EMBEDDED_PROFILE
+};
+
+std::string profileDisplayName(std::string_view text) {
+    tinyxml2::XMLDocument document;
+    if (document.Parse(text.data(), text.size()) != tinyxml2::XML_SUCCESS) return {};
+    const tinyxml2::XMLElement *profile = document.FirstChildElement("profile");
+    if (!profile) return {};
+    if (const auto *device = profile->FirstChildElement("device")) return textOf(device);
+    if (const auto *renderer = profile->FirstChildElement("renderer")) return "Generic " + textOf(renderer);
+    return {};
+}
+
+std::string findEmbeddedProfile(std::string_view name) {
+    for (const std::string_view text : embeddedProfiles) {
+        if (profileDisplayName(text) == name) return std::string(text);
+    }
+    return {};
+}
+
+} // namespace egl

@@ -1,0 +1,20 @@
+// The device profiles inside the library. Filled before the first EGL call, constant afterwards.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace egl {
+
+// XML texts, in the order in which a name is looked for.
+extern const std::vector<std::string_view> embeddedProfiles;
+
+// The name that a profile text is chosen by: its device, or "Generic " and its renderer. Empty when it has neither or
+// does not parse.
+[[nodiscard]] std::string profileDisplayName(std::string_view text);
+
+// The first text of that name; empty if there is none. Parses the texts at every call.
+[[nodiscard]] std::string findEmbeddedProfile(std::string_view name);
+
+} // namespace egl
