@@ -1,0 +1,103 @@
+#include "ui/link.h"
+
+#include <csignal>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+
+#include "foundation/product.h"
+
+using ui::messages::Message;
+
+namespace {
+
+constexpr uint32_t bits(int first, int last) {
+    return ((1u << (last + 1)) - 1) & ~((1u << first) - 1);
+}
+
+// Bit numbers are types. The others that a queue may hold are the link's own or the GUI's.
+constexpr uint32_t forwardedTypes =
+    bits(ZV_WINDOW_TITLE, ZV_BACK_END_LISTS) | bits(ZV_SYSTEM_REPORT_GL_VERSION, ZV_SYSTEM_REPORT_END);
+static_assert(forwardedTypes == 2082812);
+
+bool isForwarded(uint32_t type) {
+    return type <= ZV_SYSTEM_REPORT_END && (forwardedTypes >> type & 1);
+}
+
+// A signal that is handled on a thread of the link would cut its call short, which counts as the end of the connection.
+// What a fault raises stays with the thread that made it.
+void blockSignals() {
+    sigset_t signals;
+    sigfillset(&signals);
+    for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT, SIGSYS})
+        sigdelset(&signals, fault);
+    pthread_sigmask(SIG_SETMASK, &signals, nullptr);
+}
+
+} // namespace
+
+UiLink::UiLink(SetRenderMode setRenderMode)
+    : m_client(std::make_shared<KZRIPC::Client>(productName)), m_queue(std::make_shared<Queue>()),
+      m_isClosed(std::make_shared<std::atomic<bool>>(false)) {
+    std::thread(senderThread, m_client, m_queue, m_isClosed, setRenderMode).detach();
+}
+
+void UiLink::post(const Message &message) const {
+    if (!m_isClosed->load(std::memory_order_relaxed)) m_queue->push(message);
+}
+
+void UiLink::senderThread(const std::shared_ptr<KZRIPC::Client> &client, const std::shared_ptr<Queue> &queue,
+                          const std::shared_ptr<std::atomic<bool>> &isClosed, SetRenderMode setRenderMode) {
+    blockSignals();
+    const auto send = [&](const Message &message) {
+        if (client->isOpen()) client->send(&message, sizeof message);
+    };
+    if (client->isOpen()) {
+        send(ui::messages::processHello(getpid()));
+        const auto receiverEnded = startReceiver(client, setRenderMode);
+        Message message = queue->pop();
+        for (; message.header.type != ZV_LINK_STOP; message = queue->pop()) {
+            if (isForwarded(message.header.type)) send(message);
+        }
+        send(message);
+        // Until the GUI closes the connection or says that it leaves.
+        if (receiverEnded.valid()) receiverEnded.wait();
+    }
+    isClosed->store(true, std::memory_order_relaxed);
+}
+
+std::future<void> UiLink::startReceiver(const std::shared_ptr<KZRIPC::Client> &client, SetRenderMode setRenderMode) {
+    try {
+        std::packaged_task<void()> receive([client, setRenderMode] { receiverThread(client, setRenderMode); });
+        auto ended = receive.get_future();
+        std::thread(std::move(receive)).detach();
+        return ended;
+    } catch (const std::system_error &) {
+        // Nobody could notice the end of the connection: better none than an application that ends here.
+        client->close();
+        return {};
+    }
+}
+
+void UiLink::receiverThread(const std::shared_ptr<KZRIPC::Client> &client, SetRenderMode setRenderMode) {
+    Message message{};
+    while (client->isOpen()) {
+        const int32_t received = client->receive(&message, sizeof message);
+        // Goes on with the type that it has, so that a GUI's last command is carried out once more at its end. GUIs
+        // rely on it. What is short is taken as a record, and what is not known as none.
+        if (received <= 0) client->close();
+        switch (message.header.type) {
+        case ZV_GUI_DISCONNECT:
+            client->close();
+            return;
+        case ZV_GUI_RENDER_MODE_ON:
+            setRenderMode(1);
+            break;
+        case ZV_GUI_RENDER_MODE_OFF:
+            setRenderMode(0);
+            break;
+        default:
+            break;
+        }
+    }
+}

@@ -1,0 +1,110 @@
+// The transport of the GUI link: a Unix domain socket of the stream type. It moves blocks of bytes and knows nothing of
+// what they mean. The library is a client; the listening side is here for GUIs.
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <sys/un.h>
+
+namespace KZRIPC {
+
+// "/tmp/NAME", whoever the user is: one GUI serves every process of the machine.
+[[nodiscard]] std::string socketPath(std::string_view name);
+
+// A descriptor that clients share. The number is given back only when the last call on it has ended, so that no thread
+// meets one that the process uses for something else by then. Left open unless somebody closes it.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : m_number(number) {}
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+    ~Descriptor();
+
+    [[nodiscard]] int number() const { return m_number; }
+    // Ends the traffic at once, on every thread that is waiting in a call.
+    void close();
+
+private:
+    const int m_number;
+    std::atomic<bool> m_isClosing = false;
+};
+
+class ServerSocket;
+
+// One end of a connection. Copies use the same descriptor.
+class Socket {
+public:
+    // Connects; failed() tells whether there is a listener.
+    explicit Socket(const std::string &path);
+    // Takes an accepted descriptor over.
+    explicit Socket(int descriptor);
+    Socket(const Socket &other);
+    Socket &operator=(const Socket &) = delete;
+
+    [[nodiscard]] bool failed() const { return m_failed; }
+    // True from the start until close(), also when the connection was refused.
+    [[nodiscard]] bool isOpen() const { return m_isOpen; }
+    // Null once closed.
+    [[nodiscard]] std::shared_ptr<Descriptor> descriptor() const;
+    void close();
+
+private:
+    bool m_failed = false; // constant after construction
+    std::atomic<bool> m_isOpen = true;
+    mutable std::mutex m_mutex; // guards what is below
+    std::shared_ptr<Descriptor> m_descriptor;
+};
+
+// Sends and receives blocks; neither repeats what was short. A send to a peer that has gone raises SIGPIPE where the
+// thread has not blocked it. One thread may send while another receives or closes.
+class Client {
+public:
+    explicit Client(std::string_view name);
+    // Waits for an application to connect.
+    explicit Client(const ServerSocket &server);
+    // Both clients then use one descriptor. What assignment replaces stays open, and so does what a destructor leaves.
+    Client(const Client &other);
+    Client &operator=(const Client &other);
+
+    [[nodiscard]] bool failed() const { return m_failed; }
+    // Says that nobody has closed this client, and not that there is a peer.
+    [[nodiscard]] bool isOpen() const { return m_socket->isOpen(); }
+    // Bytes sent, or a negative number. Senders take turns.
+    int32_t send(const void *bytes, size_t count);
+    // Bytes received, 0 at the end of the stream, or a negative number.
+    [[nodiscard]] int32_t receive(void *bytes, size_t count);
+    void close() { m_socket->close(); }
+    // For poll(). Negative once closed; good until then.
+    [[nodiscard]] int descriptor() const;
+
+private:
+    bool m_failed;
+    std::unique_ptr<Socket> m_socket; // assignment replaces it: not while another thread uses this client
+    std::mutex m_sendLock;
+};
+
+// Listens. A socket file that a former run left is replaced, and so is that of a listener that still runs. Nothing here
+// removes the file at the end.
+class ServerSocket {
+public:
+    ServerSocket(std::string_view name, int backlog);
+    ServerSocket(const ServerSocket &) = delete;
+    ServerSocket &operator=(const ServerSocket &) = delete;
+    ~ServerSocket();
+
+    [[nodiscard]] bool failed() const { return m_failed; }
+    [[nodiscard]] const std::string &path() const { return m_path; }
+    [[nodiscard]] int descriptor() const { return m_descriptor; }
+
+private:
+    bool m_failed;
+    std::string m_path;
+    int m_descriptor;
+};
+
+} // namespace KZRIPC
