@@ -1,0 +1,32 @@
+// What back ends call: what is current, and the settings behind their opaque pointer.
+#include "egl/context.h"
+#include "egl/state.h"
+#include "egl/thread_record.h"
+#include "zelvane/back_end.h"
+
+using namespace egl;
+
+zvEsContext zvCurrentEsContext(void) {
+    return threadRecord.current ? threadRecord.current->esContext.load() : nullptr;
+}
+
+uint64_t zvCurrentFrameNumber(void) {
+    return state().frameNumber();
+}
+
+void zvPostFrameMessage(zvMessage message) {
+    message.header.frameStamp = state().frameNumber();
+    state().uiLink().post(message);
+}
+
+const char *zvSettingsProfileName(const void *settings) {
+    return settings ? static_cast<const Settings *>(settings)->getCurrentProfile().c_str() : nullptr;
+}
+
+const char *zvSettingsProfilesDirectory(const void *settings) {
+    return settings ? static_cast<const Settings *>(settings)->getProfilesDirectory().c_str() : nullptr;
+}
+
+const char *zvSettingsProfileText(const void *settings) {
+    return settings ? state().profileText().c_str() : nullptr;
+}

@@ -1,0 +1,59 @@
+// Memory of contexts. GL proxies know a context by its address and go on giving a dead one's answers to the next at
+// that address, so memory goes round within one back-end library alone: ES 1 answers never reach an ES 2 context.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace egl {
+
+enum class BackEndKind { Es1, Es2 };
+
+// For std::allocate_shared, which asks for one object at a time. Any thread.
+template <typename Object>
+class ContextAllocator {
+public:
+    using value_type = Object;
+
+    explicit ContextAllocator(BackEndKind kind) : m_kind(kind) {}
+    template <typename Other>
+    ContextAllocator(const ContextAllocator<Other> &other) : m_kind(other.kind()) {}
+
+    [[nodiscard]] Object *allocate(size_t count) {
+        Pool &pool = poolOf(m_kind);
+        const std::lock_guard lock(pool.mutex);
+        if (count != 1 || pool.free.empty()) return std::allocator<Object>().allocate(count);
+        Object *memory = pool.free.back();
+        pool.free.pop_back();
+        return memory;
+    }
+
+    // Kept for the next context of the kind and never given back.
+    void deallocate(Object *memory, size_t) {
+        Pool &pool = poolOf(m_kind);
+        const std::lock_guard lock(pool.mutex);
+        pool.free.push_back(memory);
+    }
+
+    [[nodiscard]] BackEndKind kind() const { return m_kind; }
+    bool operator==(const ContextAllocator &) const = default;
+
+private:
+    struct Pool {
+        std::mutex mutex;
+        std::vector<Object *> free;
+    };
+
+    // Never destroyed: contexts may end after static destruction has begun.
+    static Pool &poolOf(BackEndKind kind) {
+        static auto &pools = *new std::array<Pool, 2>;
+        return pools[static_cast<size_t>(kind)];
+    }
+
+    BackEndKind m_kind;
+};
+
+} // namespace egl

@@ -1,0 +1,79 @@
+#include "egl/context_attribs.h"
+
+#include <cstddef>
+
+#include "egl/thread_record.h"
+
+namespace egl {
+
+static_assert(sizeof(ContextAttribs) == 48);
+static_assert(offsetof(ContextAttribs, contextHandle) == 0 && offsetof(ContextAttribs, requestedMajor) == 8 &&
+              offsetof(ContextAttribs, esMajor) == 12 && offsetof(ContextAttribs, esMinor) == 16 &&
+              offsetof(ContextAttribs, contextFlags) == 20 && offsetof(ContextAttribs, profileMask) == 24 &&
+              offsetof(ContextAttribs, resetStrategy) == 28 && offsetof(ContextAttribs, priority) == 32 &&
+              offsetof(ContextAttribs, legacyClient) == 36 && offsetof(ContextAttribs, surfaceless) == 37 &&
+              offsetof(ContextAttribs, strictContextMode) == 38 && offsetof(ContextAttribs, noError) == 39 &&
+              offsetof(ContextAttribs, srgbFramebuffer) == 40);
+
+namespace {
+
+constexpr EGLint noErrorFlag = 8;
+
+bool applyAttribute(const Config &config, EGLint attribute, EGLint value, ContextAttribs &attribs) {
+    switch (attribute) {
+    case EGL_CONTEXT_CLIENT_VERSION:
+        if (!config.supportsClientVersion(value)) {
+            setError(EGL_BAD_CONFIG);
+            return false;
+        }
+        attribs.requestedMajor = value;
+        if (value == 1) attribs.legacyClient = 1;
+        return true;
+    case EGL_CONTEXT_MINOR_VERSION_KHR:
+        attribs.esMinor = value;
+        return true;
+    case EGL_CONTEXT_FLAGS_KHR:
+        attribs.contextFlags = value;
+        if (value & noErrorFlag) attribs.noError = 1;
+        return true;
+    case EGL_CONTEXT_OPENGL_PROFILE_MASK_KHR:
+        attribs.profileMask = value;
+        return true;
+    case EGL_CONTEXT_PRIORITY_LEVEL_TWG:
+        attribs.priority = value;
+        return true;
+    case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY:
+        attribs.resetStrategy = value;
+        return true;
+    case EGL_CONTEXT_OPENGL_NO_ERROR_KHR:
+        // Set by any value, EGL_FALSE too; callers rely on it.
+        attribs.noError = 1;
+        return true;
+    case EGL_CONTEXT_OPENGL_ROBUST_ACCESS_EXT:
+    case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY_EXT:
+        return true;
+    default:
+        setError(EGL_BAD_ATTRIBUTE);
+        return false;
+    }
+}
+
+} // namespace
+
+ContextAttribs defaultContextAttribs() {
+    ContextAttribs attribs{};
+    attribs.requestedMajor = 1;
+    attribs.esMajor = 1;
+    attribs.priority = EGL_CONTEXT_PRIORITY_MEDIUM_TWG;
+    return attribs;
+}
+
+bool parseContextAttribs(const Config &config, const EGLint *attributes, ContextAttribs &attribs) {
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        if (!applyAttribute(config, attributes[0], attributes[1], attribs)) return false;
+    }
+    attribs.esMajor = attribs.requestedMajor;
+    return true;
+}
+
+} // namespace egl

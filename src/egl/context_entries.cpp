@@ -1,0 +1,99 @@
+// eglCreateContext, eglDestroyContext, eglQueryContext.
+#include "capability/es_gate.h"
+#include "egl/context.h"
+#include "egl/context_attribs.h"
+#include "egl/entry_frame.h"
+#include "egl/print_system_report.h"
+#include "foundation/log.h"
+
+namespace egl {
+
+namespace {
+
+constexpr const char *hostFallsShort =
+    "An OpenGL ES context of the requested version could not be created because the host system does not support the "
+    "entire feature-set. You can disable this check by switching the context creation mode to 'loose' in Preferences.";
+
+// What the host lacks is told beside every refusal but that of an unknown config.
+EGLContext refuse(EGLint error) {
+    printSystemReportOnce();
+    return fail(error, EGL_NO_CONTEXT);
+}
+
+// True if the host carries what the attributes come to, or if that does not matter.
+bool settleVersion(const Config &config, ContextAttribs &attribs) {
+    const bool canBeEs3 = config.attributeOr0(EGL_RENDERABLE_TYPE) & EGL_OPENGL_ES3_BIT;
+    attribs.strictContextMode = state().isStrictContextMode();
+    return capability::settleEsVersion(state().openGLLibrary(), state().windowSystem(), canBeEs3, attribs) ==
+           capability::HostAnswer::carries;
+}
+
+EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext shareHandle, const EGLint *list) {
+    const auto config = configHandle ? display.findConfig(configHandle) : display.noConfig();
+    if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_CONTEXT);
+
+    ContextAttribs attribs = defaultContextAttribs();
+    if (!parseContextAttribs(*config, list, attribs)) return refuse(EGL_BAD_ATTRIBUTE);
+    if (!isEsVersionAllowed(state().profile(), attribs.requestedMajor, attribs.esMinor)) return refuse(EGL_BAD_MATCH);
+    if (attribs.requestedMajor == 1) attribs.legacyClient = 1;
+
+    std::shared_ptr<Context> share;
+    if (shareHandle) {
+        share = display.findContext(shareHandle);
+        if (!share) return refuse(EGL_BAD_CONTEXT);
+    }
+    if (!settleVersion(*config, attribs)) {
+        logMessage(LogWarning, "%s", hostFallsShort);
+        return refuse(EGL_BAD_ALLOC);
+    }
+    const auto context = display.createContext(config, share, attribs);
+    if (!context) return refuse(EGL_BAD_ALLOC);
+    return succeed(asHandle<EGLContext>(context->handle));
+}
+
+} // namespace
+
+} // namespace egl
+
+using namespace egl;
+
+EGLContext EGLAPIENTRY eglCreateContext(EGLDisplay dpy, EGLConfig config, EGLContext share, const EGLint *attributes) {
+    return entry(dpy, EGL_NO_CONTEXT,
+                 [&](Display &display) { return createContext(display, config, share, attributes); });
+}
+
+EGLBoolean EGLAPIENTRY eglDestroyContext(EGLDisplay dpy, EGLContext ctx) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) {
+        const auto context = display.findContext(ctx);
+        if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
+        if (context->boundToThread) {
+            context->pendingDestroy = true;
+        } else {
+            // A back end that cannot delete leaves the context in the table; the answer is true all the same.
+            display.destroyContext(context->handle);
+        }
+        return succeed(EGL_TRUE);
+    });
+}
+
+EGLBoolean EGLAPIENTRY eglQueryContext(EGLDisplay dpy, EGLContext ctx, EGLint attribute, EGLint *value) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) {
+        const auto context = display.findContext(ctx);
+        if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
+        if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        switch (attribute) {
+        case EGL_CONTEXT_CLIENT_VERSION:
+            // What was asked for, not what it was raised to.
+            *value = context->attribs.requestedMajor;
+            return succeed(EGL_TRUE);
+        case EGL_CONTEXT_CLIENT_TYPE:
+            *value = EGL_OPENGL_ES_API;
+            return succeed(EGL_TRUE);
+        case EGL_CONFIG_ID:
+            *value = context->config->attributeOr0(EGL_CONFIG_ID);
+            return succeed(EGL_TRUE);
+        default:
+            return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
+        }
+    });
+}

@@ -1,0 +1,90 @@
+// One display: its configs, contexts, surfaces, images and syncs. Never freed before the process ends, so that a
+// handle stays valid. Every operation takes the display's lock for its own length; entries hold none between them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <vector>
+
+#include "egl/egl_api.h"
+#include "egl/image.h"
+#include "egl/object_table.h"
+#include "profiles/config_list.h"
+#include "zelvane/back_end.h"
+
+namespace glove {
+class ISurface;
+}
+namespace host {
+struct EGL;
+}
+
+namespace egl {
+
+class Context;
+class Surface;
+
+class Display {
+public:
+    explicit Display(uint64_t nativeDisplay);
+    Display(const Display &) = delete;
+    Display &operator=(const Display &) = delete;
+    ~Display();
+
+    // Does nothing on a display that is initialised.
+    void initialize(const DeviceProfile &profile);
+    // Lets go of everything without a call into a back end or the host. Handles go on counting afterwards.
+    void terminate();
+    [[nodiscard]] bool isInitialized() const;
+
+    // The config stays good as long as the result. Null for an unknown handle.
+    [[nodiscard]] std::shared_ptr<const Config> findConfig(EGLConfig handle) const;
+    // What a null config stands for. Null on a display that is not initialised.
+    [[nodiscard]] std::shared_ptr<const Config> noConfig() const;
+    [[nodiscard]] EGLint listConfigs(EGLConfig *out, EGLint size) const;
+    [[nodiscard]] EGLint chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size) const;
+
+    // A context or surface that has left its table is still found on the thread that has it current.
+    [[nodiscard]] std::shared_ptr<Context> findContext(EGLContext handle) const;
+    // In handle order.
+    [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts() const;
+    [[nodiscard]] std::shared_ptr<Context> createContext(std::shared_ptr<const Config> config,
+                                                         std::shared_ptr<Context> share, const ContextAttribs &attribs);
+    // False for an unknown handle, and when the back end cannot delete the context, which then stays in the table.
+    bool destroyContext(uint64_t handle);
+
+    [[nodiscard]] std::shared_ptr<Surface> findSurface(EGLSurface handle) const;
+    // Null when the host surface cannot be made; the handle is used up all the same.
+    [[nodiscard]] std::shared_ptr<Surface> createWindowSurface(const Config &config, uint64_t window,
+                                                               const EGLint *attributes);
+    [[nodiscard]] std::shared_ptr<Surface> createPbufferSurface(const Config &config, const EGLint *attributes);
+    [[nodiscard]] std::shared_ptr<Surface> createPixmapSurface(const Config &config, const EGLint *attributes);
+    [[nodiscard]] bool destroySurface(EGLSurface handle);
+
+    [[nodiscard]] EGLImage createImage(EGLenum target, EGLClientBuffer buffer);
+    // False when there is no such image.
+    [[nodiscard]] bool destroyImage(EGLImage image);
+
+    [[nodiscard]] EGLSync createSync(const host::EGL &hostEGL);
+    [[nodiscard]] bool isKnownSync(EGLSync sync) const;
+    void destroySync(const host::EGL &hostEGL, EGLSync sync);
+
+    const uint64_t nativeDisplay; // the host's word for it; handed to the host layer
+
+private:
+    // The caller holds m_displayMutex.
+    std::shared_ptr<Surface> insertSurface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface,
+                                           const Config &config, const EGLint *attributes);
+
+    mutable std::mutex m_displayMutex; // guards all below
+    bool m_initialized = false;
+    std::shared_ptr<const ConfigList> m_configs; // shared with contexts, whose configs point into it
+    ObjectTable<Context> m_contexts;
+    std::vector<std::shared_ptr<EglImage>> m_images;
+    ObjectTable<Surface> m_surfaces;
+    std::set<uint64_t> m_syncs; // host GLsync values
+};
+
+} // namespace egl

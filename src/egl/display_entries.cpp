@@ -1,0 +1,64 @@
+// Entries that belong to a display as a whole.
+#include "egl/context.h"
+#include "egl/entry_frame.h"
+#include "egl/extension_entries.h"
+#include "host/egl_version.h"
+
+namespace egl {
+
+namespace {
+
+// A failed load leaves no error behind here; callers rely on reading EGL_SUCCESS.
+EGLDisplay getDisplay(uint64_t nativeId, uint64_t hostDisplay) {
+    if (!ensureLoaded()) return succeed(EGL_NO_DISPLAY);
+    const std::lock_guard lock(stateMutex());
+    Display *display = state().findDisplayByNativeId(nativeId);
+    if (!display) display = &state().createDisplay(nativeId, hostDisplay);
+    return succeed(static_cast<EGLDisplay>(display));
+}
+
+constexpr uint64_t hostDefaultDisplay = 0;
+
+} // namespace
+
+EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum, void *nativeDisplay, const EGLint *) {
+    const auto id = reinterpret_cast<uintptr_t>(nativeDisplay);
+    return getDisplay(id, id);
+}
+
+} // namespace egl
+
+using namespace egl;
+
+EGLDisplay EGLAPIENTRY eglGetDisplay(EGLNativeDisplayType displayId) {
+    const auto id = reinterpret_cast<uintptr_t>(displayId);
+    return getDisplay(id, displayId == EGL_DEFAULT_DISPLAY ? hostDefaultDisplay : id);
+}
+
+EGLBoolean EGLAPIENTRY eglInitialize(EGLDisplay dpy, EGLint *major, EGLint *minor) {
+    if (!ensureLoaded()) return fail(EGL_NOT_INITIALIZED, EGL_FALSE);
+    const std::lock_guard lock(stateMutex());
+    Display *display = state().findDisplay(dpy);
+    if (!display) return fail(EGL_BAD_DISPLAY, EGL_FALSE);
+    if (major) *major = host::eglMajorVersion();
+    if (minor) *minor = host::eglMinorVersion();
+    display->initialize(state().profile());
+    return succeed(EGL_TRUE);
+}
+
+EGLBoolean EGLAPIENTRY eglTerminate(EGLDisplay dpy) {
+    return entry(dpy, EGL_FALSE, [](Display &display) {
+        display.terminate();
+        return succeed(EGL_TRUE);
+    });
+}
+
+EGLBoolean EGLAPIENTRY eglSwapInterval(EGLDisplay dpy, EGLint interval) {
+    return entry(dpy, EGL_FALSE, [&](Display &) {
+        const auto current = currentContext();
+        if (!current) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
+        if (!current->surfaces().draw) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        host::setHostSwapInterval(current->hostContext().get(), interval);
+        return succeed(EGL_TRUE);
+    });
+}

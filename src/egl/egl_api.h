@@ -1,0 +1,13 @@
+// The EGL headers as every file of the library sees them: exported entries carry default visibility, the entries that
+// are reached through eglGetProcAddress alone have no prototypes here.
+#pragma once
+
+#define EGLAPI extern __attribute__((visibility("default")))
+#include <EGL/egl.h>
+#include <EGL/eglext.h>
+
+// Our own names for the priority attribute and its levels.
+#define EGL_CONTEXT_PRIORITY_LEVEL_TWG 0x3100
+#define EGL_CONTEXT_PRIORITY_HIGH_TWG 0x3101
+#define EGL_CONTEXT_PRIORITY_MEDIUM_TWG 0x3102
+#define EGL_CONTEXT_PRIORITY_LOW_TWG 0x3103

@@ -1,0 +1,39 @@
+// What every entry that takes a display has in common: the order of its first checks and how it ends.
+#pragma once
+
+#include "egl/display.h"
+#include "egl/state.h"
+#include "egl/thread_record.h"
+
+namespace egl {
+
+template <typename Result>
+[[nodiscard]] Result fail(EGLint error, Result result) {
+    setError(error);
+    return result;
+}
+
+// Success clears a pending error without looking at it.
+template <typename Result>
+[[nodiscard]] Result succeed(Result result) {
+    threadRecord.error = EGL_SUCCESS;
+    return result;
+}
+
+// Runs body(display) once the process is loaded and dpy is a display that is initialised.
+template <typename Result, typename Body>
+[[nodiscard]] Result entry(EGLDisplay dpy, Result failure, Body body) {
+    if (!ensureLoaded()) return fail(EGL_NOT_INITIALIZED, failure);
+    Display *display = state().findDisplay(dpy);
+    if (!display) return fail(EGL_BAD_DISPLAY, failure);
+    if (!display->isInitialized()) return fail(EGL_NOT_INITIALIZED, failure);
+    return body(*display);
+}
+
+// Handles are numbers of the display's tables.
+template <typename Handle>
+[[nodiscard]] Handle asHandle(uint64_t number) {
+    return reinterpret_cast<Handle>(static_cast<uintptr_t>(number));
+}
+
+} // namespace egl

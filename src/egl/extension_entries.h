@@ -1,0 +1,18 @@
+// Entries that applications reach through eglGetProcAddress alone, where they differ from an exported one.
+#pragma once
+
+#include "egl/egl_api.h"
+
+namespace egl {
+
+// Widens its list and goes on as eglCreateSync.
+EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *attributes);
+// Stores 32 bits, also after a failure.
+EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value);
+// eglSwapBuffers; the rectangles are not read.
+EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface, const EGLint *rects, EGLint count);
+EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *rects, EGLint count);
+// Takes every platform and reads no attribute.
+EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum platform, void *nativeDisplay, const EGLint *attributes);
+
+} // namespace egl

@@ -1,0 +1,115 @@
+#include "egl/state.h"
+
+#include "capability/collect_system_report.h"
+#include "egl/gui_link.h"
+#include "egl/report_message.h"
+#include "egl/thread_record.h"
+#include "foundation/log.h"
+#include "host/opengl_library.h"
+#include "preferences/host_configuration.h"
+#include "profiles/profile_reader.h"
+
+namespace egl {
+
+namespace {
+
+// In this order: at exit the mutex goes first and the state after it.
+std::shared_ptr<State> globalState;
+std::mutex globalStateMutex;
+
+} // namespace
+
+State::State()
+    : m_profile(defaultProfile), m_openGLLibrary(host::openHostOpenGLLibrary()), m_uiLink(setRenderModeOfAll) {
+    attachGuiLink(*this);
+    threadRecord.currentDisplay = nullptr;
+}
+
+State::~State() {
+    detachGuiLink();
+    for (const auto &[display, nativeId] : m_displays)
+        delete display;
+}
+
+bool State::load() {
+    if (m_windowSystem) return true;
+
+    std::string error;
+    if (!m_settings.load(error)) {
+        logMessage(LogError, "%s", error.c_str());
+        logMessage(LogError, "Failed to load Zelvane preferences file");
+        return false;
+    }
+    if (!m_openGLLibrary.isLoaded()) {
+        logMessage(LogError, "Failed to load OpenGL library");
+        return false;
+    }
+    const CKZRTString directory(m_settings.getProfilesDirectory().c_str());
+    const CKZRTString name(m_settings.getCurrentProfile().c_str());
+    if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) return false;
+    m_windowSystem = std::make_shared<glove::WSAPI>();
+    capability::SystemReportFiller filler(
+        m_report, [this](const capability::ReportRecord &record) { m_uiLink.post(reportMessage(record)); });
+    capability::collectSystemReport(m_openGLLibrary, m_windowSystem, filler);
+    return true;
+}
+
+Display *State::findDisplay(EGLDisplay handle) {
+    const std::lock_guard lock(m_displaysMutex);
+    const auto found = m_displays.find(static_cast<Display *>(handle));
+    return found == m_displays.end() ? nullptr : found->first;
+}
+
+Display *State::findDisplayByNativeId(uint64_t nativeId) {
+    const std::lock_guard lock(m_displaysMutex);
+    for (const auto &[display, id] : m_displays) {
+        if (id == nativeId) return display;
+    }
+    return nullptr;
+}
+
+Display &State::createDisplay(uint64_t nativeId, uint64_t hostDisplay) {
+    const std::lock_guard lock(m_displaysMutex);
+    for (const auto &[display, id] : m_displays) {
+        if (id == nativeId) return *display;
+    }
+    auto display = std::make_unique<Display>(hostDisplay);
+    m_displays.emplace(display.get(), nativeId);
+    return *display.release();
+}
+
+std::vector<std::shared_ptr<Context>> State::contexts() {
+    std::vector<std::shared_ptr<Context>> contexts;
+    const std::lock_guard lock(m_displaysMutex);
+    for (const auto &[display, nativeId] : m_displays) {
+        const auto own = display->contexts();
+        contexts.insert(contexts.end(), own.begin(), own.end());
+    }
+    return contexts;
+}
+
+std::shared_ptr<host::EGL> State::hostEGL() {
+    const std::lock_guard lock(m_hostEGLMutex);
+    if (!m_hostEGL) m_hostEGL = std::make_shared<host::EGL>(m_openGLLibrary);
+    return m_hostEGL;
+}
+
+bool State::isStrictContextMode() const {
+    return (getHostConfiguration() & CONFIG_FORCE_LOOSE_CONTEXTS) == 0 && m_settings.getStrictContextMode();
+}
+
+bool ensureLoaded() {
+    const std::lock_guard lock(globalStateMutex);
+    if (!globalState) globalState = std::make_shared<State>();
+    return globalState->load();
+}
+
+std::mutex &stateMutex() {
+    return globalStateMutex;
+}
+
+State &state() {
+    return *globalState;
+}
+
+} // namespace egl

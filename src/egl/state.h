@@ -1,0 +1,93 @@
+// The state of the process: made and loaded by the first EGL call that needs it, and never unloaded by any.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "capability/host_egl.h"
+#include "capability/system_report.h"
+#include "egl/display.h"
+#include "egl/egl_api.h"
+#include "foundation/dynamic_library.h"
+#include "host/wsapi.h"
+#include "preferences/settings.h"
+#include "profiles/device_profile.h"
+#include "ui/link.h"
+#include "zelvane/back_end.h"
+
+namespace egl {
+
+class State {
+public:
+    State();
+    State(const State &) = delete;
+    State &operator=(const State &) = delete;
+    ~State();
+
+    // Does what is left to do of the load. Nothing remembers a failure: the next call tries again from the start.
+    // The caller holds stateMutex.
+    [[nodiscard]] bool load();
+
+    // Null for an unknown handle, which is compared and never followed.
+    [[nodiscard]] Display *findDisplay(EGLDisplay handle);
+    [[nodiscard]] Display *findDisplayByNativeId(uint64_t nativeId);
+    // The display of that native id, made now if there is none. hostDisplay is what the host layer is given.
+    [[nodiscard]] Display &createDisplay(uint64_t nativeId, uint64_t hostDisplay);
+
+    // Those of all displays as they are now: displays in key order, contexts in handle order.
+    [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts();
+
+    // The host functions, looked up at the first use and kept for the life of the process.
+    [[nodiscard]] std::shared_ptr<host::EGL> hostEGL();
+
+    // False where the embedding tool forces loose contexts, whatever the settings say.
+    [[nodiscard]] bool isStrictContextMode() const;
+
+    // The back-end library for this major version, or logs that it cannot be loaded and gives one that holds nothing.
+    [[nodiscard]] static DynamicLibrary loadEsLibrary(int32_t major);
+    // Null when the library or its function is missing, or when the back end fails.
+    [[nodiscard]] zvEsContext createEsContext(const ContextAttribs &attribs, const Display &display,
+                                              zvEsContext shareEsContext);
+    static void setEsContextAttribs(zvEsContext esContext, const ContextAttribs &attribs);
+
+    [[nodiscard]] const Settings &settings() const { return m_settings; }
+    [[nodiscard]] const DeviceProfile &profile() const { return m_profile; }
+    [[nodiscard]] const DynamicLibrary &openGLLibrary() const { return m_openGLLibrary; }
+    [[nodiscard]] const std::shared_ptr<glove::WSAPI> &windowSystem() const { return m_windowSystem; }
+    [[nodiscard]] const capability::SystemReport &report() const { return m_report; }
+    // The XML text that the profile was read from; empty without a profile.
+    [[nodiscard]] const std::string &profileText() const { return m_profileText; }
+    [[nodiscard]] const UiLink &uiLink() const { return m_uiLink; }
+    [[nodiscard]] uint64_t frameNumber() const { return m_frameNumber.load(std::memory_order_relaxed); }
+    void countFrame() { m_frameNumber.fetch_add(1, std::memory_order_relaxed); }
+
+private:
+    std::map<Display *, uint64_t> m_displays; // to native id; guarded by m_displaysMutex; never shrinks
+    std::mutex m_displaysMutex;
+    Settings m_settings; // this, the profile, its text and the report are written during the load, only read after it
+    DeviceProfile m_profile;
+    std::string m_profileText;
+    DynamicLibrary m_openGLLibrary;
+    std::shared_ptr<glove::WSAPI> m_windowSystem; // the state counts as loaded once this is set
+    UiLink m_uiLink;                              // connects in the constructor
+    std::atomic<uint64_t> m_frameNumber = 0;
+    capability::SystemReport m_report;
+    std::mutex m_hostEGLMutex;
+    std::shared_ptr<host::EGL> m_hostEGL; // guarded by m_hostEGLMutex
+};
+
+// The head of nearly every entry: makes the state and loads it. False when the load fails.
+[[nodiscard]] bool ensureLoaded();
+
+// Guards the creation and load of the state, and three entries wholly. Taken before every other mutex.
+[[nodiscard]] std::mutex &stateMutex();
+
+// The state. Only after ensureLoaded() has run once in the process.
+[[nodiscard]] State &state();
+
+} // namespace egl

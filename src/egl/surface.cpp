@@ -1,0 +1,57 @@
+#include "egl/surface.h"
+
+namespace egl {
+
+Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
+                 const EGLint *attributes)
+    : handle(handle),
+      hostSurface(std::move(hostSurface)), m_attributes{{EGL_RENDER_BUFFER, EGL_BACK_BUFFER},
+                                                        {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
+                                                        {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},
+                                                        {EGL_CONFIG_ID, config.attributeOr0(EGL_CONFIG_ID)},
+                                                        {EGL_GL_COLORSPACE, EGL_GL_COLORSPACE_LINEAR}} {
+    for (; attributes && *attributes != EGL_NONE; attributes += 2)
+        m_attributes[attributes[0]] = attributes[1];
+}
+
+bool Surface::query(EGLint name, EGLint *value) {
+    switch (name) {
+    case EGL_WIDTH:
+    case EGL_HEIGHT:
+    case EGL_BUFFER_AGE_KHR:
+        *value = attribute(name);
+        return true;
+    default:
+        break;
+    }
+    const auto found = m_attributes.find(name);
+    // A surface without a largest-pbuffer attribute answers and stores nothing; callers rely on the success.
+    if (found == m_attributes.end()) return name == EGL_LARGEST_PBUFFER;
+    *value = found->second;
+    return true;
+}
+
+EGLint Surface::attribute(EGLint name) {
+    switch (name) {
+    case EGL_WIDTH:
+        return hostSurface ? hostSurface->width() : 0;
+    case EGL_HEIGHT:
+        return hostSurface ? hostSurface->height() : 0;
+    case EGL_BUFFER_AGE_KHR:
+        // Always 0, so that an application repaints in full.
+        bufferAgeQueried = true;
+        return 0;
+    default: {
+        const auto found = m_attributes.find(name);
+        return found == m_attributes.end() ? 0 : found->second;
+    }
+    }
+}
+
+void Surface::swap() {
+    if (hostSurface) hostSurface->swapBuffers();
+    damageRegionSet = false;
+    bufferAgeQueried = false;
+}
+
+} // namespace egl

@@ -1,0 +1,60 @@
+// Swapping, damage and copying.
+#include "egl/context.h"
+#include "egl/entry_frame.h"
+#include "egl/extension_entries.h"
+#include "egl/surface.h"
+#include "foundation/log.h"
+
+namespace egl {
+
+namespace {
+
+EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
+    const auto found = display.findSurface(surface);
+    if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+    found->swap();
+    state().countFrame();
+    return succeed(EGL_TRUE);
+}
+
+EGLBoolean setDamageRegion(Display &display, const Context &current, EGLSurface surface) {
+    const auto found = display.findSurface(surface);
+    if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+    if (found != current.surfaces().draw || found->attribute(EGL_SWAP_BEHAVIOR) != EGL_BUFFER_DESTROYED) {
+        return fail(EGL_BAD_MATCH, EGL_FALSE);
+    }
+    // The age must have been asked for since the last swap, and the region is set once.
+    if (found->damageRegionSet || !found->bufferAgeQueried) return fail(EGL_BAD_ACCESS, EGL_FALSE);
+    found->damageRegionSet = true;
+    return succeed(EGL_TRUE);
+}
+
+} // namespace
+
+EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface, const EGLint *, EGLint) {
+    return eglSwapBuffers(dpy, surface);
+}
+
+EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *, EGLint) {
+    // Before anything is loaded or looked up; callers rely on this error coming first.
+    const auto current = currentContext();
+    if (!current) return fail(EGL_BAD_MATCH, EGL_FALSE);
+    return entry(dpy, EGL_FALSE, [&](Display &display) { return setDamageRegion(display, *current, surface); });
+}
+
+} // namespace egl
+
+using namespace egl;
+
+EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+}
+
+// Fails without an error; callers rely on reading EGL_SUCCESS.
+EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) {
+        if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        logMessage(LogWarning, "eglCopyBuffers is not currently supported by Zelvane.");
+        return succeed(EGL_FALSE);
+    });
+}

@@ -1,0 +1,139 @@
+// Sync objects: host fences, used directly. A sync's handle is the host's.
+#include "egl/context.h"
+#include "egl/entry_frame.h"
+#include "egl/extension_entries.h"
+
+#include <vector>
+
+namespace egl {
+
+namespace {
+
+constexpr uint32_t glObjectType = 0x9112;
+constexpr uint32_t glSyncCondition = 0x9113;
+constexpr uint32_t glSyncStatus = 0x9114;
+constexpr uint32_t glAlreadySignaled = 0x911A;
+constexpr uint32_t glTimeoutExpired = 0x911B;
+constexpr uint32_t glConditionSatisfied = 0x911C;
+constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
+
+// 0 asks for a flush too; callers rely on not waiting for commands that were never sent.
+uint32_t hostWaitFlags(EGLint flags) {
+    return static_cast<uint32_t>(flags) < 2 ? 1 : 0;
+}
+
+EGLint eglWaitResult(uint32_t hostResult) {
+    switch (hostResult) {
+    case glAlreadySignaled:
+    case glConditionSatisfied:
+        return EGL_CONDITION_SATISFIED;
+    case glTimeoutExpired:
+        return EGL_TIMEOUT_EXPIRED;
+    default:
+        return 0;
+    }
+}
+
+// An unknown attribute asks the host for name 0 and is no error.
+uint32_t hostSyncName(EGLint attribute) {
+    switch (attribute) {
+    case EGL_SYNC_TYPE:
+        return glObjectType;
+    case EGL_SYNC_CONDITION:
+        return glSyncCondition;
+    case EGL_SYNC_STATUS:
+        return glSyncStatus;
+    default:
+        return 0;
+    }
+}
+
+void sweepHostError(const host::EGL &hostEGL) {
+    if (hostEGL.glGetError) hostEGL.glGetError();
+}
+
+EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) {
+    if (type == EGL_SYNC_FENCE && &display != threadRecord.currentDisplay) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
+    // Any other type gives this error too.
+    if ((attributes && *attributes != EGL_NONE) || type != EGL_SYNC_FENCE) {
+        return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
+    }
+    if (!threadRecord.current) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
+    const auto hostEGL = state().hostEGL();
+    if (!hostEGL->glFenceSync) return fail(EGL_BAD_ALLOC, EGL_NO_SYNC);
+    return succeed(display.createSync(*hostEGL));
+}
+
+// What waits and queries check: a known sync, then a current context.
+template <typename Result, typename Body>
+Result withSync(EGLDisplay dpy, EGLSync sync, Result failure, Body body) {
+    return entry(dpy, failure, [&](Display &display) {
+        if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, failure);
+        if (!threadRecord.current) return fail(EGL_BAD_CONTEXT, failure);
+        return body(*state().hostEGL());
+    });
+}
+
+} // namespace
+
+EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *attributes) {
+    std::vector<EGLAttrib> wide;
+    for (; attributes && *attributes != EGL_NONE; ++attributes)
+        wide.push_back(*attributes);
+    wide.push_back(EGL_NONE);
+    return eglCreateSync(dpy, type, wide.data());
+}
+
+EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value) {
+    EGLAttrib wide = 0;
+    const EGLBoolean result = eglGetSyncAttrib(dpy, sync, attribute, &wide);
+    if (value) *value = static_cast<EGLint>(wide);
+    return result;
+}
+
+} // namespace egl
+
+using namespace egl;
+
+EGLSync EGLAPIENTRY eglCreateSync(EGLDisplay dpy, EGLenum type, const EGLAttrib *attributes) {
+    return entry(dpy, EGL_NO_SYNC, [&](Display &display) { return createSync(display, type, attributes); });
+}
+
+EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) {
+        if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        // Without a current context the sync stays known; callers rely on destroying it later.
+        if (!threadRecord.current) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        display.destroySync(*state().hostEGL(), sync);
+        return succeed(EGL_TRUE);
+    });
+}
+
+EGLint EGLAPIENTRY eglClientWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags, EGLTime timeoutNs) {
+    return withSync<EGLint>(dpy, sync, 0, [&](const host::EGL &hostEGL) -> EGLint {
+        if (!hostEGL.glClientWaitSync) return succeed(0);
+        const uint32_t result = hostEGL.glClientWaitSync(sync, hostWaitFlags(flags), timeoutNs);
+        sweepHostError(hostEGL);
+        return succeed(eglWaitResult(result));
+    });
+}
+
+EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
+    return withSync<EGLBoolean>(dpy, sync, EGL_FALSE, [&](const host::EGL &hostEGL) -> EGLBoolean {
+        // The host takes no flags here and raises an error for them, which the sweep hides.
+        if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), glTimeoutIgnored);
+        sweepHostError(hostEGL);
+        return succeed(EGL_TRUE);
+    });
+}
+
+// Answers with the host's numbers; nothing is translated back, and callers rely on that.
+EGLBoolean EGLAPIENTRY eglGetSyncAttrib(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLAttrib *value) {
+    return withSync<EGLBoolean>(dpy, sync, EGL_FALSE, [&](const host::EGL &hostEGL) -> EGLBoolean {
+        if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        int32_t answer = 0;
+        if (hostEGL.glGetSynciv) hostEGL.glGetSynciv(sync, hostSyncName(attribute), 1, nullptr, &answer);
+        *value = answer;
+        return succeed(EGL_TRUE);
+    });
+}

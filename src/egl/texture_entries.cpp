@@ -1,0 +1,53 @@
+// eglBindTexImage and eglReleaseTexImage. A bind is a one-time copy: no link between surface and texture remains.
+#include "egl/context.h"
+#include "egl/entry_frame.h"
+#include "egl/surface.h"
+
+namespace egl {
+
+namespace {
+
+constexpr uint32_t glTexture2D = 0x0DE1;
+constexpr uint32_t glRgb = 0x1907;
+constexpr uint32_t glRgba = 0x1908;
+
+bool canBeBound(Surface &surface) {
+    const EGLint format = surface.attribute(EGL_TEXTURE_FORMAT);
+    return surface.hostSurface && surface.hostSurface->isPBuffer() == 1 && surface.attribute(EGL_MIPMAP_TEXTURE) != 1 &&
+           (format == EGL_TEXTURE_RGB || format == EGL_TEXTURE_RGBA);
+}
+
+// Copies from what is bound for reading, which is the surface only if the application made it so. Goes past the back
+// end to the texture that is bound on the host.
+void copyToBoundTexture(Surface &surface) {
+    const auto hostEGL = state().hostEGL();
+    if (!hostEGL->glCopyTexImage2D) return;
+    const uint32_t format = surface.attribute(EGL_TEXTURE_FORMAT) == EGL_TEXTURE_RGB ? glRgb : glRgba;
+    hostEGL->glCopyTexImage2D(glTexture2D, 0, format, 0, 0, surface.attribute(EGL_WIDTH), surface.attribute(EGL_HEIGHT),
+                              0);
+}
+
+} // namespace
+
+} // namespace egl
+
+using namespace egl;
+
+EGLBoolean EGLAPIENTRY eglBindTexImage(EGLDisplay dpy, EGLSurface surface, EGLint buffer) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) {
+        if (buffer != EGL_BACK_BUFFER) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        const auto found = display.findSurface(surface);
+        if (!found || !canBeBound(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (!threadRecord.current) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
+        copyToBoundTexture(*found);
+        return succeed(EGL_TRUE);
+    });
+}
+
+EGLBoolean EGLAPIENTRY eglReleaseTexImage(EGLDisplay dpy, EGLSurface surface, EGLint buffer) {
+    return entry(dpy, EGL_FALSE, [&](Display &display) {
+        if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (buffer != EGL_BACK_BUFFER) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        return succeed(EGL_TRUE);
+    });
+}

@@ -1,0 +1,36 @@
+// Entries that look at the calling thread alone. None of them loads anything.
+#include "egl/entry_frame.h"
+
+using namespace egl;
+
+EGLint EGLAPIENTRY eglGetError(void) {
+    return std::exchange(threadRecord.error, EGL_SUCCESS);
+}
+
+// Nothing is remembered: there is no other API.
+EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
+    if (api != EGL_OPENGL_ES_API) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+    return succeed(EGL_TRUE);
+}
+
+EGLenum EGLAPIENTRY eglQueryAPI(void) {
+    return succeed<EGLenum>(EGL_OPENGL_ES_API);
+}
+
+// The waits wait for nothing; no glFinish reaches the host, and callers rely on their speed.
+EGLBoolean EGLAPIENTRY eglWaitClient(void) {
+    return succeed(EGL_TRUE);
+}
+EGLBoolean EGLAPIENTRY eglWaitGL(void) {
+    return succeed(EGL_TRUE);
+}
+
+EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
+    if (engine != EGL_CORE_NATIVE_ENGINE) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+    return succeed(EGL_TRUE);
+}
+
+// Releases nothing: the current context stays current, and callers rely on that.
+EGLBoolean EGLAPIENTRY eglReleaseThread(void) {
+    return succeed(EGL_TRUE);
+}

@@ -1,0 +1,1 @@
+// Stands in until the first source lands.
