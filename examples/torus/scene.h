@@ -1,0 +1,32 @@
+// A lit torus with a checker on it that turns. What a frame shows depends on the frame's number alone.
+#pragma once
+
+#include "egl_window.h"
+
+#include <vector>
+
+class Scene {
+public:
+    // With the context current. Throws std::runtime_error with the compiler's log when a shader fails.
+    explicit Scene(const GlFunctions &gl);
+    ~Scene();
+    Scene(const Scene &) = delete;
+    Scene &operator=(const Scene &) = delete;
+
+    void draw(int frame, Size size);
+    // What was drawn last: RGBA, 8 bits each, rows from the bottom up.
+    [[nodiscard]] std::vector<GLubyte> readPixels(Size size) const;
+
+private:
+    void makeProgram();
+    void makeTexture();
+    void makeBuffers();
+
+    const GlFunctions &m_gl;
+    GLuint m_program = 0;
+    GLuint m_texture = 0;
+    GLuint m_buffers[2] = {}; // vertices, indices
+    GLsizei m_indexCount = 0;
+    GLint m_modelView = -1;
+    GLint m_projection = -1;
+};
