@@ -1,0 +1,16 @@
+// The verbs of the zelvane command. Each adds its subcommand; a verb that fails has written a message to standard error
+// and throws CLI::RuntimeError with its exit status.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+
+void addMonitorCommand(CLI::App &app);
+void addProfilesCommand(CLI::App &app);
+void addReportCommand(CLI::App &app);
+void addUseCommand(CLI::App &app);
+void addStrictCommand(CLI::App &app);
+
+// Writes "zelvane: " and the message to standard error and ends the verb with status 1.
+[[noreturn]] void failCommand(const std::string &message);

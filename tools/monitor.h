@@ -1,0 +1,44 @@
+// The listening side of the GUI link in a terminal. Everything runs on one thread, in one poll loop: records of the
+// applications, commands of the user, and the signals that end it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tools/monitor_application.h"
+#include "tools/monitor_output.h"
+#include "ui/socket.h"
+
+class Monitor {
+public:
+    // takesCommands: read lines of standard input as commands.
+    Monitor(std::unique_ptr<MonitorOutput> output, bool takesCommands, bool endsWithTheFirst);
+    Monitor(const Monitor &) = delete;
+    Monitor &operator=(const Monitor &) = delete;
+    // Removes the socket file, unless another listener has put its own there.
+    ~Monitor();
+
+    // False when the socket cannot be made.
+    [[nodiscard]] bool isListening() const { return !m_server.failed(); }
+    // Until the user, a signal or the end of the first application ends it.
+    void run();
+
+private:
+    void accept();
+    void readRecord(MonitoredApplication &application);
+    void dropEnded();
+    void readCommands();
+    // A line such as "w", "W 1234", "wire off" or "d".
+    void obey(const std::string &line);
+
+    std::unique_ptr<MonitorOutput> m_output;
+    KZRIPC::ServerSocket m_server;
+    uint64_t m_socketFile; // which file at the path is ours
+    int m_signals;         // readable when the process is to end
+    bool m_takesCommands;
+    bool m_endsWithTheFirst;
+    bool m_isEnding = false;
+    std::string m_typed; // a line that is not complete yet
+    std::vector<std::unique_ptr<MonitoredApplication>> m_applications;
+};

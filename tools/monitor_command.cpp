@@ -1,0 +1,39 @@
+// zelvane monitor: watch applications, and switch their render mode.
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <unistd.h>
+
+#include "tools/commands.h"
+#include "tools/monitor.h"
+
+namespace {
+
+struct Options {
+    bool json = false;
+    bool once = false;
+};
+
+int watch(const Options &options) {
+    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), isatty(STDIN_FILENO), options.once);
+    if (!monitor.isListening()) {
+        fprintf(stderr, "zelvane: cannot listen at /tmp/Zelvane: another user's socket may be there\n");
+        return 1;
+    }
+    monitor.run();
+    return 0;
+}
+
+} // namespace
+
+void addMonitorCommand(CLI::App &app) {
+    auto *monitor = app.add_subcommand("monitor", "Show what applications that start from now on report");
+    auto options = std::make_shared<Options>();
+    monitor->add_flag("--json", options->json, "One JSON object a record, for other tools");
+    monitor->add_flag("--once", options->once, "End with the first application");
+    monitor->footer("In a terminal, typed lines are commands: w, W, wire on|off, d and q, each but q with a process\n"
+                    "number for one application alone.");
+    monitor->callback([options] {
+        if (const int failure = watch(*options)) throw CLI::RuntimeError(failure);
+    });
+}

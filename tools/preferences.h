@@ -1,0 +1,34 @@
+// The user's preferences file as the verbs see it: the same settings that the library reads.
+#pragma once
+
+#include <string>
+
+#include "preferences/property_list_store.h"
+
+class ToolPreferences {
+public:
+    // Reads the file, creating it where there is none. Fails the verb when it cannot be read whole: writing it back
+    // would lose what lies behind the fault.
+    ToolPreferences();
+
+    [[nodiscard]] std::string storedDirectory();
+    // The directory that the library would take: the stored one, else $ZELVANE_PROFILE_PATH. Empty without both.
+    [[nodiscard]] std::string profilesDirectory();
+    // As stored; the library reads it only when there is a directory.
+    [[nodiscard]] std::string currentProfile();
+    [[nodiscard]] bool isStrict();
+
+    // Each writes the file. All other keys stay. A failure fails the verb.
+    void setProfile(const std::string &directory, const std::string &name);
+    void removeProfile();
+    void setStrict(bool strict);
+
+    [[nodiscard]] const std::string &path() const { return m_path; }
+
+private:
+    void storeString(const char *name, const std::string &value);
+    void save();
+
+    KZRPreferences m_store;
+    std::string m_path;
+};

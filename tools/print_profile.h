@@ -1,0 +1,14 @@
+// A device profile in readable form on standard output.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "profiles/device_profile.h"
+
+// "1.x, 2.0", or "none".
+[[nodiscard]] std::string versionsText(const egl::DeviceProfile &profile);
+
+// Identity, configs as a table in the values that programs see, then extensions and limits of each es block.
+// text is the profile's own and parses.
+void printProfile(const egl::DeviceProfile &profile, std::string_view text);
