@@ -1,0 +1,16 @@
+// A host OpenGL library with a version and an extension list of the test's own.
+#pragma once
+
+#include <string>
+
+#include "fakes/control.h"
+#include "foundation/dynamic_library.h"
+
+class ScriptedHost {
+public:
+    // Null texts are those that the host does not give. The texts must outlive the host.
+    explicit ScriptedHost(const char *version, const char *extensions = "", const std::string &directory = "");
+
+    DynamicLibrary library{"libGL.so.1"};
+    FakeGl *script = nullptr;
+};

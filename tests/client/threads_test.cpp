@@ -1,0 +1,40 @@
+// Four threads that do everything at once; the thread sanitizer looks on.
+#include "client_fixture.h"
+
+#include <thread>
+#include <vector>
+
+namespace {
+
+class ClientThreads : public ClientTest {};
+
+} // namespace
+
+TEST_F(ClientThreads, FourCreateBindDrawSwapAndDestroyAtOnce) {
+    initialise(EGL_DEFAULT_DISPLAY);
+    std::vector<Window> windows;
+    for (int i = 0; i < 4; ++i)
+        windows.push_back(makeWindow());
+
+    const auto work = [&](Window window, float shade) {
+        const Pixel expected{uint8_t(shade * 255 + 0.5f), 0, 0, 255};
+        for (int round = 0; round < 5; ++round) {
+            const EGLContext context = makeContext();
+            const EGLSurface surface = makeSurface(window);
+            ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+            const GlFunctions gl;
+            for (int frame = 0; frame < 5; ++frame) {
+                EXPECT_EQ(drawAndRead(gl, shade, 0, 0), expected);
+                EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
+            }
+            EXPECT_TRUE(eglDestroySurface(m_egl, surface));
+            EXPECT_TRUE(eglDestroyContext(m_egl, context));
+            EXPECT_TRUE(eglMakeCurrent(m_egl, nullptr, nullptr, nullptr));
+        }
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back(work, windows[i], i / 4.0f);
+    for (auto &thread : threads)
+        thread.join();
+}

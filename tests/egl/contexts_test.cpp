@@ -1,0 +1,126 @@
+#include "egl/fixture.h"
+
+#include <dlfcn.h>
+
+#include <cstring>
+
+namespace {
+
+class Contexts : public EntryTest {
+protected:
+    EGLContext create(std::vector<EGLint> attributes, EGLConfig from, EGLContext share = EGL_NO_CONTEXT) {
+        attributes.push_back(EGL_NONE);
+        return eglCreateContext(initialised(), from, share, attributes.data());
+    }
+    EGLint query(EGLContext context, EGLint attribute) {
+        EGLint value = -77;
+        EXPECT_SUCCEEDS(eglQueryContext(initialised(), context, attribute, &value));
+        return value;
+    }
+
+    // What the back end is told of a context with these attributes.
+    ContextAttribs attribsOf(std::vector<EGLint> attributes) {
+        const EGLContext context = create(std::move(attributes), config());
+        const EGLSurface surface = window();
+        EXPECT_SUCCEEDS(eglMakeCurrent(initialised(), surface, surface, context));
+        EXPECT_EQ(backEnd().createdWith.contextHandle, reinterpret_cast<uintptr_t>(context));
+        return backEnd().createdWith;
+    }
+};
+
+} // namespace
+
+TEST_F(Contexts, NoAttributesGiveAnEs1Context) {
+    static_cast<void>(initialised());
+    takeLog();
+    const EGLContext context = EntryTest::context(0);
+    EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_VERSION), 1);
+    EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_TYPE), EGL_OPENGL_ES_API);
+    EXPECT_EQ(query(context, EGL_CONFIG_ID), 1);
+    EGLint value = -77;
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglQueryContext(initialised(), context, EGL_RENDER_BUFFER, &value));
+    EXPECT_EQ(value, -77);
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglQueryContext(initialised(), context, EGL_CONFIG_ID, nullptr));
+    EXPECT_EQ(takeLines(" 99 4096 5 ").size(), 1u) << "the host is asked for a legacy context";
+}
+
+TEST_F(Contexts, FailuresComeInOrder) {
+    const auto noShare = reinterpret_cast<EGLContext>(99);
+    EXPECT_FAILS(EGL_BAD_CONFIG, create({0x30FE, 1}, reinterpret_cast<EGLConfig>(55)));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, create({0x30FE, 1}, config(), noShare));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, create({0x30FF, 1}, config()));
+    EXPECT_FAILS(EGL_BAD_CONFIG, create({EGL_CONTEXT_CLIENT_VERSION, 4}, config()));
+    EXPECT_FAILS(EGL_BAD_MATCH,
+                 create({EGL_CONTEXT_CLIENT_VERSION, 2, EGL_CONTEXT_MINOR_VERSION_KHR, 1}, config(), noShare));
+    EXPECT_FAILS(EGL_BAD_MATCH, create({EGL_CONTEXT_CLIENT_VERSION, 3, EGL_CONTEXT_MINOR_VERSION_KHR, 3}, config()));
+    EXPECT_FAILS(EGL_BAD_CONTEXT, create({EGL_CONTEXT_CLIENT_VERSION, 2}, config(), noShare));
+    EXPECT_EQ(query(create({}, nullptr), EGL_CONFIG_ID), 0) << "a null config stands for id 0";
+    EXPECT_NE(create({EGL_CONTEXT_MINOR_VERSION_KHR, 7}, config()), EGL_NO_CONTEXT) << "ES 1 takes any minor version";
+}
+
+TEST_F(Contexts, BackEndGetsTheAttributes) {
+    const auto attribs = attribsOf({EGL_CONTEXT_CLIENT_VERSION, 3, EGL_CONTEXT_MINOR_VERSION_KHR, 1, 0x30FC, 9, 0x30FD,
+                                    5, 0x3100, 0x9999, 0x31BD, 0x31BF, 0x30BF, 1, 0x3138, 1});
+    const ContextAttribs expected = {attribs.contextHandle, 3, 3, 1, 9, 5, 0x31BF, 0x9999, 0, 0, 0, 1, 0, {}};
+    EXPECT_EQ(memcmp(&attribs, &expected, sizeof expected), 0);
+    EXPECT_EQ(backEnd().displayAndHandle[0], reinterpret_cast<uintptr_t>(initialised()));
+    EXPECT_EQ(backEnd().displayAndHandle[1], attribs.contextHandle);
+    EXPECT_STREQ(backEnd().profilesDirectory, "");
+}
+
+TEST_F(Contexts, Es2OnAnEs3ConfigIsRaised) {
+    const auto attribs = attribsOf({EGL_CONTEXT_CLIENT_VERSION, 2, EGL_CONTEXT_OPENGL_NO_ERROR_KHR, EGL_FALSE});
+    // Medium priority, and no errors in spite of EGL_FALSE.
+    const ContextAttribs expected = {attribs.contextHandle, 2, 3, 0, 0, 0, 0, 0x3102, 0, 0, 0, 1, 0, {}};
+    EXPECT_EQ(memcmp(&attribs, &expected, sizeof expected), 0);
+    EXPECT_EQ(query(eglGetCurrentContext(), EGL_CONTEXT_CLIENT_VERSION), 2);
+}
+
+TEST_F(Contexts, DestroyWaitsForTheUnbind) {
+    const EGLContext context = current();
+    takeLog();
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, context));
+    EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_VERSION), 2);
+    EXPECT_EQ(takeLog(), "");
+    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
+    EXPECT_EQ(takeLines("zvDeleteEsContext").size(), 1u);
+    EXPECT_FAILS(EGL_BAD_CONTEXT, eglDestroyContext(m_display, context));
+
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, EntryTest::context()));
+    EXPECT_EQ(takeLines("zvDeleteEsContext").size(), 0u) << "one that never was bound goes without the back end";
+
+    useBackEnds("no_delete");
+    const EGLContext stays = current();
+    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
+    takeLog();
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, stays));
+    EXPECT_EQ(takeLines("releaseContext").size(), 1u) << "the host context is gone";
+    EXPECT_EQ(query(stays, EGL_CONTEXT_CLIENT_VERSION), 2) << "while the handle stays";
+}
+
+TEST_F(Contexts, LibraryStaysForAsLongAsAContextIsLeft) {
+    const std::string path = std::string(STAGE_DIRECTORY) + "/back_ends/libGLESv1_CM.so.1";
+    const auto isLoaded = [&] {
+        void *library = dlopen(path.c_str(), RTLD_NOW | RTLD_NOLOAD);
+        return library && dlclose(library) == 0;
+    };
+    const EGLContext one = context(1), other = context(1);
+    eglDestroyContext(m_display, one);
+    EXPECT_TRUE(isLoaded());
+    eglDestroyContext(m_display, other);
+    EXPECT_FALSE(isLoaded());
+    const EGLContext last = current(1);
+    procAddress<void (*)(unsigned)>("glClear")(1);
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, last));
+    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
+    EXPECT_TRUE(isLoaded()) << "once proxies remember its functions";
+}
+
+TEST_F(Contexts, MissingLibraryShowsAtTheFirstBind) {
+    useBackEnds("nowhere");
+    testing::internal::CaptureStderr();
+    const EGLContext context = EntryTest::context();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "(Error) failed to load library 'libGLESv2.so.2'\n");
+    const EGLSurface surface = window();
+    EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, surface, surface, context));
+}

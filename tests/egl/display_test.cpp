@@ -1,0 +1,126 @@
+#include "egl/fixture.h"
+
+#include <filesystem>
+
+using DisplayEntries = EntryTest;
+
+TEST_F(DisplayEntries, FirstErrorSticksUntilASuccess) {
+    EXPECT_FALSE(eglBindAPI(EGL_OPENGL_API) || eglTerminate(nullptr));
+    EXPECT_EQ(eglGetError(), EGL_BAD_PARAMETER) << "and not the later EGL_BAD_DISPLAY";
+    EXPECT_EQ(eglGetError(), EGL_SUCCESS);
+    EXPECT_FALSE(eglBindAPI(EGL_OPENGL_API));
+    EXPECT_EQ(eglQueryAPI(), EGLenum(EGL_OPENGL_ES_API));
+    EXPECT_EQ(eglGetError(), EGL_SUCCESS) << "success clears what was pending";
+}
+
+TEST_F(DisplayEntries, SmallEntriesLoadNothing) {
+    const std::string file = getenv("HOME") + std::string("/.kzrconfig/Tarnwell Graphics/com.tarnlight.Zelvane.plist");
+    EXPECT_SUCCEEDS(eglBindAPI(EGL_OPENGL_ES_API) && eglWaitClient() && eglWaitGL() && eglReleaseThread());
+    EXPECT_SUCCEEDS(eglWaitNative(EGL_CORE_NATIVE_ENGINE));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglWaitNative(1));
+    EXPECT_FALSE(eglGetCurrentContext() || eglGetCurrentDisplay() || eglGetCurrentSurface(-1));
+    EXPECT_EQ(eglGetError(), EGL_SUCCESS) << "with nothing current the name is not looked at";
+    EXPECT_STREQ(eglQueryString(nullptr, EGL_EXTENSIONS), "EGL_EXT_client_extensions EGL_EXT_platform_base ");
+    EXPECT_STREQ(eglQueryString(nullptr, EGL_VERSION), "1.5 (Zelvane 6.31 (SDK 4.7@2031846))");
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_FAILS(EGL_BAD_DISPLAY, eglQueryString(nullptr, EGL_VENDOR));
+    EXPECT_TRUE(std::filesystem::exists(file)) << "any other entry loads, and makes the file";
+}
+
+TEST_F(DisplayEntries, OneDisplayForOneNativeId) {
+    const auto getPlatformDisplay = procAddress<PFNEGLGETPLATFORMDISPLAYEXTPROC>("eglGetPlatformDisplayEXT");
+    const auto id = reinterpret_cast<EGLNativeDisplayType>(0x1234);
+    const EGLDisplay display = eglGetDisplay(id);
+    EXPECT_EQ(eglGetDisplay(id), display);
+    EXPECT_EQ(getPlatformDisplay(0xBAD, id, nullptr), display) << "the platform is not looked at";
+    EXPECT_NE(eglGetDisplay(EGL_DEFAULT_DISPLAY), display);
+    EXPECT_FAILS(EGL_BAD_DISPLAY, eglInitialize(reinterpret_cast<EGLDisplay>(id), nullptr, nullptr));
+}
+
+TEST_F(DisplayEntries, InitializeAndTerminateMoveBetweenTwoStates) {
+    m_display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
+    EXPECT_FAILS(EGL_NOT_INITIALIZED, eglQueryString(m_display, EGL_VERSION));
+    EXPECT_FAILS(EGL_NOT_INITIALIZED, eglTerminate(m_display));
+    EGLint major = -1, minor = -1;
+    EXPECT_SUCCEEDS(eglInitialize(m_display, &major, &minor));
+    EXPECT_EQ(major * 10 + minor, 15);
+    EXPECT_STREQ(eglQueryString(m_display, EGL_VENDOR), "Tarnwell Graphics");
+    EXPECT_STREQ(eglQueryString(m_display, EGL_VERSION), "1.5 (Zelvane 6.31 (SDK 4.7@2031846))");
+    EXPECT_STREQ(eglQueryString(m_display, EGL_CLIENT_APIS), "OpenGL_ES");
+    EXPECT_STREQ(eglQueryString(m_display, EGL_EXTENSIONS),
+                 "EGL_ANDROID_image_native_buffer EGL_EXT_create_context_robustness EGL_EXT_swap_buffers_with_damage "
+                 "EGL_TWG_context_priority EGL_KHR_fence_sync EGL_KHR_gl_colorspace EGL_KHR_create_context "
+                 "EGL_KHR_create_context_no_error EGL_KHR_image EGL_KHR_image_base EGL_KHR_gl_image "
+                 "EGL_KHR_no_config_context EGL_KHR_partial_update EGL_KHR_surfaceless_context "
+                 "EGL_KHR_swap_buffers_with_damage EGL_KHR_wait_sync ");
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglQueryString(m_display, EGL_WIDTH));
+
+    const EGLContext first = context();
+    takeLog();
+    EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
+    EXPECT_EQ(takeLines("createPixelFormat").size(), 0u) << "a second initialise keeps the list";
+    EXPECT_SUCCEEDS(eglTerminate(m_display));
+    EXPECT_FAILS(EGL_NOT_INITIALIZED, eglTerminate(m_display));
+    EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
+    EXPECT_EQ(takeLines("createPixelFormat").size(), 1u);
+    EXPECT_FAILS(EGL_BAD_CONTEXT, eglDestroyContext(m_display, first));
+    EXPECT_GT(context(), first) << "handles go on counting";
+}
+
+TEST_F(DisplayEntries, FailedLoadIsTriedAgain) {
+    const std::string home = getenv("HOME");
+    setenv("HOME", "", 1);
+    testing::internal::CaptureStderr();
+    EXPECT_FAILS(EGL_SUCCESS, eglGetDisplay(EGL_DEFAULT_DISPLAY));
+    EXPECT_FAILS(EGL_NOT_INITIALIZED, eglInitialize(nullptr, nullptr, nullptr));
+    const std::string once = "(Error) ERROR: Failed to retrieve $(HOME) variable.\n"
+                             "(Error) Failed to load Zelvane preferences file\n";
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), once + once);
+    setenv("HOME", home.c_str(), 1);
+    EXPECT_SUCCEEDS(eglInitialize(eglGetDisplay(EGL_DEFAULT_DISPLAY), nullptr, nullptr));
+}
+
+TEST_F(DisplayEntries, BuiltInConfigIsTheOnlyOne) {
+    const std::pair<EGLint, std::vector<EGLint>> answers[] = {
+        {0, {EGL_LEVEL, EGL_MAX_SWAP_INTERVAL, EGL_NATIVE_VISUAL_ID, EGL_NATIVE_VISUAL_TYPE, EGL_CONFORMANT}},
+        {1, {EGL_CONFIG_ID, EGL_SAMPLE_BUFFERS, EGL_BIND_TO_TEXTURE_RGBA, EGL_BIND_TO_TEXTURE_RGB}},
+        {8, {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE, EGL_STENCIL_SIZE}},
+        {EGL_NONE, {EGL_CONFIG_CAVEAT, EGL_TRANSPARENT_TYPE}},
+        {4, {EGL_SAMPLES}},
+        {7, {EGL_SURFACE_TYPE}},
+        {24, {EGL_DEPTH_SIZE}},
+        {32, {EGL_BUFFER_SIZE}},
+        {0x45, {EGL_RENDERABLE_TYPE}},
+        {1000, {EGL_MIN_SWAP_INTERVAL}}};
+    EGLConfig configs[2];
+    EGLint value = -77;
+    EXPECT_SUCCEEDS(eglGetConfigs(initialised(), configs, 2, &value));
+    EXPECT_EQ(value, 1);
+    EXPECT_EQ(configs[0], config());
+    for (const auto &[expected, attributes] : answers)
+        for (const EGLint attribute : attributes) {
+            EXPECT_SUCCEEDS(eglGetConfigAttrib(m_display, config(), attribute, &value));
+            EXPECT_EQ(value, expected) << std::hex << attribute;
+        }
+    value = -77;
+    for (const EGLint attribute : {EGL_MAX_PBUFFER_WIDTH, EGL_MATCH_NATIVE_PIXMAP, 0})
+        EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglGetConfigAttrib(m_display, config(), attribute, &value));
+    EXPECT_FAILS(EGL_BAD_CONFIG, eglGetConfigAttrib(m_display, nullptr, EGL_CONFIG_ID, &value));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglGetConfigAttrib(m_display, config(), EGL_CONFIG_ID, nullptr));
+    EXPECT_EQ(value, -77);
+}
+
+TEST_F(DisplayEntries, ChooseConfigChecksInOrder) {
+    const EGLDisplay display = initialised();
+    const EGLint bad[] = {EGL_BUFFER_SIZE, -2, EGL_NONE}, none[] = {EGL_RED_SIZE, 9, EGL_NONE};
+    EGLConfig chosen = nullptr;
+    EGLint count = -77;
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglChooseConfig(display, bad, &chosen, 1, nullptr));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglChooseConfig(display, bad, &chosen, 1, &count));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglGetConfigs(display, &chosen, 1, nullptr));
+    EXPECT_EQ(count, -77);
+    EXPECT_SUCCEEDS(eglChooseConfig(display, none, &chosen, 1, &count));
+    EXPECT_TRUE(count == 0 && !chosen);
+    EXPECT_SUCCEEDS(eglChooseConfig(display, nullptr, &chosen, 1, &count));
+    EXPECT_TRUE(count == 1 && chosen == config());
+}

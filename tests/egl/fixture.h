@@ -1,0 +1,62 @@
+// A process with the staged library, an initialised display and the fakes within reach.
+#pragma once
+
+#include <EGL/egl.h>
+#include <EGL/eglext.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "fakes/control.h"
+
+class EntryTest : public testing::Test {
+protected:
+    EntryTest();
+
+    // The calls on the recording platform, the fake host and the fake back ends since the last time, one a line.
+    static std::string takeLog();
+    // Those that contain the text.
+    static std::vector<std::string> takeLines(const std::string &containing);
+
+    static void useBackEnds(const char *directory); // below the stage
+    static FakeBackEnd &backEnd();                  // of ES 2
+    static FakeGl &hostGl();
+
+    EGLDisplay initialised();
+    EGLConfig config();
+    // major 0 passes no attributes at all.
+    EGLContext context(EGLint major = 2, EGLContext share = EGL_NO_CONTEXT);
+    EGLSurface window(EGLNativeWindowType id = 77);
+    EGLSurface pbuffer(EGLint width = 16, EGLint height = 8);
+    // A context of this version current on a window. Its host context is context3 where it is the first of ES 2: the
+    // load has probed the host with context1, and the raising of its version with context2.
+    EGLContext current(EGLint major = 2);
+
+    // The answer of eglQuerySurface, -77 where it stores nothing.
+    EGLint querySurface(EGLSurface surface, EGLint attribute);
+
+    EGLDisplay m_display = EGL_NO_DISPLAY;
+    const EGLSurface unknownSurface = reinterpret_cast<EGLSurface>(99);
+};
+
+// A function of eglGetProcAddress under its type.
+template <typename Function>
+Function procAddress(const char *name) {
+    return reinterpret_cast<Function>(eglGetProcAddress(name));
+}
+
+// False, null or 0, and the error that comes with it.
+#define EXPECT_FAILS(error, call)                                                                                      \
+    do {                                                                                                               \
+        EXPECT_FALSE(call);                                                                                            \
+        EXPECT_EQ(eglGetError(), error);                                                                               \
+    } while (false)
+
+#define EXPECT_SUCCEEDS(call) EXPECT_TRUE(succeeded(call))
+
+inline testing::AssertionResult succeeded(EGLBoolean result) {
+    const EGLint error = eglGetError();
+    if (result && error == EGL_SUCCESS) return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "result " << result << ", error 0x" << std::hex << error;
+}

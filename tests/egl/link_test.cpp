@@ -1,0 +1,226 @@
+// What a GUI sees of an application, and what its commands do to the back ends.
+#include "egl/fixture.h"
+
+#include <atomic>
+#include <csignal>
+#include <thread>
+#include <unistd.h>
+
+#include "host/platform/recording/control.h"
+#include "ui/scripted_gui.h"
+#include "zelvane/back_end.h"
+
+using namespace ui::messages;
+
+extern "C" __attribute__((visibility("default"))) uint32_t ZelvaneConfiguration;
+uint32_t ZelvaneConfiguration = 0;
+
+namespace {
+
+class EntryLink : public EntryTest {
+protected:
+    // The first EGL call connects.
+    void connect() {
+        initialised();
+        gui.accept();
+    }
+
+    // The text of the next window title and nothing in between but what is no title.
+    std::string nextTitle() { return textOf(gui.readUntil(ZV_WINDOW_TITLE)); }
+
+    // Lines of the back ends about the render mode, once there are so many.
+    static std::vector<std::string> renderModeLines(size_t count) {
+        std::vector<std::string> lines;
+        for (int wait = 0; lines.size() < count && wait < 3000; ++wait) {
+            for (auto &line : takeLines("zvSetRenderMode"))
+                lines.push_back(std::move(line));
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        return lines;
+    }
+
+    ScriptedGui gui;
+};
+
+using Lines = std::vector<std::string>;
+
+// Modes that the process sent itself. The socket holds far fewer than the receiver has to take below.
+std::atomic<int> modesSent = 0;
+
+// Runs when the static objects of the libraries are gone, and lets their threads go on for a while. A thread that a
+// sanitizer holds takes nothing more.
+void linger(int, void *) {
+    const int before = modesSent;
+    for (int wait = 0; before && modesSent < before + 500; ++wait) {
+        if (wait == 20000) _exit(1);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
+// What is registered before any library starts is called after every library has ended.
+__attribute__((no_sanitize("address", "thread", "undefined"))) void lingerAtTheEnd() {
+    on_exit(linger, nullptr);
+}
+__attribute__((section(".preinit_array"), used)) void (*const beforeLibraries)() = lingerAtTheEnd;
+
+} // namespace
+
+TEST_F(EntryLink, HelloComesWithTheFirstCall) {
+    connect();
+    const auto hello = gui.read();
+    ASSERT_TRUE(hello);
+    EXPECT_EQ(hello->header.type, ZV_PROCESS_HELLO);
+    EXPECT_EQ(hello->processHello.processNumber, getpid());
+}
+
+TEST_F(EntryLink, TheSystemReportFollowsTheHello) {
+    connect();
+    EXPECT_EQ(gui.read()->header.type, ZV_PROCESS_HELLO);
+    const Message version = *gui.read();
+    EXPECT_EQ(version.header.type, ZV_SYSTEM_REPORT_GL_VERSION);
+    EXPECT_EQ(version.header.frameStamp, 0u);
+    EXPECT_GT(version.glVersion.glVersion, 0u);
+    for (uint32_t extension = 1; extension <= 642; ++extension) {
+        const Message fact = *gui.read();
+        ASSERT_EQ(fact.header.type, ZV_SYSTEM_REPORT_EXTENSION);
+        ASSERT_EQ(fact.extension.extension, extension);
+        ASSERT_LE(fact.extension.isAvailable, 1u);
+    }
+    const Message feature = *gui.read(), alternative = *gui.read();
+    EXPECT_EQ(feature.header.type, ZV_SYSTEM_REPORT_FEATURE);
+    EXPECT_STREQ(feature.feature.name, "buffer object mapping");
+    EXPECT_EQ(alternative.header.type, ZV_SYSTEM_REPORT_FEATURE_ALTERNATIVE);
+    EXPECT_STREQ(alternative.featureAlternative.name, "buffer object mapping");
+    EXPECT_STREQ(gui.readUntil(ZV_SYSTEM_REPORT_ES_REQUIREMENT).esRequirement.feature, "buffer object mapping");
+    const auto extension = gui.readUntil(ZV_SYSTEM_REPORT_ES_EXTENSION_REQUIREMENT).esExtensionRequirement;
+    EXPECT_EQ(extension.esExtension, 38u);
+    EXPECT_STREQ(extension.feature, "buffer object mapping");
+    EXPECT_EQ(gui.readUntil(ZV_SYSTEM_REPORT_END).header.frameStamp, ZV_NO_FRAME);
+}
+
+TEST_F(EntryLink, LogLinesTravelWithTheirLevel) {
+    connect();
+    current();
+    (void)eglCopyBuffers(m_display, eglGetCurrentSurface(EGL_DRAW), 0);
+    EXPECT_EQ(textOf(gui.readUntil(ZV_LOG_WARNING)), "eglCopyBuffers is not currently supported by Zelvane.");
+    std::thread([this] {
+        useBackEnds("nowhere");
+        context();
+    }).join();
+    EXPECT_EQ(textOf(gui.readUntil(ZV_LOG_ERROR)), "failed to load library 'libGLESv2.so.2'");
+}
+
+TEST_F(EntryLink, EveryBindToAWindowSendsItsTitle) {
+    connect();
+    const EGLContext made = current();
+    EXPECT_EQ(nextTitle(), "seventy-seven");
+    recordingSetWindow(77, 640, 480, "renamed");
+    const EGLSurface small = pbuffer();
+    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, small, small, made));
+    const EGLSurface drawn = eglCreateWindowSurface(m_display, config(), 77, nullptr);
+    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, drawn, drawn, made));
+    EXPECT_EQ(nextTitle(), "renamed") << "a pixel buffer sends nothing";
+    const EGLSurface nameless = window(78);
+    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nameless, nameless, made));
+    EXPECT_EQ(nextTitle(), "");
+}
+
+TEST_F(EntryLink, AFailedHostBindHasSentTheTitle) {
+    connect();
+    const EGLContext made = context();
+    const EGLSurface drawn = window();
+    recordingFailNext("makeCurrent");
+    EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, drawn, drawn, made));
+    EXPECT_EQ(nextTitle(), "seventy-seven");
+}
+
+TEST_F(EntryLink, AnEmbedderKeepsTitlesBack) {
+    ZelvaneConfiguration = 8;
+    connect();
+    current();
+    zvPostFrameMessage(backEndMarker());
+    EXPECT_EQ(gui.readUntil(ZV_PROCESS_HELLO).processHello.processNumber, getpid());
+    // The System Report may come before it.
+    for (auto message = gui.read(); message->header.type != ZV_BACK_END_MARKER; message = gui.read())
+        ASSERT_NE(message->header.type, ZV_WINDOW_TITLE);
+}
+
+TEST_F(EntryLink, FrameMessagesCarryTheNumberOfTheFrame) {
+    connect();
+    current();
+    for (uint64_t frame = 0; frame < 3; ++frame) {
+        zvPostFrameMessage(backEndText(uint32_t(frame), 5, "of a back end"));
+        const Message message = gui.readUntil(ZV_BACK_END_TEXT);
+        EXPECT_EQ(message.header.frameStamp, frame);
+        EXPECT_EQ(message.backEndText.values[0], frame);
+        EXPECT_STREQ(message.backEndText.text, "of a back end");
+        EXPECT_SUCCEEDS(eglSwapBuffers(m_display, eglGetCurrentSurface(EGL_DRAW)));
+    }
+}
+
+TEST_F(EntryLink, RenderModeReachesContextsInTheOrderOfTheirHandles) {
+    connect();
+    context(2);
+    context(1);
+    const EGLContext destroyed = context(1);
+    current(3);
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, destroyed));
+    takeLog();
+    gui.send(guiRenderModeOn());
+    EXPECT_EQ(renderModeLines(3),
+              (Lines{"es2 zvSetRenderMode(1, 1)", "es1 zvSetRenderMode(1, 1)", "es2 zvSetRenderMode(1, 1)"}));
+    gui.send(guiRenderModeOff());
+    EXPECT_EQ(renderModeLines(3),
+              (Lines{"es2 zvSetRenderMode(0, 1)", "es1 zvSetRenderMode(0, 1)", "es2 zvSetRenderMode(0, 1)"}));
+}
+
+TEST_F(EntryLink, RenderModeWalksDisplaysInTheOrderOfTheirHandles) {
+    connect();
+    const EGLDisplay second = eglGetDisplay(reinterpret_cast<EGLNativeDisplayType>(0x5150));
+    EXPECT_SUCCEEDS(eglInitialize(second, nullptr, nullptr));
+    context(2);
+    EGLConfig config = nullptr;
+    EGLint count = 0;
+    EXPECT_SUCCEEDS(eglGetConfigs(second, &config, 1, &count));
+    EXPECT_NE(eglCreateContext(second, config, EGL_NO_CONTEXT, nullptr), EGL_NO_CONTEXT);
+    takeLog();
+    gui.send(guiRenderModeOn());
+    Lines expected{"es2 zvSetRenderMode(1, 1)", "es1 zvSetRenderMode(1, 1)"};
+    if (second < m_display) std::swap(expected[0], expected[1]);
+    EXPECT_EQ(renderModeLines(2), expected);
+}
+
+TEST_F(EntryLink, ModesArriveWhileThreadsMakeAndDestroyContexts) {
+    connect();
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([this] {
+            for (int i = 0; i < 20; ++i)
+                EXPECT_TRUE(eglDestroyContext(m_display, context()));
+        });
+    }
+    for (int i = 0; i < 50; ++i)
+        gui.send(i % 2 ? guiRenderModeOff() : guiRenderModeOn());
+    for (auto &thread : threads)
+        thread.join();
+    gui.send(guiDisconnect());
+    while (gui.read()) {
+    }
+    EXPECT_TRUE(eglInitialize(m_display, nullptr, nullptr)) << "the application goes on";
+}
+
+// The threads of the link outlive the state, whose displays go while the process ends.
+TEST_F(EntryLink, ProcessEndsWhileModesArrive) {
+    connect();
+    for (uintptr_t id = 1; id < 200; ++id)
+        (void)eglGetDisplay(reinterpret_cast<EGLNativeDisplayType>(id));
+    auto *client = new KZRIPC::Client(gui.release());
+    std::thread([client] {
+        const Message on = guiRenderModeOn();
+        signal(SIGPIPE, SIG_IGN);
+        while (client->send(&on, sizeof on) > 0)
+            ++modesSent;
+    }).detach();
+    while (modesSent == 0)
+        std::this_thread::yield();
+}

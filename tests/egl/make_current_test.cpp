@@ -1,0 +1,163 @@
+#include "egl/fixture.h"
+
+#include <thread>
+
+#include "host/platform/recording/control.h"
+
+namespace {
+
+class MakeCurrent : public EntryTest {
+protected:
+    EGLBoolean makeCurrent(EGLSurface draw, EGLSurface read, EGLContext context) {
+        return eglMakeCurrent(initialised(), draw, read, context);
+    }
+    EGLBoolean release() { return makeCurrent(nullptr, nullptr, nullptr); }
+    void expectNothingCurrent() {
+        EXPECT_FALSE(eglGetCurrentContext() || eglGetCurrentDisplay() || zvCurrentEsContext());
+    }
+};
+
+} // namespace
+
+TEST_F(MakeCurrent, BindsHostThenBackEnd) {
+    const EGLContext context = EntryTest::context();
+    const EGLSurface surface = window();
+    takeLog();
+    EXPECT_SUCCEEDS(makeCurrent(surface, surface, context));
+    EXPECT_EQ(takeLog(), "viewTitle(0:77)\n"
+                         "setView(context3, 0:77) = true\n"
+                         "observeViewFrame(context3, 0:77)\n"
+                         "currentContext() = null\n"
+                         "makeCurrent(context3) = true\n"
+                         "glGetError()\n"
+                         "es2 zvCreateEsContext(share (nil)) = 0x100\n");
+    EXPECT_EQ(backEnd().currentDuringCreate, nullptr);
+    EXPECT_SUCCEEDS(eglReleaseThread()); // which releases nothing
+    EXPECT_TRUE(eglGetCurrentContext() == context && eglGetCurrentDisplay() == m_display);
+    EXPECT_TRUE(eglGetCurrentSurface(EGL_DRAW) == surface && eglGetCurrentSurface(EGL_READ) == surface);
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglGetCurrentSurface(EGL_WIDTH));
+    EXPECT_EQ(zvCurrentEsContext(), reinterpret_cast<zvEsContext>(0x100));
+
+    EXPECT_SUCCEEDS(makeCurrent(surface, surface, context));
+    EXPECT_EQ(takeLines("es2 "), std::vector<std::string>{"es2 zvSetEsContextAttribs(0x100)"});
+
+    EXPECT_SUCCEEDS(release());
+    expectNothingCurrent();
+    EXPECT_EQ(takeLog(), "clearCurrentContext()\n");
+}
+
+TEST_F(MakeCurrent, FailuresAndWhatSurvivesThem) {
+    EXPECT_SUCCEEDS(release());
+    const EGLContext old = current(), fresh = context();
+    const EGLSurface surface = window();
+
+    EXPECT_FAILS(EGL_BAD_CONTEXT, makeCurrent(surface, surface, nullptr));
+    EXPECT_EQ(eglGetCurrentContext(), old);
+    EXPECT_FAILS(EGL_BAD_SURFACE, makeCurrent(nullptr, surface, old));
+    EXPECT_EQ(eglGetCurrentContext(), old) << "rebinding the same context loses nothing";
+    EXPECT_FAILS(EGL_BAD_SURFACE, makeCurrent(surface, unknownSurface, fresh));
+    expectNothingCurrent();
+
+    recordingFailNext("setView");
+    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, fresh));
+    backEnd().createFailures = 1;
+    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, fresh));
+    expectNothingCurrent();
+    EXPECT_SUCCEEDS(makeCurrent(surface, surface, fresh)) << "a later bind tries again";
+    recordingFailNext("setPixelBuffer");
+    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(nullptr, nullptr, old));
+    expectNothingCurrent(); // a bind without surfaces loses the old context too
+
+    useBackEnds("no_create");
+    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, context()));
+}
+
+TEST_F(MakeCurrent, ContextBelongsToOneThread) {
+    const EGLContext context = current();
+    std::thread([&] {
+        const EGLSurface surface = window(78);
+        EXPECT_FAILS(EGL_BAD_ACCESS, makeCurrent(surface, surface, context));
+        EXPECT_EQ(eglGetCurrentContext(), EGL_NO_CONTEXT);
+    }).join();
+
+    const EGLContext lost = EntryTest::context();
+    const EGLSurface surface = window();
+    std::thread([&] { EXPECT_TRUE(makeCurrent(surface, surface, lost)); }).join();
+    EXPECT_FAILS(EGL_BAD_ACCESS, makeCurrent(surface, surface, lost));
+    takeLog();
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, lost));
+    EXPECT_EQ(takeLog(), "") << "still marked as bound, so only marked as doomed";
+}
+
+TEST_F(MakeCurrent, SurfacelessBindHasAPixelBufferOfItsOwn) {
+    const EGLContext context = EntryTest::context();
+    const auto drawHandle = [] { return reinterpret_cast<uintptr_t>(eglGetCurrentSurface(EGL_DRAW)); };
+    EXPECT_SUCCEEDS(makeCurrent(nullptr, nullptr, context));
+    EXPECT_EQ(backEnd().createdWith.surfaceless, 1);
+    EXPECT_EQ(drawHandle(), 1u) << "numbered as any other surface";
+    EXPECT_EQ(eglGetCurrentSurface(EGL_READ), eglGetCurrentSurface(EGL_DRAW));
+    EXPECT_EQ(querySurface(eglGetCurrentSurface(EGL_DRAW), EGL_WIDTH), 1);
+    EXPECT_EQ(querySurface(eglGetCurrentSurface(EGL_DRAW), EGL_HEIGHT), 1);
+    EXPECT_SUCCEEDS(makeCurrent(nullptr, nullptr, context));
+    EXPECT_EQ(drawHandle(), 2u) << "a new one at each bind";
+
+    recordingFailNext("setPixelBuffer");
+    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(nullptr, nullptr, context));
+    EXPECT_EQ(eglGetCurrentContext(), context);
+    EXPECT_EQ(drawHandle(), 0u) << "while a failed surfaceless bind has left its mark";
+}
+
+TEST_F(MakeCurrent, SrgbSurfaceIsNeverForgotten) {
+    const EGLint srgb[] = {EGL_GL_COLORSPACE, EGL_GL_COLORSPACE_SRGB, EGL_NONE};
+    const EGLSurface surface = eglCreateWindowSurface(initialised(), config(), 77, srgb);
+    const EGLSurface linear = window();
+    const EGLContext context = EntryTest::context();
+    EXPECT_SUCCEEDS(makeCurrent(surface, surface, context));
+    EXPECT_EQ(backEnd().createdWith.srgbFramebuffer, 1);
+    EXPECT_SUCCEEDS(makeCurrent(linear, linear, context));
+    EXPECT_EQ(backEnd().setTo.srgbFramebuffer, 1);
+}
+
+TEST_F(MakeCurrent, ShareContextIsPrimedFirst) {
+    const EGLContext grandparent = context(1), parent = context(2, grandparent), child = context(2, parent);
+    const EGLSurface surface = window();
+    takeLog();
+    testing::internal::CaptureStdout();
+    EXPECT_SUCCEEDS(makeCurrent(surface, surface, child));
+    fflush(stdout);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "(Warning) Attempting to share two contexts of differing API versions is unsupported.\n");
+    EXPECT_EQ(takeLines("zvCreateEsContext"), (std::vector<std::string>{"es1 zvCreateEsContext(share (nil)) = 0x100",
+                                                                        "es2 zvCreateEsContext(share 0x100) = 0x100",
+                                                                        "es2 zvCreateEsContext(share 0x100) = 0x101"}));
+    EXPECT_EQ(eglGetCurrentContext(), child);
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, parent)) << "priming leaves nothing bound";
+    EXPECT_EQ(takeLines("zvDeleteEsContext(0x100)").size(), 1u);
+}
+
+TEST_F(MakeCurrent, CurrentObjectsSurviveTerminate) {
+    const EGLContext context = current();
+    const EGLSurface surface = eglGetCurrentSurface(EGL_DRAW);
+    EXPECT_SUCCEEDS(eglTerminate(m_display));
+    EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
+    takeLog();
+    EGLint id = -77;
+    EXPECT_SUCCEEDS(eglQueryContext(m_display, context, EGL_CONFIG_ID, &id));
+    EXPECT_EQ(id, 1) << "its config outlives the list";
+    EXPECT_SUCCEEDS(eglSwapBuffers(m_display, surface));
+    EXPECT_EQ(takeLines("flushBuffer").size(), 1u);
+    EXPECT_SUCCEEDS(release());
+    EXPECT_FAILS(EGL_BAD_CONTEXT, eglQueryContext(m_display, context, EGL_CONFIG_ID, &id));
+    EXPECT_EQ(takeLog(), "clearCurrentContext()\n") << "neither the back end nor the host is told";
+}
+
+TEST_F(MakeCurrent, UnbindLooksUpTheCallersDisplay) {
+    const EGLContext context = current();
+    const EGLDisplay other = eglGetDisplay(reinterpret_cast<EGLNativeDisplayType>(0x1234));
+    EXPECT_SUCCEEDS(eglInitialize(other, nullptr, nullptr));
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, context));
+    takeLog();
+    EXPECT_SUCCEEDS(eglMakeCurrent(other, nullptr, nullptr, nullptr));
+    EXPECT_EQ(takeLines("zvDeleteEsContext").size(), 0u) << "the doomed context is in the other table";
+    expectNothingCurrent();
+}

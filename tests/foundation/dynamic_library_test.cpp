@@ -1,0 +1,87 @@
+#include "foundation/dynamic_library.h"
+
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+#include <filesystem>
+#include <tuple>
+
+#include "foundation/paths.h"
+#include "support/environment.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+// A fresh copy of the library, so that nothing that another case left open is this file.
+class DynamicLibraryTest : public testing::Test {
+protected:
+    DynamicLibraryTest() {
+        fs::create_directories(directory);
+        fs::copy_file(ZELVANE_LOADABLE, directory / name);
+    }
+    ~DynamicLibraryTest() override {
+        fs::remove_all(directory);
+        EXPECT_TRUE(fs::is_empty(getenv("TMPDIR"))) << "a link stays behind";
+    }
+    bool isResident() const {
+        void *handle = dlopen((directory / name).c_str(), RTLD_LAZY | RTLD_NOLOAD);
+        return handle && dlclose(handle) == 0;
+    }
+
+    const std::string name = "loadable.so";
+    const fs::path directory = fs::path(getenv("HOME")) / testing::UnitTest::GetInstance()->current_test_info()->name();
+    const std::string missing = directory / "missing";
+    DynamicLibrary library{name};
+};
+
+TEST_F(DynamicLibraryTest, SearchOrder) {
+    const fs::path inTemporary = fs::path(getenv("TMPDIR")) / "bare.so";
+    fs::copy_file(ZELVANE_LOADABLE, inTemporary);
+    const std::tuple<std::string, std::vector<std::string>, bool, const char *> rows[] = {
+        {name, {missing, directory.string() + "/"}, true, "found in the second, two slashes in a row"},
+        {name, {missing}, false, "found nowhere"},
+        {name, {}, false, "bare name outside the temporary directory"},
+        {"bare.so", {missing}, true, "bare name in the temporary directory, where the link points from"},
+    };
+    for (const auto &[file, paths, isLoaded, reason] : rows) {
+        DynamicLibrary tried(file);
+        EXPECT_EQ(tried.open(paths), isLoaded) << reason;
+        EXPECT_EQ(tried.getSymbol("zelvaneLoadableAnswer") != nullptr, isLoaded) << reason;
+    }
+    fs::remove(inTemporary);
+    const Variable variable("KZRTRACE_LIB_PATH", directory);
+    EXPECT_EQ(esLibrarySearchPaths(), (std::vector<std::string>{getOwnDirectory(), directory}));
+}
+
+TEST_F(DynamicLibraryTest, LastCopyCloses) {
+    ASSERT_TRUE(library.open({directory}));
+    {
+        // A copy was left with a handle that the reopened original had closed.
+        const DynamicLibrary copy(library);
+        EXPECT_FALSE(library.open({missing}));
+        EXPECT_EQ(library.getSymbol("zelvaneLoadableAnswer"), nullptr);
+        EXPECT_NE(copy.getSymbol("zelvaneLoadableAnswer"), nullptr);
+        EXPECT_TRUE(isResident());
+    }
+    EXPECT_FALSE(isResident());
+    EXPECT_TRUE(library.open({directory}) && !library.open({missing}));
+    EXPECT_FALSE(isResident()) << "without copies the old handle goes";
+    EXPECT_TRUE(library.open({directory}));
+    library = DynamicLibrary("other");
+    EXPECT_TRUE(isResident()) << "the handle that was assigned over stays open for good";
+}
+
+TEST_F(DynamicLibraryTest, LongTemporaryDirectoryOpensNothing) {
+    std::string longest = directory.string();
+    while (longest.size() < 1021)
+        longest += "/" + std::string(std::min<size_t>(200, 1020 - longest.size()), 'd');
+    for (const char *end : {"d", "dd"}) { // a slash follows, which makes it 1023 and 1024 in all
+        fs::create_directories(longest + end);
+        const Variable variable("TMPDIR", longest + end);
+        EXPECT_EQ(library.open({directory}), end == "d"s);
+    }
+}
+
+} // namespace

@@ -1,0 +1,25 @@
+// Gives texts to the profile reader, and to the check that tells what the reader makes of them.
+#include <cstdint>
+#include <cstdlib>
+
+#include "profiles/embedded_profiles.h"
+#include "profiles/profile_reader.h"
+#include "tools/check_profile.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
+    static const CKZRTString name("fuzzed");
+    const std::string_view text(reinterpret_cast<const char *>(data), size);
+    (void)egl::profileDisplayName(text);
+
+    egl::DeviceProfile profile;
+    const bool isRead = readDeviceProfile(profile, text, name);
+    for (const egl::Config &config : profile.configs) {
+        // Every attribute beside the id comes from a row or from the defaults: the list ends, and is not long.
+        if (config.toAttributeList().size() > 81) abort();
+    }
+    if (!isRead && !profile.configs.empty()) abort();
+
+    // A text that reads as it looks is one that loads.
+    if (!checkProfile(text, "fuzzed").hasProblems() && !isRead) abort();
+    return 0;
+}

@@ -1,0 +1,90 @@
+#include "preferences/preference_file.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <tuple>
+
+#include "preferences/fnv1_hash.h"
+#include "preferences/preference_home.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class PreferenceFileTest : public PreferenceHome {
+protected:
+    PreferenceFile open(int mode, bool atomic) {
+        return files.openPreferenceFile("Zelvane", mode, false, atomic, error);
+    }
+    void expectFailure(int mode, const std::string &step, int reason) {
+        EXPECT_EQ(open(mode, false).stream, nullptr);
+        EXPECT_EQ(error, step + ": " + strerror(reason));
+    }
+
+    KZRPreferencesUnix files;
+    std::string error;
+};
+
+TEST_F(PreferenceFileTest, ReadingMakesDirectoriesAndTemplate) {
+    const mode_t mask = umask(0);
+    const auto record = open(readPreferences, false);
+    umask(mask);
+    ASSERT_NE(record.stream, nullptr) << error;
+    files.closePreferenceFile(record, false);
+    EXPECT_EQ(text(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                      "<!DOCTYPE plist PUBLIC \"-//Apple Computer//DTD PLIST 1.0//EN\" "
+                      "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                      "<plist version=\"1.0\">\n<dict>\n</dict>\n</plist>\n");
+    for (const auto &made : {home, directory.parent_path(), directory})
+        EXPECT_EQ(static_cast<unsigned>(fs::status(made).permissions()), 0775u) << made;
+}
+
+TEST_F(PreferenceFileTest, FailuresNameTheStep) {
+    fs::create_directories(home);
+    std::ofstream(home / ".kzrconfig") << "in the way";
+    expectFailure(readPreferences, "Failed to create preference directory structure", ENOTDIR);
+    expectFailure(writePreferences, "Failed to open preference file", ENOTDIR);
+    fs::remove(home / ".kzrconfig");
+    // A file that may be written but not read was taken for a missing one, and the template took its place.
+    write("old");
+    fs::permissions(file, fs::perms::owner_write);
+    if (!std::ifstream(file)) expectFailure(readPreferences, "Failed to create preference file", EACCES);
+    fs::permissions(file, fs::perms::owner_all);
+    EXPECT_EQ(text(), "old");
+}
+
+TEST_F(PreferenceFileTest, WritesByModeAndCommits) {
+    const std::tuple<int, bool, bool, const char *, const char *> rows[] = {
+        {writePreferences, true, true, "new", "commit takes the temporary file"},
+        {writePreferences, true, false, "old", "without a commit the file stays"},
+        {writePreferences, false, false, "new", "written in place"},
+        {2, true, false, "new", "other modes write in place whatever atomic says"},
+        {writePreferences, false, true, "", "a commit without a temporary file deletes the file"},
+    };
+    for (const auto &[mode, isAtomic, commits, after, reason] : rows) {
+        write("old");
+        const auto record = open(mode, isAtomic);
+        ASSERT_NE(record.stream, nullptr);
+        fputs("new", record.stream);
+        files.closePreferenceFile(record, commits);
+        EXPECT_EQ(text(), after) << reason;
+        fs::remove(temporary);
+    }
+}
+
+TEST_F(PreferenceFileTest, StampIsTheHashOfTheTimeOfChange) {
+    uint32_t stamp = 77;
+    EXPECT_FALSE(files.getPreferenceFileStamp("Zelvane", false, stamp));
+    EXPECT_EQ(stamp, 77u);
+    write("text");
+    const timespec times[] = {{0, 0}, {0x0102030405, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+    EXPECT_TRUE(files.getPreferenceFileStamp("Zelvane", false, stamp));
+    EXPECT_EQ(stamp, 0x7ef8476au) << "of eight bytes, the lowest first";
+    EXPECT_EQ(fnv1Hash("foobar"), 0x31f0b262u);
+    EXPECT_EQ(fnv1Hash(""), 0u) << "and not the basis";
+}
+
+} // namespace

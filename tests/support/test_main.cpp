@@ -1,0 +1,41 @@
+// Every case runs in a process with a HOME and a TMPDIR of its own, which go away at the end.
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+#include <link.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+// The drivers' own losses and those that the rules require are listed, with reasons, in the suppression files.
+#define FOR_THE_SANITIZER extern "C" __attribute__((visibility("default"), used)) const char *
+FOR_THE_SANITIZER __lsan_default_options() { return "suppressions=" ZELVANE_SANITIZER_SETTINGS "/leak.supp"; }
+FOR_THE_SANITIZER __tsan_default_options() { return "suppressions=" ZELVANE_SANITIZER_SETTINGS "/thread.supp"; }
+
+// Drivers that were unloaded before the leak check could not be told by their names any more.
+static void keepLibrariesLoaded() {
+    const auto keep = [](dl_phdr_info *info, size_t, void *) {
+        if (info->dlpi_name[0] == '/') (void)dlopen(info->dlpi_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+        return 0;
+    };
+    dl_iterate_phdr(keep, nullptr);
+}
+
+int main(int argc, char **argv) {
+    testing::InitGoogleTest(&argc, argv);
+    std::string directory = std::filesystem::temp_directory_path() / "zelvane-test.XXXXXX";
+    if (!mkdtemp(directory.data())) return 1;
+    std::filesystem::create_directory(directory + "/home");
+    std::filesystem::create_directory(directory + "/tmp");
+    setenv("HOME", (directory + "/home").c_str(), 1);
+    setenv("TMPDIR", (directory + "/tmp").c_str(), 1);
+    unsetenv("ZELVANE_PROFILE_PATH");
+    unsetenv("KZRTRACE_LIB_PATH");
+
+    const int result = RUN_ALL_TESTS();
+    keepLibrariesLoaded();
+    std::error_code ignored;
+    std::filesystem::remove_all(directory, ignored);
+    return result;
+}

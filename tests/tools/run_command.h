@@ -1,0 +1,47 @@
+// Runs the zelvane command as a user would.
+#pragma once
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+struct CommandResult {
+    int status;
+    std::string output; // of both streams
+};
+
+// arguments as the shell takes them.
+inline CommandResult run(const std::string &arguments) {
+    FILE *pipe = popen((std::string(ZELVANE_COMMAND) + " " + arguments + " 2>&1").c_str(), "r");
+    CommandResult result{-1, {}};
+    char buffer[4096];
+    while (const size_t count = fread(buffer, 1, sizeof buffer, pipe))
+        result.output.append(buffer, count);
+    const int status = pclose(pipe);
+    if (WIFEXITED(status)) result.status = WEXITSTATUS(status);
+    return result;
+}
+
+inline std::filesystem::path homeDirectory() {
+    return getenv("HOME");
+}
+
+inline std::filesystem::path preferencesFile() {
+    return homeDirectory() / ".kzrconfig/Tarnwell Graphics/com.tarnlight.Zelvane.plist";
+}
+
+inline std::string contentsOf(const std::filesystem::path &path) {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+inline void writeFile(const std::filesystem::path &path, const std::string &text) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
