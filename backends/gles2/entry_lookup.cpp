@@ -1,5 +1,6 @@
 #include "entry_lookup.h"
 
+#include "common/host_library.h"
 #include "es_context.h"
 #include "host_gl.h"
 #include "overrides.h"

@@ -1,11 +1,7 @@
 #include "es_context.h"
 
+#include "common/live_contexts.h"
 #include "host_gl.h"
-
-#include <algorithm>
-#include <atomic>
-#include <mutex>
-#include <set>
 
 namespace {
 
@@ -14,16 +10,19 @@ constexpr GLenum programPointSize = 0x8642;
 constexpr GLenum textureCubeMapSeamless = 0x884F;
 constexpr GLenum framebufferSrgb = 0x8DB9;
 
-// Every live context. The number grows with each change, so that a thread knows when to look again.
-struct LiveContexts {
-    std::mutex mutex;
-    std::set<const void *> contexts; // guarded by mutex
-    std::atomic<uint64_t> changes = 1;
+constexpr std::string_view esExtensionNames[] = {
+#define ES_EXTENSION(name) name,
+#include "data/es_extensions.def"
+#undef ES_EXTENSION
 };
 
-LiveContexts &liveContexts() {
-    static LiveContexts live;
-    return live;
+// Names of the host's extensions that also are extensions of ES, sorted.
+std::vector<std::string> carriedExtensions(const HostFeatures &host) {
+    std::vector<std::string> names;
+    for (const std::string_view name : esExtensionNames) {
+        if (host.hasExtension(name)) names.emplace_back(name);
+    }
+    return names;
 }
 
 std::string versionText(const HostGl &gl, GLint major, GLint minor) {
@@ -57,7 +56,7 @@ void sweepErrors(const HostGl &gl) {
 
 EsContext::EsContext(const ContextAttribs &attribs)
     : major(attribs.esMajor), minor(attribs.esMinor), version(versionText(hostGl(), major, minor)),
-      shadingLanguageVersion(shadingLanguageText(major, minor)), extensionNames(host.esExtensions()),
+      shadingLanguageVersion(shadingLanguageText(major, minor)), extensionNames(carriedExtensions(host)),
       extensions(joined(extensionNames)), hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")) {
     const HostGl &gl = hostGl();
     gl.genVertexArrays(1, &defaultVertexArray);
@@ -65,34 +64,15 @@ EsContext::EsContext(const ContextAttribs &attribs)
     gl.enable(programPointSize);
     if (major >= 3) gl.enable(textureCubeMapSeamless);
     setAttribs(attribs);
-
-    LiveContexts &live = liveContexts();
-    const std::lock_guard lock(live.mutex);
-    live.contexts.insert(this);
-    ++live.changes;
+    contextBegins(this);
 }
 
 EsContext::~EsContext() {
-    LiveContexts &live = liveContexts();
-    const std::lock_guard lock(live.mutex);
-    live.contexts.erase(this);
-    ++live.changes;
+    contextEnds(this);
 }
 
 EsContext *EsContext::current() {
-    struct Answer {
-        const void *asked = nullptr;
-        uint64_t changes = 0;
-        EsContext *context = nullptr;
-    };
-    thread_local Answer last;
-
-    void *const asked = zvCurrentEsContext();
-    LiveContexts &live = liveContexts();
-    if (asked == last.asked && live.changes == last.changes) return last.context;
-    const std::lock_guard lock(live.mutex);
-    last = {asked, live.changes, live.contexts.contains(asked) ? static_cast<EsContext *>(asked) : nullptr};
-    return last.context;
+    return static_cast<EsContext *>(currentLiveContext());
 }
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {

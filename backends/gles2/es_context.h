@@ -2,7 +2,7 @@
 // the host context current; used there.
 #pragma once
 
-#include "host_features.h"
+#include "common/host_features.h"
 
 #include <GLES3/gl32.h>
 #include <zelvane/back_end.h>

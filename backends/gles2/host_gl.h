@@ -1,13 +1,8 @@
-// The host's OpenGL, opened once for the process and never closed: applications hold its function pointers. Any thread.
+// What this library itself calls on the host. Any thread.
 #pragma once
 
 #include <GLES3/gl32.h>
 
-// The host's function, or null. A pointer says nothing about what the host can carry: its loader has a stub for nearly
-// any name. host_features.h knows.
-[[nodiscard]] void *hostFunction(const char *name);
-
-// What this library itself calls on the host.
 // HOST_CALL(field, name)
 #define HOST_CALLS(HOST_CALL)                                                                                          \
     HOST_CALL(bindVertexArray, glBindVertexArray)                                                                      \

@@ -1,0 +1,67 @@
+#include "common/host_features.h"
+
+#include "common/host_library.h"
+
+#include <GLES3/gl3.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+template <typename Function>
+Function *host(Function &, const char *name) {
+    return reinterpret_cast<Function *>(hostFunction(name));
+}
+
+const char *hostString(GLenum name) {
+    const auto getString = host(glGetString, "glGetString");
+    const GLubyte *const text = getString ? getString(name) : nullptr;
+    return text ? reinterpret_cast<const char *>(text) : "";
+}
+
+template <typename Take>
+void forEachWord(std::string_view text, Take take) {
+    while (!text.empty()) {
+        const size_t end = std::min(text.find(' '), text.size());
+        if (end > 0) take(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+} // namespace
+
+HostFeatures::HostFeatures() {
+    int major = 0;
+    int minor = 0;
+    if (std::sscanf(hostString(GL_VERSION), "%d.%d", &major, &minor) == 2) m_version = major * 10 + minor;
+    if (m_version >= 30) {
+        readExtensionList();
+    } else {
+        readExtensionString();
+    }
+}
+
+// A core context has the list alone, a host before 3.0 the string alone.
+void HostFeatures::readExtensionList() {
+    const auto getIntegerv = host(glGetIntegerv, "glGetIntegerv");
+    const auto getStringi = host(glGetStringi, "glGetStringi");
+    if (!getIntegerv || !getStringi) return;
+    GLint count = 0;
+    getIntegerv(GL_NUM_EXTENSIONS, &count);
+    for (GLint index = 0; index < count; ++index) {
+        const GLubyte *const name = getStringi(GL_EXTENSIONS, static_cast<GLuint>(index));
+        if (name) m_extensions.emplace(reinterpret_cast<const char *>(name));
+    }
+}
+
+void HostFeatures::readExtensionString() {
+    forEachWord(hostString(GL_EXTENSIONS), [&](std::string_view name) { m_extensions.emplace(name); });
+}
+
+bool HostFeatures::carries(int version, std::string_view extensions) const {
+    if (version != 0 && m_version >= version) return true;
+    bool found = false;
+    forEachWord(extensions, [&](std::string_view name) { found = found || hasExtension(name); });
+    return found;
+}
