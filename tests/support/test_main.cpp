@@ -10,8 +10,8 @@
 
 // The drivers' own losses and those that the rules require are listed, with reasons, in the suppression files.
 #define FOR_THE_SANITIZER extern "C" __attribute__((visibility("default"), used)) const char *
-FOR_THE_SANITIZER __lsan_default_options() { return "suppressions=" ZELVANE_SANITIZER_SETTINGS "/leak.supp"; }
-FOR_THE_SANITIZER __tsan_default_options() { return "suppressions=" ZELVANE_SANITIZER_SETTINGS "/thread.supp"; }
+FOR_THE_SANITIZER __lsan_default_options() { return ZELVANE_LEAK_OPTIONS; }
+FOR_THE_SANITIZER __tsan_default_options() { return ZELVANE_THREAD_OPTIONS; }
 
 // Drivers that were unloaded before the leak check could not be told by their names any more.
 static void keepLibrariesLoaded() {
@@ -32,6 +32,7 @@ int main(int argc, char **argv) {
     setenv("TMPDIR", (directory + "/tmp").c_str(), 1);
     unsetenv("ZELVANE_PROFILE_PATH");
     unsetenv("KZRTRACE_LIB_PATH");
+    setenv("LSAN_OPTIONS", ZELVANE_LEAK_OPTIONS, 1); // for the commands that cases run
 
     const int result = RUN_ALL_TESTS();
     keepLibrariesLoaded();
