@@ -2,17 +2,10 @@
 #include "entry_lookup.h"
 #include "es_context.h"
 #include "host_gl.h"
+#include "render_mode.h"
 
-#include <atomic>
 #include <memory>
 #include <new>
-
-namespace {
-
-// 1 for wireframe. Written on the link's thread, beside running GL calls.
-std::atomic<uint8_t> renderMode = 0;
-
-} // namespace
 
 zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *, zvEsContext) {
     if (!attribs || !findHostGl()) return nullptr;
@@ -36,5 +29,5 @@ void *zvGetExtProcAddress(const char *name) {
 }
 
 void zvSetRenderMode(const uint8_t *mode, size_t length) {
-    if (mode && length > 0) renderMode.store(*mode, std::memory_order_relaxed);
+    if (mode && length > 0) setRenderMode(*mode);
 }

@@ -4,6 +4,7 @@
 #include "es_context.h"
 #include "host_gl.h"
 #include "overrides.h"
+#include "render_mode.h"
 
 #include <algorithm>
 #include <iterator>
@@ -57,6 +58,7 @@ const EsName *findEsName(std::string_view name) {
 
 void *lookUpEntry(std::string_view name) {
     if (!findHostGl()) return nullptr;
+    if (void *const function = findWireframeSwitch(name)) return function;
     if (const char *const hostName = find(debugNames, name)) return hostFunction(hostName);
     const EsName *const row = findEsName(name);
     if (!row) return nullptr;
@@ -67,7 +69,8 @@ void *lookUpEntry(std::string_view name) {
 
 void *resolveExport(std::string_view name) {
     if (!findHostGl()) return nullptr;
-    if (void *const function = findOverride(name)) return function;
-    const char *const hostName = find(hostNames, name);
-    return hostFunction(hostName ? hostName : std::string(name).c_str());
+    const char *const otherName = find(hostNames, name);
+    const std::string hostName = otherName ? otherName : std::string(name);
+    if (void *const function = findOverride(hostName)) return function;
+    return hostFunction(hostName.c_str());
 }

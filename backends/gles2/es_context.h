@@ -3,6 +3,7 @@
 #pragma once
 
 #include "common/host_features.h"
+#include "render_mode.h"
 
 #include <GLES3/gl32.h>
 #include <zelvane/back_end.h>
@@ -36,4 +37,6 @@ public:
     GLuint defaultVertexArray = 0;
     // The host compiles the shading language of ES.
     const bool hasEsShaders;
+
+    Wireframe wireframe;
 };

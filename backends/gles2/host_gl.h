@@ -3,11 +3,23 @@
 
 #include <GLES3/gl32.h>
 
+#include <type_traits>
+
 // HOST_CALL(field, name)
 #define HOST_CALLS(HOST_CALL)                                                                                          \
     HOST_CALL(bindVertexArray, glBindVertexArray)                                                                      \
     HOST_CALL(deleteVertexArrays, glDeleteVertexArrays)                                                                \
     HOST_CALL(disable, glDisable)                                                                                      \
+    HOST_CALL(drawArrays, glDrawArrays)                                                                                \
+    HOST_CALL(drawArraysInstanced, glDrawArraysInstanced)                                                              \
+    HOST_CALL(drawArraysIndirect, glDrawArraysIndirect)                                                                \
+    HOST_CALL(drawElementsIndirect, glDrawElementsIndirect)                                                            \
+    HOST_CALL(drawElements, glDrawElements)                                                                            \
+    HOST_CALL(drawElementsBaseVertex, glDrawElementsBaseVertex)                                                        \
+    HOST_CALL(drawElementsInstanced, glDrawElementsInstanced)                                                          \
+    HOST_CALL(drawElementsInstancedBaseVertex, glDrawElementsInstancedBaseVertex)                                      \
+    HOST_CALL(drawRangeElements, glDrawRangeElements)                                                                  \
+    HOST_CALL(drawRangeElementsBaseVertex, glDrawRangeElementsBaseVertex)                                              \
     HOST_CALL(enable, glEnable)                                                                                        \
     HOST_CALL(genVertexArrays, glGenVertexArrays)                                                                      \
     HOST_CALL(getBooleanv, glGetBooleanv)                                                                              \
@@ -21,9 +33,15 @@
     HOST_CALL(getStringi, glGetStringi)                                                                                \
     HOST_CALL(shaderSource, glShaderSource)
 
+// DESKTOP_CALL(field, name, type)   What ES has no name for.
+#define DESKTOP_CALLS(DESKTOP_CALL) DESKTOP_CALL(polygonMode, glPolygonMode, void(GLenum face, GLenum mode))
+
 struct HostGl {
 #define HOST_CALL(field, name) decltype(&::name) field;
+#define DESKTOP_CALL(field, name, type) std::add_pointer_t<type> field;
     HOST_CALLS(HOST_CALL)
+    DESKTOP_CALLS(DESKTOP_CALL)
+#undef DESKTOP_CALL
 #undef HOST_CALL
 };
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <type_traits>
 
 namespace {
 
@@ -11,33 +10,11 @@ struct Override {
     void *function;
 };
 
-// The published prototype is the judge of the signature.
-#define OVERRIDE(name, function)                                                                                       \
-    Override {                                                                                                         \
-#name, reinterpret_cast < void *>(same <decltype(&::name)>(overrides::function))                               \
-    }
-
-template <typename Prototype, typename Function>
-Prototype same(Function *function) {
-    static_assert(std::is_same_v<Prototype, Function *>);
-    return function;
-}
-
 const Override table[] = {
-    OVERRIDE(glBindVertexArray, bindVertexArray),
-    OVERRIDE(glDeleteVertexArrays, deleteVertexArrays),
-    OVERRIDE(glGetBooleanv, getBooleanv),
-    OVERRIDE(glGetFloatv, getFloatv),
-    OVERRIDE(glGetInteger64v, getInteger64v),
-    OVERRIDE(glGetIntegerv, getIntegerv),
-    OVERRIDE(glGetShaderSource, getShaderSource),
-    OVERRIDE(glGetShaderiv, getShaderiv),
-    OVERRIDE(glGetString, getString),
-    OVERRIDE(glGetStringi, getStringi),
-    OVERRIDE(glShaderSource, shaderSource),
-};
-
+#define OVERRIDE(name, function) {#name, reinterpret_cast<void *>(overrides::function)},
+#include "data/overrides.def"
 #undef OVERRIDE
+};
 
 } // namespace
 

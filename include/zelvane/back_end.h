@@ -92,6 +92,12 @@ ZV_EXPORT uint64_t zvCurrentFrameNumber(void);
 ZV_EXPORT void zvPostFrameMessage(zvMessage message);
 
 /*
+ * 1 while a GUI is attached to the process, otherwise 0. Costs a few loads, so that a back end can ask before it makes
+ * a record. Must not be called before the first EGL call. Any thread.
+ */
+ZV_EXPORT int zvGuiIsAttached(void);
+
+/*
  * Name of the device profile in force; the empty text without one. settings: as given to zvCreateEsContext. The text
  * lives as long as the process. Null settings give null. Any thread.
  */

@@ -19,6 +19,10 @@ void zvPostFrameMessage(zvMessage message) {
     state().uiLink().post(message);
 }
 
+int zvGuiIsAttached(void) {
+    return state().uiLink().isAttached() ? 1 : 0;
+}
+
 const char *zvSettingsProfileName(const void *settings) {
     return settings ? static_cast<const Settings *>(settings)->getCurrentProfile().c_str() : nullptr;
 }

@@ -29,6 +29,9 @@ public:
     // Queues a copy and waits for no GUI, so that one that does not read costs memory and no time. Any thread.
     void post(const ui::messages::Message &message) const;
 
+    // True while there is a GUI at the other end. Takes no lock. Any thread.
+    [[nodiscard]] bool isAttached() const { return !m_client->failed() && m_client->isOpen(); }
+
 private:
     using Queue = SyncQueue<ui::messages::Message>;
 

@@ -158,6 +158,15 @@ TEST_F(EntryLink, FrameMessagesCarryTheNumberOfTheFrame) {
     }
 }
 
+TEST_F(EntryLink, SaysWhetherAGuiIsAttached) {
+    connect();
+    EXPECT_EQ(zvGuiIsAttached(), 1);
+    gui.close();
+    for (int wait = 0; zvGuiIsAttached() && wait < 3000; ++wait)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_EQ(zvGuiIsAttached(), 0);
+}
+
 TEST_F(EntryLink, RenderModeReachesContextsInTheOrderOfTheirHandles) {
     connect();
     context(2);
