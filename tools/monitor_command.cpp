@@ -2,6 +2,8 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "tools/commands.h"
@@ -14,8 +16,19 @@ struct Options {
     bool once = false;
 };
 
+// A terminal or a pipe; what else stands there (a file, a closed input) belongs to somebody else.
+bool takesCommands(int input) {
+    struct stat status {};
+    return isatty(input) || (fstat(input, &status) == 0 && S_ISFIFO(status.st_mode));
+}
+
 int watch(const Options &options) {
-    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), isatty(STDIN_FILENO), options.once);
+    // Its number would be the next one to be given away, to a socket.
+    if (fcntl(STDOUT_FILENO, F_GETFD) < 0) {
+        fprintf(stderr, "zelvane: standard output is closed\n");
+        return 1;
+    }
+    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), takesCommands(STDIN_FILENO), options.once);
     if (!monitor.isListening()) {
         fprintf(stderr, "zelvane: cannot listen at /tmp/Zelvane: another user's socket may be there\n");
         return 1;
@@ -31,8 +44,9 @@ void addMonitorCommand(CLI::App &app) {
     auto options = std::make_shared<Options>();
     monitor->add_flag("--json", options->json, "One JSON object a record, for other tools");
     monitor->add_flag("--once", options->once, "End with the first application");
-    monitor->footer("In a terminal, typed lines are commands: w, W, wire on|off, d and q, each but q with a process\n"
-                    "number for one application alone.");
+    monitor->footer(
+        "Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d and q, each\n"
+        "but q with a process number for one application alone.");
     monitor->callback([options] {
         if (const int failure = watch(*options)) throw CLI::RuntimeError(failure);
     });

@@ -1,4 +1,5 @@
 // Lines for people: "1234 torus  (Error) text". The facts of the System Report are shown together when all are there.
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -64,6 +65,8 @@ public:
             line(application, "System Report:");
             fputs(printable(m_reports[&application].text(), "\n\t").c_str(), stdout);
             m_reports.erase(&application);
+        } else if (type == ZV_BACK_END_MARKER) {
+            countFrame(application, message.header.frameStamp);
         } else {
             line(application, frame(message) + shortText(message));
         }
@@ -71,6 +74,7 @@ public:
 
     void ended(const MonitoredApplication &application) override {
         m_reports.erase(&application);
+        m_frames.erase(&application);
         line(application, "gone");
     }
 
@@ -79,6 +83,25 @@ public:
 private:
     static void line(const MonitoredApplication &application, const std::string &text) {
         printf("%d %s  %s\n", application.processNumber(), printable(application.commandName()).c_str(), text.c_str());
+    }
+
+    // A back end marks every frame that it draws; a line for each would push everything else out of sight.
+    void countFrame(const MonitoredApplication &application, uint64_t number) {
+        const auto now = std::chrono::steady_clock::now();
+        const auto [found, isFirst] = m_frames.try_emplace(&application, Frames{now, 0});
+        Frames &frames = found->second;
+        if (!isFirst) ++frames.count;
+        const std::chrono::duration<double> elapsed = now - frames.start;
+        if (!isFirst && elapsed.count() < 1) return;
+        const std::string label = "frame " + std::to_string(number);
+        line(application, isFirst ? label : label + ": " + rateText(frames.count / elapsed.count()));
+        frames = {now, 0};
+    }
+
+    static std::string rateText(double perSecond) {
+        char text[64];
+        snprintf(text, sizeof text, "%.1f a second", perSecond);
+        return text;
     }
 
     static std::string frame(const Message &message) {
@@ -103,6 +126,12 @@ private:
         }
     }
 
+    struct Frames {
+        std::chrono::steady_clock::time_point start;
+        int count;
+    };
+
+    std::map<const MonitoredApplication *, Frames> m_frames;         // since the last line about them
     std::map<const MonitoredApplication *, MonitorReport> m_reports; // those that are still coming in
 };
 

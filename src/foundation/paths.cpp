@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <dlfcn.h>
+#include <filesystem>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -12,8 +13,14 @@ const std::string &getOwnDirectory() {
             return std::string();
         }
         std::string path = image.dli_fname;
-        if (const auto slash = path.rfind('/'); slash != std::string::npos) path.resize(slash);
-        return path;
+        const auto slash = path.rfind('/');
+        if (slash == std::string::npos) return path;
+        path.resize(slash);
+        // The loader found it by a relative search path; the links by which libraries are opened lie elsewhere.
+        if (path.empty() || path.front() == '/') return path;
+        std::error_code failed;
+        const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
+        return failed ? path : absolute.string();
     }();
     return directory;
 }
