@@ -91,6 +91,23 @@ TEST_F(AttachOnX11, WindowsOfOtherVisualsGetAChildThatFollowsThem) {
     }
 }
 
+// An application that tries one config after the other on a window found the first one's child over all later frames.
+TEST_F(AttachOnX11, ChildIsSeenOnlyWhileItIsDrawnTo) {
+    constexpr uint32_t list[] = {
+        OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, SampleBuffers, 1, Samples, 4, 0};
+    const auto direct = context(), sampled = context(list);
+    const Window target = window(64, 48);
+    ASSERT_TRUE(operations.setView(sampled.get(), viewOf(target)));
+    if (childrenOf(target).empty()) GTEST_SKIP() << "this server has samples in its default visual";
+    for (const auto &[drawn, state] : {std::pair(direct.get(), IsUnmapped), std::pair(sampled.get(), IsViewable)}) {
+        ASSERT_TRUE(operations.setView(drawn, viewOf(target)));
+        drawAndFlush(drawn, 1, 0, 0);
+        XWindowAttributes attributes{};
+        XGetWindowAttributes(application, childrenOf(target)[0], &attributes);
+        EXPECT_EQ(attributes.map_state, state);
+    }
+}
+
 TEST_F(AttachOnX11, WhatCannotBeDrawnToIsRefusedAndChangesNothing) {
     const auto made = context();
     const Window target = window(32, 32);

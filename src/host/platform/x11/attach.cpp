@@ -16,7 +16,10 @@ GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     if (!connection.windowAttributes(view, attributes) || attributes.c_class != InputOutput) return None;
     if (XScreenNumberOfScreen(attributes.screen) != connection.screen()) return None;
     const auto &visual = container.config.visual;
-    if (XVisualIDFromVisual(attributes.visual) == visual.visualid) return view.window;
+    if (XVisualIDFromVisual(attributes.visual) == visual.visualid) {
+        connection.children().hideAll(view.window);
+        return view.window;
+    }
     return connection.children().childOf(view.window, visual);
 }
 

@@ -44,7 +44,20 @@ Window ChildWindows::childOf(Window parent, const XVisualInfo &visual) {
         return 0;
     }
     fit(child, width, height);
+    showOnly(parent, visual.visualid);
     return child.window;
+}
+
+void ChildWindows::showOnly(Window parent, VisualID visual) {
+    auto entry = m_children.lower_bound({parent, 0});
+    for (; entry != m_children.end() && entry->first.first == parent; ++entry) {
+        Child &child = entry->second;
+        const bool isWanted = entry->first.second == visual;
+        if (child.isShown == isWanted) continue;
+        (isWanted ? XMapWindow : XUnmapWindow)(m_display, child.window);
+        XFlush(m_display);
+        child.isShown = isWanted;
+    }
 }
 
 void ChildWindows::fit(Child &child, unsigned width, unsigned height) {
