@@ -4,16 +4,9 @@
 
 #include <optional>
 
+#include "host_library.h"
+
 namespace {
-
-using GetProcAddress = void *(*)(const GLubyte *name);
-
-struct HostLibrary {
-    // The handle's own names win over those of whoever else is loaded; a bare lookup would find our own exports.
-    void *handle = dlopen("libGL.so.1", RTLD_LAZY | RTLD_LOCAL);
-    GetProcAddress getProcAddress =
-        handle ? reinterpret_cast<GetProcAddress>(dlsym(handle, "glXGetProcAddressARB")) : nullptr;
-};
 
 std::optional<HostGl> loadHostGl() {
     HostGl gl;
@@ -28,10 +21,11 @@ std::optional<HostGl> loadHostGl() {
 } // namespace
 
 void *hostFunction(const char *name) {
-    static const HostLibrary library;
-    if (!library.handle) return nullptr;
-    if (void *const function = dlsym(library.handle, name)) return function;
-    return library.getProcAddress ? library.getProcAddress(reinterpret_cast<const GLubyte *>(name)) : nullptr;
+    // The handle's own names win over those of whoever else is loaded; a bare lookup would find our own exports.
+    static void *const library = openHostLibrary();
+    if (!library) return nullptr;
+    if (void *const function = dlsym(library, name)) return function;
+    return unexportedFunction(library, name);
 }
 
 const HostGl *findHostGl() {
