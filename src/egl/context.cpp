@@ -42,7 +42,7 @@ void *Context::getExtProcAddress(const char *name) {
         function = reinterpret_cast<GetExtProcAddress>(esLibrary.getSymbol("zvGetExtProcAddress"));
         m_getExtProcAddress.store(function, std::memory_order_relaxed);
         // Proxies remember answers beyond the life of a context, so the code behind them has to stay.
-        esLibrary.keepLoaded();
+        esLibrary.keepLoaded("zvGetExtProcAddress");
     }
     return function ? function(name) : nullptr;
 }

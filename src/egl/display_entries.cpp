@@ -22,7 +22,7 @@ constexpr uint64_t hostDefaultDisplay = 0;
 } // namespace
 
 EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum, void *nativeDisplay, const EGLint *) {
-    const auto id = reinterpret_cast<uintptr_t>(nativeDisplay);
+    const uint64_t id = hostWord(nativeDisplay);
     return getDisplay(id, id);
 }
 
@@ -31,7 +31,7 @@ EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum, void *nativeDisplay, const
 using namespace egl;
 
 EGLDisplay EGLAPIENTRY eglGetDisplay(EGLNativeDisplayType displayId) {
-    const auto id = reinterpret_cast<uintptr_t>(displayId);
+    const uint64_t id = hostWord(displayId);
     return getDisplay(id, displayId == EGL_DEFAULT_DISPLAY ? hostDefaultDisplay : id);
 }
 

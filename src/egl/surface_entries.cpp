@@ -42,7 +42,7 @@ EGLSurface EGLAPIENTRY eglCreateWindowSurface(EGLDisplay dpy, EGLConfig configHa
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
         if (!window) return fail(EGL_BAD_NATIVE_WINDOW, EGL_NO_SURFACE);
         if (!areKeysIn(attributes, windowAttributes)) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SURFACE);
-        return finishSurface(display.createWindowSurface(*config, window, attributes));
+        return finishSurface(display.createWindowSurface(*config, hostWord(window), attributes));
     });
 }
 

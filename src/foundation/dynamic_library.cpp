@@ -3,15 +3,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <link.h>
 #include <unistd.h>
 
 #include "foundation/log.h"
 #include "foundation/paths.h"
-
-const char *const hostOpenGLLibraryName = "libGL.so.1";
-const char *const es1LibraryName = "libGLESv1_CM.so.1";
-const char *const es2LibraryName = "libGLESv2.so.2";
+#include "foundation/platform/library_directories.h"
 
 namespace {
 
@@ -21,7 +17,7 @@ constexpr size_t linkNameLimit = 1024;
 // A name in the temporary directory that nothing has now. mkstemp would leave a file where the link has to go.
 bool makeLinkTo(const std::string &target, std::string &link) {
     link = getTemporaryDirectory();
-    if (link.size() >= linkNameLimit) return false;
+    if (link.empty() || link.size() >= linkNameLimit) return false;
     link += "tmp.XXXXXX";
     const int file = mkstemp(link.data());
     if (file < 0) return false;
@@ -84,11 +80,12 @@ void *DynamicLibrary::getSymbol(const char *symbol) const {
     return m_handle && symbol ? dlsym(m_handle, symbol) : nullptr;
 }
 
-void DynamicLibrary::keepLoaded() const {
-    link_map *loaded = nullptr;
-    if (!m_handle || dlinfo(m_handle, RTLD_DI_LINKMAP, &loaded) != 0) return;
+void DynamicLibrary::keepLoaded(const char *ownSymbol) const {
+    Dl_info image{};
+    const void *address = getSymbol(ownSymbol);
+    if (!address || dladdr(address, &image) == 0 || !image.dli_fname) return;
     // Found by the name that it was loaded under, though the link is gone; the flag sticks to what is loaded.
-    if (void *handle = dlopen(loaded->l_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) dlclose(handle);
+    if (void *handle = dlopen(image.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) dlclose(handle);
 }
 
 std::vector<std::string> esLibrarySearchPaths() {
@@ -98,14 +95,9 @@ std::vector<std::string> esLibrarySearchPaths() {
 }
 
 std::vector<std::string> hostLibrarySearchPaths() {
-    return {getOwnDirectory(),
-            "/usr/lib/" ZELVANE_MULTIARCH,
-            "/lib/" ZELVANE_MULTIARCH,
-            "/usr/lib64",
-            "/usr/lib",
-            "/lib64",
-            "/lib",
-            "/usr/local/lib"};
+    auto paths = systemLibraryDirectories();
+    paths.insert(paths.begin(), getOwnDirectory());
+    return paths;
 }
 
 DynamicLibrary openEsLibrary(const char *name, const std::vector<std::string> &searchPaths) {

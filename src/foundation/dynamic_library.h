@@ -23,8 +23,9 @@ public:
     bool open(const std::vector<std::string> &searchPaths);
     // Null when nothing is loaded, when the library lacks the symbol, or when symbol is null.
     [[nodiscard]] void *getSymbol(const char *symbol) const;
-    // The library stays in the process for good, whoever closes it. Does nothing when nothing is loaded.
-    void keepLoaded() const;
+    // The library stays in the process for good, whoever closes it. The symbol says which image that is: the library's
+    // own and not one of its dependencies'. Does nothing when nothing is loaded or the library lacks the symbol.
+    void keepLoaded(const char *ownSymbol) const;
     [[nodiscard]] bool isLoaded() const { return m_handle != nullptr; }
     [[nodiscard]] const std::string &name() const { return m_name; }
 

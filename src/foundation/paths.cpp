@@ -49,13 +49,6 @@ bool getProfilePathFromEnvironment(std::string &path) {
     return true;
 }
 
-std::string getTemporaryDirectory() {
-    const char *value = getenv("TMPDIR");
-    std::string directory = value && *value ? value : "/tmp";
-    if (directory.back() != '/') directory += '/';
-    return directory;
-}
-
 FILE *openForReading(const std::string &path) {
     return fopen(path.c_str(), "r");
 }

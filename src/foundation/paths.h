@@ -17,7 +17,8 @@
 // $ZELVANE_PROFILE_PATH. False, with path untouched, when the variable is not set.
 [[nodiscard]] bool getProfilePathFromEnvironment(std::string &path);
 
-// $TMPDIR or /tmp, always ended by exactly one slash where the variable has none.
+// The platform's directory for temporary files, ended by a slash. On Linux $TMPDIR or /tmp, with a slash added where
+// the variable has none. Empty when the platform has none.
 [[nodiscard]] std::string getTemporaryDirectory();
 
 // Null when the file cannot be opened. The caller closes the stream.

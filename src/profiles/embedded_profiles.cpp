@@ -2,13 +2,13 @@
 
 #include <tinyxml2.h>
 
+#include "read_only_bytes.h" // of the platform that the build is for
+
 // The bytes of each file between two symbols. The build knows that this object depends on the files.
 #define EMBEDDED_PROFILE(file)                                                                                         \
-    asm(".section .rodata\n"                                                                                           \
-        ".hidden zelvane_profile_" #file "\n.global zelvane_profile_" #file "\nzelvane_profile_" #file ":\n"           \
-        ".incbin \"" ZELVANE_PROFILE_DATA "/" #file ".xml\"\n"                                                         \
-        ".hidden zelvane_profile_end_" #file "\n.global zelvane_profile_end_" #file "\nzelvane_profile_end_" #file     \
-        ":\n.byte 0\n.previous");                                                                                      \
+    asm(READ_ONLY_SECTION READ_ONLY_SYMBOL(                                                                            \
+        "zelvane_profile_" #file) ".incbin \"" ZELVANE_PROFILE_DATA "/" #file                                          \
+                                  ".xml\"\n" READ_ONLY_SYMBOL("zelvane_profile_end_" #file) ".byte 0\n.previous");     \
     extern "C" const char zelvane_profile_##file[], zelvane_profile_end_##file[];
 #include "profiles/data/embedded_profiles.def"
 #undef EMBEDDED_PROFILE

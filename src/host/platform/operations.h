@@ -58,7 +58,8 @@ struct PlatformOperations {
 
     // A context on the format, sharing objects with share unless that is null. Null when the host refuses.
     ContextContainer *(*createContext)(const PixelFormat *format, ContextContainer *share);
-    // Drops the owner's reference. A context that is current somewhere goes when it is no longer current.
+    // Drops the owner's reference. A context that is current somewhere goes when it is no longer current; until then
+    // currentContext may say that it is not ours.
     void (*releaseContext)(ContextContainer *container);
 
     // The container whose context is current on the thread. Null for none, and for a context that is not ours.
@@ -68,11 +69,12 @@ struct PlatformOperations {
     bool (*makeCurrent)(ContextContainer *container);
 
     // Attaches a view in place of whatever was attached; View{} detaches. Takes effect at once on a current context.
-    // False when the window is not there or cannot be drawn to.
+    // False when the host tells that the window is not there or cannot be drawn to.
     bool (*setView)(ContextContainer *container, const View &view);
     // The attached view; View{} when there is none or a pixel buffer is attached.
     View (*view)(const ContextContainer *container);
-    // Attaches a pixel buffer in place of whatever was attached. Takes effect at once on a current context.
+    // Attaches a pixel buffer in place of whatever was attached; null detaches. Takes effect at once on a current
+    // context.
     bool (*setPixelBuffer)(ContextContainer *container, PixelBuffer *buffer);
     // Registers the context to follow the view's frame. Registrations add up, and none is ever removed.
     void (*observeViewFrame)(ContextContainer *container, const View &view);

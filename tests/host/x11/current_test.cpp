@@ -26,17 +26,6 @@ TEST_F(CurrentOnX11, WithoutADrawableAndAttachedLater) {
     }
 }
 
-TEST_F(CurrentOnX11, ReleasedContextGoesWhenItIsNoLongerCurrent) {
-    auto made = context();
-    ASSERT_TRUE(operations.makeCurrent(made.get()));
-    const auto *container = made.get();
-    made.reset();
-    EXPECT_EQ(operations.currentContext(), container);
-    EXPECT_NE(glString(GL_VERSION), nullptr);
-    operations.clearCurrentContext();
-    EXPECT_EQ(operations.currentContext(), nullptr);
-}
-
 TEST_F(CurrentOnX11, ThreadThatEndsWithAContextCurrentLetsItGo) {
     auto made = context();
     std::thread([&] { ASSERT_TRUE(operations.makeCurrent(made.get())); }).join();

@@ -7,37 +7,6 @@ namespace {
 
 using PixelFormatsOnX11 = X11Host;
 
-TEST_F(PixelFormatsOnX11, GiveAtLeastWhatIsAsked) {
-    struct Row {
-        const char *reason;
-        std::vector<uint32_t> list;
-    };
-    const Row rows[] = {
-        {"nothing asked", {0}},
-        {"the probe's", {OpenGLProfile, profile3_2Core, 0}},
-        {"what configs share",
-         {OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, AlphaSize, 8, DepthSize, 24, StencilSize, 8,
-          SampleBuffers, 1, Samples, 4, 0}},
-        {"more samples than any host has", {DoubleBuffer, SampleBuffers, 1, Samples, 1000, 0}},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.reason);
-        const auto chosen = format(row.list.data());
-        ASSERT_NE(chosen, nullptr);
-        for (size_t i = 0; row.list[i]; ++i) {
-            const uint32_t attribute = row.list[i];
-            const int32_t value = attribute == DoubleBuffer ? 1 : static_cast<int32_t>(row.list[++i]);
-            const int32_t given = operations.pixelFormatValue(chosen.get(), attribute);
-            if (attribute == SampleBuffers || attribute == Samples) continue; // these come as near as they can
-            EXPECT_GE(given, value) << attribute;
-        }
-        // A derived one for the same values is there too.
-        EXPECT_NE(Format(operations.derivePixelFormat(chosen.get(), legacyList)), nullptr);
-    }
-    const uint32_t unknown[] = {4711, 5, 0};
-    EXPECT_EQ(operations.pixelFormatValue(format(unknown).get(), 4711), 0);
-}
-
 TEST_F(PixelFormatsOnX11, AreNullWhereNothingFitsOrNoServerIs) {
     const uint32_t tooDeep[] = {ColorSize, 24, DepthSize, 1000, 0};
     EXPECT_EQ(format(tooDeep), nullptr);

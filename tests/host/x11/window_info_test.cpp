@@ -8,25 +8,6 @@ namespace {
 
 using WindowInfoOnX11 = X11Host;
 
-TEST_F(WindowInfoOnX11, SizeIsAskedEachTime) {
-    const Window target = window(64, 48);
-    int32_t width = 0, height = 0;
-    operations.viewSize(viewOf(target), &width, &height);
-    EXPECT_EQ(width, 64);
-    EXPECT_EQ(height, 48);
-    XResizeWindow(application, target, 65, 49);
-    XSync(application, False);
-    operations.viewSize({0, target}, &width, nullptr);
-    operations.viewSize({0, target}, nullptr, &height);
-    EXPECT_EQ(width, 65);
-    EXPECT_EQ(height, 49);
-    for (const View &none : {View{}, viewOf(0x12345), View{0, 0x12345}}) {
-        operations.viewSize(none, &width, &height);
-        EXPECT_EQ(width, 65);
-        EXPECT_EQ(operations.viewTitle(none), "");
-    }
-}
-
 TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
     const auto setTitle = [&](Window window, const char *name, const char *type, const char *value) {
         XChangeProperty(application, window, XInternAtom(application, name, False),

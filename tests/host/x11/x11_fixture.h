@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <memory>
+#include <cstring>
 #include <vector>
 
-#include "host/platform/operations.h"
+#include "host/operations_host.h"
 
 // Defines short macros; it has to come last.
 #include <GL/glx.h>
@@ -17,15 +17,6 @@ using namespace host::platform;
 
 constexpr uint32_t coreList[] = {OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, DepthSize, 24, 0};
 constexpr uint32_t legacyList[] = {OpenGLProfile, profileLegacy, DoubleBuffer, ColorSize, 24, DepthSize, 24, 0};
-
-struct Release {
-    void operator()(PixelFormat *format) const { operations.releasePixelFormat(format); }
-    void operator()(ContextContainer *container) const { operations.releaseContext(container); }
-    void operator()(PixelBuffer *buffer) const { operations.releasePixelBuffer(buffer); }
-};
-using Format = std::unique_ptr<PixelFormat, Release>;
-using Context = std::unique_ptr<ContextContainer, Release>;
-using Buffer = std::unique_ptr<PixelBuffer, Release>;
 
 template <typename Function>
 Function gl(const char *name) {

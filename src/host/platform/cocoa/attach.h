@@ -1,0 +1,14 @@
+// What a context draws to: attaching views and pixel buffers, and showing a view.
+#pragma once
+
+#include "host/platform/operations.h"
+
+namespace host::platform::cocoa {
+
+bool setView(ContextContainer *container, const View &view);
+View view(const ContextContainer *container);
+bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer);
+void observeViewFrame(ContextContainer *container, const View &view);
+void flushBuffer(ContextContainer *container);
+
+} // namespace host::platform::cocoa

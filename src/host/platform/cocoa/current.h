@@ -1,0 +1,14 @@
+// Which context a thread has current, ours or somebody else's.
+#pragma once
+
+#include "host/platform/operations.h"
+
+namespace host::platform::cocoa {
+
+ContextContainer *currentContext();
+void clearCurrentContext();
+bool makeCurrent(ContextContainer *container);
+SavedBinding *saveBinding();
+void restoreBinding(SavedBinding *binding);
+
+} // namespace host::platform::cocoa

@@ -1,0 +1,41 @@
+#include "host/platform/cocoa/current.h"
+
+#import "host/platform/cocoa/objects.h"
+#import "host/platform/cocoa/owned_contexts.h"
+
+namespace host::platform::cocoa {
+
+ContextContainer *currentContext() {
+    @autoreleasepool {
+        return ownerOf([NSOpenGLContext currentContext]);
+    }
+}
+
+void clearCurrentContext() {
+    [NSOpenGLContext clearCurrentContext];
+}
+
+bool makeCurrent(ContextContainer *container) {
+    @autoreleasepool {
+        [[objectOf(container) m_context] makeCurrentContext];
+    }
+    return true; // Cocoa does not tell
+}
+
+// A context keeps what is attached to it, so the context alone is the binding.
+SavedBinding *saveBinding() {
+    @autoreleasepool {
+        return handleOf<SavedBinding>([[NSOpenGLContext currentContext] retain]);
+    }
+}
+
+void restoreBinding(SavedBinding *binding) {
+    if (!binding) {
+        clearCurrentContext();
+        return;
+    }
+    [objectOf(binding) makeCurrentContext];
+    [objectOf(binding) release];
+}
+
+} // namespace host::platform::cocoa

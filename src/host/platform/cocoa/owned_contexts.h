@@ -1,0 +1,21 @@
+// What the list tells of a context and Cocoa does not: which container owns it, and on which display its view was
+// attached. One record a living container. Any thread.
+#pragma once
+
+#include <cstdint>
+
+#import <Cocoa/Cocoa.h>
+
+#include "host/platform/operations.h"
+
+namespace host::platform::cocoa {
+
+void addOwner(NSOpenGLContext *context, ContextContainer *container);
+void removeOwner(NSOpenGLContext *context);
+// Null for nil and for a context that is not ours.
+[[nodiscard]] ContextContainer *ownerOf(NSOpenGLContext *context);
+
+void setDisplayOf(NSOpenGLContext *context, uint64_t display);
+[[nodiscard]] uint64_t displayOf(NSOpenGLContext *context);
+
+} // namespace host::platform::cocoa

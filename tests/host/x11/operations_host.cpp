@@ -1,0 +1,45 @@
+#include "host/operations_host.h"
+
+#include "x11_fixture.h"
+
+namespace {
+
+class ServersHost final : public OperationsHost, private X11Host {
+public:
+    ServersHost() { SetUp(); }
+    ~ServersHost() override { TearDown(); }
+    unsigned implementation() const override { return onX11; }
+    View makeView(int width, int height, const char *title) override {
+        const Window made = window(width, height);
+        if (title) {
+            XChangeProperty(application, made, XInternAtom(application, "_NET_WM_NAME", False),
+                            XInternAtom(application, "UTF8_STRING", False), 8, PropModeReplace,
+                            reinterpret_cast<const unsigned char *>(title), static_cast<int>(std::strlen(title)));
+        }
+        XSync(application, False);
+        return viewOf(made);
+    }
+    void resizeView(const View &view, int width, int height) override {
+        XResizeWindow(application, view.window, static_cast<unsigned>(width), static_cast<unsigned>(height));
+        XSync(application, False);
+    }
+    View badView() override { return viewOf(0x12345); }
+    void makeForeignCurrent() override {
+        int attributes[] = {GLX_RGBA, 0};
+        XVisualInfo *visual = glXChooseVisual(application, DefaultScreen(application), attributes);
+        const GLXContext context = glXCreateContext(application, visual, nullptr, True);
+        glXMakeCurrent(application, window(8, 8, visual), context);
+        XFree(visual);
+    }
+    bool isForeignCurrent() override { return glXGetCurrentDisplay() == application; }
+    void refuseNext(const char *) override {} // nothing makes a server refuse
+
+private:
+    void TestBody() override {}
+};
+
+} // namespace
+
+std::unique_ptr<OperationsHost> makeOperationsHost() {
+    return std::make_unique<ServersHost>();
+}
