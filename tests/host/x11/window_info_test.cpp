@@ -35,6 +35,9 @@ TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
         XSync(application, False);
     };
     const Window target = window(8, 8);
+    XStoreName(application, target, "not sent yet");
+    EXPECT_EQ(operations.viewTitle(viewOf(target)), "not sent yet");
+    XDeleteProperty(application, target, XA_WM_NAME);
     XSync(application, False);
     EXPECT_EQ(operations.viewTitle({0, target}), "");
     setTitle(target, "WM_NAME", "STRING",

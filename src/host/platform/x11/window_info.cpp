@@ -41,6 +41,11 @@ std::string plainTitle(Display *display, Window window) {
     return title;
 }
 
+std::string titleOf(Display *display, Window window) {
+    auto title = netTitle(display, window);
+    return title.empty() ? plainTitle(display, window) : title;
+}
+
 } // namespace
 
 void viewSize(const View &view, int32_t *width, int32_t *height) {
@@ -56,8 +61,13 @@ void viewSize(const View &view, int32_t *width, int32_t *height) {
 std::string viewTitle(const View &view) {
     auto *connection = view.window ? Connection::find(view.display) : nullptr;
     if (!connection) return {};
-    const auto title = netTitle(connection->display(), view.window);
-    return title.empty() ? plainTitle(connection->display(), view.window) : title;
+    auto title = titleOf(connection->display(), view.window);
+    // A window that the server has not heard of yet gets its title with the waiting for it.
+    XWindowAttributes attributes{};
+    if (title.empty() && connection->windowAttributes(view, attributes)) {
+        title = titleOf(connection->display(), view.window);
+    }
+    return title;
 }
 
 } // namespace host::platform::x11
