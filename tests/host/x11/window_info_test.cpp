@@ -46,6 +46,8 @@ TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
     EXPECT_EQ(operations.viewTitle({0, target}), "Gr\u00f6\u00dfe");
     setTitle(target, "_NET_WM_NAME", "UTF8_STRING", "\u30bf\u30a4\u30c8\u30eb");
     EXPECT_EQ(operations.viewTitle({0, target}), "\u30bf\u30a4\u30c8\u30eb");
+    const Window view = XCreateSimpleWindow(application, target, 0, 0, 4, 4, 0, 0, 0);
+    EXPECT_EQ(operations.viewTitle(viewOf(view)), "\u30bf\u30a4\u30c8\u30eb");
 }
 
 } // namespace

@@ -41,9 +41,23 @@ std::string plainTitle(Display *display, Window window) {
     return title;
 }
 
+// None for a window of the first level, and for one that is gone.
+Window parentOf(Display *display, Window window) {
+    Window root = None, parent = None, *children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display, window, &root, &parent, &children, &count)) return None;
+    if (children) XFree(children);
+    return parent == root ? None : parent;
+}
+
+// A view is often a child of the window that bears the title.
 std::string titleOf(Display *display, Window window) {
-    auto title = netTitle(display, window);
-    return title.empty() ? plainTitle(display, window) : title;
+    std::string title;
+    for (; window && title.empty(); window = parentOf(display, window)) {
+        title = netTitle(display, window);
+        if (title.empty()) title = plainTitle(display, window);
+    }
+    return title;
 }
 
 } // namespace
