@@ -20,6 +20,11 @@ std::string printable(std::string_view text, std::string_view kept = {}) {
         const bool isControl = static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
         if (isControl && kept.find(character) == std::string_view::npos) character = '?';
     }
+    // The second set of controls, U+0080 to U+009F: terminals obey them in UTF-8 too.
+    for (size_t at = 0; (at = result.find('\xC2', at)) != std::string::npos; ++at) {
+        const unsigned char next = result.c_str()[at + 1];
+        if (next >= 0x80 && next < 0xA0) result.replace(at, 2, "?");
+    }
     return result;
 }
 

@@ -110,7 +110,7 @@ typedef struct zvBackEndLists {
 
 typedef struct zvSystemReportGlVersion {
     ZV_MESSAGE_HEADER
-    uint32_t glVersion; /* of the host's OpenGL; 0 when it is unknown */
+    uint32_t glVersion; /* of the host's OpenGL: 1 to 19 for 1.0 to 4.6, 20 for another, 0 when it gives none */
 } zvSystemReportGlVersion;
 
 typedef struct zvSystemReportExtension {
@@ -129,7 +129,7 @@ typedef struct zvSystemReportFeature {
 typedef struct zvSystemReportFeatureAlternative {
     ZV_MESSAGE_HEADER
     char name[ZV_MESSAGE_TEXT_SIZE];
-    uint32_t minVersion;                            /* host OpenGL version that it takes */
+    uint32_t minVersion;                            /* host OpenGL version that it takes, as above */
     uint32_t extensions[ZV_MESSAGE_EXTENSION_SIZE]; /* host extensions that it takes besides */
 } zvSystemReportFeatureAlternative;
 

@@ -106,7 +106,8 @@ TEST(Monitor, TextTellsWhoSaysWhatAndPutsTheReportTogether) {
     RunningMonitor monitor({"--once"});
     {
         Application application(getpid());
-        application.send(logError("bad \x1B[2J"));
+        application.send(logError("bad \x1B[2J\xC2\x9B"
+                                  "1m\xC2\xA9"));
         application.send(systemReportGlVersion(9));
         application.send(systemReportFeature("sync", false));
         application.send(systemReportFeatureAlternative("sync", 12, {}));
@@ -115,7 +116,8 @@ TEST(Monitor, TextTellsWhoSaysWhatAndPutsTheReportTogether) {
         application.send(systemReportEnd());
     }
     const std::string who = std::to_string(getpid()) + " monitor_tests  ";
-    EXPECT_EQ(monitor.rest(), "listening at /tmp/Zelvane\n" + who + "connected\n" + who + "(Error) bad ?[2J\n" + who +
+    EXPECT_EQ(monitor.rest(), "listening at /tmp/Zelvane\n" + who + "connected\n" + who +
+                                  "(Error) bad ?[2J?1m\xC2\xA9\n" + who +
                                   "System Report:\n"
                                   "OpenGL Version: 3.0\n\n"
                                   "OpenGL ES base support: yes\n"

@@ -16,6 +16,9 @@ TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
         XSync(application, False);
     };
     const Window target = window(8, 8);
+    XStoreName(application, target, "not sent yet");
+    EXPECT_EQ(operations.viewTitle(viewOf(target)), "not sent yet");
+    XDeleteProperty(application, target, XA_WM_NAME);
     XSync(application, False);
     EXPECT_EQ(operations.viewTitle({0, target}), "");
     setTitle(target, "WM_NAME", "STRING",
@@ -24,6 +27,8 @@ TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
     EXPECT_EQ(operations.viewTitle({0, target}), "Gr\u00f6\u00dfe");
     setTitle(target, "_NET_WM_NAME", "UTF8_STRING", "\u30bf\u30a4\u30c8\u30eb");
     EXPECT_EQ(operations.viewTitle({0, target}), "\u30bf\u30a4\u30c8\u30eb");
+    const Window view = XCreateSimpleWindow(application, target, 0, 0, 4, 4, 0, 0, 0);
+    EXPECT_EQ(operations.viewTitle(viewOf(view)), "\u30bf\u30a4\u30c8\u30eb");
 }
 
 } // namespace

@@ -41,6 +41,25 @@ std::string plainTitle(Display *display, Window window) {
     return title;
 }
 
+// None for a window of the first level, and for one that is gone.
+Window parentOf(Display *display, Window window) {
+    Window root = None, parent = None, *children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display, window, &root, &parent, &children, &count)) return None;
+    if (children) XFree(children);
+    return parent == root ? None : parent;
+}
+
+// A view is often a child of the window that bears the title.
+std::string titleOf(Display *display, Window window) {
+    std::string title;
+    for (; window && title.empty(); window = parentOf(display, window)) {
+        title = netTitle(display, window);
+        if (title.empty()) title = plainTitle(display, window);
+    }
+    return title;
+}
+
 } // namespace
 
 void viewSize(const View &view, int32_t *width, int32_t *height) {
@@ -56,8 +75,13 @@ void viewSize(const View &view, int32_t *width, int32_t *height) {
 std::string viewTitle(const View &view) {
     auto *connection = view.window ? Connection::find(view.display) : nullptr;
     if (!connection) return {};
-    const auto title = netTitle(connection->display(), view.window);
-    return title.empty() ? plainTitle(connection->display(), view.window) : title;
+    auto title = titleOf(connection->display(), view.window);
+    // A window that the server has not heard of yet gets its title with the waiting for it.
+    XWindowAttributes attributes{};
+    if (title.empty() && connection->windowAttributes(view, attributes)) {
+        title = titleOf(connection->display(), view.window);
+    }
+    return title;
 }
 
 } // namespace host::platform::x11
