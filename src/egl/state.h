@@ -81,7 +81,8 @@ private:
     std::shared_ptr<host::EGL> m_hostEGL; // guarded by m_hostEGLMutex
 };
 
-// The head of nearly every entry: makes the state and loads it. False when the load fails.
+// The head of nearly every entry: makes the state and loads it. False when the load fails, and once the state has gone
+// with the statics of the process.
 [[nodiscard]] bool ensureLoaded();
 
 // Guards the creation and load of the state, and three entries wholly. Taken before every other mutex.
