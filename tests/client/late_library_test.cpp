@@ -5,27 +5,16 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
-namespace {
-
-void *library = nullptr;
-EGLDisplay display = EGL_NO_DISPLAY;
-
 #define ENTRY(name) reinterpret_cast<decltype(&name)>(dlsym(library, #name))
 
-void endLate() {
-    const bool isRefused = !ENTRY(eglTerminate)(display) && ENTRY(eglGetError)() == EGL_NOT_INITIALIZED;
-    _exit(isRefused ? 0 : 1);
-}
-
-void openAndExit() {
-    atexit(endLate);
-    library = dlopen(STAGED_EGL, RTLD_NOW);
-    display = ENTRY(eglGetDisplay)(EGL_DEFAULT_DISPLAY);
-    exit(ENTRY(eglInitialize)(display, nullptr, nullptr) ? 2 : 3);
-}
-
-} // namespace
-
 TEST(LateLibrary, ExitHandlersFindNothingLoaded) {
+    static void *library;
+    static EGLDisplay display;
+    const auto openAndExit = [] {
+        atexit([] { _exit(!ENTRY(eglTerminate)(display) && ENTRY(eglGetError)() == EGL_NOT_INITIALIZED ? 0 : 1); });
+        library = dlopen(STAGED_EGL, RTLD_NOW);
+        display = ENTRY(eglGetDisplay)(EGL_DEFAULT_DISPLAY);
+        exit(ENTRY(eglInitialize)(display, nullptr, nullptr) ? 2 : 3);
+    };
     EXPECT_EXIT(openAndExit(), testing::ExitedWithCode(0), "");
 }
