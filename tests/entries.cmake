@@ -42,3 +42,8 @@ zelvane_entry_tests(entry_tests)
 zelvane_entry_tests(entry_link_tests RUN_SERIAL TRUE LABELS threads)
 
 add_subdirectory(egl)
+
+# Opens the library itself, late.
+target_sources(unit_tests PRIVATE client/late_library_test.cpp)
+target_compile_definitions(unit_tests PRIVATE STAGED_EGL="$<TARGET_FILE:staged_egl>")
+add_dependencies(unit_tests staged_egl fake_gl)

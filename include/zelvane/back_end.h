@@ -51,7 +51,8 @@ typedef void *zvEsContext;
 /*
  * Makes the back-end context. Called at the first bind of a context, with its host context current.
  * displayAndHandle: the display record and the context handle. settings: for the zvSettings functions, valid for the
- * life of the process. shareEsContext: the context to share objects with, or null.
+ * life of the process. shareEsContext: the context to share objects with; null without one, and when it is deleted
+ * already.
  * Returns null on failure; the bind then fails with EGL_BAD_ALLOC and a later bind tries again.
  */
 ZV_EXPORT zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t displayAndHandle[2],

@@ -1,5 +1,6 @@
 // What back ends call: what is current, and the settings behind their opaque pointer.
 #include "egl/context.h"
+#include "egl/gui_link.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
 #include "zelvane/back_end.h"
@@ -11,16 +12,16 @@ zvEsContext zvCurrentEsContext(void) {
 }
 
 uint64_t zvCurrentFrameNumber(void) {
-    return state().frameNumber();
+    return State::frameNumber();
 }
 
 void zvPostFrameMessage(zvMessage message) {
-    message.header.frameStamp = state().frameNumber();
-    state().uiLink().post(message);
+    message.header.frameStamp = State::frameNumber();
+    attachedLink().post(message);
 }
 
 int zvGuiIsAttached(void) {
-    return state().uiLink().isAttached() ? 1 : 0;
+    return attachedLink().isAttached() ? 1 : 0;
 }
 
 const char *zvSettingsProfileName(const void *settings) {

@@ -61,6 +61,8 @@ bool Context::deleteEsContext() {
     using DeleteEsContext = void (*)(zvEsContext);
     const auto deleteFunction = reinterpret_cast<DeleteEsContext>(esLibrary.getSymbol("zvDeleteEsContext"));
     if (!deleteFunction) return false;
+    // The object may live on as the share context of another, whose first bind must not hand out a deleted one.
+    esContext = nullptr;
     deleteFunction(doomed);
     return true;
 }

@@ -59,7 +59,7 @@ public:
     const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is gone
 
     DynamicLibrary esLibrary;                     // open for the life of the context; on one thread at a time
-    std::atomic<zvEsContext> esContext = nullptr; // null until the first bind
+    std::atomic<zvEsContext> esContext = nullptr; // null until the first bind and once the back end has deleted it
     ContextAttribs attribs;
 
     std::atomic<bool> boundToThread = false;

@@ -11,8 +11,8 @@ namespace {
 // Never destroyed: threads log and take render modes while the process ends.
 struct Attached {
     std::mutex mutex;
-    State *state = nullptr;          // guarded by mutex; null before and after its life
-    const UiLink *logLink = nullptr; // constant once the listener is set
+    State *state = nullptr;       // guarded by mutex; null before and after its life
+    const UiLink *link = nullptr; // constant once the listener is set
 };
 
 Attached &attached() {
@@ -32,7 +32,7 @@ ui::messages::Message logLine(int32_t level, const char *text) {
 }
 
 void postLogLine(int32_t level, const char *text) {
-    attached().logLink->post(logLine(level, text));
+    attachedLink().post(logLine(level, text));
 }
 
 } // namespace
@@ -41,13 +41,17 @@ void attachGuiLink(State &state) {
     Attached &now = attached();
     const std::lock_guard lock(now.mutex);
     now.state = &state;
-    now.logLink = new UiLink(state.uiLink());
+    now.link = new UiLink(state.uiLink());
     setLogListener(postLogLine);
 }
 
 void detachGuiLink() {
     const std::lock_guard lock(attached().mutex);
     attached().state = nullptr;
+}
+
+const UiLink &attachedLink() {
+    return *attached().link;
 }
 
 void setRenderModeOfAll(uint8_t mode) {

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+class UiLink;
+
 namespace egl {
 
 class State;
@@ -11,6 +13,8 @@ class State;
 void attachGuiLink(State &state);
 // The link's threads live as long as the process, longer than the state: they find no contexts from now on.
 void detachGuiLink();
+// The link of the state, which outlives it: threads may draw while the process ends. Only once it is attached.
+[[nodiscard]] const UiLink &attachedLink();
 
 // Tells the back ends of all contexts, also of those that were never bound: displays in key order, contexts in handle
 // order. Runs on a thread of the link beside the application's, and holds no lock while it calls a back end.

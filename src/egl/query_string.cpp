@@ -29,10 +29,11 @@ constexpr char displayExtensions[] = "EGL_ANDROID_image_native_buffer "
 
 constexpr char clientExtensions[] = "EGL_EXT_client_extensions EGL_EXT_platform_base ";
 
+// Never destroyed: exit handlers may still read what they were given.
 const char *versionString() {
-    static const std::string version = std::to_string(host::eglMajorVersion()) + "." +
-                                       std::to_string(host::eglMinorVersion()) + " (" + productName + " " +
-                                       productVersion + " (SDK " + productBuild + "))";
+    static const std::string &version =
+        *new std::string(std::to_string(host::eglMajorVersion()) + "." + std::to_string(host::eglMinorVersion()) +
+                         " (" + productName + " " + productVersion + " (SDK " + productBuild + "))");
     return version.c_str();
 }
 

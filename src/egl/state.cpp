@@ -13,8 +13,17 @@ namespace egl {
 
 namespace {
 
+// Exit handlers of an application that opens the library late run after the state has gone, and call entries.
+constinit std::atomic<bool> isStateOver = false;
+
+struct GlobalState {
+    std::shared_ptr<State> state;
+
+    ~GlobalState() { isStateOver = true; }
+};
+
 // In this order: at exit the mutex goes first and the state after it.
-std::shared_ptr<State> globalState;
+GlobalState globalState;
 std::mutex globalStateMutex;
 
 } // namespace
@@ -100,8 +109,9 @@ bool State::isStrictContextMode() const {
 
 bool ensureLoaded() {
     const std::lock_guard lock(globalStateMutex);
-    if (!globalState) globalState = std::make_shared<State>();
-    return globalState->load();
+    if (isStateOver) return false;
+    if (!globalState.state) globalState.state = std::make_shared<State>();
+    return globalState.state->load();
 }
 
 std::mutex &stateMutex() {
@@ -109,7 +119,7 @@ std::mutex &stateMutex() {
 }
 
 State &state() {
-    return *globalState;
+    return *globalState.state;
 }
 
 } // namespace egl

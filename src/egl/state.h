@@ -63,8 +63,9 @@ public:
     // The XML text that the profile was read from; empty without a profile.
     [[nodiscard]] const std::string &profileText() const { return m_profileText; }
     [[nodiscard]] const UiLink &uiLink() const { return m_uiLink; }
-    [[nodiscard]] uint64_t frameNumber() const { return m_frameNumber.load(std::memory_order_relaxed); }
-    void countFrame() { m_frameNumber.fetch_add(1, std::memory_order_relaxed); }
+    // Good after the state has gone, since threads may draw while the process ends.
+    [[nodiscard]] static uint64_t frameNumber() { return m_frameNumber.load(std::memory_order_relaxed); }
+    static void countFrame() { m_frameNumber.fetch_add(1, std::memory_order_relaxed); }
 
 private:
     std::map<Display *, uint64_t> m_displays; // to native id; guarded by m_displaysMutex; never shrinks
@@ -75,13 +76,14 @@ private:
     DynamicLibrary m_openGLLibrary;
     std::shared_ptr<glove::WSAPI> m_windowSystem; // the state counts as loaded once this is set
     UiLink m_uiLink;                              // connects in the constructor
-    std::atomic<uint64_t> m_frameNumber = 0;
+    static inline constinit std::atomic<uint64_t> m_frameNumber = 0;
     capability::SystemReport m_report;
     std::mutex m_hostEGLMutex;
     std::shared_ptr<host::EGL> m_hostEGL; // guarded by m_hostEGLMutex
 };
 
-// The head of nearly every entry: makes the state and loads it. False when the load fails.
+// The head of nearly every entry: makes the state and loads it. False when the load fails, and once the state has gone
+// with the statics of the process.
 [[nodiscard]] bool ensureLoaded();
 
 // Guards the creation and load of the state, and three entries wholly. Taken before every other mutex.

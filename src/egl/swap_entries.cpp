@@ -13,7 +13,7 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     const auto found = display.findSurface(surface);
     if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     found->swap();
-    state().countFrame();
+    State::countFrame();
     return succeed(EGL_TRUE);
 }
 

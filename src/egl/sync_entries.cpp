@@ -86,7 +86,7 @@ EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *at
 
 EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value) {
     EGLAttrib wide = 0;
-    const EGLBoolean result = eglGetSyncAttrib(dpy, sync, attribute, &wide);
+    const EGLBoolean result = eglGetSyncAttrib(dpy, sync, attribute, value ? &wide : nullptr);
     if (value) *value = static_cast<EGLint>(wide);
     return result;
 }

@@ -20,17 +20,17 @@ void AnswerMap::store(const egl::Context *context, Function answer) {
     Table *const table = m_table.load(std::memory_order_relaxed);
     const uint32_t slotCount = table ? table->mask + 1 : 0;
     if (table && table->used < slotCount / 2) {
-        insert(*table, context, answer);
+        insert(*table, keyOf(context), answer);
         return;
     }
 
     Table *const grown = makeTable(table ? slotCount * 2 : firstSlotCount, table);
     for (uint32_t index = 0; index < slotCount; ++index) {
         const Slot &slot = table->slots()[index];
-        if (const egl::Context *const key = slot.context.load(std::memory_order_relaxed))
-            insert(*grown, key, slot.function.load(std::memory_order_relaxed));
+        const uintptr_t key = slot.key.load(std::memory_order_relaxed);
+        if (key != emptyKey) insert(*grown, key, slot.function.load(std::memory_order_relaxed));
     }
-    insert(*grown, context, answer);
+    insert(*grown, keyOf(context), answer);
     m_table.store(grown, std::memory_order_release);
 }
 
@@ -41,13 +41,13 @@ AnswerMap::Table *AnswerMap::makeTable(uint32_t slotCount, Table *replaced) {
     return table;
 }
 
-void AnswerMap::insert(Table &table, const egl::Context *context, Function answer) {
-    uint32_t index = firstIndex(context);
-    while (table.slots()[index & table.mask].context.load(std::memory_order_relaxed))
+void AnswerMap::insert(Table &table, uintptr_t key, Function answer) {
+    uint32_t index = firstIndex(key);
+    while (table.slots()[index & table.mask].key.load(std::memory_order_relaxed) != emptyKey)
         ++index;
     Slot &slot = table.slots()[index & table.mask];
     slot.function.store(answer, std::memory_order_relaxed);
-    slot.context.store(context, std::memory_order_release);
+    slot.key.store(key, std::memory_order_release);
     ++table.used;
 }
 

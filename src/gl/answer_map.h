@@ -37,9 +37,13 @@ public:
     void store(const egl::Context *context, Function answer);
 
 private:
+    // The key of an empty slot, which ends every search. No context has it, the null context neither: a slot that is
+    // being filled shows its function first.
+    static constexpr uintptr_t emptyKey = 1;
+
     struct Slot {
-        std::atomic<const egl::Context *> context = nullptr; // null: empty, and the end of every search
-        std::atomic<Function> function = nullptr;            // written before the context
+        std::atomic<uintptr_t> key = emptyKey;    // the address of the context
+        std::atomic<Function> function = nullptr; // written before the key
     };
 
     // An open-addressing table, with its slots right behind it. At most half of them are full.
@@ -53,25 +57,27 @@ private:
     };
     static_assert(sizeof(Table) % alignof(Slot) == 0);
 
-    // Null when the context has no slot. The null context finds an empty one, whose function is null.
+    // Null when the context has no slot, as the null context never does.
     [[nodiscard, gnu::always_inline]] const Slot *slotOf(const egl::Context *context) const {
         const Table *const table = m_table.load(std::memory_order_acquire);
         if (!table) return nullptr;
-        for (uint32_t index = firstIndex(context);; ++index) {
+        for (uint32_t index = firstIndex(keyOf(context));; ++index) {
             const Slot &slot = table->slots()[index & table->mask];
-            const egl::Context *const key = slot.context.load(std::memory_order_acquire);
-            if (key == context) return &slot;
-            if (!key) return nullptr;
+            const uintptr_t key = slot.key.load(std::memory_order_acquire);
+            if (key == keyOf(context)) return &slot;
+            if (key == emptyKey) return nullptr;
         }
     }
 
     // Contexts are at least 16 bytes apart, often by a multiple of one size, so that their low bits alone say little.
-    [[nodiscard]] static uint32_t firstIndex(const egl::Context *context) {
-        return static_cast<uint32_t>(reinterpret_cast<uintptr_t>(context) >> 4) * 0x9e3779b1u >> 16;
+    [[nodiscard]] static uint32_t firstIndex(uintptr_t key) {
+        return static_cast<uint32_t>(key >> 4) * 0x9e3779b1u >> 16;
     }
 
+    [[nodiscard]] static uintptr_t keyOf(const egl::Context *context) { return reinterpret_cast<uintptr_t>(context); }
+
     [[nodiscard]] static Table *makeTable(uint32_t slotCount, Table *replaced);
-    static void insert(Table &table, const egl::Context *context, Function answer);
+    static void insert(Table &table, uintptr_t key, Function answer);
 
     // Readers may still be in a table that was replaced, so that all stay, linked from the newest: at most twice the
     // memory.

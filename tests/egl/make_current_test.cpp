@@ -120,6 +120,7 @@ TEST_F(MakeCurrent, SrgbSurfaceIsNeverForgotten) {
 
 TEST_F(MakeCurrent, ShareContextIsPrimedFirst) {
     const EGLContext grandparent = context(1), parent = context(2, grandparent), child = context(2, parent);
+    const EGLContext late = context(2, parent);
     const EGLSurface surface = window();
     takeLog();
     testing::internal::CaptureStdout();
@@ -133,6 +134,9 @@ TEST_F(MakeCurrent, ShareContextIsPrimedFirst) {
     EXPECT_EQ(eglGetCurrentContext(), child);
     EXPECT_SUCCEEDS(eglDestroyContext(m_display, parent)) << "priming leaves nothing bound";
     EXPECT_EQ(takeLines("zvDeleteEsContext(0x100)").size(), 1u);
+    EXPECT_SUCCEEDS(makeCurrent(surface, surface, late));
+    EXPECT_EQ(takeLines("zvCreateEsContext"), std::vector<std::string>{"es2 zvCreateEsContext(share (nil)) = 0x102"})
+        << "never the deleted one";
 }
 
 TEST_F(MakeCurrent, CurrentObjectsSurviveTerminate) {

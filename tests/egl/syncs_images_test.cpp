@@ -67,6 +67,7 @@ TEST_F(Syncs, AttributesAnswerWithTheHostsNumbers) {
     EXPECT_FAILS(EGL_BAD_PARAMETER, attribKhr(m_display, nullptr, EGL_SYNC_STATUS, &narrow));
     EXPECT_EQ(narrow, 0) << "stored after a failure too";
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglGetSyncAttrib(m_display, sync, EGL_SYNC_STATUS, nullptr));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, attribKhr(m_display, sync, EGL_SYNC_STATUS, nullptr));
 }
 
 TEST_F(Syncs, NothingWorksWithoutACurrentContext) {
