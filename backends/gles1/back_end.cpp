@@ -52,5 +52,5 @@ void *zvGetExtProcAddress(const char *name) {
 }
 
 void zvSetRenderMode(const uint8_t *mode, size_t length) {
-    if (mode && length > 0) setWireframeOfAll(*mode != 0);
+    if (mode && length > 0) setWireframeOfAll(*mode == 1);
 }

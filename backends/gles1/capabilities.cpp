@@ -9,9 +9,13 @@ namespace {
 
 using Switch = void(GL_APIENTRY *)(GLenum);
 
-void switchTo(GLenum cap, Switch set) {
+bool isCapability(GLenum cap) {
     const State *const state = findState(cap);
-    if (!state || state->kind != Kind::Capability) return raise(GL_INVALID_ENUM);
+    return state && state->kind == Kind::Capability;
+}
+
+void switchTo(GLenum cap, Switch set) {
+    if (!isCapability(cap)) return raise(GL_INVALID_ENUM);
     if (cap != GL_TEXTURE_GEN_STR_OES) return set(cap);
     for (const GLenum coordinate : {desktop::textureGenS, desktop::textureGenT, desktop::textureGenR})
         set(coordinate);
@@ -31,9 +35,21 @@ void GL_APIENTRY disable(GLenum cap) {
 
 GLboolean GL_APIENTRY isEnabled(GLenum cap) {
     const EsContext *const context = EsContext::current();
-    if (cap == GL_TEXTURE_GEN_STR_OES) return hostGl().isEnabled(desktop::textureGenS);
-    if (context && cap == GL_POINT_SIZE_ARRAY_OES) return context->arrays.bound().isPointSizeOn;
-    return hostGl().isEnabled(cap);
+    switch (cap) {
+    case GL_POINT_SIZE_ARRAY_OES:
+        return context && context->arrays.bound().isPointSizeOn;
+    case GL_TEXTURE_GEN_STR_OES:
+        return hostGl().isEnabled(desktop::textureGenS);
+    case GL_VERTEX_ARRAY:
+    case GL_NORMAL_ARRAY:
+    case GL_COLOR_ARRAY:
+    case GL_TEXTURE_COORD_ARRAY:
+        return hostGl().isEnabled(cap);
+    default:
+        if (isCapability(cap)) return hostGl().isEnabled(cap);
+        raise(GL_INVALID_ENUM);
+        return GL_FALSE;
+    }
 }
 
 } // namespace overrides

@@ -26,12 +26,14 @@ void Wireframe::apply() {
 
 namespace debug {
 
-void toggleWireframe(GLuint enable) {
-    setWireframeOfAll(enable != 0);
+GLuint64 toggleWireframe(GLuint isOn) {
+    setWireframeOfAll(isOn != 0);
+    return 0;
 }
 
-void setContextWireframe(GLuint enable) {
-    if (EsContext *const context = EsContext::current()) context->wireframe.set(enable != 0);
+GLuint64 setContextWireframe(GLuint isOn) {
+    if (EsContext *const context = EsContext::current()) context->wireframe.set(isOn != 0);
+    return 0;
 }
 
 } // namespace debug

@@ -8,9 +8,10 @@ void setWireframeOfAll(bool isOn);
 
 namespace debug {
 
-// What the debug names give. They take effect at the next draw.
-void toggleWireframe(GLuint enable);
-void setContextWireframe(GLuint enable);
+// What the debug names give: for every context, and for the current one. They take effect at the next draw and return
+// 0.
+GLuint64 toggleWireframe(GLuint isOn);
+GLuint64 setContextWireframe(GLuint isOn);
 
 } // namespace debug
 

@@ -158,6 +158,8 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
              ES(glDisable)
              (0xFFFF);
          }},
+        {"asking for a capability of the desktop", GL_INVALID_ENUM, [&] { ES(glIsEnabled)
+                                                                          (texture3d); }},
         {"no array", GL_INVALID_ENUM,
          [&] {
              ES(glEnableClientState)
