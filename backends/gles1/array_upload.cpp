@@ -14,6 +14,7 @@
 namespace {
 
 constexpr size_t maxUpload = size_t{1} << 30;
+constexpr GLuint maxVertices = 1u << 26;
 
 class BoundArrayBuffer {
 public:
@@ -135,13 +136,16 @@ void pointHostAt(unsigned slot, GLint size, size_t offset) {
 
 } // namespace
 
-VerticesRead verticesInRow(GLint first, GLsizei count) {
+std::optional<VerticesRead> verticesInRow(GLint first, GLsizei count) {
     const GLuint start = static_cast<GLuint>(first);
-    return {start, start + static_cast<GLuint>(count) - 1, {}};
+    const GLuint last = start + static_cast<GLuint>(count) - 1;
+    if (last >= maxVertices) return std::nullopt;
+    return VerticesRead{start, last, {}};
 }
 
-VerticesRead verticesOf(const std::vector<GLuint> &indices) {
+std::optional<VerticesRead> verticesOf(const std::vector<GLuint> &indices) {
     const auto [first, last] = std::ranges::minmax(indices);
+    if (last >= maxVertices) return std::nullopt;
     VerticesRead vertices = {first, last, {}};
     vertices.isRead.resize(size_t{last - first} + 1);
     for (const GLuint index : indices)

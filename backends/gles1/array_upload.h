@@ -3,6 +3,7 @@
 
 #include "array_objects.h"
 
+#include <optional>
 #include <vector>
 
 class EsContext;
@@ -14,8 +15,9 @@ struct VerticesRead {
     std::vector<bool> isRead;
 };
 
-[[nodiscard]] VerticesRead verticesInRow(GLint first, GLsizei count);
-[[nodiscard]] VerticesRead verticesOf(const std::vector<GLuint> &indices);
+// Nothing where a vertex lies beyond what can be uploaded. count: above 0. indices: not empty.
+[[nodiscard]] std::optional<VerticesRead> verticesInRow(GLint first, GLsizei count);
+[[nodiscard]] std::optional<VerticesRead> verticesOf(const std::vector<GLuint> &indices);
 
 // The array's numbers from the first vertex to the last, of each vertex array.size of them. Zeros for a vertex that is
 // not read or lies past the end of its buffer.

@@ -51,11 +51,11 @@ void drawPoints(const EsContext &context, const VerticesRead &vertices, GLsizei 
 
 void drawOwnArrays(EsContext &context, GLenum mode, GLint first, GLsizei count) {
     const HostGl &gl = hostGl();
-    const VerticesRead vertices = verticesInRow(first, count);
-    if (!uploadOwnArrays(context, vertices)) return context.raise(GL_OUT_OF_MEMORY);
+    const auto vertices = verticesInRow(first, count);
+    if (!vertices || !uploadOwnArrays(context, *vertices)) return context.raise(GL_OUT_OF_MEMORY);
     if (!hasPointSizes(context, mode)) return gl.drawArrays(mode, first, count);
     drawPoints(
-        context, vertices, count, [&](GLsizei place) { return static_cast<GLuint>(first + place); },
+        context, *vertices, count, [&](GLsizei place) { return static_cast<GLuint>(first + place); },
         [&](GLsizei start, GLsizei length) { gl.drawArrays(mode, first + start, length); });
 }
 
@@ -63,12 +63,12 @@ void drawOwnElements(EsContext &context, GLenum mode, GLsizei count, GLenum type
     const HostGl &gl = hostGl();
     const auto list = readIndices(count, type, indices);
     if (!list) return context.raise(GL_INVALID_OPERATION);
-    const VerticesRead vertices = verticesOf(*list);
-    if (!uploadOwnArrays(context, vertices)) return context.raise(GL_OUT_OF_MEMORY);
+    const auto vertices = verticesOf(*list);
+    if (!vertices || !uploadOwnArrays(context, *vertices)) return context.raise(GL_OUT_OF_MEMORY);
     if (!hasPointSizes(context, mode)) return gl.drawElements(mode, count, type, indices);
     const auto *const bytes = static_cast<const char *>(indices);
     drawPoints(
-        context, vertices, count, [&](GLsizei place) { return (*list)[static_cast<size_t>(place)]; },
+        context, *vertices, count, [&](GLsizei place) { return (*list)[static_cast<size_t>(place)]; },
         [&](GLsizei start, GLsizei length) {
             gl.drawElements(mode, length, type, bytes + static_cast<ptrdiff_t>(start) * indexSize(type));
         });

@@ -158,8 +158,11 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
              ES(glDisable)
              (0xFFFF);
          }},
-        {"asking for a capability of the desktop", GL_INVALID_ENUM, [&] { ES(glIsEnabled)
-                                                                          (texture3d); }},
+        {"asking for a capability of the desktop", GL_INVALID_ENUM,
+         [&] {
+             ES(glIsEnabled)
+             (texture3d);
+         }},
         {"no array", GL_INVALID_ENUM,
          [&] {
              ES(glEnableClientState)
@@ -200,6 +203,14 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
              ES(glBindVertexArrayOES)(object);
              ES(glVertexPointer)(2, GL_FIXED, 0, fixed);
              ES(glBindVertexArrayOES)(0);
+         }},
+        {"a vertex out of reach", GL_OUT_OF_MEMORY,
+         [&] {
+             const GLuint index = ~0u;
+             ES(glVertexPointer)(2, GL_FIXED, 0, fixed);
+             ES(glEnableClientState)(GL_VERTEX_ARRAY);
+             ES(glDrawElements)(GL_POINTS, 1, GL_UNSIGNED_INT, &index);
+             ES(glDisableClientState)(GL_VERTEX_ARRAY);
          }},
         {"no parameter", GL_INVALID_ENUM,
          [&] {
