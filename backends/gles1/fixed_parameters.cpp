@@ -11,26 +11,18 @@ namespace {
 
 using Floats = std::array<GLfloat, 4>;
 
-// Null after the error that ES names: an unknown name, or one that takes a vector.
-const Parameter *known(Family family, GLenum name, bool isScalar) {
-    const Parameter *const parameter = findParameter(family, name);
-    if (parameter && !(isScalar && parameter->count != 1)) return parameter;
-    raise(GL_INVALID_ENUM);
-    return nullptr;
-}
-
 GLfloat toFloat(const Parameter &parameter, GLfixed number) {
     return parameter.kind == Kind::Value ? fromFixed(number) : static_cast<GLfloat>(number);
 }
 
 template <typename Set>
 void setScalar(Family family, GLenum name, GLfixed number, Set set) {
-    if (const Parameter *const parameter = known(family, name, true)) set(toFloat(*parameter, number));
+    if (const Parameter *const parameter = checkScalar(family, name)) set(toFloat(*parameter, number));
 }
 
 template <typename Set>
 void setVector(Family family, GLenum name, const GLfixed *numbers, Set set) {
-    const Parameter *const parameter = numbers ? known(family, name, false) : nullptr;
+    const Parameter *const parameter = numbers ? checkVector(family, name) : nullptr;
     if (!parameter) return;
     Floats floats = {};
     std::transform(numbers, numbers + parameter->count, floats.begin(),
@@ -41,7 +33,7 @@ void setVector(Family family, GLenum name, const GLfixed *numbers, Set set) {
 // What the host leaves as it is, after an error of its own, does not reach the application.
 template <typename Get>
 void getVector(Family family, GLenum name, GLfixed *numbers, Get get) {
-    const Parameter *const parameter = numbers ? known(family, name, false) : nullptr;
+    const Parameter *const parameter = numbers ? checkVector(family, name) : nullptr;
     if (!parameter) return;
     Floats floats;
     floats.fill(NAN);
@@ -85,11 +77,12 @@ void GL_APIENTRY lightModelxv(GLenum pname, const GLfixed *param) {
 }
 
 void GL_APIENTRY materialx(GLenum face, GLenum pname, GLfixed param) {
-    setScalar(Family::Material, pname, param, [&](GLfloat value) { hostGl().materialf(face, pname, value); });
+    setScalar(Family::Material, pname, param, [&](GLfloat value) { overrides::materialf(face, pname, value); });
 }
 
 void GL_APIENTRY materialxv(GLenum face, GLenum pname, const GLfixed *param) {
-    setVector(Family::Material, pname, param, [&](const GLfloat *values) { hostGl().materialfv(face, pname, values); });
+    setVector(Family::Material, pname, param,
+              [&](const GLfloat *values) { overrides::materialfv(face, pname, values); });
 }
 
 void GL_APIENTRY getMaterialxv(GLenum face, GLenum pname, GLfixed *params) {

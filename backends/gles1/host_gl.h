@@ -64,6 +64,8 @@
     HOST_CALL(scalef, glScalef)                                                                                        \
     HOST_CALL(texCoordPointer, glTexCoordPointer)                                                                      \
     HOST_CALL(texEnvf, glTexEnvf)                                                                                      \
+    HOST_CALL(texEnvi, glTexEnvi)                                                                                      \
+    HOST_CALL(texEnviv, glTexEnviv)                                                                                    \
     HOST_CALL(texEnvfv, glTexEnvfv)                                                                                    \
     HOST_CALL(texImage2D, glTexImage2D)                                                                                \
     HOST_CALL(texParameterf, glTexParameterf)                                                                          \
@@ -97,6 +99,8 @@
     DESKTOP_CALL(popAttrib, glPopAttrib, void, ())                                                                     \
     DESKTOP_CALL(pushAttrib, glPushAttrib, void, (GLbitfield groups))                                                  \
     DESKTOP_CALL(texGenf, glTexGenf, void, (GLenum coord, GLenum pname, GLfloat param))                                \
+    DESKTOP_CALL(texStorage2D, glTexStorage2D, void,                                                                   \
+                 (GLenum target, GLsizei levels, GLenum internalformat, GLsizei width, GLsizei height))                \
     DESKTOP_CALL(vertex2f, glVertex2f, void, (GLfloat x, GLfloat y))
 
 struct HostGl {

@@ -1,5 +1,7 @@
 #include "parameters.h"
 
+#include "es_context.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -36,4 +38,17 @@ const Parameter *findParameter(Family family, GLenum name) {
 const State *findState(GLenum name) {
     const auto row = std::ranges::lower_bound(states, name, {}, &State::name);
     return row == states.end() || row->name != name ? nullptr : row;
+}
+
+const Parameter *checkScalar(Family family, GLenum name) {
+    const Parameter *const parameter = findParameter(family, name);
+    if (parameter && parameter->count == 1) return parameter;
+    raise(GL_INVALID_ENUM);
+    return nullptr;
+}
+
+const Parameter *checkVector(Family family, GLenum name) {
+    const Parameter *const parameter = findParameter(family, name);
+    if (!parameter) raise(GL_INVALID_ENUM);
+    return parameter;
 }

@@ -23,3 +23,7 @@ struct State {
 // Null for what ES 1 does not know.
 [[nodiscard]] const Parameter *findParameter(Family family, GLenum name);
 [[nodiscard]] const State *findState(GLenum name);
+
+// As findParameter, for a call that gives one number or a vector; null after the error that ES names for it.
+[[nodiscard]] const Parameter *checkScalar(Family family, GLenum name);
+[[nodiscard]] const Parameter *checkVector(Family family, GLenum name);

@@ -4,6 +4,7 @@
 #include "fixed_point.h"
 #include "host_gl.h"
 #include "overrides.h"
+#include "parameters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -93,11 +94,13 @@ TextureCrop boundTextureCrop(EsContext &context) {
 namespace overrides {
 
 void GL_APIENTRY texParameterfv(GLenum target, GLenum pname, const GLfloat *params) {
-    if (!setCrop(target, pname, params)) hostGl().texParameterfv(target, pname, params);
+    if (!setCrop(target, pname, params) && checkVector(Family::TexParameter, pname))
+        hostGl().texParameterfv(target, pname, params);
 }
 
 void GL_APIENTRY texParameteriv(GLenum target, GLenum pname, const GLint *params) {
-    if (!setCrop(target, pname, params)) hostGl().texParameteriv(target, pname, params);
+    if (!setCrop(target, pname, params) && checkVector(Family::TexParameter, pname))
+        hostGl().texParameteriv(target, pname, params);
 }
 
 void GL_APIENTRY getTexParameterfv(GLenum target, GLenum pname, GLfloat *params) {

