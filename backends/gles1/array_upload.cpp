@@ -167,6 +167,10 @@ std::vector<GLfloat> readNumbers(const OwnArray &array, const VerticesRead &vert
     return numbers;
 }
 
+bool drawsFromOwnArrays(const ArrayObject &object) {
+    return std::ranges::any_of(object.own, [](const auto &entry) { return isOn(entry.first); });
+}
+
 bool uploadOwnArrays(EsContext &context, const VerticesRead &vertices) {
     const HostGl &gl = hostGl();
     // Vertices keep their numbers, so that the host's own arrays go with them: the buffer has room for those before the

@@ -23,5 +23,8 @@ struct VerticesRead {
 // not read or lies past the end of its buffer.
 [[nodiscard]] std::vector<GLfloat> readNumbers(const OwnArray &array, const VerticesRead &vertices);
 
+// True when a draw reads an array that is kept here.
+[[nodiscard]] bool drawsFromOwnArrays(const ArrayObject &object);
+
 // Points the host's arrays that are on and kept here at what the draw reads of them. False when it is too much.
 [[nodiscard]] bool uploadOwnArrays(EsContext &context, const VerticesRead &vertices);

@@ -38,6 +38,13 @@ constexpr GLenum ownFormats[] = {
 };
 constexpr GLenum dxt1Formats[] = {GL_COMPRESSED_RGB_S3TC_DXT1_EXT, GL_COMPRESSED_RGBA_S3TC_DXT1_EXT};
 
+// The numbers of an element; null where the device does not tell them all.
+const std::vector<double> *told(const std::optional<EsBlock> &device, std::string_view element, size_t count) {
+    if (!device) return nullptr;
+    const auto found = device->limits.find(element);
+    return found == device->limits.end() || found->second.size() < count ? nullptr : &found->second;
+}
+
 // A range that shares nothing with the host's leaves the host's in force.
 void cut(std::vector<double> &host, const std::vector<double> &device) {
     if (host.size() == 1) {
@@ -50,7 +57,7 @@ void cut(std::vector<double> &host, const std::vector<double> &device) {
 } // namespace
 
 Limits::Limits(const HostFeatures &host, const std::optional<EsBlock> &device) {
-    if (device) cutLimits(*device);
+    cutLimits(device);
     takeCompressedFormats(host, device);
     takeReadFormat(device);
 }
@@ -60,14 +67,14 @@ const std::vector<double> *Limits::find(GLenum pname) const {
     return found == m_values.end() ? nullptr : &found->second;
 }
 
-void Limits::cutLimits(const EsBlock &device) {
+void Limits::cutLimits(const std::optional<EsBlock> &device) {
     for (const Limit &limit : limits) {
-        const auto told = device.limits.find(limit.element);
-        if (told == device.limits.end() || told->second.size() < limit.count) continue;
+        const auto *const numbers = told(device, limit.element, limit.count);
+        if (!numbers) continue;
         std::array<GLfloat, 2> hosts = {};
         hostGl().getFloatv(limit.name, hosts.data());
         std::vector<double> values(hosts.begin(), hosts.begin() + static_cast<ptrdiff_t>(limit.count));
-        cut(values, told->second);
+        cut(values, *numbers);
         m_values[limit.name] = std::move(values);
     }
 }
@@ -77,10 +84,9 @@ void Limits::takeCompressedFormats(const HostFeatures &host, const std::optional
     if (carriesExtension(host, "GL_EXT_texture_compression_dxt1")) {
         formats.insert(formats.end(), std::begin(dxt1Formats), std::end(dxt1Formats));
     }
-    const auto told = device ? device->limits.find("compressed_texture_format") : decltype(device->limits.end()){};
-    if (device && told != device->limits.end()) {
+    if (const auto *const wanted = told(device, "compressed_texture_format", 1)) {
         std::vector<double> both;
-        for (const double format : told->second)
+        for (const double format : *wanted)
             if (std::ranges::find(formats, format) != formats.end()) both.push_back(format);
         formats = std::move(both);
     }

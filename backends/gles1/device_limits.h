@@ -15,7 +15,7 @@ public:
     [[nodiscard]] const std::vector<double> *find(GLenum pname) const;
 
 private:
-    void cutLimits(const EsBlock &device);
+    void cutLimits(const std::optional<EsBlock> &device);
     void takeCompressedFormats(const HostFeatures &host, const std::optional<EsBlock> &device);
     void takeReadFormat(const std::optional<EsBlock> &device);
 

@@ -152,10 +152,6 @@ void draw(double x, double y, double z, double width, double height) {
     reportingMemory(*context, [&] { drawRectangle(*context, x, y, z, width, height); });
 }
 
-double precise(GLfixed number) {
-    return number / fixedOne;
-}
-
 } // namespace
 
 namespace overrides {
@@ -173,6 +169,7 @@ void GL_APIENTRY drawTexsOES(GLshort x, GLshort y, GLshort z, GLshort width, GLs
 }
 
 void GL_APIENTRY drawTexxOES(GLfixed x, GLfixed y, GLfixed z, GLfixed width, GLfixed height) {
+    constexpr auto precise = preciseFromFixed;
     draw(precise(x), precise(y), precise(z), precise(width), precise(height));
 }
 

@@ -15,7 +15,7 @@ bool hasPointSizes(const EsContext &context, GLenum mode) {
 }
 
 bool isPlain(const EsContext &context, GLenum mode) {
-    return context.arrays.bound().own.empty() && !hasPointSizes(context, mode);
+    return !hasPointSizes(context, mode) && !drawsFromOwnArrays(context.arrays.bound());
 }
 
 // False after an error. Desktop OpenGL has modes that ES 1 lacks.

@@ -8,8 +8,12 @@
 
 inline constexpr double fixedOne = 65536.0;
 
+[[nodiscard]] constexpr double preciseFromFixed(GLfixed number) {
+    return number / fixedOne;
+}
+
 [[nodiscard]] constexpr GLfloat fromFixed(GLfixed number) {
-    return static_cast<GLfloat>(number / fixedOne);
+    return static_cast<GLfloat>(preciseFromFixed(number));
 }
 
 // To the nearest integer; a number past the end of the type gives the end, and no number gives 0.

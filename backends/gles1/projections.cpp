@@ -7,9 +7,7 @@
 
 namespace {
 
-constexpr double precise(GLfixed number) {
-    return number / fixedOne;
-}
+constexpr auto precise = preciseFromFixed;
 
 template <typename Convert, typename Number>
 void setClipPlane(GLenum plane, const Number *equation, Convert convert) {

@@ -92,11 +92,4 @@ void GL_APIENTRY pixelStorei(GLenum pname, GLint param) {
     hostGl().pixelStorei(pname, param);
 }
 
-// ES has write access alone.
-void *GL_APIENTRY mapBufferOES(GLenum target, GLenum access) {
-    if (access == GL_WRITE_ONLY_OES) return hostGl().mapBuffer(target, access);
-    raise(GL_INVALID_ENUM);
-    return nullptr;
-}
-
 } // namespace overrides
