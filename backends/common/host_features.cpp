@@ -9,13 +9,14 @@
 
 namespace {
 
+// A reference to the function itself would ask the back end for a name that it may not have.
 template <typename Function>
-Function *host(Function &, const char *name) {
-    return reinterpret_cast<Function *>(hostFunction(name));
+Function host(const char *name) {
+    return reinterpret_cast<Function>(hostFunction(name));
 }
 
 const char *hostString(GLenum name) {
-    const auto getString = host(glGetString, "glGetString");
+    const auto getString = host<decltype(&glGetString)>("glGetString");
     const GLubyte *const text = getString ? getString(name) : nullptr;
     return text ? reinterpret_cast<const char *>(text) : "";
 }
@@ -44,8 +45,8 @@ HostFeatures::HostFeatures() {
 
 // A core context has the list alone, a host before 3.0 the string alone.
 void HostFeatures::readExtensionList() {
-    const auto getIntegerv = host(glGetIntegerv, "glGetIntegerv");
-    const auto getStringi = host(glGetStringi, "glGetStringi");
+    const auto getIntegerv = host<decltype(&glGetIntegerv)>("glGetIntegerv");
+    const auto getStringi = host<decltype(&glGetStringi)>("glGetStringi");
     if (!getIntegerv || !getStringi) return;
     GLint count = 0;
     getIntegerv(GL_NUM_EXTENSIONS, &count);

@@ -1,0 +1,31 @@
+#include "host_gl.h"
+
+#include "common/host_library.h"
+
+#include <optional>
+
+namespace {
+
+std::optional<HostGl> loadHostGl() {
+    HostGl gl;
+#define HOST_CALL(field, name)                                                                                         \
+    gl.field = reinterpret_cast<decltype(gl.field)>(hostFunction(#name));                                              \
+    if (!gl.field) return std::nullopt;
+#define DESKTOP_CALL(field, name, result, parameters) HOST_CALL(field, name)
+    HOST_CALLS(HOST_CALL)
+    DESKTOP_CALLS(DESKTOP_CALL)
+#undef DESKTOP_CALL
+#undef HOST_CALL
+    return gl;
+}
+
+} // namespace
+
+const HostGl *findHostGl() {
+    static const std::optional<HostGl> gl = loadHostGl();
+    return gl ? &*gl : nullptr;
+}
+
+const HostGl &hostGl() {
+    return *findHostGl();
+}

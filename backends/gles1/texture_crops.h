@@ -1,0 +1,33 @@
+// The rectangles of textures that glDrawTex draws. Textures are shared by contexts, and their rectangles with them.
+#pragma once
+
+#include "es1_gl.h"
+
+#include <array>
+#include <map>
+#include <memory>
+#include <mutex>
+
+using TextureCrop = std::array<GLint, 4>; // left, bottom, width, height in texels; the sizes may be negative
+
+// Any thread.
+class TextureCrops {
+public:
+    void set(GLuint texture, const TextureCrop &crop);
+    // Zeros for a texture that never got one.
+    [[nodiscard]] TextureCrop get(GLuint texture);
+    void forget(GLuint texture);
+
+private:
+    std::mutex m_mutex;
+    std::map<GLuint, TextureCrop> m_crops; // guarded by m_mutex
+};
+
+// The record that the context shares with share, or a new one when share is null or unknown. Any thread.
+[[nodiscard]] std::shared_ptr<TextureCrops> joinTextureCrops(const void *context, const void *share);
+void leaveTextureCrops(const void *context);
+
+class EsContext;
+
+// Of the texture that is bound to the active unit. With the host context current.
+[[nodiscard]] TextureCrop boundTextureCrop(EsContext &context);
