@@ -14,7 +14,7 @@ TEST_F(ClientThreads, FourCreateBindDrawSwapAndDestroyAtOnce) {
     initialise(EGL_DEFAULT_DISPLAY);
     std::vector<Window> windows;
     for (int i = 0; i < 4; ++i)
-        windows.push_back(makeWindow());
+        windows.push_back(i % 2 ? makeWindowOfAnotherVisual(64, 48) : makeWindow());
 
     const auto work = [&](Window window, float shade) {
         const Pixel expected{uint8_t(shade * 255 + 0.5f), 0, 0, 255};

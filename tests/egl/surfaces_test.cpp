@@ -56,6 +56,9 @@ TEST_F(Surfaces, PbufferCrossesTargetAndFormat) {
         {{EGL_WIDTH, 4, EGL_TEXTURE_TARGET, EGL_NO_TEXTURE, EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE, EGL_HEIGHT, 2,
           EGL_NONE},
          "(6408, 3553, 0, 4, 2)"},
+        {{EGL_WIDTH, 4, EGL_TEXTURE_TARGET, EGL_TEXTURE_2D, EGL_TEXTURE_TARGET, EGL_TEXTURE_RGB, EGL_HEIGHT, -1,
+          EGL_NONE},
+         "(6407, 0, 0, 4, -1)"},
         {{EGL_LARGEST_PBUFFER, 1, EGL_WIDTH, 4, EGL_VG_COLORSPACE, 7, EGL_HEIGHT, 2, EGL_NONE}, "(0, 0, 0, 4, 2)"},
     };
     for (const auto &[attributes, asked] : rows) {

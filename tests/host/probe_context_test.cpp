@@ -8,27 +8,27 @@ using namespace host;
 
 using ProbeContexts = RecordedHost;
 
-const std::string reads = "pixelFormatValue(format2, 5) = 0\n"
-                          "pixelFormatValue(format2, 8) = 0\n"
-                          "pixelFormatValue(format2, 11) = 0\n"
-                          "pixelFormatValue(format2, 12) = 0\n"
-                          "pixelFormatValue(format2, 13) = 0\n"
-                          "pixelFormatValue(format2, 55) = 0\n"
-                          "pixelFormatValue(format2, 56) = 0\n";
-
 TEST_F(ProbeContexts, OnAThreadWithNothingCurrent) {
+    recordingSetFormatValue(platform::DepthSize, 24);
     const auto windowSystem = std::make_shared<glove::WSAPI>();
     auto probe = createHostProbeContext(windowSystem);
     EXPECT_TRUE(isHostProbeCurrent(*probe));
     EXPECT_EQ(windowSystem.use_count(), 2);
+    // Derived with what the host gave, and double-buffered whatever it says.
     EXPECT_EQ(takeLog(), "createPixelFormat(0, 99 12800 0) = format1\n"
-                         "createPixelFormat(0, 99 12800 0) = format2\n" +
-                             reads +
-                             "derivePixelFormat(format2, 99 12800 5 8 0 11 0 12 0 13 0 55 0 56 0 0) = format3\n"
-                             "createContext(format3, null) = context1\n"
-                             "saveBinding() = null\n"
-                             "currentContext() = null\n"
-                             "makeCurrent(context1) = true\n");
+                         "createPixelFormat(0, 99 12800 0) = format2\n"
+                         "pixelFormatValue(format2, 5) = 0\n"
+                         "pixelFormatValue(format2, 8) = 0\n"
+                         "pixelFormatValue(format2, 11) = 0\n"
+                         "pixelFormatValue(format2, 12) = 24\n"
+                         "pixelFormatValue(format2, 13) = 0\n"
+                         "pixelFormatValue(format2, 55) = 0\n"
+                         "pixelFormatValue(format2, 56) = 0\n"
+                         "derivePixelFormat(format2, 99 12800 5 8 0 11 0 12 24 13 0 55 0 56 0 0) = format3\n"
+                         "createContext(format3, null) = context1\n"
+                         "saveBinding() = null\n"
+                         "currentContext() = null\n"
+                         "makeCurrent(context1) = true\n");
     const auto *container = probe->probe->context->container();
     EXPECT_EQ(currentHostContext(), container);
 
@@ -41,27 +41,24 @@ TEST_F(ProbeContexts, OnAThreadWithNothingCurrent) {
     EXPECT_EQ(takeLog(), "");
 }
 
-TEST_F(ProbeContexts, PutsBackAContextThatDraws) {
-    const auto handle = createHostContext({.format = makeProbePixelFormat(), .legacy = 0});
-    const std::shared_ptr<glove::ISurface> window = createHostWindowSurface(0, 291);
-    ASSERT_TRUE(makeHostContextCurrent(handle.get(), window));
-    auto probe = createHostProbeContext(nullptr);
-    EXPECT_NE(currentHostContext(), handle->context->container());
-    takeLog();
-    destroyHostProbeContext(std::move(probe));
-    EXPECT_EQ(takeLog(), "restoreBinding(context1)\nreleaseContext(context2)\n");
-    EXPECT_EQ(currentHostContext(), handle->context->container());
-    window->swapBuffers();
-    EXPECT_EQ(takeLog(), "view(context1) = 0:291\nflushBuffer(context1)\n");
-}
-
-TEST_F(ProbeContexts, PutsBackAContextOfTheApplication) {
+TEST_F(ProbeContexts, PutsBackWhatWasCurrent) {
     recordingMakeForeignCurrent(9);
     auto probe = createHostProbeContext(nullptr);
     takeLog();
     destroyHostProbeContext(std::move(probe));
     EXPECT_EQ(takeLog(), "restoreBinding(foreign9)\nreleaseContext(context1)\n");
     EXPECT_EQ(currentHostContext(), nullptr);
+
+    const auto handle = createHostContext({.format = makeProbePixelFormat()});
+    const std::shared_ptr<glove::ISurface> window = createHostWindowSurface(0, 291);
+    ASSERT_TRUE(makeHostContextCurrent(handle.get(), window));
+    probe = createHostProbeContext(nullptr);
+    EXPECT_NE(currentHostContext(), handle->context->container());
+    takeLog();
+    destroyHostProbeContext(std::move(probe));
+    window->swapBuffers();
+    EXPECT_EQ(takeLog(), "restoreBinding(context2)\nreleaseContext(context3)\n"
+                         "view(context2) = 0:291\nflushBuffer(context2)\n");
 }
 
 TEST_F(ProbeContexts, IsNotCurrentOnAHostThatRefuses) {

@@ -1,12 +1,15 @@
 // The recording platform as tests of the neutral code use it.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <string>
 
 #include "host/host_context.h"
 #include "host/platform/recording/control.h"
+
+using testing::HasSubstr;
+using testing::Not;
 
 // The calls since the last time, one a line.
 inline std::string takeLog() {
