@@ -1,8 +1,5 @@
 #include "x11_fixture.h"
 
-#include <cstdlib>
-#include <unistd.h>
-
 namespace {
 
 using PixelFormatsOnX11 = X11Host;
@@ -30,25 +27,6 @@ TEST_F(PixelFormatsOnX11, GiveAtLeastWhatIsAsked) {
     EXPECT_EQ(operations.pixelFormatValue(format(unknown).get(), 4711), 0);
     EXPECT_EQ(format(tooDeep), nullptr);
     EXPECT_NE(Format(operations.createPixelFormat(1, coreList)), nullptr); // no address: the default display
-}
-
-void expectNothingWithoutServer() {
-    for (const char *display : {"", ":77", "no such server"}) {
-        setenv("DISPLAY", display, 1);
-        EXPECT_EQ(operations.createPixelFormat(0, coreList), nullptr);
-        int32_t width = -1, height = -1;
-        operations.viewSize({0, 291}, &width, &height);
-        EXPECT_EQ(width, -1);
-        EXPECT_EQ(operations.viewTitle({0, 291}), "");
-        EXPECT_EQ(operations.saveBinding(), nullptr);
-        operations.restoreBinding(nullptr);
-    }
-    _exit(testing::Test::HasFailure() ? 1 : 0);
-}
-
-// In a process of its own, ahead of the cases that open connections.
-TEST(PixelFormatsWithoutServerDeathTest, AreNull) {
-    EXPECT_EXIT(expectNothingWithoutServer(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(PixelFormatsOnX11, ContextsHaveTheProfileOfTheFormat) {

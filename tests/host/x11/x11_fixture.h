@@ -1,7 +1,7 @@
 // An application with a connection and windows of its own, next to the operations on the same server.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cstdint>
 #include <memory>
@@ -14,6 +14,8 @@
 #include <X11/Xutil.h>
 
 using namespace host::platform;
+using testing::IsEmpty;
+using testing::SizeIs;
 
 constexpr uint32_t coreList[] = {OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, DepthSize, 24, 0};
 constexpr uint32_t legacyList[] = {OpenGLProfile, profileLegacy, DoubleBuffer, ColorSize, 24, DepthSize, 24, 0};
@@ -56,18 +58,13 @@ protected:
 
     // An application's window that the server may not have heard of yet.
     Window window(int width, int height, const XVisualInfo *visual = nullptr) {
+        const Window root = DefaultRootWindow(application);
+        Visual *const own = visual ? visual->visual : DefaultVisual(application, DefaultScreen(application));
         XSetWindowAttributes attributes{};
-        attributes.border_pixel = 0;
-        unsigned long mask = CWBorderPixel;
-        if (visual) {
-            attributes.colormap =
-                XCreateColormap(application, DefaultRootWindow(application), visual->visual, AllocNone);
-            mask |= CWColormap;
-        }
+        attributes.colormap = XCreateColormap(application, root, own, AllocNone);
         const Window result =
-            XCreateWindow(application, DefaultRootWindow(application), left, 0, static_cast<unsigned>(width),
-                          static_cast<unsigned>(height), 0, visual ? visual->depth : CopyFromParent, InputOutput,
-                          visual ? visual->visual : static_cast<Visual *>(CopyFromParent), mask, &attributes);
+            XCreateWindow(application, root, left, 0, width, height, 0, visual ? visual->depth : CopyFromParent,
+                          InputOutput, own, CWBorderPixel | CWColormap, &attributes);
         left += width + 64; // beside each other, since only what is seen can be read
         XMapWindow(application, result);
         return result;
