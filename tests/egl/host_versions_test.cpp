@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 #include "fakes/every_extension.h"
 #include "host/platform/recording/control.h"
@@ -21,13 +22,15 @@ protected:
         return eglCreateContext(initialised(), config(), share, attributes);
     }
 
-    // What the back end is told of such a context.
-    ContextAttribs attribsOf(EGLint major, EGLint minor = 0) {
+    // Makes such a context and looks at what the back end is told of it.
+    void expectAttribs(EGLint major, EGLint minor, EGLint esMajor, EGLint esMinor, int isStrict, const char *reason) {
         const EGLContext context = create(major, minor);
-        EXPECT_NE(context, EGL_NO_CONTEXT);
         const EGLSurface surface = window();
         EXPECT_SUCCEEDS(eglMakeCurrent(initialised(), surface, surface, context));
-        return backEnd().createdWith;
+        const ContextAttribs &told = backEnd().createdWith;
+        EXPECT_EQ(std::tuple(told.requestedMajor, told.esMajor, told.esMinor, told.strictContextMode),
+                  std::tuple(major, esMajor, esMinor, isStrict))
+            << reason;
     }
 
     static void useHost(const char *version, const char *extensions = "") {
@@ -45,11 +48,6 @@ void useStrictMode() {
            "<key>strict_context_mode</key><true/></dict></dict></plist>\n";
 }
 
-std::string everyExtensionBut(const std::string &name) {
-    std::string text = everyExtension;
-    return text.erase(text.find(name + " "), name.size() + 1);
-}
-
 size_t countOf(const std::string &text, const std::string &part) {
     size_t count = 0;
     for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
@@ -60,7 +58,7 @@ size_t countOf(const std::string &text, const std::string &part) {
 } // namespace
 
 TEST_F(HostVersions, MinorVersionIsRaisedAsFarAsTheHostGoes) {
-    const std::string noBaseVertex = everyExtensionBut("GL_ARB_draw_elements_base_vertex");
+    const std::string noBaseVertex = everyExtensionBut({"GL_ARB_draw_elements_base_vertex"});
     const struct {
         const char *version, *extensions;
         EGLint major, minor, esMajor, esMinor;
@@ -72,29 +70,28 @@ TEST_F(HostVersions, MinorVersionIsRaisedAsFarAsTheHostGoes) {
         {"4.6", "", 3, 0, 3, 0, "nothing beyond the core"},
         {"4.6", "", 3, 1, 3, 1, "never lowered"},
         {"4.6", everyExtension, 3, 2, 3, 2, "the highest is left alone"},
-        {"4.6", everyExtension, 1, 0, 1, 0, "ES 1 is not raised"},
     };
     for (const auto &row : rows) {
         useHost(row.version, row.extensions);
-        const auto attribs = row.major == 1 ? ContextAttribs{} : attribsOf(row.major, row.minor);
-        if (row.major == 1) {
-            takeLog();
-            EXPECT_NE(create(1), EGL_NO_CONTEXT);
-            EXPECT_EQ(takeLines("createContext").size(), 1u) << "ES 1 probes nothing";
-            continue;
-        }
-        EXPECT_EQ(attribs.esMajor, row.esMajor) << row.reason;
-        EXPECT_EQ(attribs.esMinor, row.esMinor) << row.reason;
-        EXPECT_EQ(attribs.requestedMajor, row.major) << row.reason;
-        EXPECT_EQ(attribs.strictContextMode, 0);
+        expectAttribs(row.major, row.minor, row.esMajor, row.esMinor, 0, row.reason);
     }
+    takeLog();
+    EXPECT_NE(create(1), EGL_NO_CONTEXT);
+    EXPECT_EQ(takeLines("createContext").size(), 1u) << "ES 1 is not raised and probes nothing";
+    EXPECT_NE(create(3), EGL_NO_CONTEXT);
+    recordingFailNext("createContext");
+    expectAttribs(3, 0, 3, 0, 0, "without a probe");
+    EXPECT_EQ(takeLines("restoreBinding").size(), 2u) << "what was current comes back, whether the probe worked or not";
 }
 
-TEST_F(HostVersions, RaisingWithoutAProbeLeavesTheVersion) {
+TEST_F(HostVersions, StrictModeTakesTheVersionThatTheHostCarries) {
+    useStrictMode();
     useHost("4.6", everyExtension);
-    static_cast<void>(initialised());
-    recordingFailNext("createContext");
-    EXPECT_EQ(attribsOf(3).esMinor, 0);
+    expectAttribs(3, 1, 3, 2, 1, "the raised version is the tested one");
+    useHost("4.0");
+    expectAttribs(2, 0, 2, 0, 1, "back to what was asked for");
+    useHost("3.3");
+    EXPECT_FAILS(EGL_BAD_ALLOC, create(2));
 }
 
 TEST_F(HostVersions, StrictModeRefusesAndReportsOnce) {
@@ -123,16 +120,6 @@ TEST_F(HostVersions, StrictModeKeepsAPendingError) {
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglCreateContext(m_display, chosen, nullptr, es3));
     EXPECT_EQ(eglCreateContext(m_display, chosen, nullptr, es3), EGL_NO_CONTEXT);
     EXPECT_EQ(countOf(testing::internal::GetCapturedStderr(), "System Report:"), 1u) << "one for all failures";
-}
-
-TEST_F(HostVersions, StrictModeFallsBackToTheMajorVersionAskedFor) {
-    useStrictMode();
-    useHost("4.0");
-    const auto attribs = attribsOf(2);
-    EXPECT_EQ(attribs.requestedMajor, 2);
-    EXPECT_EQ(attribs.esMajor, 2);
-    EXPECT_EQ(attribs.esMinor, 0);
-    EXPECT_EQ(attribs.strictContextMode, 1);
 }
 
 TEST_F(HostVersions, StrictModeWithoutAProbeRefuses) {
