@@ -27,18 +27,17 @@ TEST_F(Surfaces, WindowAnswersFromHostAndMap) {
     const EGLint single[] = {EGL_RENDER_BUFFER, EGL_SINGLE_BUFFER, EGL_VG_COLORSPACE, 1234, EGL_NONE};
     const EGLSurface surface = eglCreateWindowSurface(initialised(), config(), 77, single);
     // The last one succeeds and stores nothing.
-    const EGLint answers[] = {EGL_WIDTH,           640,
-                              EGL_HEIGHT,          480,
-                              EGL_RENDER_BUFFER,   EGL_SINGLE_BUFFER,
-                              EGL_VG_COLORSPACE,   1234,
-                              EGL_SWAP_BEHAVIOR,   EGL_BUFFER_DESTROYED,
-                              EGL_TEXTURE_FORMAT,  EGL_NO_TEXTURE,
-                              EGL_CONFIG_ID,       1,
-                              EGL_GL_COLORSPACE,   EGL_GL_COLORSPACE_LINEAR,
-                              EGL_BUFFER_AGE_KHR,  0,
-                              EGL_LARGEST_PBUFFER, -77};
-    for (size_t i = 0; i < std::size(answers); i += 2)
-        EXPECT_EQ(querySurface(surface, answers[i]), answers[i + 1]) << std::hex << answers[i];
+    const std::pair<EGLint, EGLint> answers[] = {{EGL_WIDTH, 640},
+                                                 {EGL_RENDER_BUFFER, EGL_SINGLE_BUFFER},
+                                                 {EGL_VG_COLORSPACE, 1234},
+                                                 {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
+                                                 {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},
+                                                 {EGL_CONFIG_ID, 1},
+                                                 {EGL_GL_COLORSPACE, EGL_GL_COLORSPACE_LINEAR},
+                                                 {EGL_BUFFER_AGE_KHR, 0},
+                                                 {EGL_LARGEST_PBUFFER, -77}};
+    for (const auto &[attribute, answer] : answers)
+        EXPECT_EQ(querySurface(surface, attribute), answer) << std::hex << attribute;
     EGLint value = -77;
     EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglQuerySurface(m_display, surface, EGL_MIPMAP_LEVEL, &value));
     EXPECT_EQ(value, -77);
@@ -63,7 +62,7 @@ TEST_F(Surfaces, PbufferCrossesTargetAndFormat) {
     };
     for (const auto &[attributes, asked] : rows) {
         EXPECT_NE(eglCreatePbufferSurface(initialised(), config(), attributes.data()), EGL_NO_SURFACE);
-        EXPECT_EQ(takeLines(asked).size(), 1u) << asked;
+        EXPECT_THAT(takeLines(asked), SizeIs(1)) << asked;
     }
     const EGLSurface refused = eglCreatePbufferSurface(m_display, config(), nullptr);
     EXPECT_EQ(querySurface(refused, EGL_WIDTH), 0) << "the host refuses size 0, the surface stands all the same";
@@ -90,7 +89,7 @@ TEST_F(Surfaces, DestroyedWhileCurrentLivesOn) {
     EXPECT_EQ(querySurface(surface, EGL_WIDTH), 640);
     takeLog();
     EXPECT_SUCCEEDS(eglSwapBuffers(m_display, surface));
-    EXPECT_EQ(takeLines("flushBuffer").size(), 1u);
+    EXPECT_THAT(takeLines("flushBuffer"), SizeIs(1));
 }
 
 TEST_F(Surfaces, BindTexImageCopiesFromWhatIsBound) {
@@ -107,7 +106,7 @@ TEST_F(Surfaces, BindTexImageCopiesFromWhatIsBound) {
     current();
     takeLog();
     EXPECT_SUCCEEDS(eglBindTexImage(m_display, surface, EGL_BACK_BUFFER));
-    EXPECT_EQ(takeLines("glCopy"), std::vector<std::string>{"glCopyTexImage2D(0xde1, 0, 0x1907, 0, 0, 64, 32, 0)"});
+    EXPECT_THAT(takeLines("glCopy"), ElementsAre("glCopyTexImage2D(0xde1, 0, 0x1907, 0, 0, 64, 32, 0)"));
 
     EXPECT_SUCCEEDS(eglReleaseTexImage(m_display, surface, EGL_BACK_BUFFER));
     EXPECT_FAILS(EGL_BAD_SURFACE, eglReleaseTexImage(m_display, unknownSurface, EGL_SINGLE_BUFFER));
