@@ -1,7 +1,6 @@
 #include "gl/entry_proxy.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <barrier>
 #include <chrono>
@@ -9,6 +8,7 @@
 #include <utility>
 
 #include "fake_context.h"
+#include "gl/entry_tables.h"
 
 using gl::Entry;
 using gl::GLEntryProxy;
@@ -46,25 +46,6 @@ void runThreads(int count, const std::function<void(int)> &body) {
 }
 
 } // namespace
-
-TEST_F(EntryProxy, WithoutContextEveryCallIsLoggedAndGivesZero) {
-    static constinit GLEntryProxy record{"glGetString"};
-    const auto glGetString = &Entry<record, const GLubyte *(GLenum)>::call;
-    EXPECT_EQ(glGetString(GL_VERSION), nullptr);
-    EXPECT_EQ(glGetString(GL_VERSION), nullptr);
-    const auto line = "error: Attempted to call 'glGetString', but there is no current context.";
-    EXPECT_THAT(fake::takeLog(), ElementsAre(line, line));
-    EXPECT_EQ(fake::questionCount(), 0u);
-    EXPECT_EQ(egl::threadRecord.error, EGL_SUCCESS);
-}
-
-// With the name in the format, names of 14 characters would lose the full stop.
-TEST_F(EntryProxy, NoNameLosesTheEndOfItsMessage) {
-    static constinit GLEntryProxy record{"glClearStencil"};
-    Entry<record, void(GLint)>::call(0);
-    EXPECT_THAT(fake::takeLog(),
-                ElementsAre("error: Attempted to call 'glClearStencil', but there is no current context."));
-}
 
 TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
     static constinit GLEntryProxy record{"glName"};
@@ -167,4 +148,18 @@ TEST_F(EntryProxy, ThreadsCallWhileOthersResolve) {
         }
     });
     EXPECT_EQ(fake::questionCount(), 64u);
+}
+
+// Whatever a back end returns there, an integer or a pointer, comes through whole.
+TEST_F(EntryProxy, DebugEntriesHandBackAWholeRegister) {
+    const auto toggle = reinterpret_cast<GLuint64 (*)(GLuint)>(gl::extensionTable[208].function);
+    EXPECT_EQ(toggle(1), 0u);
+    EXPECT_THAT(fake::takeLog(),
+                ElementsAre("error: Attempted to call 'Zelvane_ToggleWireframe', but there is no current context."));
+
+    fake::backEnd = [](const egl::Context *, const std::string &) {
+        return address(+[](GLuint enable) -> GLuint64 { return GLuint64{enable} << 40; });
+    };
+    egl::threadRecord.current = fake::context(0);
+    EXPECT_EQ(toggle(3), GLuint64{3} << 40);
 }

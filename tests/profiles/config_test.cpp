@@ -29,16 +29,6 @@ TEST(Config, EqualityTakesInTheHostFormatAndOrderGoesById) {
     EXPECT_TRUE(Config(nullptr, negative) < Config() && Config() < Config(nullptr, one)) << "an absent id is 0";
 }
 
-TEST(Config, ClientVersionsComeFromTheRenderableType) {
-    const int32_t bits[] = {0, EGL_OPENGL_ES_BIT, EGL_OPENGL_ES2_BIT, EGL_OPENGL_ES3_BIT_KHR, EGL_OPENGL_BIT};
-    for (int32_t version = 0; version <= 4; ++version)
-        for (int32_t major = 0; major <= 4; ++major) {
-            Config config;
-            config.setAttribute(EGL_RENDERABLE_TYPE, bits[version]);
-            EXPECT_EQ(config.supportsClientVersion(major), major == version && major >= 1 && major <= 3) << major;
-        }
-}
-
 TEST(DeviceProfile, AllowsExactlyItsVersions) {
     const struct {
         int32_t major, minor, token; // token 0: ES has no such version

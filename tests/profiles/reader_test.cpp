@@ -11,8 +11,6 @@
 #include <set>
 #include <tuple>
 
-#include "profiles/config_maker.h"
-
 namespace {
 
 using egl::DeviceProfile;
@@ -37,13 +35,6 @@ std::string bits(const std::string &element, const std::vector<std::string> &val
     for (const std::string &value : values)
         text.append("<").append(element).append(">").append(value).append("</").append(element).append(">");
     return text;
-}
-
-std::vector<int32_t> idsIn(const std::string &configs) {
-    std::vector<int32_t> ids;
-    for (const egl::Config &config : read("<profile><egl>" + configs + "</egl></profile>").configs)
-        ids.push_back(config.attributeOr0(EGL_CONFIG_ID));
-    return ids;
 }
 
 TEST(ProfileReader, ReadsEachElementByItsKind) {
@@ -86,51 +77,34 @@ TEST(ProfileReader, ReadsEachElementByItsKind) {
         EXPECT_EQ(valueIn(config, attribute), expected) << why << ": " << config;
 }
 
-TEST(ProfileReader, GroupRowsKnowTheirChildren) {
-    tinyxml2::XMLDocument document;
-    document.Parse("<swap_interval><max>5</max><min>2</min><min>3</min></swap_interval>");
-    egl::Config config;
-    egl::ConfigMaker maker(config);
-    const egl::ConfigElementRule rule = egl::findElementRule("swap_interval");
-    EXPECT_EQ(rule.attribute, 0);
-    rule.reader(rule, *document.RootElement(), maker);
-    EXPECT_EQ(config.attributeOr0(EGL_MIN_SWAP_INTERVAL), 2);
-    EXPECT_EQ(config.attributeOr0(EGL_MAX_SWAP_INTERVAL), 5);
-    EXPECT_EQ(egl::findElementRule("min").reader, nullptr);
-}
-
 TEST(ProfileReader, OrdersConfigsByIdAndKeepsTheFirst) {
     const std::pair<const char *, std::vector<int32_t>> rows[] = {
         {"", {}},
         {"<config id=\"3\"/><config id=\"-1\"/><config id=\"2\"/>", {-1, 2, 3}},
         {"<config/><config id=\"x\"/><config id=\"\"/>", {0}},
-        {"<config id=\"4\"/><config id=\" 4 \"/><config id=\"4x\"/>", {4}},
+        {"<config id=\"4\"/><config id=\" 4 \"><level>2</level></config><config id=\"4x\"/>", {4}},
         {"<configs id=\"1\"/><a><config id=\"2\"/></a><config id=\"2147483647\"/>", {2147483647}},
     };
-    for (const auto &[configs, ids] : rows)
-        EXPECT_EQ(idsIn(configs), ids) << configs;
-
-    const DeviceProfile twice = read("<profile><egl><config id=\"1\"><red_size>5</red_size></config>"
-                                     "<config id=\"1\"><red_size>8</red_size></config></egl></profile>");
-    EXPECT_EQ(twice.configs.begin()->attributeOr0(EGL_RED_SIZE), 5);
+    for (const auto &[configs, ids] : rows) {
+        std::vector<int32_t> found;
+        for (const egl::Config &config : read("<profile><egl>" + std::string(configs) + "</egl></profile>").configs) {
+            found.push_back(config.attributeOr0(EGL_CONFIG_ID));
+            EXPECT_EQ(config.attributeOr0(EGL_LEVEL), 0) << "not the first";
+        }
+        EXPECT_EQ(found, ids) << configs;
+    }
 }
 
 TEST(ProfileReader, MapsVersionsToTokens) {
-    const auto versions = [](const std::string &elements) {
-        return read("<profile>" + elements + "<egl/></profile>").esVersions;
+    const std::pair<const char *, std::set<int32_t>> rows[] = {
+        {R"(<es version="20"/><es version="11"/><es api="3"/>)", {egl::ES1, egl::ES2}},
+        {R"(<es version="1"/><es version="2"/><es version="3"/>)", {egl::ES1, egl::ES2, egl::ES3}},
+        {R"(<es version="30"/><es version="31"/><es version="32"/>)", {egl::ES3, egl::ES31, egl::ES32}},
+        {R"(<es version="3.1"/>)", {egl::ES3}},
+        {R"(<es version="0"/><es version="10"/><es version="-1"/><es version="ES 2"/><es version=""/>)", {}},
     };
-    const std::pair<egl::EsVersion, std::vector<const char *>> rows[] = {{egl::ES1, {"1", "11"}},
-                                                                         {egl::ES2, {"2", "20"}},
-                                                                         {egl::ES3, {"3", "30", "3.1"}},
-                                                                         {egl::ES31, {"31"}},
-                                                                         {egl::ES32, {"32"}}};
-    for (const auto &[token, texts] : rows)
-        for (const std::string text : texts)
-            EXPECT_EQ(versions("<es version=\"" + text + "\"/>"), std::set<int32_t>{token}) << text;
-    for (const std::string text : {"0", "10", "-1", "ES 2", ""})
-        EXPECT_EQ(versions("<es version=\"" + text + "\"/>").size(), 0u) << text;
-    EXPECT_EQ(versions("<es version=\"20\"/><es version=\"11\"/><es api=\"3\"/>"),
-              (std::set<int32_t>{egl::ES1, egl::ES2}));
+    for (const auto &[elements, versions] : rows)
+        EXPECT_EQ(read("<profile>" + std::string(elements) + "<egl/></profile>").esVersions, versions) << elements;
 }
 
 TEST(ProfileReader, TellsWhatIsNoProfile) {
