@@ -3,6 +3,9 @@
 #include <fstream>
 #include <set>
 #include <string>
+#include <vector>
+
+#include <GL/glx.h>
 
 namespace {
 
@@ -11,6 +14,14 @@ protected:
     void expectBindFails(EGLSurface surface, EGLContext context) {
         EXPECT_FALSE(eglMakeCurrent(m_egl, surface, surface, context));
         EXPECT_EQ(eglGetError(), EGL_BAD_ALLOC);
+    }
+    std::vector<Window> childrenOf(Window window) {
+        Window root = 0, parent = 0, *children = nullptr;
+        unsigned count = 0;
+        XQueryTree(m_x, window, &root, &parent, &children, &count);
+        std::vector<Window> result(children, children + count);
+        if (children) XFree(children);
+        return result;
     }
     // A round trip, so that the server has drawn.
     EGLint widthOf(EGLSurface surface) {
@@ -67,6 +78,13 @@ TEST_F(Client, SwapShowsInWindowsOfAnyVisual) {
         EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
         widthOf(surface);
         EXPECT_EQ(shownPixel(32, 24), red);
+        const auto children = childrenOf(window);
+        EXPECT_TRUE(children.size() == 1 || isDefaultVisual);
+        for (const Window child : children) {
+            XWindowAttributes attributes{};
+            XGetWindowAttributes(m_x, child, &attributes);
+            EXPECT_EQ(attributes.all_event_masks, 0) << "input goes to the parent";
+        }
 
         XResizeWindow(m_x, window, 200, 100);
         XSync(m_x, False);
@@ -80,6 +98,9 @@ TEST_F(Client, SwapShowsInWindowsOfAnyVisual) {
         EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
         widthOf(surface);
         EXPECT_EQ(shownPixel(190, 90), green) << "the drawable has followed";
+        const EGLSurface again = makeSurface(window);
+        EXPECT_TRUE(eglMakeCurrent(m_egl, again, again, makeContext()));
+        EXPECT_EQ(childrenOf(window), children);
     }
 }
 
@@ -140,6 +161,57 @@ TEST_F(Client, SurfacelessAndPbufferContextsDraw) {
     EXPECT_EQ(drawAndRead(gl, 0, 1, 0), green);
     EXPECT_TRUE(eglSwapBuffers(m_egl, pbuffer));
     EXPECT_EQ(drawAndRead(gl, 1, 0, 0), red);
+}
+
+TEST_F(Client, ObjectsDestroyedWhileCurrentAreDrawnTo) {
+    initialise(m_x);
+    const EGLContext context = makeContext();
+    const EGLint size[] = {EGL_WIDTH, 32, EGL_HEIGHT, 16, EGL_NONE};
+    const EGLSurface pbuffer = eglCreatePbufferSurface(m_egl, m_config, size);
+    ASSERT_TRUE(eglMakeCurrent(m_egl, pbuffer, pbuffer, context)) << std::hex << eglGetError();
+    EXPECT_TRUE(eglDestroySurface(m_egl, pbuffer) && eglDestroyContext(m_egl, context));
+    EXPECT_EQ(drawAndRead(GlFunctions(), 0, 1, 0), green);
+}
+
+TEST_F(Client, XErrorsStayWithTheirConnection) {
+    static int errors = 0;
+    XSetErrorHandler([](Display *, XErrorEvent *) { return ++errors; });
+    initialise(m_x);
+    const EGLContext context = makeContext();
+    const EGLSurface surface = makeSurface(makeWindow());
+    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+    const Window root = DefaultRootWindow(m_x);
+    const Window inputOnly =
+        XCreateWindow(m_x, root, 0, 0, 8, 8, 0, 0, InputOnly, static_cast<Visual *>(CopyFromParent), 0, nullptr);
+    const Pixmap pixmap = XCreatePixmap(m_x, root, 8, 8, 24);
+    for (const Window bad : {Window(0x12345), Window(1), inputOnly, pixmap}) {
+        expectBindFails(makeSurface(bad), context);
+        EXPECT_EQ(eglGetCurrentContext(), context);
+        EXPECT_EQ(drawAndRead(GlFunctions(), 1, 0, 0), red) << "what was bound is still drawn to";
+    }
+    const EGLint tooLarge[] = {EGL_WIDTH, 1 << 30, EGL_HEIGHT, 1 << 30, EGL_NONE};
+    expectBindFails(eglCreatePbufferSurface(m_egl, m_config, tooLarge), context);
+    EXPECT_EQ(errors, 0);
+    XMapWindow(m_x, 0x12345);
+    XSync(m_x, False);
+    EXPECT_EQ(errors, 1) << "its own still reach the application";
+}
+
+TEST_F(Client, AnApplicationsOwnGlxContextComesBackFromAProbe) {
+    int attributes[] = {GLX_RGBA, GLX_DOUBLEBUFFER, 0};
+    XVisualInfo *visual = glXChooseVisual(m_x, DefaultScreen(m_x), attributes);
+    ASSERT_NE(visual, nullptr);
+    const GLXContext own = glXCreateContext(m_x, visual, nullptr, True);
+    const Window draw = makeWindow(), read = makeWindow();
+    XFree(visual);
+    ASSERT_TRUE(glXMakeContextCurrent(m_x, draw, read, own));
+    initialise(m_x);
+    EXPECT_NE(makeContext(), EGL_NO_CONTEXT);
+    EXPECT_EQ(glXGetCurrentContext(), own);
+    EXPECT_EQ(glXGetCurrentDisplay(), m_x);
+    EXPECT_EQ(std::pair(glXGetCurrentDrawable(), glXGetCurrentReadDrawable()), std::pair(draw, read));
+    glXMakeContextCurrent(m_x, 0, 0, nullptr);
+    glXDestroyContext(m_x, own);
 }
 
 TEST_F(Client, ContextsShareObjects) {
