@@ -11,6 +11,9 @@ namespace {
 
 class Client : public ClientTest {
 protected:
+    void bind(EGLSurface surface, EGLContext context) {
+        ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+    }
     void expectBindFails(EGLSurface surface, EGLContext context) {
         EXPECT_FALSE(eglMakeCurrent(m_egl, surface, surface, context));
         EXPECT_EQ(eglGetError(), EGL_BAD_ALLOC);
@@ -51,7 +54,7 @@ TEST_F(Client, DrawsOnTheReferenceBackEndOfThisBuild) {
     initialise(m_x);
     const EGLContext context = makeContext();
     const EGLSurface surface = makeSurface(makeWindow());
-    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+    bind(surface, context);
     const std::string ours = LIBRARY_DIRECTORY;
     EXPECT_EQ(loadedFiles("libEGL.so"), std::set{ours + "/libEGL.so.1"});
     EXPECT_EQ(loadedFiles("libGLESv2.so"), std::set{ours + "/libGLESv2.so.2"});
@@ -72,7 +75,7 @@ TEST_F(Client, SwapShowsInWindowsOfAnyVisual) {
         const Window window = isDefaultVisual ? makeWindow() : makeWindowOfAnotherVisual(64, 48);
         ASSERT_NE(window, Window(None));
         const EGLSurface surface = makeSurface(window);
-        ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+        bind(surface, context);
         const GlFunctions gl;
         drawAndRead(gl, 1, 0, 0);
         EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
@@ -113,7 +116,7 @@ TEST_F(Client, BadWindowsGiveFailuresAndNothingMore) {
 
     for (const Window window : {makeWindow(), makeWindowOfAnotherVisual(64, 48)}) {
         const EGLSurface surface = makeSurface(window);
-        ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+        bind(surface, context);
         const GlFunctions gl;
         XDestroyWindow(m_x, window);
         XSync(m_x, False);
@@ -126,7 +129,7 @@ TEST_F(Client, BadWindowsGiveFailuresAndNothingMore) {
         expectBindFails(surface, context);
 
         const EGLSurface fresh = makeSurface(makeWindow());
-        EXPECT_TRUE(eglMakeCurrent(m_egl, fresh, fresh, context)) << std::hex << eglGetError();
+        bind(fresh, context);
         EXPECT_EQ(drawAndRead(gl, 1, 0, 0), red);
     }
 }
@@ -151,13 +154,13 @@ TEST_F(Client, ServerThatIsNotThereFailsTheBind) {
 TEST_F(Client, SurfacelessAndPbufferContextsDraw) {
     initialise(EGL_DEFAULT_DISPLAY);
     const EGLContext context = makeContext();
-    ASSERT_TRUE(eglMakeCurrent(m_egl, nullptr, nullptr, context)) << std::hex << eglGetError();
+    bind(nullptr, context);
     const GlFunctions gl;
     EXPECT_NE(gl.getString(GL_VERSION), nullptr);
 
     const EGLint size[] = {EGL_WIDTH, 32, EGL_HEIGHT, 16, EGL_NONE};
     const EGLSurface pbuffer = eglCreatePbufferSurface(m_egl, m_config, size);
-    ASSERT_TRUE(eglMakeCurrent(m_egl, pbuffer, pbuffer, context)) << std::hex << eglGetError();
+    bind(pbuffer, context);
     EXPECT_EQ(drawAndRead(gl, 0, 1, 0), green);
     EXPECT_TRUE(eglSwapBuffers(m_egl, pbuffer));
     EXPECT_EQ(drawAndRead(gl, 1, 0, 0), red);
@@ -168,7 +171,7 @@ TEST_F(Client, ObjectsDestroyedWhileCurrentAreDrawnTo) {
     const EGLContext context = makeContext();
     const EGLint size[] = {EGL_WIDTH, 32, EGL_HEIGHT, 16, EGL_NONE};
     const EGLSurface pbuffer = eglCreatePbufferSurface(m_egl, m_config, size);
-    ASSERT_TRUE(eglMakeCurrent(m_egl, pbuffer, pbuffer, context)) << std::hex << eglGetError();
+    bind(pbuffer, context);
     EXPECT_TRUE(eglDestroySurface(m_egl, pbuffer) && eglDestroyContext(m_egl, context));
     EXPECT_EQ(drawAndRead(GlFunctions(), 0, 1, 0), green);
 }
@@ -179,7 +182,7 @@ TEST_F(Client, XErrorsStayWithTheirConnection) {
     initialise(m_x);
     const EGLContext context = makeContext();
     const EGLSurface surface = makeSurface(makeWindow());
-    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+    bind(surface, context);
     const Window root = DefaultRootWindow(m_x);
     const Window inputOnly =
         XCreateWindow(m_x, root, 0, 0, 8, 8, 0, 0, InputOnly, static_cast<Visual *>(CopyFromParent), 0, nullptr);
@@ -223,7 +226,7 @@ TEST_F(Client, ContextsShareObjects) {
     GLuint texture = 0;
     gl.genTextures(1, &texture);
     gl.bindTexture(GL_TEXTURE_2D, texture);
-    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, first));
+    bind(surface, first);
     EXPECT_TRUE(gl.isTexture(texture));
 }
 
@@ -231,7 +234,7 @@ TEST_F(Client, SyncsSignal) {
     initialise(m_x);
     const EGLContext context = makeContext();
     const EGLSurface surface = makeSurface(makeWindow());
-    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context));
+    bind(surface, context);
     const GlFunctions gl;
     gl.clear(GL_COLOR_BUFFER_BIT);
     const EGLSync sync = eglCreateSync(m_egl, EGL_SYNC_FENCE, nullptr);
