@@ -36,18 +36,6 @@ TEST(Versions, ShadingLanguageHasNamesOfTwoLengths) {
     }
 }
 
-TEST(Versions, EsVersionsComeFromTheContext) {
-    const char *const none = "<Failed to query OpenGL ES version>";
-    const std::tuple<int32_t, int32_t, EsVersion, const char *> rows[] = {
-        {1, 7, 1, "1.1"}, {2, 1, 2, "2.0"}, {3, 0, 3, "3.0"}, {3, 2, 5, "3.2"},
-        {3, 3, 0, none},  {3, -1, 0, none}, {4, 0, 0, none},
-    };
-    for (const auto &[major, minor, version, name] : rows) {
-        EXPECT_EQ(esVersionFromContext(major, minor), version) << major << "." << minor;
-        EXPECT_STREQ(esVersionName(version), name);
-    }
-}
-
 TEST(Extensions, BothFormsOfANameAreKnown) {
     ASSERT_EQ(hostExtensionCount, 642);
     std::set<std::string> names;

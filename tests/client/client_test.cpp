@@ -229,19 +229,3 @@ TEST_F(Client, ContextsShareObjects) {
     bind(surface, first);
     EXPECT_TRUE(gl.isTexture(texture));
 }
-
-TEST_F(Client, SyncsSignal) {
-    initialise(m_x);
-    const EGLContext context = makeContext();
-    const EGLSurface surface = makeSurface(makeWindow());
-    bind(surface, context);
-    const GlFunctions gl;
-    gl.clear(GL_COLOR_BUFFER_BIT);
-    const EGLSync sync = eglCreateSync(m_egl, EGL_SYNC_FENCE, nullptr);
-    ASSERT_NE(sync, EGL_NO_SYNC);
-    EXPECT_EQ(eglClientWaitSync(m_egl, sync, 0, EGL_FOREVER), EGL_CONDITION_SATISFIED);
-    EGLAttrib status = 0;
-    EXPECT_TRUE(eglGetSyncAttrib(m_egl, sync, EGL_SYNC_STATUS, &status));
-    EXPECT_EQ(status, 0x9119) << "GL_SIGNALED, as the host tells it";
-    EXPECT_TRUE(eglDestroySync(m_egl, sync));
-}

@@ -85,4 +85,8 @@ TEST_F(Profiles, ABrokenOneFailsTheLoadWithoutAWordUntilItIsMended) {
     }
     writeProfile("<profile><egl/></profile>");
     EXPECT_THAT(configs(), ElementsAre(nullptr)) << "the list's own config, which has no id";
+    const EGLint wanted[] = {EGL_CONFIG_ID, 7, EGL_NONE};
+    EGLint count = 0;
+    EXPECT_SUCCEEDS(eglChooseConfig(m_display, wanted, nullptr, 0, &count));
+    EXPECT_EQ(count, 1) << "without an id it answers any id";
 }

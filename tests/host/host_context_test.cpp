@@ -73,14 +73,4 @@ TEST_F(HostContexts, FourCasesOfABind) {
     }
 }
 
-TEST_F(HostContexts, FailedBindLeavesTheThreadsContext) {
-    const auto first = create(), second = create();
-    ASSERT_TRUE(makeHostContextCurrent(first.get(), window));
-    for (const char *operation : {"setView", "makeCurrent"}) {
-        recordingFailNext(operation);
-        EXPECT_FALSE(makeHostContextCurrent(second.get(), window)) << operation;
-        EXPECT_EQ(currentHostContext(), first->context->container()) << operation;
-    }
-}
-
 } // namespace

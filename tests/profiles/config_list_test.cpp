@@ -46,20 +46,6 @@ TEST(ConfigList, AsksForOneFormatThatItsConfigsShare) {
     EXPECT_EQ(first.findConfig(2)->toAttributeList(), profile.configs.rbegin()->toAttributeList());
 }
 
-TEST(ConfigList, ProfileWithoutConfig1GetsOneThatSaysNoId) {
-    for (const auto &[profile, size] : {std::pair(makeProfile({}), 1u), {makeProfile({{EGL_CONFIG_ID, 2}}), 2u}}) {
-        const ConfigList list(profile, 0);
-        EXPECT_EQ(list.configCount(), size);
-        EXPECT_EQ(*list.findConfig(1), Config());
-        EXPECT_EQ(list.findConfig(0), nullptr);
-        void *out[2] = {&out, &out};
-        EXPECT_EQ(list.listConfigs(out, 2), size);
-        EXPECT_EQ(out[0], nullptr) << "stored as handle 0";
-        const int32_t wanted[] = {EGL_CONFIG_ID, 7, EGL_NONE};
-        EXPECT_EQ(list.chooseConfigs(wanted, nullptr, 0), 1u) << "without an id it answers any id";
-    }
-}
-
 TEST(ConfigList, StoresHandlesUpToTheSize) {
     const ConfigList list(makeProfile({{EGL_CONFIG_ID, 1, EGL_BUFFER_SIZE, 32},
                                        {EGL_CONFIG_ID, 2, EGL_BUFFER_SIZE, 16, EGL_DEPTH_SIZE, 0},

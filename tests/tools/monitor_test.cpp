@@ -113,24 +113,6 @@ TEST(Monitor, TextTellsWhoSaysWhatAndPutsTheReportTogether) {
                                   who + "gone\n");
 }
 
-TEST(Monitor, ServesManyAndOneAfterAnother) {
-    RunningMonitor monitor("--json");
-    {
-        Application first(nobody), second(nobody + 1);
-        second.send(windowTitle("two"));
-        monitor.lineWith(R"("text":"two")");
-        first.send(windowTitle("one"));
-        EXPECT_EQ(monitor.lineWith("window_title"), head + R"("window_title","text":"one"})");
-    }
-    monitor.lineWith("ended");
-    monitor.lineWith("ended");
-    const Application third(nobody + 2);
-    monitor.lineWith(R"("process":2000000003)");
-    monitor.signal(SIGTERM);
-    monitor.rest();
-    EXPECT_EQ(monitor.exitCode(), 0);
-}
-
 TEST(Monitor, TypedCommandsReachOneOrAll) {
     RunningMonitor monitor("", RunningMonitor::Terminal);
     Application first(nobody), second(nobody + 1);
@@ -158,7 +140,7 @@ TEST(Monitor, EndsWithTheReaderOfItsOutputAndLeavesTheFileOfALaterListener) {
         std::optional<KZRIPC::ServerSocket> later;
         if (isLater) {
             later.emplace(productName, 1);
-            monitor.signal(SIGINT);
+            monitor.signal(SIGTERM);
             monitor.rest();
         }
         EXPECT_EQ(monitor.exitCode(), 0);
