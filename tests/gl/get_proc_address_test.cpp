@@ -8,10 +8,7 @@
 
 TEST(GetProcAddress, ExtensionNamesGiveTheEntriesBehindThem) {
     const auto function = [](auto *entry) { return reinterpret_cast<gl::Function>(entry); };
-    const struct {
-        const char *name;
-        gl::Function function;
-    } rows[] = {
+    const std::pair<const char *, gl::Function> rows[] = {
         {"eglCreateSyncKHR", function(egl::createSyncKHR)},
         {"eglDestroySyncKHR", function(eglDestroySync)},
         {"eglClientWaitSyncKHR", function(eglClientWaitSync)},
@@ -29,8 +26,8 @@ TEST(GetProcAddress, ExtensionNamesGiveTheEntriesBehindThem) {
         {"glPointSizePointerOES", gl::extensionTable[67].function},
         {"zvGetOpenGLShaderSource", gl::extensionTable[225].function},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(eglGetProcAddress(row.name), row.function) << row.name;
+    for (const auto &[name, function] : rows)
+        EXPECT_EQ(eglGetProcAddress(name), function) << name;
 }
 
 TEST(GetProcAddress, OtherNamesGiveNullAndEveryLookupClearsAPendingError) {
