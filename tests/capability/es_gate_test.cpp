@@ -25,19 +25,15 @@ TEST(EsGate, AsksForWhatTheVersionNeeds) {
         HostAnswer es20, es30, es31, es32;
         const char *reason;
     } rows[] = {
-        {"4.6", everyExtension, yes, yes, yes, yes, "everything"},
         {"4.6", "", yes, no, no, no, "gpu_shader5 has no core form"},
-        {"4.0", "", yes, no, no, no, "4.0 bare"},
         {"4.1", "GL_ARB_ES3_compatibility", yes, yes, no, no, "a way out for ES 3.0 alone"},
         {"3.3", "", no, no, no, no, "hangs on texture storage"},
-        {"3.3", "GL_ARB_texture_storage", yes, no, no, no, "3.3 with texture storage"},
         {"3.3", "GL_ARB_ES2_compatibility", yes, no, no, no, "a way out for ES 2.0"},
         {"2.1", "GL_ARB_ES3_compatibility_not GL_ARB_ES2_compatibility", yes, yes, no, no, "by text"},
         {"4.2", "GL_ARB_gpu_shader5", yes, yes, no, no, "ES 3.0 exactly"},
         {"4.6", without("GL_ARB_sample_shading"), yes, yes, no, no, "sample shading counts from ES 3.1 on"},
         {"4.2", without("GL_ARB_compute_shader"), yes, yes, no, no,
          "held back by a feature that the report does not name"},
-        {"3.3", without("GL_ARB_draw_indirect"), yes, yes, no, no, "another one"},
         {"4.6", without("GL_ARB_viewport_array"), yes, yes, yes, yes, "no version needs it"},
         {"3.1", without("GL_ARB_draw_elements_base_vertex"), yes, yes, yes, no, "all that ES 3.2 adds"},
         {"5.0", everyExtension, yes, yes, yes, yes, "an unknown version"},

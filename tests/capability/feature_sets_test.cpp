@@ -154,15 +154,13 @@ TEST(FeatureSets, NothingIsLookedUpInAClosedLibraryOrAgainstTheModel) {
 }
 
 TEST(FeatureTexts, TellWhatIsMissing) {
-    const FeatureAlternative version{0, 12, {}}, both{1, 3, {"GL_a", "GL_b"}}, extension{2, 1, {"GL_c"}};
-    EXPECT_EQ(describeAlternative(both),
-              "OpenGL version must be at least 1.2 and the following extensions must be supported: 'GL_a' 'GL_b'");
-    EXPECT_EQ(describeAlternative({3, 1, {}}), "");
-    const std::string all = "OpenGL version must be at least 3.3\nOR\n"
-                            "The following extensions must be supported: 'GL_c'\nOR\n";
-    EXPECT_EQ(describeRequirements({{version, extension}}, 0), all);
-    EXPECT_EQ(describeRequirements({{version, extension}}, 7), all);
-    EXPECT_EQ(describeRequirements({{version, extension}}, 2), "The following extensions must be supported: 'GL_c'");
+    const FeatureAlternative version{0, 12, {}}, both{1, 3, {"GL_a", "GL_b"}}, none{2, 1, {}};
+    const std::string atLeast = "OpenGL version must be at least ",
+                      second = atLeast + "1.2 and the following extensions must be supported: 'GL_a' 'GL_b'",
+                      all = atLeast + "3.3\nOR\n" + second + "\nOR\n\nOR\n";
+    const std::pair<uint32_t, std::string> rows[] = {{0, all}, {1, second}, {2, ""}, {7, all}};
+    for (const auto &[variant, text] : rows)
+        EXPECT_EQ(describeRequirements({{version, both, none}}, variant), text) << variant;
     EXPECT_EQ(describeFeatureFailure(descriptorOf(Feature::sampleShading), 1),
               "This feature cannot be emulated on the host system: 'sample shading'\n"
               "The following extensions must be supported: 'GL_ARB_sample_shading'");

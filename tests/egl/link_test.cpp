@@ -68,19 +68,13 @@ __attribute__((section(".preinit_array"), used)) void (*const beforeLibraries)()
 TEST_F(EntryLink, TheSystemReportFollowsTheHello) {
     connect();
     EXPECT_EQ(gui.read()->header.type, ZV_PROCESS_HELLO);
-    const Message version = *gui.read();
+    const Message version = *gui.read(), extension = *gui.read();
     EXPECT_EQ(version.header.type, ZV_SYSTEM_REPORT_GL_VERSION);
     EXPECT_EQ(version.header.frameStamp, 0u);
-    EXPECT_GT(version.glVersion.glVersion, 0u);
-    for (uint32_t extension = 1; extension <= 642; ++extension) {
-        const Message fact = *gui.read();
-        ASSERT_EQ(fact.header.type, ZV_SYSTEM_REPORT_EXTENSION);
-        ASSERT_EQ(fact.extension.extension, extension);
-        ASSERT_LE(fact.extension.isAvailable, 1u);
-    }
-    EXPECT_STREQ(gui.read()->feature.name, "buffer object mapping");
-    EXPECT_STREQ(gui.read()->featureAlternative.name, "buffer object mapping");
-    EXPECT_STREQ(gui.readUntil(ZV_SYSTEM_REPORT_ES_REQUIREMENT).esRequirement.feature, "buffer object mapping");
+    EXPECT_EQ(version.glVersion.glVersion, 19u);
+    EXPECT_EQ(extension.header.type, ZV_SYSTEM_REPORT_EXTENSION);
+    EXPECT_EQ(extension.extension.extension, 1u);
+    EXPECT_STREQ(gui.readUntil(ZV_SYSTEM_REPORT_FEATURE).feature.name, "buffer object mapping");
     EXPECT_EQ(gui.readUntil(ZV_SYSTEM_REPORT_ES_EXTENSION_REQUIREMENT).esExtensionRequirement.esExtension, 38u);
     EXPECT_EQ(gui.readUntil(ZV_SYSTEM_REPORT_END).header.frameStamp, ZV_NO_FRAME);
 }
