@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "host/platform/recording/control.h"
+
 using DisplayEntries = EntryTest;
 
 TEST_F(DisplayEntries, FirstErrorSticksUntilASuccess) {
@@ -67,6 +69,44 @@ TEST_F(DisplayEntries, InitializeAndTerminateMoveBetweenTwoStates) {
     EXPECT_THAT(takeLines("createPixelFormat"), SizeIs(1));
     EXPECT_FAILS(EGL_BAD_CONTEXT, eglDestroyContext(m_display, first));
     EXPECT_GT(context(), first) << "handles go on counting";
+}
+
+TEST_F(DisplayEntries, FirstCallProbesTheHost) {
+    recordingSetFormatValue(12, 24); // the depth
+    m_display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
+    // The context's format is derived with what the host gave, and double-buffered whatever it says.
+    EXPECT_EQ(takeLog(), "createPixelFormat(0, 99 12800 0) = format1\n"
+                         "createPixelFormat(0, 99 12800 0) = format2\n"
+                         "pixelFormatValue(format2, 5) = 0\n"
+                         "pixelFormatValue(format2, 8) = 0\n"
+                         "pixelFormatValue(format2, 11) = 0\n"
+                         "pixelFormatValue(format2, 12) = 24\n"
+                         "pixelFormatValue(format2, 13) = 0\n"
+                         "pixelFormatValue(format2, 55) = 0\n"
+                         "pixelFormatValue(format2, 56) = 0\n"
+                         "derivePixelFormat(format2, 99 12800 5 8 0 11 0 12 24 13 0 55 0 56 0 0) = format3\n"
+                         "createContext(format3, null) = context1\n"
+                         "saveBinding() = null\n"
+                         "currentContext() = null\n"
+                         "makeCurrent(context1) = true\n"
+                         "clearCurrentContext()\n"
+                         "releaseContext(context1)\n");
+    EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
+    EXPECT_SUCCEEDS(eglSwapBuffers(m_display, window()));
+    EXPECT_EQ(takeLog(), "createPixelFormat(0, 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0) = format4\n")
+        << "the thread's word names the dead probe, which is compared and never followed";
+}
+
+TEST_F(DisplayEntries, ProbesPutBackWhatWasCurrent) {
+    recordingMakeForeignCurrent(9);
+    static_cast<void>(initialised());
+    EXPECT_THAT(takeLog(), HasSubstr("restoreBinding(foreign9)\nreleaseContext(context1)\n"));
+    current();
+    takeLog();
+    context(3);
+    EXPECT_THAT(takeLog(), HasSubstr("restoreBinding(context3)\nreleaseContext("));
+    EXPECT_SUCCEEDS(eglSwapBuffers(m_display, eglGetCurrentSurface(EGL_DRAW)));
+    EXPECT_EQ(takeLog(), "view(context3) = 0:77\nflushBuffer(context3)\n");
 }
 
 TEST_F(DisplayEntries, FailedLoadIsTriedAgain) {

@@ -39,11 +39,35 @@ TEST_F(MakeCurrent, BindsHostThenBackEnd) {
     EXPECT_EQ(zvCurrentEsContext(), reinterpret_cast<zvEsContext>(0x100));
 
     EXPECT_SUCCEEDS(makeCurrent(surface, surface, context));
-    EXPECT_THAT(takeLines("es2 "), ElementsAre("es2 zvSetEsContextAttribs(0x100)"));
-
+    EXPECT_EQ(takeLog(), "viewTitle(0:77)\n"
+                         "setView(context3, 0:77) = true\n"
+                         "observeViewFrame(context3, 0:77)\n"
+                         "currentContext() = context3\n"
+                         "glGetError()\n"
+                         "es2 zvSetEsContextAttribs(0x100)\n")
+        << "observed once more, but not made current once more";
     EXPECT_SUCCEEDS(release());
     expectNothingCurrent();
     EXPECT_EQ(takeLog(), "clearCurrentContext()\n");
+}
+
+TEST_F(MakeCurrent, WithoutAHostContextOrSurfaceNothingIsBoundOnTheHost) {
+    const EGLContext bound = current();
+    const EGLSurface buffer = pbuffer(), refused = pbuffer(0, 0);
+    takeLog();
+    EXPECT_SUCCEEDS(makeCurrent(buffer, buffer, bound));
+    EXPECT_THAT(takeLog(), StartsWith("setPixelBuffer(context3, buffer1) = true\ncurrentContext() = context3\n"));
+    EXPECT_SUCCEEDS(makeCurrent(refused, refused, bound));
+    EXPECT_THAT(takeLog(), StartsWith("setView(context3, null) = true\nglGetError()\n")) << "only detached";
+
+    const EGLContext shared = context(1, bound);
+    EXPECT_THAT(takeLines("createContext"), ElementsAre(HasSubstr(", context3) = context")));
+    recordingFailNext("createContext");
+    const EGLContext hostless = context(1, bound);
+    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(buffer, buffer, hostless));
+    EXPECT_THAT(takeLines("Current"), ElementsAre("clearCurrentContext()"));
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, shared));
+    EXPECT_EQ(takeLog(), "releaseContext(context4)\n") << "while the format is lost";
 }
 
 TEST_F(MakeCurrent, FailuresAndWhatSurvivesThem) {

@@ -18,11 +18,29 @@ TEST_F(Swap, FlushesOnlyTheBoundView) {
     EXPECT_SUCCEEDS(damage(m_display, bound, reinterpret_cast<const EGLint *>(0x10), 5)) << "rectangles are not read";
     EXPECT_THAT(takeLines("flushBuffer"), SizeIs(1));
 
-    const EGLSurface buffer = pbuffer();
-    EXPECT_SUCCEEDS(eglMakeCurrent(m_display, buffer, buffer, context));
-    takeLog();
-    EXPECT_SUCCEEDS(eglSwapBuffers(m_display, buffer));
-    EXPECT_THAT(takeLines("flushBuffer"), SizeIs(0));
+    const EGLDisplay otherServer = eglGetDisplay(reinterpret_cast<EGLNativeDisplayType>(0x1234));
+    EXPECT_SUCCEEDS(eglInitialize(otherServer, nullptr, nullptr));
+    const EGLSurface sameNumber = eglCreateWindowSurface(otherServer, config(), 77, nullptr);
+    EXPECT_SUCCEEDS(eglSwapBuffers(otherServer, sameNumber));
+    EXPECT_THAT(takeLines("flushBuffer"), IsEmpty()) << "the same window number of another server";
+    const EGLSurface sameWindow = window(), buffer = pbuffer(), refused = pbuffer(0, 0);
+    const struct {
+        const char *reason;
+        EGLSurface bound, swapped;
+        bool isFlushed;
+    } rows[] = {
+        {"another surface of the bound window", bound, sameWindow, true},
+        {"no buffer is not a view", bound, refused, false},
+        {"a pixel buffer is nobody's view", buffer, buffer, false},
+        {"no buffer equals no view", buffer, refused, true},
+        {"detached", refused, bound, false},
+    };
+    for (const auto &row : rows) {
+        EXPECT_SUCCEEDS(eglMakeCurrent(m_display, row.bound, row.bound, context));
+        takeLog();
+        EXPECT_SUCCEEDS(eglSwapBuffers(m_display, row.swapped));
+        EXPECT_THAT(takeLines("flushBuffer(context3)"), SizeIs(row.isFlushed)) << row.reason;
+    }
 }
 
 TEST_F(Swap, DamageRegionNeedsTheAgeFirst) {
