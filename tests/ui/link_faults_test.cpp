@@ -22,7 +22,10 @@ TEST(LinkFaults, WithoutAGuiRecordsVanishAndALateOneGetsNewConnectionsAlone) {
     const auto path = KZRIPC::socketPath(productName);
     for (const bool isFileLeft : {false, true}) {
         unlink(path.c_str());
-        ASSERT_EQ(isFileLeft, isFileLeft && !KZRIPC::ServerSocket(productName, 1).failed());
+        if (isFileLeft) {
+            const KZRIPC::ServerSocket dead(productName, 1);
+            ASSERT_FALSE(dead.failed());
+        }
         const UiLink early(noteRenderMode);
         for (int i = 0; i < 1000; ++i)
             early.post(backEndMarker());
