@@ -160,12 +160,15 @@ TEST_F(EntryProxy, BackEndMayCallEntriesWhileItAnswers) {
 TEST_F(EntryProxy, ThreadsAskOnceForEachContextWhileOthersCall) {
     static constinit GLEntryProxy record{"glShared"};
     backEnd = [](const egl::Context *context, const std::string &) {
+        std::this_thread::yield();
         return context < contextAt(32) ? address(answerOne) : nullptr;
     };
-    runThreads(4, [](int thread) {
+    std::barrier<> pairs[] = {std::barrier<>(2), std::barrier<>(2)};
+    runThreads(4, [&](int thread) {
         for (int index = 0; index < 64; ++index) {
             const int own = (index + thread / 2 * 16) % 64;
             egl::threadRecord.current = contextAt(own);
+            pairs[thread / 2].arrive_and_wait();
             for (int call = 0; call < 20; ++call)
                 ASSERT_EQ((Entry<record, int()>::call()), own < 32 ? 1 : 0);
         }
