@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <tuple>
 
 #include "capability/extension_catalogue.h"
 #include "capability/versions.h"
@@ -9,51 +10,29 @@
 using namespace capability;
 
 TEST(Versions, OnlyTheBeginningOfTheTextCounts) {
-    const struct {
-        const char *text;
-        GlVersion version;
-        const char *name;
-    } rows[] = {
+    const std::tuple<const char *, GlVersion, const char *> rows[] = {
         {"1.0", 1, "1.0"},       {"4.1 Driver 9.9", 14, "4.1"}, {"2.1driver", 8, "2.1"},
         {"4.6.0 NV", 19, "4.6"}, {"4.7", 20, "unknown"},        {"5.0", 20, "unknown"},
         {"", 20, "unknown"},     {nullptr, 0, "unknown"},       {"OpenGL ES 3.2", 20, "unknown"},
         {" 4.1", 20, "unknown"},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(parseGlVersion(row.text), row.version) << row.name;
-        EXPECT_STREQ(glVersionName(row.version), row.name);
+    for (const auto &[text, version, name] : rows) {
+        EXPECT_EQ(parseGlVersion(text), version) << name;
+        EXPECT_STREQ(glVersionName(version), name);
     }
 }
 
 TEST(Versions, ShadingLanguageHasNamesOfTwoLengths) {
-    const char *const failed = "<Failed to query GLSL version>";
-    EXPECT_EQ(parseGlslVersion("3.30 via driver"), 6);
-    EXPECT_EQ(parseGlslVersion("3.40"), 14) << "was never made";
-    EXPECT_EQ(parseGlslVersion("4.60"), 13);
-    EXPECT_EQ(parseGlslVersion(nullptr), 0);
-    EXPECT_STREQ(glslVersionName(6, true), "330");
-    EXPECT_STREQ(glslVersionName(13, false), "GLSL 4.60");
-    EXPECT_STREQ(glslVersionName(14, true), failed);
-    EXPECT_STREQ(glslVersionName(0, false), failed);
-}
-
-TEST(Versions, EsVersionsComeFromTheContext) {
-    const struct {
-        int32_t major, minor;
-        EsVersion version;
-        const char *name;
-    } rows[] = {
-        {1, 7, 1, "1.1"},
-        {2, 1, 2, "2.0"},
-        {3, 0, 3, "3.0"},
-        {3, 2, 5, "3.2"},
-        {3, 3, 0, "<Failed to query OpenGL ES version>"},
-        {3, -1, 0, "<Failed to query OpenGL ES version>"},
-        {4, 0, 0, "<Failed to query OpenGL ES version>"},
+    const std::tuple<const char *, GlslVersion, const char *, const char *> rows[] = {
+        {"3.30 via driver", 6, "330", "GLSL 3.30"},
+        {"4.60", 13, "460", "GLSL 4.60"},
+        {"3.40", 14, "<Failed to query GLSL version>", "<Failed to query GLSL version>"}, // was never made
+        {nullptr, 0, "<Failed to query GLSL version>", "<Failed to query GLSL version>"},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(esVersionFromContext(row.major, row.minor), row.version) << row.major << "." << row.minor;
-        EXPECT_STREQ(esVersionName(row.version), row.name);
+    for (const auto &[text, version, shortName, name] : rows) {
+        EXPECT_EQ(parseGlslVersion(text), version);
+        EXPECT_STREQ(glslVersionName(version, true), shortName);
+        EXPECT_STREQ(glslVersionName(version, false), name);
     }
 }
 
@@ -89,21 +68,17 @@ TEST(Extensions, EsNamesAreStoredBare) {
 }
 
 TEST(Extensions, EsVersionsHaveTheirRanges) {
-    const struct {
-        EsExtensionList list;
-        int32_t size;
-        EsExtension atFortyNine, last;
-    } rows[] = {
+    const std::tuple<EsExtensionList, int32_t, EsExtension, EsExtension> rows[] = {
+        // size, the one at 49, the last one
         {EsExtensionList::es1_1, 68, 49, 68},
         {EsExtensionList::es2_0, 80, 69, 100},
         {EsExtensionList::es3_0, 92, 69, 112},
         {EsExtensionList::es3_1, 107, 69, 127},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(esExtensionsFor(row.list, 0), 0);
-        EXPECT_EQ(esExtensionsFor(row.list, 1), 1);
-        EXPECT_EQ(esExtensionsFor(row.list, 49), row.atFortyNine);
-        EXPECT_EQ(esExtensionsFor(row.list, row.size), row.last);
-        EXPECT_EQ(esExtensionsFor(row.list, row.size + 1), 0);
+    for (const auto &[list, size, atFortyNine, last] : rows) {
+        const std::pair<int32_t, EsExtension> places[] = {
+            {0, 0}, {1, 1}, {49, atFortyNine}, {size, last}, {size + 1, 0}};
+        for (const auto &[position, expected] : places)
+            EXPECT_EQ(esExtensionsFor(list, position), expected) << position;
     }
 }

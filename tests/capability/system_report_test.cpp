@@ -8,7 +8,6 @@
 #include "capability/format_system_report.h"
 #include "capability/scripted_host.h"
 #include "fakes/every_extension.h"
-#include "host/platform/recording/control.h"
 
 using namespace capability;
 
@@ -50,14 +49,6 @@ SystemReport collected(const ScriptedHost &host, SystemReportFiller::Forward for
     return report;
 }
 
-// The whole catalogue without these names.
-std::string everyExtensionBut(std::initializer_list<std::string> names) {
-    std::string text = everyExtension;
-    for (const auto &name : names)
-        text.erase(text.find(name + " "), name.size() + 1);
-    return text;
-}
-
 const std::string goldenDirectory = ZELVANE_SOURCE_DIR "/tests/capability/golden/";
 
 } // namespace
@@ -67,14 +58,12 @@ TEST(CollectSystemReport, SendsEachFactInOrder) {
     collected(ScriptedHost("4.2", "GL_EXT_draw_buffers2 GL_ARB_imaging"),
               [&](const ReportRecord &record) { lines.push_back(lineOf(record)); });
 
-    std::vector<std::string> expected{"14 15"};
+    ASSERT_EQ(lines.size(), 1u + 642 + 41 + 63 + 32 + 23 + 1);
+    EXPECT_EQ(lines[0], "14 15");
     for (HostExtension id = 1; id <= hostExtensionCount; ++id) {
         const bool isPresent = id == 1 || id == hostExtensionFromName("GL_EXT_draw_buffers2");
-        expected.push_back("15 " + std::to_string(id) + (isPresent ? " 1" : " 0"));
+        EXPECT_EQ(lines[id], "15 " + std::to_string(id) + (isPresent ? " 1" : " 0"));
     }
-    ASSERT_EQ(lines.size(), 1u + 642 + 41 + 63 + 32 + 23 + 1);
-    EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 643), expected);
-
     // The rest as one text, made from the tables apart.
     std::string rest;
     for (size_t index = 643; index < lines.size(); ++index)
@@ -93,21 +82,6 @@ TEST(CollectSystemReport, ExtensionsAreThoseOfTheModel) {
                 EXPECT_EQ(report.extensions.at(id), hostHasExtensionId(base.view(), id)) << hostExtensionName(id);
         }
     }
-}
-
-TEST(CollectSystemReport, WithoutAProbeOnlyTheEndIsSent) {
-    recordingFailNext("createContext");
-    std::vector<std::string> lines;
-    const auto report = collected(ScriptedHost("4.6", everyExtension),
-                                  [&](const ReportRecord &record) { lines.push_back(lineOf(record)); });
-    EXPECT_EQ(lines, std::vector<std::string>{"20"});
-    EXPECT_EQ(formatSystemReport(report, true), "OpenGL Version: unknown\n\n"
-                                                "OpenGL ES base support: yes\n"
-                                                "OpenGL ES 2.0 core support: yes\n"
-                                                "OpenGL ES 3.0 core support: yes\n"
-                                                "OpenGL ES 3.1 core support: yes\n"
-                                                "OpenGL ES 3.2 core support: yes\n\n\n"
-                                                "Supported OpenGL Extensions:\n");
 }
 
 TEST(FormatSystemReport, TextIsTheSameToTheByte) {
@@ -129,11 +103,10 @@ TEST(FormatSystemReport, TextIsTheSameToTheByte) {
 }
 
 TEST(FormatSystemReport, ExtensionsFollowInTheirOrder) {
-    const ScriptedHost host("4.6", "GL_ARB_multisample GL_of_nobody GL_ARB_imaging");
-    const auto report = collected(host);
-    const std::string plain = formatSystemReport(report, false);
+    const auto report = collected(ScriptedHost("4.6", "GL_ARB_multisample GL_of_nobody GL_ARB_imaging"));
     EXPECT_EQ(formatSystemReport(report, true),
-              plain + "Supported OpenGL Extensions:\n\tGL_ARB_imaging\n\tGL_ARB_multisample\n");
+              formatSystemReport(report, false) +
+                  "Supported OpenGL Extensions:\n\tGL_ARB_imaging\n\tGL_ARB_multisample\n");
 }
 
 TEST(SystemReportFiller, KeepsWhatWentThroughTheRecords) {
@@ -141,31 +114,26 @@ TEST(SystemReportFiller, KeepsWhatWentThroughTheRecords) {
     int forwarded = 0;
     SystemReportFiller filler(report, [&](const ReportRecord &) { ++forwarded; });
     const std::string longName(600, 'n');
-    filler.receive(FeatureRecord{longName.c_str(), false});
-    filler.receive(FeatureRecord{longName.c_str(), true});
-    filler.receive(FeatureAlternativeRecord{longName.c_str(), 13, {5, 6, 0, 7}});
-    filler.receive(FeatureAlternativeRecord{"nobody", 13, {}});
-    filler.receive(EsRequirementRecord{2, longName.c_str()});
-    filler.receive(EsRequirementRecord{2, longName.c_str()});
-    filler.receive(EsRequirementRecord{2, "nobody"});
-    filler.receive(ExtensionRecord{3, false});
-    filler.receive(ExtensionRecord{3, true});
-    filler.receive(EndRecord{});
-    EXPECT_EQ(forwarded, 10);
-    filler.receive(GlVersionRecord{14});
-    EXPECT_EQ(forwarded, 10) << "nothing passes after the end";
+    const char *const name = longName.c_str();
+    const ReportRecord records[] = {
+        FeatureRecord{name, false},
+        FeatureRecord{name, true},
+        FeatureAlternativeRecord{name, 13, {5, 6, 0, 7}},
+        EsRequirementRecord{2, name},
+        EsRequirementRecord{2, name},
+        EsRequirementRecord{2, "nobody"},
+        EndRecord{},
+        GlVersionRecord{14},
+    };
+    for (const auto &record : records)
+        filler.receive(record);
+    EXPECT_EQ(forwarded, 7) << "nothing passes after the end";
     EXPECT_EQ(report.glVersion, 0);
-
     ASSERT_EQ(report.features.size(), 1u);
-    const auto &[name, feature] = *report.features.begin();
-    EXPECT_EQ(name, std::string(511, 'n')) << "cut in the record";
+    const auto &[kept, feature] = *report.features.begin();
+    EXPECT_EQ(kept, std::string(511, 'n')) << "cut in the record";
     EXPECT_FALSE(feature->available) << "the first record wins";
-    ASSERT_EQ(feature->alternatives.size(), 1u);
-    EXPECT_EQ(feature->alternatives[0].extensions, (std::vector<HostExtension>{5, 6}));
-    EXPECT_TRUE(report.extensions[3]);
-
-    const auto section = buildSection(report, report.esRequirements, 2, "two");
-    EXPECT_EQ(section.missing.size(), 2u) << "repeats stay, and the unknown one is passed over";
-    EXPECT_TRUE(section.supported.empty());
-    EXPECT_TRUE(buildSection(report, report.esRequirements, 3, "three").missing.empty());
+    EXPECT_EQ(feature->alternatives.at(0).extensions, (std::vector<HostExtension>{5, 6}));
+    EXPECT_EQ(buildSection(report, report.esRequirements, 2, "two").missing.size(), 2u)
+        << "repeats stay, and the unknown one is passed over";
 }

@@ -17,15 +17,6 @@ protected:
         EXPECT_SUCCEEDS(eglQueryContext(initialised(), context, attribute, &value));
         return value;
     }
-
-    // What the back end is told of a context with these attributes.
-    ContextAttribs attribsOf(std::vector<EGLint> attributes) {
-        const EGLContext context = create(std::move(attributes), config());
-        const EGLSurface surface = window();
-        EXPECT_SUCCEEDS(eglMakeCurrent(initialised(), surface, surface, context));
-        EXPECT_EQ(backEnd().createdWith.contextHandle, reinterpret_cast<uintptr_t>(context));
-        return backEnd().createdWith;
-    }
 };
 
 } // namespace
@@ -34,14 +25,14 @@ TEST_F(Contexts, NoAttributesGiveAnEs1Context) {
     static_cast<void>(initialised());
     takeLog();
     const EGLContext context = EntryTest::context(0);
-    EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_VERSION), 1);
-    EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_TYPE), EGL_OPENGL_ES_API);
-    EXPECT_EQ(query(context, EGL_CONFIG_ID), 1);
+    EXPECT_THAT(takeLines(" 99 4096 5 "), SizeIs(1)) << "the host is asked for a legacy context";
+    for (const auto &[attribute, value] :
+         {std::pair(EGL_CONTEXT_CLIENT_VERSION, 1), {EGL_CONTEXT_CLIENT_TYPE, EGL_OPENGL_ES_API}, {EGL_CONFIG_ID, 1}})
+        EXPECT_EQ(query(context, attribute), value);
     EGLint value = -77;
-    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglQueryContext(initialised(), context, EGL_RENDER_BUFFER, &value));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglQueryContext(m_display, context, EGL_RENDER_BUFFER, &value));
     EXPECT_EQ(value, -77);
-    EXPECT_FAILS(EGL_BAD_PARAMETER, eglQueryContext(initialised(), context, EGL_CONFIG_ID, nullptr));
-    EXPECT_EQ(takeLines(" 99 4096 5 ").size(), 1u) << "the host is asked for a legacy context";
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglQueryContext(m_display, context, EGL_CONFIG_ID, nullptr));
 }
 
 TEST_F(Contexts, FailuresComeInOrder) {
@@ -59,21 +50,25 @@ TEST_F(Contexts, FailuresComeInOrder) {
 }
 
 TEST_F(Contexts, BackEndGetsTheAttributes) {
-    const auto attribs = attribsOf({EGL_CONTEXT_CLIENT_VERSION, 3, EGL_CONTEXT_MINOR_VERSION_KHR, 1, 0x30FC, 9, 0x30FD,
-                                    5, 0x3100, 0x9999, 0x31BD, 0x31BF, 0x30BF, 1, 0x3138, 1});
-    const ContextAttribs expected = {attribs.contextHandle, 3, 3, 1, 9, 5, 0x31BF, 0x9999, 0, 0, 0, 1, 0, {}};
-    EXPECT_EQ(memcmp(&attribs, &expected, sizeof expected), 0);
-    EXPECT_EQ(backEnd().displayAndHandle[0], reinterpret_cast<uintptr_t>(initialised()));
-    EXPECT_EQ(backEnd().displayAndHandle[1], attribs.contextHandle);
+    const EGLint client = EGL_CONTEXT_CLIENT_VERSION;
+    const std::pair<std::vector<EGLint>, ContextAttribs> rows[] = {
+        {{client, 3, EGL_CONTEXT_MINOR_VERSION_KHR, 1, 0x30FC, 9, 0x30FD, 5, 0x3100, 0x9999, 0x31BD, 0x31BF, 0x30BF, 1,
+          0x3138, 1},
+         {0, 3, 3, 1, 9, 5, 0x31BF, 0x9999, 0, 0, 0, 1, 0, {}}},
+        // Raised to ES 3 with the config; medium priority, and no errors in spite of EGL_FALSE.
+        {{client, 2, EGL_CONTEXT_OPENGL_NO_ERROR_KHR, EGL_FALSE}, {0, 2, 3, 0, 0, 0, 0, 0x3102, 0, 0, 0, 1, 0, {}}},
+    };
+    for (auto [attributes, expected] : rows) {
+        const EGLContext context = create(attributes, config());
+        const EGLSurface surface = window();
+        EXPECT_SUCCEEDS(eglMakeCurrent(m_display, surface, surface, context));
+        expected.contextHandle = reinterpret_cast<uintptr_t>(context);
+        EXPECT_EQ(memcmp(&backEnd().createdWith, &expected, sizeof expected), 0);
+        EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_VERSION), attributes[1]);
+        EXPECT_THAT(backEnd().displayAndHandle,
+                    ElementsAre(reinterpret_cast<uintptr_t>(m_display), expected.contextHandle));
+    }
     EXPECT_STREQ(backEnd().profilesDirectory, "");
-}
-
-TEST_F(Contexts, Es2OnAnEs3ConfigIsRaised) {
-    const auto attribs = attribsOf({EGL_CONTEXT_CLIENT_VERSION, 2, EGL_CONTEXT_OPENGL_NO_ERROR_KHR, EGL_FALSE});
-    // Medium priority, and no errors in spite of EGL_FALSE.
-    const ContextAttribs expected = {attribs.contextHandle, 2, 3, 0, 0, 0, 0, 0x3102, 0, 0, 0, 1, 0, {}};
-    EXPECT_EQ(memcmp(&attribs, &expected, sizeof expected), 0);
-    EXPECT_EQ(query(eglGetCurrentContext(), EGL_CONTEXT_CLIENT_VERSION), 2);
 }
 
 TEST_F(Contexts, DestroyWaitsForTheUnbind) {
@@ -83,18 +78,18 @@ TEST_F(Contexts, DestroyWaitsForTheUnbind) {
     EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_VERSION), 2);
     EXPECT_EQ(takeLog(), "");
     EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
-    EXPECT_EQ(takeLines("zvDeleteEsContext").size(), 1u);
+    EXPECT_THAT(takeLines("zvDeleteEsContext"), SizeIs(1));
     EXPECT_FAILS(EGL_BAD_CONTEXT, eglDestroyContext(m_display, context));
 
     EXPECT_SUCCEEDS(eglDestroyContext(m_display, EntryTest::context()));
-    EXPECT_EQ(takeLines("zvDeleteEsContext").size(), 0u) << "one that never was bound goes without the back end";
+    EXPECT_THAT(takeLines("zvDeleteEsContext"), SizeIs(0)) << "one that never was bound goes without the back end";
 
     useBackEnds("no_delete");
     const EGLContext stays = current();
     EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
     takeLog();
     EXPECT_SUCCEEDS(eglDestroyContext(m_display, stays));
-    EXPECT_EQ(takeLines("releaseContext").size(), 1u) << "the host context is gone";
+    EXPECT_THAT(takeLines("releaseContext"), SizeIs(1)) << "the host context is gone";
     EXPECT_EQ(query(stays, EGL_CONTEXT_CLIENT_VERSION), 2) << "while the handle stays";
 }
 
@@ -118,9 +113,8 @@ TEST_F(Contexts, LibraryStaysForAsLongAsAContextIsLeft) {
 
 TEST_F(Contexts, MissingLibraryShowsAtTheFirstBind) {
     useBackEnds("nowhere");
-    testing::internal::CaptureStderr();
-    const EGLContext context = EntryTest::context();
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "(Error) failed to load library 'libGLESv2.so.2'\n");
+    EGLContext context = nullptr;
+    EXPECT_EQ(errorsOf([&] { context = EntryTest::context(); }), "(Error) failed to load library 'libGLESv2.so.2'\n");
     const EGLSurface surface = window();
     EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, surface, surface, context));
 }

@@ -7,9 +7,7 @@ using Dispatch = EntryTest;
 TEST_F(Dispatch, OnePointerServesContextsOfBothBackEnds) {
     const auto getString = procAddress<PFNGLGETSTRINGPROC>("glGetString");
     const auto attrib = procAddress<PFNGLVERTEXATTRIB4FPROC>("glVertexAttrib4f");
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(getString(GL_VERSION), nullptr);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+    EXPECT_EQ(errorsOf([&] { EXPECT_EQ(getString(GL_VERSION), nullptr); }),
               "(Error) Attempted to call 'glGetString', but there is no current context.\n");
     current(2);
     takeLog();
@@ -30,5 +28,5 @@ TEST_F(Dispatch, AnswersGoRoundWithinOneBackEndAlone) {
         EXPECT_SUCCEEDS(eglDestroyContext(m_display, made));
         EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
     }
-    EXPECT_EQ(takeLines("zvGetExtProcAddress").size(), 2u) << "the later ones inherit the answers of the first";
+    EXPECT_THAT(takeLines("zvGetExtProcAddress"), SizeIs(2)) << "the later ones inherit the answers of the first";
 }

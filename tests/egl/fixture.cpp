@@ -3,6 +3,8 @@
 #include <dlfcn.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 
 #include "host/platform/recording/control.h"
@@ -39,6 +41,13 @@ std::vector<std::string> EntryTest::takeLines(const std::string &containing) {
         if (line.find(containing) != std::string::npos) lines.push_back(line);
     }
     return lines;
+}
+
+void EntryTest::prefer(const std::string &pairs) {
+    const std::string directory = std::string(getenv("HOME")) + "/.kzrconfig/Tarnwell Graphics";
+    std::filesystem::create_directories(directory);
+    std::ofstream(directory + "/com.tarnlight.Zelvane.plist")
+        << "<plist version=\"1.0\"><dict><key>Zelvane 6.31</key><dict>" << pairs << "</dict></dict></plist>";
 }
 
 void EntryTest::useBackEnds(const char *directory) {

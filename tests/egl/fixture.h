@@ -3,12 +3,20 @@
 
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <string>
 #include <vector>
 
 #include "fakes/control.h"
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
 
 class EntryTest : public testing::Test {
 protected:
@@ -18,6 +26,24 @@ protected:
     static std::string takeLog();
     // Those that contain the text.
     static std::vector<std::string> takeLines(const std::string &containing);
+
+    // What the action writes to a standard stream.
+    template <typename Action>
+    static std::string errorsOf(Action action) {
+        testing::internal::CaptureStderr();
+        action();
+        return testing::internal::GetCapturedStderr();
+    }
+    template <typename Action>
+    static std::string outputOf(Action action) {
+        testing::internal::CaptureStdout();
+        action();
+        fflush(stdout);
+        return testing::internal::GetCapturedStdout();
+    }
+
+    // Writes the preferences file with these keys and values, as the user would have done before the first EGL call.
+    static void prefer(const std::string &pairs);
 
     static void useBackEnds(const char *directory); // below the stage
     static FakeBackEnd &backEnd();                  // of ES 2

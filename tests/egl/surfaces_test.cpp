@@ -27,18 +27,17 @@ TEST_F(Surfaces, WindowAnswersFromHostAndMap) {
     const EGLint single[] = {EGL_RENDER_BUFFER, EGL_SINGLE_BUFFER, EGL_VG_COLORSPACE, 1234, EGL_NONE};
     const EGLSurface surface = eglCreateWindowSurface(initialised(), config(), 77, single);
     // The last one succeeds and stores nothing.
-    const EGLint answers[] = {EGL_WIDTH,           640,
-                              EGL_HEIGHT,          480,
-                              EGL_RENDER_BUFFER,   EGL_SINGLE_BUFFER,
-                              EGL_VG_COLORSPACE,   1234,
-                              EGL_SWAP_BEHAVIOR,   EGL_BUFFER_DESTROYED,
-                              EGL_TEXTURE_FORMAT,  EGL_NO_TEXTURE,
-                              EGL_CONFIG_ID,       1,
-                              EGL_GL_COLORSPACE,   EGL_GL_COLORSPACE_LINEAR,
-                              EGL_BUFFER_AGE_KHR,  0,
-                              EGL_LARGEST_PBUFFER, -77};
-    for (size_t i = 0; i < std::size(answers); i += 2)
-        EXPECT_EQ(querySurface(surface, answers[i]), answers[i + 1]) << std::hex << answers[i];
+    const std::pair<EGLint, EGLint> answers[] = {{EGL_WIDTH, 640},
+                                                 {EGL_RENDER_BUFFER, EGL_SINGLE_BUFFER},
+                                                 {EGL_VG_COLORSPACE, 1234},
+                                                 {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
+                                                 {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},
+                                                 {EGL_CONFIG_ID, 1},
+                                                 {EGL_GL_COLORSPACE, EGL_GL_COLORSPACE_LINEAR},
+                                                 {EGL_BUFFER_AGE_KHR, 0},
+                                                 {EGL_LARGEST_PBUFFER, -77}};
+    for (const auto &[attribute, answer] : answers)
+        EXPECT_EQ(querySurface(surface, attribute), answer) << std::hex << attribute;
     EGLint value = -77;
     EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglQuerySurface(m_display, surface, EGL_MIPMAP_LEVEL, &value));
     EXPECT_EQ(value, -77);
@@ -47,20 +46,19 @@ TEST_F(Surfaces, WindowAnswersFromHostAndMap) {
 }
 
 TEST_F(Surfaces, PbufferCrossesTargetAndFormat) {
+    const EGLint target = EGL_TEXTURE_TARGET, format = EGL_TEXTURE_FORMAT;
     const std::pair<std::vector<EGLint>, const char *> rows[] = {
         // asked of the host: target, internal format, level, width, height
-        {{EGL_WIDTH, 64, EGL_HEIGHT, 32, EGL_NONE}, "(0, 0, 0, 64, 32)"},
-        {{EGL_WIDTH, 4, EGL_TEXTURE_TARGET, EGL_TEXTURE_2D, EGL_TEXTURE_FORMAT, EGL_TEXTURE_RGBA, EGL_HEIGHT, 2,
-          EGL_NONE},
-         "(12383, 12382, 0, 4, 2)"},
-        {{EGL_WIDTH, 4, EGL_TEXTURE_TARGET, EGL_NO_TEXTURE, EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE, EGL_HEIGHT, 2,
-          EGL_NONE},
-         "(6408, 3553, 0, 4, 2)"},
-        {{EGL_LARGEST_PBUFFER, 1, EGL_WIDTH, 4, EGL_VG_COLORSPACE, 7, EGL_HEIGHT, 2, EGL_NONE}, "(0, 0, 0, 4, 2)"},
+        {{EGL_WIDTH, 64, EGL_HEIGHT, 32}, "(0, 0, 0, 64, 32)"},
+        {{EGL_WIDTH, 4, target, EGL_TEXTURE_2D, format, EGL_TEXTURE_RGBA, EGL_HEIGHT, 2}, "(12383, 12382, 0, 4, 2)"},
+        {{EGL_WIDTH, 4, target, EGL_NO_TEXTURE, format, EGL_NO_TEXTURE, EGL_HEIGHT, 2}, "(6408, 3553, 0, 4, 2)"},
+        {{EGL_WIDTH, 4, target, EGL_TEXTURE_2D, target, EGL_TEXTURE_RGB, EGL_HEIGHT, -1}, "(6407, 0, 0, 4, -1)"},
+        {{EGL_LARGEST_PBUFFER, 1, EGL_WIDTH, 4, EGL_VG_COLORSPACE, 7, EGL_HEIGHT, 2}, "(0, 0, 0, 4, 2)"},
     };
-    for (const auto &[attributes, asked] : rows) {
+    for (auto [attributes, asked] : rows) {
+        attributes.push_back(EGL_NONE);
         EXPECT_NE(eglCreatePbufferSurface(initialised(), config(), attributes.data()), EGL_NO_SURFACE);
-        EXPECT_EQ(takeLines(asked).size(), 1u) << asked;
+        EXPECT_THAT(takeLines(asked), SizeIs(1)) << asked;
     }
     const EGLSurface refused = eglCreatePbufferSurface(m_display, config(), nullptr);
     EXPECT_EQ(querySurface(refused, EGL_WIDTH), 0) << "the host refuses size 0, the surface stands all the same";
@@ -87,7 +85,7 @@ TEST_F(Surfaces, DestroyedWhileCurrentLivesOn) {
     EXPECT_EQ(querySurface(surface, EGL_WIDTH), 640);
     takeLog();
     EXPECT_SUCCEEDS(eglSwapBuffers(m_display, surface));
-    EXPECT_EQ(takeLines("flushBuffer").size(), 1u);
+    EXPECT_THAT(takeLines("flushBuffer"), SizeIs(1));
 }
 
 TEST_F(Surfaces, BindTexImageCopiesFromWhatIsBound) {
@@ -104,7 +102,7 @@ TEST_F(Surfaces, BindTexImageCopiesFromWhatIsBound) {
     current();
     takeLog();
     EXPECT_SUCCEEDS(eglBindTexImage(m_display, surface, EGL_BACK_BUFFER));
-    EXPECT_EQ(takeLines("glCopy"), std::vector<std::string>{"glCopyTexImage2D(0xde1, 0, 0x1907, 0, 0, 64, 32, 0)"});
+    EXPECT_THAT(takeLines("glCopy"), ElementsAre("glCopyTexImage2D(0xde1, 0, 0x1907, 0, 0, 64, 32, 0)"));
 
     EXPECT_SUCCEEDS(eglReleaseTexImage(m_display, surface, EGL_BACK_BUFFER));
     EXPECT_FAILS(EGL_BAD_SURFACE, eglReleaseTexImage(m_display, unknownSurface, EGL_SINGLE_BUFFER));

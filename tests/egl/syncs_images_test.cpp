@@ -80,19 +80,15 @@ TEST_F(Syncs, NothingWorksWithoutACurrentContext) {
     EXPECT_FAILS(EGL_BAD_CONTEXT, eglWaitSync(m_display, sync, 0));
     EXPECT_FAILS(EGL_BAD_CONTEXT, eglGetSyncAttrib(m_display, sync, EGL_SYNC_STATUS, &value));
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, sync));
-    EXPECT_EQ(takeLog(), "");
     EXPECT_EQ(value, 77);
-
+    EXPECT_EQ(takeLog(), "");
     current();
-    takeLog();
     EXPECT_SUCCEEDS(eglDestroySync(m_display, sync)) << "it has stayed known";
-    EXPECT_EQ(takeLog(), "glDeleteSync(0x5000)\n");
-    EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, sync));
+    EXPECT_THAT(takeLines("glDeleteSync"), ElementsAre("glDeleteSync(0x5000)"));
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglClientWaitSync(m_display, sync, 0, 0));
     const EGLSync left = fence();
-    takeLog();
     EXPECT_SUCCEEDS(eglTerminate(m_display));
-    EXPECT_EQ(takeLog(), "") << "the host's fences are left behind";
+    EXPECT_THAT(takeLines("glDeleteSync"), IsEmpty()) << "the host's fences are left behind";
     EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, left));
 }

@@ -48,7 +48,6 @@ TEST_F(PropertyList, StructureDecides) {
     const tuple<std::string, std::string, bool, const char *> rows[] = {
         {"", "", false, "an empty file"},
         {"<plist><dict><key>a</key><integer>1</integer>", "", false, "cut off"},
-        {"\x7f\x02\xff\xfe<<<>&#0;", "", false, "rubbish"},
         {"<plist><dict><key>a</key>" + deep, "", false, "nested deeper than the parser goes"},
         {"<plist><array/><dict><key>a</key><true/></dict></plist>", "", false, "the first child is no dict"},
         {"<plist><dict><string>a</string></dict></plist>", "ERROR: Missing <key> tag\n", false, "no key"},
@@ -57,7 +56,6 @@ TEST_F(PropertyList, StructureDecides) {
         {"<plist><dict><key>a</key><dict><true/></dict></dict></plist>", "ERROR: Missing <key> tag\n", true, "nested"},
         {"<plist><dict><key>a</key><array><key>b</key></array></dict></plist>",
          "ERROR: Array elements cannot contain a <key> tag!\n", true, "key in an array"},
-        {"<plist><dict><key>a</key><array><dict><true/></dict></array></dict></plist>", "", true, "below an array"},
         {"<plist><dict><key>a</key><true/></dict></plist><", "", true, "what the parser reached is used"},
         {"<plist><dict><true/></dict></plist><", "ERROR: Missing <key> tag\nError=XML", false, "both fail"},
     };
@@ -173,7 +171,6 @@ TEST_F(PropertyList, NumbersByElement) {
         {"<integer> \n-3abc</integer>", RESULT_SUCCESS, -3},
         {"<integer>abc</integer>", RESULT_INCORRECT_TYPE, 0},
         {"<integer>99999999999</integer>", RESULT_INCORRECT_TYPE, INT32_MAX},
-        {"<integer/>", RESULT_NO_VALUE, 5},
         {"<integer><!--1--></integer>", RESULT_INCORRECT_TYPE, 5},
         {"<Integer>1</Integer>", RESULT_INCORRECT_TYPE, 5},
     };

@@ -4,8 +4,6 @@
 #include <EGL/eglext.h>
 #include <gmock/gmock.h>
 
-#include "host/platform/recording/control.h"
-
 namespace {
 
 using egl::Config;
@@ -29,35 +27,6 @@ std::vector<intptr_t> stored(const ConfigList &list, int32_t size, const int32_t
     const uint32_t count = choice ? list.chooseConfigs(choice, out, size) : list.listConfigs(out, size);
     EXPECT_EQ(std::ranges::count(handles, 0), 4 - static_cast<int>(count));
     return handles;
-}
-
-TEST(ConfigList, AsksForOneFormatThatItsConfigsShare) {
-    recordingReset();
-    const auto profile = makeProfile({{EGL_CONFIG_ID, 1, EGL_DEPTH_SIZE, 0}, {EGL_CONFIG_ID, 2, EGL_SAMPLES, 8}});
-    const ConfigList first(profile, 42);
-    recordingFailNext("createPixelFormat");
-    const ConfigList second(profile, 42);
-    char log[400];
-    recordingTakeLog(log, sizeof log);
-    EXPECT_STREQ(log, "createPixelFormat(42, 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0) = format1\n"
-                      "createPixelFormat(42, 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0) = null\n");
-    EXPECT_EQ(first.findConfig(1)->hostConfig(), first.findConfig(2)->hostConfig());
-    EXPECT_EQ(second.findConfig(1)->hostConfig()->format(), nullptr) << "the list stands all the same";
-    EXPECT_EQ(first.findConfig(2)->toAttributeList(), profile.configs.rbegin()->toAttributeList());
-}
-
-TEST(ConfigList, ProfileWithoutConfig1GetsOneThatSaysNoId) {
-    for (const auto &[profile, size] : {std::pair(makeProfile({}), 1u), {makeProfile({{EGL_CONFIG_ID, 2}}), 2u}}) {
-        const ConfigList list(profile, 0);
-        EXPECT_EQ(list.configCount(), size);
-        EXPECT_EQ(*list.findConfig(1), Config());
-        EXPECT_EQ(list.findConfig(0), nullptr);
-        void *out[2] = {&out, &out};
-        EXPECT_EQ(list.listConfigs(out, 2), size);
-        EXPECT_EQ(out[0], nullptr) << "stored as handle 0";
-        const int32_t wanted[] = {EGL_CONFIG_ID, 7, EGL_NONE};
-        EXPECT_EQ(list.chooseConfigs(wanted, nullptr, 0), 1u) << "without an id it answers any id";
-    }
 }
 
 TEST(ConfigList, StoresHandlesUpToTheSize) {

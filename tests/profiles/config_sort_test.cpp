@@ -35,7 +35,6 @@ TEST(ConfigSortOrder, Keys) {
     const std::tuple<const char *, Order, List, List, List> rows[] = {
         {"none before slow", first, {}, {buffer, 32}, {caveat, slow}},
         {"slow before not conformant", first, {}, {caveat, slow, buffer, 9}, {caveat, broken}},
-        {"none before not conformant", first, {}, {buffer, 9}, {caveat, broken}},
         {"caveat before colours", first, {red, 5}, {red, 5}, {caveat, slow, red, 8}},
         {"unknown caveat after none, and before it", both, {}, {buffer, 32}, {caveat, 0, buffer, 16}},
         {"sums differ", neither, {red, 5}, {red, 5, buffer, 16}, {red, 8, buffer, 32}},
@@ -45,7 +44,6 @@ TEST(ConfigSortOrder, Keys) {
         {"the later request stands", first, {red, 5, red, 0}, {red, 5, id, 1}, {red, 8, id, 2}},
         {"sums wrap", first, {red, 1, blue, 1}, {red, INT32_MAX, blue, INT32_MAX}, {red, -2, id, 2}},
         {"buffer size", first, {}, {buffer, 16, EGL_SAMPLE_BUFFERS, 1}, {buffer, 32}},
-        {"sample buffers", first, {}, {EGL_SAMPLES, 4}, {EGL_SAMPLE_BUFFERS, 1}},
         {"samples", first, {}, {EGL_SAMPLES, 2, depth, 24}, {EGL_SAMPLES, 4}},
         {"depth", first, {}, {depth, 16, EGL_STENCIL_SIZE, 8}, {depth, 24}},
         {"stencil", first, {}, {id, 9}, {EGL_STENCIL_SIZE, 8, id, 1}},

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <cstring>
+
 #include "tools/run_command.h"
 
 namespace {
@@ -14,41 +16,28 @@ CommandResult check(const std::string &text, const std::string &name = "phone") 
     return run("profiles check '" + file.string() + "'");
 }
 
-TEST(CheckProfile, TheExampleReadsAsItLooks) {
-    const CommandResult result = run("profiles check " + example);
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.output, example + ": reads as it looks\n");
-}
-
 TEST(CheckProfile, FindsEachFaultByItsLine) {
     const struct {
         const char *old, *replacement, *finding; // the finding stands behind the file's name
     } cases[] = {
+        {"", "", ": reads as it looks\n"},
         {"</profile>", "", ":2: no well-formed XML: "},
-        {"<profile>", "<profiles><!--", ":2: no well-formed XML: "},
-        {"<vendor>", "<maker/><vendor>", ":4: maker is no element of profile: ignored"},
         {"</egl>", "</egl><egl/>", ":49: only the first egl is read"},
         {"</egl>", "<es/></egl>", ":49: es is no element of egl: ignored"},
         {"</profile>", "</profile>\n<more/>", ":63: more behind the profile is ignored"},
         {"id=\"2\"", "id=\"1\"", ":29: config id 1 is taken"},
         {"id=\"2\"", "number=\"2\"", ":29: config has no id: it reads as 0"},
-        {"id=\"2\"", "id=\"2nd\"", ":29: config id \"2nd\" reads as 2"},
         {"id=\"1\"", "id=\"3\"", ":5: no config has the id 1"},
         {"<red_size>8<", "<red_size>8 bits<", ":8: red_size \"8 bits\" reads as 8"},
-        {"<red_size>8<", "<red_size><", ":8: red_size \"\" reads as 0"},
         {"<red_size>8<", "<red_size>99999999999<", ":8: red_size \"99999999999\" reads as "},
         {"<red_size>", "<red_size>5</red_size>\n<red_size>", ":8: red_size stands again further down"},
         {"<red_size>", "<colour><level>1</level></colour><red_size>", ":8: level inside colour counts"},
-        {"<red_size>", "<redd_size/><red_size>", ":8: redd_size is no element of config: ignored"},
-        {"<red_size>", "<transparency><grey/></transparency><red_size>", ":8: grey is no element of transparency"},
         {"<red_size>", "<transparency/><red_size>", ":8: note: transparency is never read"},
         {"rgba>EGL_TRUE<", "rgba>1<", ":21: bind_to_texture_rgba \"1\" reads as EGL_FALSE"},
         {">EGL_PBUFFER_BIT<", ">1<", ":27: surface_type \"1\" is no bit that is known: ignored"},
-        {">EGL_OPENGL_ES3_BIT_KHR<", ">EGL_OPENGL_ES3_BIT<", ":23: renderable_type \"EGL_OPENGL_ES3_BIT\" is no bit"},
         {"<surface_type>EGL_WINDOW_BIT</surface_type>\n        </config>", "</config>",
          ":29: config ends up without a "},
         {"version=\"3\"", "version=\"4\"", ":57: es has the version \"4\": ignored"},
-        {"version=\"3\"", "", ":57: es has no version: ignored"},
         {"version=\"3\"", "version=\"3.1\"", ":57: version \"3.1\" reads as 3"},
         {"<renderer>", "<device>D</device><renderer>", ":3: note: device names built-in profiles only"},
     };
@@ -59,7 +48,8 @@ TEST(CheckProfile, FindsEachFaultByItsLine) {
         ASSERT_NE(place, std::string::npos) << row.old;
         const CommandResult result = check(text.replace(place, std::string(row.old).size(), row.replacement));
         EXPECT_THAT(result.output, HasSubstr(row.finding));
-        EXPECT_EQ(result.status, std::string(row.finding).find("note: ") == std::string::npos) << row.finding;
+        const bool isHarmless = *row.finding == ':' && row.finding[1] == ' ';
+        EXPECT_EQ(result.status, isHarmless || strstr(row.finding, "note: ") ? 0 : 1) << row.finding;
     }
 }
 

@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <thread>
 #include <unistd.h>
 
@@ -21,57 +22,20 @@ protected:
 
 TEST_F(Transport, WithoutAListenerTheClientIsOpenAndEveryCallFails) {
     EXPECT_EQ(socketPath("Zelvane"), "/tmp/Zelvane");
-    Client client(name);
-    EXPECT_TRUE(client.failed());
-    EXPECT_TRUE(client.isOpen());
-    EXPECT_LT(client.send("x", 1), 0);
-    EXPECT_LT(client.receive(bytes, sizeof bytes), 0);
-    client.close();
-    EXPECT_FALSE(client.isOpen());
-    client.close();
-    EXPECT_LT(client.send("x", 1), 0);
-}
-
-TEST_F(Transport, ANameThatDoesNotFitFails) {
-    const std::string longName(200, 'n');
-    EXPECT_TRUE(Client(longName).failed());
-    EXPECT_TRUE(ServerSocket(longName, 1).failed());
-}
-
-TEST_F(Transport, BlocksTravelBothWaysAndTheEndIsZero) {
-    const ServerSocket server(name, 1);
-    ASSERT_FALSE(server.failed());
-    Client client(name);
-    EXPECT_FALSE(client.failed());
-    Client accepted(server);
-    EXPECT_FALSE(accepted.failed());
-    EXPECT_EQ(client.send("abc", 3), 3);
-    EXPECT_EQ(accepted.receive(bytes, sizeof bytes), 3);
-    EXPECT_STREQ(bytes, "abc");
-    EXPECT_EQ(accepted.send("de", 3), 3);
-    EXPECT_EQ(client.receive(bytes, sizeof bytes), 3);
-    EXPECT_STREQ(bytes, "de");
-    client.close();
-    EXPECT_EQ(accepted.receive(bytes, sizeof bytes), 0);
-}
-
-TEST_F(Transport, ALaterListenerTakesTheNameOver) {
-    const ServerSocket first(name, 1);
-    const ServerSocket second(name, 1);
-    ASSERT_FALSE(second.failed());
-    Client client(name);
-    Client accepted(second);
-    EXPECT_EQ(client.send("x", 1), 1);
-    EXPECT_EQ(accepted.receive(bytes, sizeof bytes), 1);
+    EXPECT_TRUE(ServerSocket(std::string(200, 'n'), 1).failed());
+    for (const std::string &nobody : {name, std::string(200, 'n')}) {
+        Client client(nobody);
+        EXPECT_TRUE(client.failed() && client.isOpen());
+        EXPECT_TRUE(client.send("x", 1) < 0 && client.receive(bytes, sizeof bytes) < 0);
+        client.close();
+        client.close();
+        EXPECT_TRUE(!client.isOpen() && client.send("x", 1) < 0);
+    }
 }
 
 TEST_F(Transport, CopiesShareADescriptorThatOnlyCloseEnds) {
     const ServerSocket server(name, 1);
-    int descriptor = -1;
-    {
-        const Client client(name);
-        descriptor = client.descriptor();
-    }
+    int descriptor = Client(name).descriptor();
     EXPECT_GE(fcntl(descriptor, F_GETFD), 0) << "the end of a client closes nothing";
 
     Client accepted(server);
@@ -98,14 +62,14 @@ TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
     Client client(name);
     std::thread receiver([&] { EXPECT_LE(client.receive(bytes, sizeof bytes), 0); });
     std::thread sender([&] {
-        sigset_t signals;
-        sigfillset(&signals);
-        pthread_sigmask(SIG_SETMASK, &signals, nullptr);
+        signal(SIGPIPE, SIG_IGN);
         const std::string block(8240, 'x');
         while (client.send(block.data(), block.size()) > 0) {
         }
     });
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    pollfd room{client.descriptor(), POLLOUT, 0};
+    while (poll(&room, 1, 0) == 1) // until nothing more goes in, so that the sender waits
+        std::this_thread::yield();
     client.close();
     receiver.join();
     sender.join();

@@ -80,6 +80,12 @@ zvEsContext &BackEnd::current() {
     return currentEsContext;
 }
 
+GLint BackEnd::integer(GLenum name) {
+    GLint value = -1;
+    ES(glGetIntegerv)(name, &value);
+    return value;
+}
+
 void *BackEnd::symbol(const char *name) const {
     return dlsym(m_library, name);
 }

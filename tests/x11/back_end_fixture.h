@@ -3,7 +3,7 @@
 #pragma once
 
 #include <GLES3/gl32.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <zelvane/back_end.h>
 
 #include <memory>
@@ -30,6 +30,8 @@ protected:
     Function *es(const char *name) {
         return reinterpret_cast<Function *>(getExtProcAddress(name));
     }
+    // One value of glGetIntegerv.
+    GLint integer(GLenum name);
     // A symbol of the library itself.
     void *symbol(const char *name) const;
     // File name of the library that holds the function.

@@ -2,17 +2,17 @@
 
 #include <X11/Xatom.h>
 
-#include <cstring>
+#include <string>
 
 namespace {
 
 using WindowInfoOnX11 = X11Host;
 
 TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
-    const auto setTitle = [&](Window window, const char *name, const char *type, const char *value) {
+    const auto setTitle = [&](Window window, const char *name, const char *type, const std::string &value) {
         XChangeProperty(application, window, XInternAtom(application, name, False),
                         XInternAtom(application, type, False), 8, PropModeReplace,
-                        reinterpret_cast<const unsigned char *>(value), static_cast<int>(std::strlen(value)));
+                        reinterpret_cast<const unsigned char *>(value.data()), static_cast<int>(value.size()));
         XSync(application, False);
     };
     const Window target = window(8, 8);
@@ -20,10 +20,9 @@ TEST_F(WindowInfoOnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
     EXPECT_EQ(operations.viewTitle(viewOf(target)), "not sent yet");
     XDeleteProperty(application, target, XA_WM_NAME);
     XSync(application, False);
-    EXPECT_EQ(operations.viewTitle({0, target}), "");
-    setTitle(target, "WM_NAME", "STRING",
-             "Gr\xf6\xdf"
-             "e");
+    for (const View &none : {View{0, target}, View{}, viewOf(0x12345)})
+        EXPECT_EQ(operations.viewTitle(none), "");
+    setTitle(target, "WM_NAME", "STRING", "Gr\xf6\xdf\x65");
     EXPECT_EQ(operations.viewTitle({0, target}), "Gr\u00f6\u00dfe");
     setTitle(target, "_NET_WM_NAME", "UTF8_STRING", "\u30bf\u30a4\u30c8\u30eb");
     EXPECT_EQ(operations.viewTitle({0, target}), "\u30bf\u30a4\u30c8\u30eb");

@@ -27,12 +27,6 @@ inline const char *glString(GLenum name) {
     return reinterpret_cast<const char *>(gl<const GLubyte *(*)(GLenum)>("glGetString")(name));
 }
 
-// Fills what is current with an opaque colour.
-inline void clearTo(float red, float green, float blue) {
-    gl<void (*)(float, float, float, float)>("glClearColor")(red, green, blue, 1);
-    gl<void (*)(GLbitfield)>("glClear")(GL_COLOR_BUFFER_BIT);
-}
-
 class X11Host : public testing::Test {
 protected:
     void SetUp() override {
@@ -46,20 +40,9 @@ protected:
     }
 
     // An application's window that the server may not have heard of yet.
-    Window window(int width, int height, const XVisualInfo *visual = nullptr) {
-        XSetWindowAttributes attributes{};
-        attributes.border_pixel = 0;
-        unsigned long mask = CWBorderPixel;
-        if (visual) {
-            attributes.colormap =
-                XCreateColormap(application, DefaultRootWindow(application), visual->visual, AllocNone);
-            mask |= CWColormap;
-        }
+    Window window(int width, int height) {
         const Window result =
-            XCreateWindow(application, DefaultRootWindow(application), left, 0, static_cast<unsigned>(width),
-                          static_cast<unsigned>(height), 0, visual ? visual->depth : CopyFromParent, InputOutput,
-                          visual ? visual->visual : static_cast<Visual *>(CopyFromParent), mask, &attributes);
-        left += width + 64; // beside each other, since only what is seen can be read
+            XCreateSimpleWindow(application, DefaultRootWindow(application), 0, 0, width, height, 0, 0, 0);
         XMapWindow(application, result);
         return result;
     }
@@ -74,24 +57,5 @@ protected:
         return Context(operations.createContext(format(list).get(), nullptr));
     }
 
-    // What the window shows at a point, as 0xRRGGBB.
-    unsigned long pixel(Window window, int x, int y) const {
-        XImage *image = XGetImage(application, window, x, y, 1, 1, AllPlanes, ZPixmap);
-        if (!image) return ~0ul;
-        const unsigned long value = XGetPixel(image, 0, 0) & 0xFFFFFF;
-        XDestroyImage(image);
-        return value;
-    }
-
-    [[nodiscard]] std::vector<Window> childrenOf(Window window) const {
-        Window root = 0, parent = 0, *children = nullptr;
-        unsigned count = 0;
-        XQueryTree(application, window, &root, &parent, &children, &count);
-        std::vector<Window> result(children, children + count);
-        if (children) XFree(children);
-        return result;
-    }
-
     Display *application = nullptr;
-    int left = 0;
 };
