@@ -2,7 +2,11 @@
 # pkg-config file and a CMake package. The EGL and OpenGL ES headers are Khronos' own and come with the system.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS zelvane_egl zelvane_gles2 EXPORT zelvane
+set(zelvane_libraries zelvane_egl zelvane_gles2)
+if(TARGET zelvane_gles1)
+  list(APPEND zelvane_libraries zelvane_gles1)
+endif()
+install(TARGETS ${zelvane_libraries} EXPORT zelvane
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zelvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT zelvane NAMESPACE zelvane:: FILE zelvane-config.cmake

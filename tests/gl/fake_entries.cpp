@@ -1,6 +1,7 @@
 // The EGL entries that lookups hand out, and a load that succeeds or fails as a test wants.
 #include "fake_entries.h"
 
+#include "egl/desktop_clients.h"
 #include "egl/extension_entries.h"
 #include "egl/state.h"
 
@@ -27,6 +28,11 @@ EGLBoolean setDamageRegionKHR(EGLDisplay, EGLSurface, EGLint *, EGLint) {
 }
 EGLDisplay getPlatformDisplayEXT(EGLenum, void *, const EGLint *) {
     return {};
+}
+
+// No desktop client is served.
+desktop_clients::Function desktop_clients::findEntry(const char *) {
+    return nullptr;
 }
 
 } // namespace egl
