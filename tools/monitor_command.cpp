@@ -1,7 +1,9 @@
 // zelvane monitor: watch applications, and switch their render mode.
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <cstdio>
+#include <sys/signalfd.h>
 #include <unistd.h>
 
 #include "tools/commands.h"
@@ -14,8 +16,21 @@ struct Options {
     bool once = false;
 };
 
+// An output that nobody reads any more and a key in the background are noticed where they happen.
+int catchSignals() {
+    signal(SIGPIPE, SIG_IGN);
+    signal(SIGTTIN, SIG_IGN);
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&ending, number);
+    sigprocmask(SIG_BLOCK, &ending, nullptr);
+    return signalfd(-1, &ending, SFD_CLOEXEC);
+}
+
 int watch(const Options &options) {
-    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), isatty(STDIN_FILENO), options.once);
+    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), catchSignals(), isatty(STDIN_FILENO),
+                    options.once);
     if (!monitor.isListening()) {
         fprintf(stderr, "zelvane: cannot listen at /tmp/Zelvane: another user's socket may be there\n");
         return 1;

@@ -6,6 +6,7 @@
 
 #include "foundation/product.h"
 #include "monitored.h"
+#include "run_command.h"
 #include "ui/message_builders.h"
 #include "ui/socket.h"
 
@@ -178,6 +179,14 @@ TEST(Monitor, EndsWithTheReaderOfItsOutput) {
     monitor.lineWith("process_hello");
     monitor.stopReading();
     EXPECT_EQ(monitor.exitCode(), 0);
+    EXPECT_NE(access(path.c_str(), F_OK), 0);
+}
+
+TEST(Monitor, RunShowsTheProgramUntilItsEnd) {
+    const CommandResult result = run("run --monitor -- " TORUS " --frames 2");
+    EXPECT_EQ(result.status, 0);
+    for (const char *part : {"listening", "connected", "title: Zelvane: torus", "  gone\n", "frames:       2"})
+        EXPECT_NE(result.output.find(part), std::string::npos) << part << " in " << result.output;
     EXPECT_NE(access(path.c_str(), F_OK), 0);
 }
 
