@@ -68,10 +68,12 @@ void flushBuffer(ContextContainer *container) {
         attach(*container, {});
         return;
     }
+    const bool isChild = attachment.drawable != attachment.view.window;
+    if (isChild) connection.children().show(attachment.view.window, attachment.drawable);
     glXSwapBuffers(connection.display(), attachment.drawable);
     // Nobody else ever flushes this connection; a frame must not wait in its buffer for the next one.
     XFlush(connection.display());
-    if (attachment.drawable != attachment.view.window) connection.children().follow(attachment.view.window);
+    if (isChild) connection.children().follow(attachment.view.window);
 }
 
 } // namespace host::platform::x11

@@ -20,10 +20,19 @@ Window ChildWindows::create(Window parent, const XVisualInfo &visual, unsigned w
     attributes.colormap = colormap;
     attributes.border_pixel = 0; // the parent's border cannot be copied to another depth
     attributes.bit_gravity = NorthWestGravity;
-    const Window child = calls::createWindow(m_display, parent, 0, 0, width, height, 0, visual.depth, InputOutput,
-                                             visual.visual, CWColormap | CWBorderPixel | CWBitGravity, &attributes);
-    if (child) XMapWindow(m_display, child);
-    return child;
+    return calls::createWindow(m_display, parent, 0, 0, width, height, 0, visual.depth, InputOutput, visual.visual,
+                               CWColormap | CWBorderPixel | CWBitGravity, &attributes);
+}
+
+void ChildWindows::show(Window parent, Window child) {
+    const std::lock_guard lock(m_mutex);
+    auto entry = m_children.lower_bound({parent, 0});
+    for (; entry != m_children.end() && entry->first.first == parent; ++entry) {
+        auto &[window, width, height, isShown] = entry->second;
+        if (window != child || isShown) continue;
+        XMapWindow(m_display, window);
+        isShown = true;
+    }
 }
 
 Window ChildWindows::childOf(Window parent, const XVisualInfo &visual) {
@@ -38,7 +47,7 @@ Window ChildWindows::childOf(Window parent, const XVisualInfo &visual) {
     // The parent's number may have come again after that window went with its child.
     unsigned childWidth = 0, childHeight = 0;
     if (child.window && !isThere(child.window, childWidth, childHeight)) child = {};
-    if (!child.window) child = {create(parent, visual, width, height), width, height};
+    if (!child.window) child = {create(parent, visual, width, height), width, height, false};
     if (!child.window) {
         m_children.erase(key);
         return 0;

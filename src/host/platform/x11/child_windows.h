@@ -15,8 +15,11 @@ class ChildWindows {
 public:
     explicit ChildWindows(Display *display) : m_display(display) {}
 
-    // The child of that visual. None when the parent is gone.
+    // The child of that visual, not shown at first. None when the parent is gone.
     [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual);
+    // With the first frame, and not before: a child that covers its parent keeps every Expose event from it, and there
+    // are applications that draw at their first one.
+    void show(Window parent, Window child);
     // Brings the parent's children to its size, which costs a round trip where there are any.
     void follow(Window parent);
     // The same for a size that is known already.
@@ -29,6 +32,7 @@ private:
         Window window = 0;
         unsigned width = 0;
         unsigned height = 0;
+        bool isShown = false;
     };
 
     Window create(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
