@@ -56,6 +56,9 @@ void checkLibraries(const std::string &program, const LoaderTrace &trace, const 
         if (file.empty()) failCommand(name + ", which " + quoted(program) + " needs, is not there");
         std::error_code error;
         if (!isOurs(name) || fs::equivalent(fs::path(file).parent_path(), libraries, error)) continue;
+        if (!fs::exists(fs::path(libraries) / name, error))
+            failCommand(quoted(program) + " needs " + name + ", which is not among the libraries in " +
+                        quoted(libraries));
         failCommand(quoted(program) + " is linked to another copy: it takes " + name + " from " + quoted(file) +
                     ", a place that is written into it or into a library of it and goes before every search path");
     }

@@ -1,4 +1,4 @@
-/* Preloaded by scripts/try-programs into programs that link EGL and OpenGL ES. At the first swap it asks GL_RENDERER
+/* Preloaded by try-programs into programs that link EGL and OpenGL ES. At the first swap it asks GL_RENDERER
    and GL_VERSION of the library whose functions the program itself calls, and prints both with that library's file.
    With EGL_WITNESS_SAMPLES=N in the environment it also adds EGL_SAMPLES N to what the program asks of configs, so
    that two libraries draw with as many samples. */
