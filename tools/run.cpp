@@ -54,6 +54,8 @@ private:
 };
 
 int runProgram(const Options &options, const std::vector<std::string> &words) {
+    // First: no signal may end us while there are files to take away, and all threads leave the signals to this one.
+    const SignalRelay signals;
     const RunPreferences preferences(options.wishes);
     const RunLibraries libraries(options.backEnds);
     const char *before = getenv("LD_LIBRARY_PATH");
@@ -63,7 +65,6 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     checkXServer();
     checkProgram(words, libraries.directory());
 
-    const SignalRelay signals; // before any thread, so that all of them leave the signals to this one
     std::optional<WatchedRun> watched;
     if (options.monitor) watched.emplace();
     return signals.relayTo(startProgram(words));

@@ -42,6 +42,8 @@ SignalRelay::SignalRelay() {
     for (const int number : relayed)
         sigaddset(&m_taken, number);
     sigprocmask(SIG_BLOCK, &m_taken, &m_before);
+    // Whoever started us may ignore it, and then nobody could wait for the program.
+    signal(SIGCHLD, SIG_DFL);
     // The program's output is read by others too; a reader that goes is not the end of us.
     signal(SIGPIPE, SIG_IGN);
 }
