@@ -5,10 +5,13 @@
 #include <CLI/CLI.hpp>
 
 #include <string>
+#include <vector>
 
 void addMonitorCommand(CLI::App &app);
 void addProfilesCommand(CLI::App &app);
 void addReportCommand(CLI::App &app);
+// program: the words behind "run ... --".
+void addRunCommand(CLI::App &app, const std::vector<std::string> &program);
 void addUseCommand(CLI::App &app);
 void addStrictCommand(CLI::App &app);
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iostream>
 
 #include "foundation/product.h"
@@ -6,6 +7,17 @@
 namespace {
 
 constexpr int usageStatus = 2;
+
+// Takes the words behind "run ... --" off the command line, exactly as they are: the parser of our own words would
+// look for verbs and lists among them.
+std::vector<std::string> takeProgram(std::vector<std::string> &words) {
+    if (words.empty() || words[0] != "run") return {};
+    const auto mark = std::find(words.begin(), words.end(), "--");
+    if (mark == words.end()) return {};
+    std::vector<std::string> program(mark + 1, words.end());
+    words.erase(mark, words.end());
+    return program;
+}
 
 } // namespace
 
@@ -23,9 +35,13 @@ int main(int argc, char **argv) {
     addProfilesCommand(app);
     addUseCommand(app);
     addReportCommand(app);
+    std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+    const std::vector<std::string> program = takeProgram(words);
+    addRunCommand(app, program);
     addStrictCommand(app);
     try {
-        app.parse(argc, argv);
+        std::reverse(words.begin(), words.end()); // the parser takes them from the end
+        app.parse(words);
     } catch (const CLI::RuntimeError &error) {
         return error.get_exit_code();
     } catch (const CLI::ParseError &error) {

@@ -1,10 +1,8 @@
 #include "tools/monitor.h"
 
-#include <csignal>
 #include <optional>
 #include <poll.h>
 #include <sstream>
-#include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,18 +23,6 @@ uint64_t fileNumber(const std::string &path) {
     return stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
 }
 
-// An output that nobody reads any more and a key in the background are noticed where they happen.
-int catchSignals() {
-    signal(SIGPIPE, SIG_IGN);
-    signal(SIGTTIN, SIG_IGN);
-    sigset_t ending;
-    sigemptyset(&ending);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&ending, number);
-    sigprocmask(SIG_BLOCK, &ending, nullptr);
-    return signalfd(-1, &ending, SFD_CLOEXEC);
-}
-
 std::optional<Message> commandFor(const std::string &verb, const std::string &argument) {
     if (verb == "w" || (verb == "wire" && argument == "on")) return guiRenderModeOn();
     if (verb == "W" || (verb == "wire" && argument == "off")) return guiRenderModeOff();
@@ -46,19 +32,18 @@ std::optional<Message> commandFor(const std::string &verb, const std::string &ar
 
 } // namespace
 
-Monitor::Monitor(std::unique_ptr<MonitorOutput> output, bool takesCommands, bool endsWithTheFirst)
+Monitor::Monitor(std::unique_ptr<MonitorOutput> output, int ending, bool takesCommands, bool endsWithTheFirst)
     : m_output(std::move(output)), m_server(productName, 16), m_socketFile(fileNumber(m_server.path())),
-      m_signals(catchSignals()), m_takesCommands(takesCommands), m_endsWithTheFirst(endsWithTheFirst) {}
+      m_ending(ending), m_takesCommands(takesCommands), m_endsWithTheFirst(endsWithTheFirst) {}
 
 Monitor::~Monitor() {
     if (isListening() && fileNumber(m_server.path()) == m_socketFile) unlink(m_server.path().c_str());
-    close(m_signals);
 }
 
 void Monitor::run() {
     m_output->listening(m_server.path(), m_takesCommands);
     while (!m_isEnding && fflush(stdout) == 0) {
-        std::vector<pollfd> waiting{{m_signals, POLLIN, 0},
+        std::vector<pollfd> waiting{{m_ending, POLLIN, 0},
                                     {m_server.descriptor(), POLLIN, 0},
                                     {m_takesCommands ? STDIN_FILENO : -1, POLLIN, 0},
                                     // Reports only that the reader of a pipe has gone.
@@ -67,7 +52,8 @@ void Monitor::run() {
         for (const auto &application : m_applications)
             waiting.push_back({application->descriptor(), POLLIN, 0});
         if (poll(waiting.data(), waiting.size(), -1) < 0) continue;
-        if (waiting[0].revents || waiting[3].revents) return;
+        if (waiting[3].revents) return;
+        if (waiting[0].revents) return readWhatIsLeft();
         for (size_t index = first; index < waiting.size(); ++index) {
             if (waiting[index].revents) readRecord(*m_applications[index - first]);
         }
@@ -94,6 +80,23 @@ void Monitor::dropEnded() {
         m_isEnding |= m_endsWithTheFirst && application->processNumber();
         return true;
     });
+}
+
+void Monitor::readWhatIsLeft() {
+    for (bool isNew = true; isNew;) {
+        pollfd arriving{m_server.descriptor(), POLLIN, 0};
+        isNew = poll(&arriving, 1, 0) > 0;
+        if (isNew) accept();
+    }
+    for (const auto &application : m_applications) {
+        pollfd gone{application->descriptor(), POLLIN, 0};
+        while (gone.fd >= 0 && poll(&gone, 1, 0) > 0 && gone.revents & POLLHUP) {
+            readRecord(*application);
+            gone.fd = application->descriptor();
+        }
+    }
+    dropEnded();
+    fflush(stdout);
 }
 
 void Monitor::readCommands() {

@@ -1,5 +1,5 @@
 // The listening side of the GUI link in a terminal. Everything runs on one thread, in one poll loop: records of the
-// applications, commands of the user, and the signals that end it.
+// applications, commands of the user, and the descriptor that ends it.
 #pragma once
 
 #include <memory>
@@ -12,8 +12,9 @@
 
 class Monitor {
 public:
+    // ending: a descriptor that is readable when the monitor is to end; it stays the caller's.
     // takesCommands: read lines of standard input as commands.
-    Monitor(std::unique_ptr<MonitorOutput> output, bool takesCommands, bool endsWithTheFirst);
+    Monitor(std::unique_ptr<MonitorOutput> output, int ending, bool takesCommands, bool endsWithTheFirst);
     Monitor(const Monitor &) = delete;
     Monitor &operator=(const Monitor &) = delete;
     // Removes the socket file, unless another listener has put its own there.
@@ -21,13 +22,15 @@ public:
 
     // False when the socket cannot be made.
     [[nodiscard]] bool isListening() const { return !m_server.failed(); }
-    // Until the user, a signal or the end of the first application ends it.
+    // Until the user, the descriptor or the end of the first application ends it. What applications that are gone by
+    // then have left is still shown. SIGPIPE must be ignored: a reader of the output that goes ends the monitor.
     void run();
 
 private:
     void accept();
     void readRecord(MonitoredApplication &application);
     void dropEnded();
+    void readWhatIsLeft();
     void readCommands();
     // A line such as "w", "W 1234", "wire off" or "d".
     void obey(const std::string &line);
@@ -35,7 +38,7 @@ private:
     std::unique_ptr<MonitorOutput> m_output;
     KZRIPC::ServerSocket m_server;
     uint64_t m_socketFile; // which file at the path is ours
-    int m_signals;         // readable when the process is to end
+    int m_ending;
     bool m_takesCommands;
     bool m_endsWithTheFirst;
     bool m_isEnding = false;

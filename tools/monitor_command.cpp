@@ -1,8 +1,10 @@
 // zelvane monitor: watch applications, and switch their render mode.
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,13 +24,26 @@ bool takesCommands(int input) {
     return isatty(input) || (fstat(input, &status) == 0 && S_ISFIFO(status.st_mode));
 }
 
+// An output that nobody reads any more and a key in the background are noticed where they happen.
+int catchSignals() {
+    signal(SIGPIPE, SIG_IGN);
+    signal(SIGTTIN, SIG_IGN);
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&ending, number);
+    sigprocmask(SIG_BLOCK, &ending, nullptr);
+    return signalfd(-1, &ending, SFD_CLOEXEC);
+}
+
 int watch(const Options &options) {
     // Its number would be the next one to be given away, to a socket.
     if (fcntl(STDOUT_FILENO, F_GETFD) < 0) {
         fprintf(stderr, "zelvane: standard output is closed\n");
         return 1;
     }
-    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), takesCommands(STDIN_FILENO), options.once);
+    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), catchSignals(), takesCommands(STDIN_FILENO),
+                    options.once);
     if (!monitor.isListening()) {
         fprintf(stderr, "zelvane: cannot listen at /tmp/Zelvane: another user's socket may be there\n");
         return 1;

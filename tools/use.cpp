@@ -5,6 +5,7 @@
 #include "profiles/profile_reader.h"
 #include "tools/commands.h"
 #include "tools/preferences.h"
+#include "tools/use.h"
 
 namespace {
 
@@ -29,19 +30,7 @@ void useProfile(const std::string &name, std::string directory) {
         directory = preferences.profilesDirectory();
     }
     const bool isNew = directory.empty();
-
-    egl::DeviceProfile profile;
-    const CKZRTString profileName(name.c_str());
-    const auto text = egl::findProfileText(CKZRTString(directory.c_str()), profileName);
-    if (!text) {
-        failCommand("\"" + name + "\" is none of the built-in profiles, and " +
-                    (isNew ? "no profiles directory is set" : "\"" + directory + "\" has no such file") +
-                    "; \"zelvane profiles\" lists what there is");
-    }
-    if (!readDeviceProfile(profile, *text, profileName)) {
-        failCommand("\"" + name + "\" is no profile; \"zelvane profiles check\" tells what is wrong with a file");
-    }
-
+    checkProfileName(name, directory);
     if (isNew) directory = makeOwnDirectory();
     if (directory != preferences.storedDirectory()) {
         std::cout << "profiles directory: now " << directory
@@ -62,6 +51,20 @@ void useNone() {
 }
 
 } // namespace
+
+void checkProfileName(const std::string &name, const std::string &directory) {
+    egl::DeviceProfile profile;
+    const CKZRTString profileName(name.c_str());
+    const auto text = egl::findProfileText(CKZRTString(directory.c_str()), profileName);
+    if (!text) {
+        failCommand("\"" + name + "\" is none of the built-in profiles, and " +
+                    (directory.empty() ? "no profiles directory is set" : "\"" + directory + "\" has no such file") +
+                    "; \"zelvane profiles\" lists what there is");
+    }
+    if (!readDeviceProfile(profile, *text, profileName)) {
+        failCommand("\"" + name + "\" is no profile; \"zelvane profiles check\" tells what is wrong with a file");
+    }
+}
 
 void addUseCommand(CLI::App &app) {
     auto *command = app.add_subcommand("use", "Choose the device that programs find from now on");

@@ -1,4 +1,5 @@
 // Entries about configs. The lists are told by the device profile; the host is never asked.
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 
 using namespace egl;
@@ -26,6 +27,10 @@ EGLBoolean EGLAPIENTRY eglGetConfigAttrib(EGLDisplay dpy, EGLConfig config, EGLi
         const auto found = display.findConfig(config);
         if (!found) return fail(EGL_BAD_CONFIG, EGL_FALSE);
         if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        if (const auto visual = desktop_clients::nativeVisual(*found, attribute)) {
+            *value = *visual;
+            return succeed(EGL_TRUE);
+        }
         if (!found->getAttribute(attribute, value)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
         return succeed(EGL_TRUE);
     });

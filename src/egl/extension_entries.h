@@ -14,5 +14,9 @@ EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface,
 EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *rects, EGLint count);
 // Takes every platform and reads no attribute.
 EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum platform, void *nativeDisplay, const EGLint *attributes);
+// Handed out for desktop clients alone, and behind the core entry: eglCreateWindowSurface, with the window behind what
+// desktop_clients::windowOf is given.
+EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativeWindow,
+                                                      const EGLint *attributes);
 
 } // namespace egl

@@ -1,4 +1,5 @@
 // eglQueryString. All texts are constant, so they live for the process and depend on nothing.
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "foundation/product.h"
 #include "host/egl_version.h"
@@ -47,7 +48,10 @@ using namespace egl;
 
 const char *EGLAPIENTRY eglQueryString(EGLDisplay dpy, EGLint name) {
     if (dpy == EGL_NO_DISPLAY && name == EGL_VERSION) return succeed(versionString());
-    if (dpy == EGL_NO_DISPLAY && name == EGL_EXTENSIONS) return succeed<const char *>(clientExtensions);
+    if (dpy == EGL_NO_DISPLAY && name == EGL_EXTENSIONS) {
+        const char *ofDesktop = desktop_clients::clientExtensions();
+        return succeed(ofDesktop ? ofDesktop : clientExtensions);
+    }
     return entry(dpy, noString, [&](Display &) {
         switch (name) {
         case EGL_VENDOR:

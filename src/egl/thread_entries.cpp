@@ -1,4 +1,5 @@
 // Entries that look at the calling thread alone. None of them loads anything.
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 
 using namespace egl;
@@ -9,7 +10,10 @@ EGLint EGLAPIENTRY eglGetError(void) {
 
 // Nothing is remembered: there is no other API.
 EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
-    if (api != EGL_OPENGL_ES_API) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+    if (api != EGL_OPENGL_ES_API) {
+        desktop_clients::tellOfOtherApi(api);
+        return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+    }
     return succeed(EGL_TRUE);
 }
 

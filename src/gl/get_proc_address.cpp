@@ -3,6 +3,7 @@
 #include <cstring>
 #include <span>
 
+#include "egl/desktop_clients.h"
 #include "egl/egl_api.h"
 #include "egl/extension_entries.h"
 #include "egl/state.h"
@@ -34,6 +35,7 @@ const ProcTableRow eglTable[] = {
 
 // Null when no table has the name. There is no hash: applications look a name up once.
 Function findFunction(const char *name) {
+    if (const auto function = egl::desktop_clients::findEntry(name)) return function;
     const std::span<const ProcTableRow> tables[] = {eglTable, extensionTable, baseTable};
     for (const auto table : tables) {
         for (const ProcTableRow &row : table) {

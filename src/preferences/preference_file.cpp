@@ -1,6 +1,7 @@
 #include "preferences/preference_file.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <string_view>
@@ -80,6 +81,10 @@ bool KZRPreferencesUnix::getPreferenceDirectory(std::string &directory, bool sys
     directory.clear();
     if (systemWide) {
         directory = "/etc/.kzrconfig/Tarnwell Graphics";
+        return true;
+    }
+    if (const char *own = getenv("ZELVANE_PREFERENCES_DIRECTORY"); own && *own) {
+        directory = own;
         return true;
     }
     return getConfigDirectory(directory);

@@ -16,7 +16,8 @@ inline constexpr int writePreferences = 1;
 
 class KZRPreferencesImpl {
 public:
-    // False, with directory empty, when there is no home directory.
+    // $ZELVANE_PREFERENCES_DIRECTORY where it is set, else a directory of the user's home. False, with directory empty,
+    // when there is neither.
     [[nodiscard]] virtual bool getPreferenceDirectory(std::string &directory, bool systemWide) = 0;
     // Reading creates a missing file, and its directories, from a template without keys. Every mode but reading
     // writes: an atomic writePreferences into PATH.tmp, anything else into the file itself. Without a stream, error

@@ -78,7 +78,7 @@ Client::Client(std::string_view name) : m_socket(std::make_unique<Socket>(socket
 }
 
 Client::Client(const ServerSocket &server)
-    : m_socket(std::make_unique<Socket>(accept(server.descriptor(), nullptr, nullptr))) {
+    : m_socket(std::make_unique<Socket>(accept4(server.descriptor(), nullptr, nullptr, SOCK_CLOEXEC))) {
     m_failed = m_socket->failed();
 }
 
@@ -107,7 +107,7 @@ int Client::descriptor() const {
 }
 
 ServerSocket::ServerSocket(std::string_view name, int backlog)
-    : m_path(socketPath(name)), m_descriptor(socket(AF_UNIX, SOCK_STREAM, 0)) {
+    : m_path(socketPath(name)), m_descriptor(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     m_failed = !listenAt(m_path, m_descriptor, backlog);
 }
 

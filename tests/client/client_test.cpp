@@ -107,6 +107,26 @@ TEST_F(Client, SwapShowsInWindowsOfAnyVisual) {
     }
 }
 
+// A child window that covered its parent before that was mapped kept every Expose from the application.
+TEST_F(Client, WindowsOfAnyVisualGetTheirExposeEvents) {
+    initialise(m_x);
+    const EGLContext context = makeContext();
+    const Window window = XCreateSimpleWindow(m_x, DefaultRootWindow(m_x), 0, 0, 64, 48, 0, 0, 0);
+    XSelectInput(m_x, window, ExposureMask);
+    const EGLSurface surface = makeSurface(window);
+    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+    XMapWindow(m_x, window);
+    XSync(m_x, False);
+    XEvent event;
+    EXPECT_TRUE(XCheckTypedWindowEvent(m_x, window, Expose, &event));
+    const GlFunctions gl;
+    drawAndRead(gl, 1, 0, 0);
+    EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
+    EGLint width = 0;
+    EXPECT_TRUE(eglQuerySurface(m_egl, surface, EGL_WIDTH, &width)); // a round trip, so that the server has drawn
+    EXPECT_EQ(shownPixel(32, 24), red);
+}
+
 TEST_F(Client, BadWindowsGiveFailuresAndNothingMore) {
     initialise(m_x);
     const EGLContext context = makeContext();

@@ -6,6 +6,7 @@
 
 #include "foundation/product.h"
 #include "monitored.h"
+#include "run_command.h"
 #include "ui/message_builders.h"
 #include "ui/socket.h"
 
@@ -148,5 +149,15 @@ TEST(Monitor, EndsWithTheReaderOfItsOutputAndLeavesTheFileOfALaterListener) {
         EXPECT_EQ(monitor.exitCode(), 0);
         EXPECT_EQ(access(path.c_str(), F_OK) == 0, isLater);
     }
+    unlink(path.c_str());
+}
+
+TEST(Monitor, RunShowsTheProgramUntilItsEnd) {
+    // The program's own losses are not what is looked at here; drivers have theirs.
+    const CommandResult result = run("run --monitor -- env ASAN_OPTIONS=detect_leaks=0 " TORUS " --frames 2");
+    EXPECT_EQ(result.status, 0);
+    for (const char *part : {"listening", "connected", "title: Zelvane: torus", "  gone\n", "frames:       2"})
+        EXPECT_NE(result.output.find(part), std::string::npos) << part << " in " << result.output;
+    EXPECT_NE(access(path.c_str(), F_OK), 0);
     unlink(path.c_str());
 }

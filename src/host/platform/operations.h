@@ -40,6 +40,9 @@ enum PixelFormatAttribute : uint32_t {
     SampleBuffers = 55,
     Samples = 56,
     OpenGLProfile = 99,
+    // Of formats only, never in a list: the id and the class of the visual that windows need to be drawn to directly.
+    NativeVisualId = 0x10000,
+    NativeVisualType = 0x10001,
 };
 
 constexpr uint32_t profileLegacy = 0x1000;

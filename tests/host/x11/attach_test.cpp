@@ -16,6 +16,27 @@ TEST_F(AttachOnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
     EXPECT_EQ(operations.currentContext(), made.get());
 }
 
+// An application that tries one config after the other on a window found the first one's child over all later frames.
+TEST_F(AttachOnX11, ChildIsSeenOnlyWhileItIsDrawnTo) {
+    constexpr uint32_t list[] = {
+        OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, SampleBuffers, 1, Samples, 4, 0};
+    const auto direct = context(), sampled = context(list);
+    const Window target = window(64, 48);
+    for (const auto &[drawn, state] : {std::pair(sampled.get(), IsViewable), std::pair(direct.get(), IsUnmapped)}) {
+        ASSERT_TRUE(operations.setView(drawn, viewOf(target)) && operations.makeCurrent(drawn));
+        operations.flushBuffer(drawn);
+        operations.viewSize(viewOf(target), nullptr, nullptr); // waits for the layer's connection
+        Window root = 0, parent = 0, *children = nullptr;
+        unsigned count = 0;
+        XQueryTree(application, target, &root, &parent, &children, &count);
+        if (count == 0) GTEST_SKIP() << "this server has samples in its default visual";
+        XWindowAttributes attributes{};
+        XGetWindowAttributes(application, children[0], &attributes);
+        XFree(children);
+        EXPECT_EQ(attributes.map_state, state);
+    }
+}
+
 TEST_F(AttachOnX11, PixelBuffersOfNoSizeAreRefusedAndTakenAwayOnesLeaveTheContextCurrent) {
     for (const auto &[width, height] : {std::pair(0, 4), std::pair(4, 0), std::pair(-1, -1)})
         EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, width, height), nullptr);

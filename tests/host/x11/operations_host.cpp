@@ -25,10 +25,12 @@ public:
     }
     View badView() override { return viewOf(0x12345); }
     void makeForeignCurrent() override {
-        int attributes[] = {GLX_RGBA, 0};
-        XVisualInfo *visual = glXChooseVisual(application, DefaultScreen(application), attributes);
+        XVisualInfo wanted{};
+        wanted.visualid = XVisualIDFromVisual(DefaultVisual(application, DefaultScreen(application)));
+        int count = 0;
+        XVisualInfo *visual = XGetVisualInfo(application, VisualIDMask, &wanted, &count);
         const GLXContext context = glXCreateContext(application, visual, nullptr, True);
-        glXMakeCurrent(application, window(8, 8, visual), context);
+        glXMakeCurrent(application, window(8, 8), context);
         XFree(visual);
     }
     bool isForeignCurrent() override { return glXGetCurrentDisplay() == application; }

@@ -16,10 +16,7 @@ GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     if (!connection.windowAttributes(view, attributes) || attributes.c_class != InputOutput) return None;
     if (XScreenNumberOfScreen(attributes.screen) != connection.screen()) return None;
     const auto &visual = container.config.visual;
-    if (XVisualIDFromVisual(attributes.visual) == visual.visualid) {
-        connection.children().hideAll(view.window);
-        return view.window;
-    }
+    if (XVisualIDFromVisual(attributes.visual) == visual.visualid) return view.window;
     return connection.children().childOf(view.window, visual);
 }
 
@@ -71,6 +68,7 @@ void flushBuffer(ContextContainer *container) {
         attach(*container, {});
         return;
     }
+    connection.children().show(attachment.view.window, attachment.drawable);
     glXSwapBuffers(connection.display(), attachment.drawable);
     // Nobody else ever flushes this connection; a frame must not wait in its buffer for the next one.
     XFlush(connection.display());

@@ -20,10 +20,20 @@ Window ChildWindows::create(Window parent, const XVisualInfo &visual, unsigned w
     attributes.colormap = colormap;
     attributes.border_pixel = 0; // the parent's border cannot be copied to another depth
     attributes.bit_gravity = NorthWestGravity;
-    const Window child = calls::createWindow(m_display, parent, 0, 0, width, height, 0, visual.depth, InputOutput,
-                                             visual.visual, CWColormap | CWBorderPixel | CWBitGravity, &attributes);
-    if (child) XMapWindow(m_display, child);
-    return child;
+    return calls::createWindow(m_display, parent, 0, 0, width, height, 0, visual.depth, InputOutput, visual.visual,
+                               CWColormap | CWBorderPixel | CWBitGravity, &attributes);
+}
+
+void ChildWindows::show(Window parent, Window child) {
+    const std::lock_guard lock(m_mutex);
+    auto entry = m_children.lower_bound({parent, 0});
+    for (; entry != m_children.end() && entry->first.first == parent; ++entry) {
+        auto &[window, width, height, isShown] = entry->second;
+        const bool isWanted = window == child;
+        if (isShown == isWanted) continue;
+        (isWanted ? XMapWindow : XUnmapWindow)(m_display, window);
+        isShown = isWanted;
+    }
 }
 
 Window ChildWindows::childOf(Window parent, const XVisualInfo &visual) {
@@ -38,26 +48,13 @@ Window ChildWindows::childOf(Window parent, const XVisualInfo &visual) {
     // The parent's number may have come again after that window went with its child.
     unsigned childWidth = 0, childHeight = 0;
     if (child.window && !isThere(child.window, childWidth, childHeight)) child = {};
-    if (!child.window) child = {create(parent, visual, width, height), width, height};
+    if (!child.window) child = {create(parent, visual, width, height), width, height, false};
     if (!child.window) {
         m_children.erase(key);
         return 0;
     }
     fit(child, width, height);
-    showOnly(parent, visual.visualid);
     return child.window;
-}
-
-void ChildWindows::showOnly(Window parent, VisualID visual) {
-    auto entry = m_children.lower_bound({parent, 0});
-    for (; entry != m_children.end() && entry->first.first == parent; ++entry) {
-        Child &child = entry->second;
-        const bool isWanted = entry->first.second == visual;
-        if (child.isShown == isWanted) continue;
-        (isWanted ? XMapWindow : XUnmapWindow)(m_display, child.window);
-        XFlush(m_display);
-        child.isShown = isWanted;
-    }
 }
 
 void ChildWindows::fit(Child &child, unsigned width, unsigned height) {

@@ -15,13 +15,12 @@ class ChildWindows {
 public:
     explicit ChildWindows(Display *display) : m_display(display) {}
 
-    // The child of that visual, which hides the parent's others. None when the parent is gone.
+    // The child of that visual, not shown at first. None when the parent is gone.
     [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual);
-    // For a parent that is drawn to itself: its children would cover it.
-    void hideAll(Window parent) {
-        const std::lock_guard lock(m_mutex);
-        showOnly(parent, 0);
-    }
+    // With the first frame, and not before: a child that covers its parent keeps every Expose event from it, and there
+    // are applications that draw at their first one. Hides the parent's other children, which would cover it; no child
+    // has the parent's own number.
+    void show(Window parent, Window child);
     // Brings the parent's children to its size, which costs a round trip where there are any.
     void follow(Window parent);
     // The same for a size that is known already.
@@ -34,13 +33,11 @@ private:
         Window window = 0;
         unsigned width = 0;
         unsigned height = 0;
-        bool isShown = true;
+        bool isShown = false;
     };
 
     Window create(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
     void fit(Child &child, unsigned width, unsigned height);
-    // Visual 0 for none of them.
-    void showOnly(Window parent, VisualID visual);
     bool isThere(Window window, unsigned &width, unsigned &height);
 
     Display *m_display;

@@ -43,6 +43,8 @@ PixelFormat *createPixelFormat(uint64_t display, const uint32_t *attributes) {
 
 int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
     if (attribute == OpenGLProfile) return static_cast<int32_t>(format->profile);
+    if (attribute == NativeVisualId) return static_cast<int32_t>(format->config.visual.visualid);
+    if (attribute == NativeVisualType) return format->config.visual.c_class;
     for (const auto &row : sizeRows) {
         if (row.attribute == attribute) return format->config.sizes.*row.size;
     }

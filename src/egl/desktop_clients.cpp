@@ -1,0 +1,74 @@
+#include "egl/desktop_clients.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+
+#include "egl/extension_entries.h"
+#include "foundation/log.h"
+
+namespace egl::desktop_clients {
+
+namespace {
+
+bool isOn() {
+    static const bool on = [] {
+        const char *value = getenv("ZELVANE_DESKTOP_CLIENTS");
+        return value && strcmp(value, "1") == 0;
+    }();
+    return on;
+}
+
+struct Entry {
+    const char *name;
+    Function function;
+};
+
+const Entry entries[] = {
+#define CORE_ENTRY(name) {#name, reinterpret_cast<Function>(name)},
+#include "egl/data/core_entries.def"
+#undef CORE_ENTRY
+    {"eglCreatePlatformWindowSurfaceEXT", reinterpret_cast<Function>(createPlatformWindowSurfaceEXT)},
+};
+
+} // namespace
+
+std::optional<EGLint> nativeVisual(const Config &config, EGLint attribute) {
+    if (!isOn() || !config.hostConfig() || !config.hostConfig()->format()) return std::nullopt;
+    using namespace host::platform;
+    switch (attribute) {
+    case EGL_NATIVE_VISUAL_ID:
+        return operations.pixelFormatValue(config.hostConfig()->format(), NativeVisualId);
+    case EGL_NATIVE_VISUAL_TYPE:
+        return operations.pixelFormatValue(config.hostConfig()->format(), NativeVisualType);
+    default:
+        return std::nullopt;
+    }
+}
+
+const char *clientExtensions() {
+    return isOn() ? "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 " : nullptr;
+}
+
+Function findEntry(const char *name) {
+    if (!isOn()) return nullptr;
+    for (const Entry &entry : entries) {
+        if (strcmp(name, entry.name) == 0) return entry.function;
+    }
+    return nullptr;
+}
+
+uint64_t windowOf(void *nativeWindow) {
+    if (!isOn()) return reinterpret_cast<uintptr_t>(nativeWindow);
+    // A Window is as wide as a pointer here, whatever X sends over the wire.
+    return nativeWindow ? *static_cast<const unsigned long *>(nativeWindow) : 0;
+}
+
+void tellOfOtherApi(EGLenum api) {
+    static std::atomic<bool> isTold = false;
+    if (!isOn() || isTold.exchange(true)) return;
+    const char *wanted = api == EGL_OPENGL_API ? "desktop OpenGL" : "an API of another kind";
+    logMessage(LogError, "%s%s%s", "The application asks EGL for ", wanted, "; this EGL has OpenGL ES alone.");
+}
+
+} // namespace egl::desktop_clients

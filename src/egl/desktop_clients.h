@@ -1,0 +1,34 @@
+// What X11 programs of the desktop expect of an EGL and handheld devices do not give. All of it hangs on the variable
+// ZELVANE_DESKTOP_CLIENTS, which is looked at once and has to be 1; without it every function here gives "nothing",
+// and the callers answer as a device does.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "egl/egl_api.h"
+#include "profiles/config.h"
+
+namespace egl::desktop_clients {
+
+using Function = void (*)();
+
+// EGL_NATIVE_VISUAL_ID and EGL_NATIVE_VISUAL_TYPE of the host format; windows of that visual are drawn to directly.
+// Nothing for other attributes and for a config without a host format.
+[[nodiscard]] std::optional<EGLint> nativeVisual(const Config &config, EGLint attribute);
+
+// The client extension string, or null.
+[[nodiscard]] const char *clientExtensions();
+
+// What eglGetProcAddress hands out before it looks at its tables: the core EGL entries, and the platform entries that
+// take pointers. Null for all other names.
+[[nodiscard]] Function findEntry(const char *name);
+
+// The window behind the argument of a platform entry: a pointer to it in this mode, otherwise the window itself.
+// 0 for a null pointer.
+[[nodiscard]] uint64_t windowOf(void *nativeWindow);
+
+// Says on the log, once a process, that an application asked for another API than OpenGL ES.
+void tellOfOtherApi(EGLenum api);
+
+} // namespace egl::desktop_clients

@@ -1,0 +1,50 @@
+// The entries of EGL 1.5 that take a platform: what the EXT forms do, with lists of 64-bit pairs.
+#include "egl/desktop_clients.h"
+#include "egl/entry_frame.h"
+#include "egl/extension_entries.h"
+
+#include <vector>
+
+namespace egl {
+
+namespace {
+
+constexpr EGLint noAttribute = 0;
+
+// A key that does not fit becomes one that no list accepts, values keep their low 32 bits.
+std::vector<EGLint> narrowed(const EGLAttrib *attributes) {
+    std::vector<EGLint> list;
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        const auto key = static_cast<EGLint>(attributes[0]);
+        list.push_back(key == attributes[0] ? key : noAttribute);
+        list.push_back(static_cast<EGLint>(attributes[1]));
+    }
+    list.push_back(EGL_NONE);
+    return list;
+}
+
+} // namespace
+
+EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativeWindow,
+                                                      const EGLint *attributes) {
+    return eglCreateWindowSurface(dpy, config, desktop_clients::windowOf(nativeWindow), attributes);
+}
+
+} // namespace egl
+
+using namespace egl;
+
+EGLDisplay EGLAPIENTRY eglGetPlatformDisplay(EGLenum platform, void *nativeDisplay, const EGLAttrib *) {
+    return getPlatformDisplayEXT(platform, nativeDisplay, nullptr);
+}
+
+EGLSurface EGLAPIENTRY eglCreatePlatformWindowSurface(EGLDisplay dpy, EGLConfig config, void *nativeWindow,
+                                                      const EGLAttrib *attributes) {
+    return createPlatformWindowSurfaceEXT(dpy, config, nativeWindow, narrowed(attributes).data());
+}
+
+// The pixmap is not used, so it makes no difference whether the argument points to it.
+EGLSurface EGLAPIENTRY eglCreatePlatformPixmapSurface(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
+                                                      const EGLAttrib *attributes) {
+    return eglCreatePixmapSurface(dpy, config, reinterpret_cast<uintptr_t>(nativePixmap), narrowed(attributes).data());
+}

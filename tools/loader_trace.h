@@ -1,0 +1,15 @@
+// What the loader finds for a program, without running it.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+struct LoaderTrace {
+    std::map<std::string, std::string> libraries; // from the name asked for to the file; empty for one that is missing
+    std::vector<std::string> missingSymbols;
+};
+
+// Only for dynamic programs of the C library's own loader, which lists instead of running them. The search path is that
+// of our environment.
+[[nodiscard]] LoaderTrace traceLoader(const std::string &program);
