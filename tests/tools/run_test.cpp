@@ -13,8 +13,8 @@ const struct {
 } rows[] = {
     {"its status", "run -- sh -c 'exit 7'", 7, ""},
     {"its signal", "run -- sh -c 'kill -9 $$'", 137, ""},
-    {"a signal that only we get", "run -- sh -c 'trap \"kill \\$!; exit 3\" TERM; sleep 60 & kill -TERM $PPID; wait'", 3,
-     ""},
+    {"a signal that only we get", "run -- sh -c 'trap \"kill \\$!; exit 3\" TERM; sleep 60 & kill -TERM $PPID; wait'",
+     3, ""},
     {"its words", "run --loose -- printf '[%s]' -- '[a,b]' '' report --help '{}'", 0,
      "[--][[a,b]][][report][--help][{}]"},
     {"our libraries", "run -- " SAME_COPY, 4, ""},
