@@ -51,3 +51,9 @@ void *currentLiveContext() {
     last = {asked, live.changes, live.contexts.contains(asked) ? asked : nullptr};
     return last.context;
 }
+
+bool isLiveContext(const void *esContext) {
+    LiveContexts &live = liveContexts();
+    const std::lock_guard lock(live.mutex);
+    return live.contexts.contains(esContext);
+}

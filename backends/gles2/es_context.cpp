@@ -3,6 +3,8 @@
 #include "common/live_contexts.h"
 #include "host_gl.h"
 
+#include <algorithm>
+
 namespace {
 
 // Names that the headers of ES lack.
@@ -52,13 +54,25 @@ void sweepErrors(const HostGl &gl) {
     }
 }
 
+// Only a context that lives is ours to read.
+std::shared_ptr<ShareGroup> shareGroupOf(zvEsContext share) {
+    if (isLiveContext(share)) return static_cast<const EsContext *>(share)->shared;
+    auto group = std::make_shared<ShareGroup>();
+    group->hasForeignContexts = share != nullptr;
+    return group;
+}
+
 } // namespace
 
-EsContext::EsContext(const ContextAttribs &attribs)
+EsContext::EsContext(const ContextAttribs &attribs, zvEsContext share)
     : major(attribs.esMajor), minor(attribs.esMinor), version(versionText(hostGl(), major, minor)),
       shadingLanguageVersion(shadingLanguageText(major, minor)), extensionNames(carriedExtensions(host)),
-      extensions(joined(extensionNames)), hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")) {
+      extensions(joined(extensionNames)), hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")),
+      shared(shareGroupOf(share)) {
     const HostGl &gl = hostGl();
+    GLint attribCount = 0;
+    gl.getIntegerv(GL_MAX_VERTEX_ATTRIBS, &attribCount);
+    maxVertexAttribs = std::min(static_cast<GLuint>(attribCount), VertexArrayState::maxAttribs);
     gl.genVertexArrays(1, &defaultVertexArray);
     gl.bindVertexArray(defaultVertexArray);
     gl.enable(programPointSize);

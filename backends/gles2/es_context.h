@@ -4,17 +4,23 @@
 
 #include "common/host_features.h"
 #include "render_mode.h"
+#include "share_group.h"
+#include "stream_buffer.h"
+#include "vertex_array_state.h"
 
 #include <GLES3/gl32.h>
 #include <zelvane/back_end.h>
 
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class EsContext {
 public:
     // Sets the host context up so that an application finds the state that ES promises.
-    explicit EsContext(const ContextAttribs &attribs);
+    // share: a context to share objects with, or null; foreign when another back end's.
+    EsContext(const ContextAttribs &attribs, zvEsContext share);
     ~EsContext();
     EsContext(const EsContext &) = delete;
     EsContext &operator=(const EsContext &) = delete;
@@ -24,6 +30,15 @@ public:
 
     // The surface may have another colour space than at the last bind.
     void setAttribs(const ContextAttribs &attribs);
+
+    // Object 0 takes arrays and index lists in the application's memory. So do the objects of
+    // OES_vertex_array_object; those of ES 3 do not.
+    [[nodiscard]] bool takesClientMemory() const { return major < 3 || vertexArray == &vertexArrayZero; }
+
+    // An error of our own for the application, unless one is pending.
+    void raise(GLenum error) {
+        if (pendingError == GL_NO_ERROR) pendingError = error;
+    }
 
     // Constant after construction.
     const GLint major;
@@ -38,5 +53,16 @@ public:
     // The host compiles the shading language of ES.
     const bool hasEsShaders;
 
+    const std::shared_ptr<ShareGroup> shared;
+    GLuint maxVertexAttribs = 0;
+
     Wireframe wireframe;
+    GLenum pendingError = GL_NO_ERROR;
+    GLuint arrayBuffer = 0; // the host's name
+    VertexArrayState vertexArrayZero;
+    std::unordered_map<GLuint, VertexArrayState> vertexArrays; // the others
+    VertexArrayState *vertexArray = &vertexArrayZero;          // what is bound
+    StreamBuffer vertexStream{GL_ARRAY_BUFFER};
+    StreamBuffer indexStream{GL_ELEMENT_ARRAY_BUFFER};
+    std::vector<std::byte> readBackIndices; // keeps its memory from draw to draw
 };

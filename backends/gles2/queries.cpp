@@ -4,6 +4,7 @@
 #include "overrides.h"
 
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -35,6 +36,12 @@ const GLubyte *asBytes(const std::string &text) {
 } // namespace
 
 namespace overrides {
+
+GLenum GL_APIENTRY getError() {
+    EsContext *const context = EsContext::current();
+    if (context && context->pendingError != GL_NO_ERROR) return std::exchange(context->pendingError, GL_NO_ERROR);
+    return hostGl().getError();
+}
 
 const GLubyte *GL_APIENTRY getString(GLenum name) {
     if (const EsContext *const context = EsContext::current()) {

@@ -211,7 +211,7 @@ TEST_F(BackEnd, NumbersInTheLogAreThoseOfTheApplicationsLines) {
 
 TEST_F(BackEnd, GivesFunctionsOfTheHostForNamesOfEs) {
     start(3, 2);
-    const char *const core[] = {"glClear",           "glLinkProgram",  "glTexStorage2D",
+    const char *const core[] = {"glClear",           "glUseProgram",   "glTexStorage2D",
                                 "glDispatchCompute", "glBlendBarrier", "glPrimitiveBoundingBox",
                                 "glClearDepthf",     "glDepthRangef",  "glGetShaderPrecisionFormat"};
     for (const char *name : core) {
