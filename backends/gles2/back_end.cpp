@@ -7,10 +7,10 @@
 #include <memory>
 #include <new>
 
-zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *, zvEsContext share) {
+zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *settings, zvEsContext share) {
     if (!attribs || !findHostGl()) return nullptr;
     try {
-        return std::make_unique<EsContext>(*attribs, share).release();
+        return std::make_unique<EsContext>(*attribs, settings, share).release();
     } catch (const std::bad_alloc &) {
         return nullptr;
     }

@@ -12,41 +12,6 @@ constexpr GLenum programPointSize = 0x8642;
 constexpr GLenum textureCubeMapSeamless = 0x884F;
 constexpr GLenum framebufferSrgb = 0x8DB9;
 
-constexpr std::string_view esExtensionNames[] = {
-#define ES_EXTENSION(name) name,
-#include "data/es_extensions.def"
-#undef ES_EXTENSION
-};
-
-// Names of the host's extensions that also are extensions of ES, sorted.
-std::vector<std::string> carriedExtensions(const HostFeatures &host) {
-    std::vector<std::string> names;
-    for (const std::string_view name : esExtensionNames) {
-        if (host.hasExtension(name)) names.emplace_back(name);
-    }
-    return names;
-}
-
-std::string versionText(const HostGl &gl, GLint major, GLint minor) {
-    const char *const host = reinterpret_cast<const char *>(gl.getString(GL_VERSION));
-    return "OpenGL ES " + std::to_string(major) + '.' + std::to_string(minor) + " Zelvane (" + (host ? host : "") + ')';
-}
-
-// The language's version is 1.00 for ES 2.0 and that of the context ever since.
-std::string shadingLanguageText(GLint major, GLint minor) {
-    if (major < 3) return "OpenGL ES GLSL ES 1.00";
-    return "OpenGL ES GLSL ES " + std::to_string(major) + '.' + std::to_string(minor) + '0';
-}
-
-std::string joined(const std::vector<std::string> &names) {
-    std::string text;
-    for (const std::string &name : names) {
-        if (!text.empty()) text += ' ';
-        text += name;
-    }
-    return text;
-}
-
 // Applications check for errors from their first call on and must not meet ours. A lost context reports one for ever,
 // hence the limit.
 void sweepErrors(const HostGl &gl) {
@@ -64,11 +29,9 @@ std::shared_ptr<ShareGroup> shareGroupOf(zvEsContext share) {
 
 } // namespace
 
-EsContext::EsContext(const ContextAttribs &attribs, zvEsContext share)
-    : major(attribs.esMajor), minor(attribs.esMinor), version(versionText(hostGl(), major, minor)),
-      shadingLanguageVersion(shadingLanguageText(major, minor)), extensionNames(carriedExtensions(host)),
-      extensions(joined(extensionNames)), hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")),
-      shared(shareGroupOf(share)) {
+EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
+    : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
+      hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")), shared(shareGroupOf(share)) {
     const HostGl &gl = hostGl();
     GLint attribCount = 0;
     gl.getIntegerv(GL_MAX_VERTEX_ATTRIBS, &attribCount);

@@ -2,6 +2,7 @@
 // the host context current; used there.
 #pragma once
 
+#include "announcement.h"
 #include "common/host_features.h"
 #include "render_mode.h"
 #include "share_group.h"
@@ -19,8 +20,9 @@
 class EsContext {
 public:
     // Sets the host context up so that an application finds the state that ES promises.
-    // share: a context to share objects with, or null; foreign when another back end's.
-    EsContext(const ContextAttribs &attribs, zvEsContext share);
+    // settings: for the zvSettings functions. share: a context to share objects with, or null; foreign when another
+    // back end's.
+    EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share);
     ~EsContext();
     EsContext(const EsContext &) = delete;
     EsContext &operator=(const EsContext &) = delete;
@@ -44,10 +46,7 @@ public:
     const GLint major;
     const GLint minor;
     const HostFeatures host;
-    const std::string version;
-    const std::string shadingLanguageVersion;
-    const std::vector<std::string> extensionNames;
-    const std::string extensions; // with a blank between
+    const Announcement announced;
     // Stands for object 0, which a core context lacks. The host's name.
     GLuint defaultVertexArray = 0;
     // The host compiles the shading language of ES.
@@ -58,10 +57,13 @@ public:
 
     Wireframe wireframe;
     GLenum pendingError = GL_NO_ERROR;
+    GLenum generateMipmapHint = GL_DONT_CARE;
     GLuint arrayBuffer = 0; // the host's name
     VertexArrayState vertexArrayZero;
     std::unordered_map<GLuint, VertexArrayState> vertexArrays; // the others
     VertexArrayState *vertexArray = &vertexArrayZero;          // what is bound
+    NameTable framebuffers;
+    TextureSwizzles swizzlesOfZero; // of the textures of name 0
     StreamBuffer vertexStream{GL_ARRAY_BUFFER};
     StreamBuffer indexStream{GL_ELEMENT_ARRAY_BUFFER};
     std::vector<std::byte> readBackIndices; // keeps its memory from draw to draw

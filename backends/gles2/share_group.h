@@ -2,6 +2,7 @@
 #pragma once
 
 #include "name_table.h"
+#include "texture_swizzles.h"
 
 #include <mutex>
 #include <unordered_map>
@@ -10,6 +11,7 @@ struct ShareGroup {
     NameTable buffers;
     NameTable renderbuffers;
     NameTable textures;
+    TextureSwizzles swizzles;
     // A context of another back end shares the host's objects: names that are not known here may be its own.
     bool hasForeignContexts = false;
 
