@@ -50,10 +50,7 @@ uint32_t askHost(GLuint program) {
 }
 
 void forget(GLuint program) {
-    EsContext *const context = EsContext::current();
-    if (!context) return;
-    const std::lock_guard lock(context->shared->activeAttribsMutex);
-    context->shared->activeAttribs.erase(program);
+    if (EsContext *const context = EsContext::current()) context->shared->activeAttribs.remove(program);
 }
 
 } // namespace
@@ -64,11 +61,10 @@ uint32_t activeAttribs(EsContext &context) {
     // A pipeline, or nothing.
     if (current == 0) return ~0u;
     const auto program = static_cast<GLuint>(current);
-    ShareGroup &shared = *context.shared;
-    const std::lock_guard lock(shared.activeAttribsMutex);
-    const auto [known, isNew] = shared.activeAttribs.try_emplace(program);
-    if (isNew) known->second = askHost(program);
-    return known->second;
+    if (const auto known = context.shared->activeAttribs.find(program)) return *known;
+    const uint32_t mask = askHost(program);
+    context.shared->activeAttribs.set(program, mask);
+    return mask;
 }
 
 namespace overrides {

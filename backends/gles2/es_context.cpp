@@ -19,6 +19,15 @@ void sweepErrors(const HostGl &gl) {
     }
 }
 
+void deleteAbandoned(ShareGroup &shared) {
+    std::vector<GLuint> buffers;
+    {
+        const std::lock_guard lock(shared.abandonedMutex);
+        buffers.swap(shared.abandonedBuffers);
+    }
+    if (!buffers.empty()) hostGl().deleteBuffers(static_cast<GLsizei>(buffers.size()), buffers.data());
+}
+
 // Only a context that lives is ours to read.
 std::shared_ptr<ShareGroup> shareGroupOf(zvEsContext share) {
     if (isLiveContext(share)) return static_cast<const EsContext *>(share)->shared;
@@ -31,7 +40,7 @@ std::shared_ptr<ShareGroup> shareGroupOf(zvEsContext share) {
 
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
     : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
-      hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")), shared(shareGroupOf(share)) {
+      shared(shareGroupOf(share)) {
     const HostGl &gl = hostGl();
     GLint attribCount = 0;
     gl.getIntegerv(GL_MAX_VERTEX_ATTRIBS, &attribCount);
@@ -46,6 +55,9 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsCo
 
 EsContext::~EsContext() {
     contextEnds(this);
+    const std::lock_guard lock(shared->abandonedMutex);
+    for (const GLuint ring : {vertexStream.name(), indexStream.name()})
+        if (ring) shared->abandonedBuffers.push_back(ring);
 }
 
 EsContext *EsContext::current() {
@@ -53,7 +65,16 @@ EsContext *EsContext::current() {
 }
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {
-    const HostGl &gl = hostGl();
-    (attribs.srgbFramebuffer ? gl.enable : gl.disable)(framebufferSrgb);
-    sweepErrors(gl);
+    isSurfaceSrgb = attribs.srgbFramebuffer != 0;
+    setDrawFramebuffer(drawFramebuffer);
+    deleteAbandoned(*shared);
+    sweepErrors(hostGl());
+}
+
+void EsContext::setDrawFramebuffer(GLuint framebuffer) {
+    drawFramebuffer = framebuffer;
+    const bool isWanted = framebuffer != 0 || isSurfaceSrgb;
+    if (isWanted == writesSrgb) return;
+    writesSrgb = isWanted;
+    (isWanted ? hostGl().enable : hostGl().disable)(framebufferSrgb);
 }

@@ -33,6 +33,10 @@ public:
     // The surface may have another colour space than at the last bind.
     void setAttribs(const ContextAttribs &attribs);
 
+    // What is drawn to: the host's name of a framebuffer, 0 for the surface. A framebuffer of the application's always
+    // takes sRGB values where its image has such a format; a surface only where it has that colour space.
+    void setDrawFramebuffer(GLuint framebuffer);
+
     // Object 0 takes arrays and index lists in the application's memory. So do the objects of
     // OES_vertex_array_object; those of ES 3 do not.
     [[nodiscard]] bool takesClientMemory() const { return major < 3 || vertexArray == &vertexArrayZero; }
@@ -49,9 +53,6 @@ public:
     const Announcement announced;
     // Stands for object 0, which a core context lacks. The host's name.
     GLuint defaultVertexArray = 0;
-    // The host compiles the shading language of ES.
-    const bool hasEsShaders;
-
     const std::shared_ptr<ShareGroup> shared;
     GLuint maxVertexAttribs = 0;
 
@@ -63,6 +64,9 @@ public:
     std::unordered_map<GLuint, VertexArrayState> vertexArrays; // the others
     VertexArrayState *vertexArray = &vertexArrayZero;          // what is bound
     NameTable framebuffers;
+    GLuint drawFramebuffer = 0; // the host's name
+    bool isSurfaceSrgb = false;
+    bool writesSrgb = false;        // what the host has been told
     TextureSwizzles swizzlesOfZero; // of the textures of name 0
     StreamBuffer vertexStream{GL_ARRAY_BUFFER};
     StreamBuffer indexStream{GL_ELEMENT_ARRAY_BUFFER};

@@ -58,7 +58,10 @@ void GL_APIENTRY deleteFramebuffers(GLsizei n, const GLuint *framebuffers) {
     if (!context || n < 0 || !framebuffers) return gl.deleteFramebuffers(n, framebuffers);
     for (GLsizei index = 0; index < n; ++index) {
         const GLuint host = context->framebuffers.remove(framebuffers[index]);
-        if (host) gl.deleteFramebuffers(1, &host);
+        if (!host) continue;
+        gl.deleteFramebuffers(1, &host);
+        // Deleting what is bound binds the surface.
+        if (host == context->drawFramebuffer) context->setDrawFramebuffer(0);
     }
 }
 
@@ -68,7 +71,11 @@ GLboolean GL_APIENTRY isFramebuffer(GLuint framebuffer) {
 }
 
 void GL_APIENTRY bindFramebuffer(GLenum target, GLuint framebuffer) {
-    hostGl().bindFramebuffer(target, hostFramebuffer(framebuffer));
+    const GLuint host = hostFramebuffer(framebuffer);
+    hostGl().bindFramebuffer(target, host);
+    EsContext *const context = EsContext::current();
+    const bool isForDrawing = target == GL_FRAMEBUFFER || target == GL_DRAW_FRAMEBUFFER;
+    if (context && isForDrawing) context->setDrawFramebuffer(host);
 }
 
 void GL_APIENTRY genRenderbuffers(GLsizei n, GLuint *renderbuffers) {

@@ -20,6 +20,9 @@ class StreamBuffer {
 public:
     explicit StreamBuffer(GLenum target) : m_target(target) {}
 
+    // The host's name; 0 before the first use.
+    [[nodiscard]] GLuint name() const { return m_name; }
+
     // Binds the ring to its target.
     void bind(NameTable &names);
     // Copies the blocks into the bound ring and tells where they lie. False when the host has no memory.
@@ -27,7 +30,7 @@ public:
 
 private:
     const GLenum m_target;
-    GLuint m_name = 0; // the host's; made at first use
+    GLuint m_name = 0;
     size_t m_capacity = 0;
     size_t m_end = 0; // of what is in use
 };

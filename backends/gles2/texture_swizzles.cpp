@@ -5,26 +5,6 @@
 #include "overrides.h"
 #include "texture_targets.h"
 
-std::optional<TextureSwizzles::Entry> TextureSwizzles::find(GLuint key) const {
-    if (isEmpty()) return std::nullopt;
-    const std::lock_guard lock(m_mutex);
-    const auto found = m_entries.find(key);
-    if (found == m_entries.end()) return std::nullopt;
-    return found->second;
-}
-
-void TextureSwizzles::set(GLuint key, const Entry &entry) {
-    const std::lock_guard lock(m_mutex);
-    m_entries[key] = entry;
-    m_isEmpty = false;
-}
-
-void TextureSwizzles::remove(GLuint key) {
-    if (isEmpty()) return;
-    const std::lock_guard lock(m_mutex);
-    m_entries.erase(key);
-}
-
 namespace {
 
 constexpr GLenum swizzleNames[] = {GL_TEXTURE_SWIZZLE_R, GL_TEXTURE_SWIZZLE_G, GL_TEXTURE_SWIZZLE_B,
@@ -50,7 +30,7 @@ bool hasNone(const EsContext &context) {
     return context.shared->swizzles.isEmpty() && context.swizzlesOfZero.isEmpty();
 }
 
-void tellHost(GLenum target, const TextureSwizzles::Entry &entry) {
+void tellHost(GLenum target, const TextureSwizzle &entry) {
     const Swizzle swizzle = composed(entry.ofApplication, entry.ofFormat);
     for (size_t channel = 0; channel < 4; ++channel)
         hostGl().texParameteri(target, swizzleNames[channel], swizzle[channel]);

@@ -76,18 +76,41 @@ TEST_F(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
         std::function<void()> draw;
         const char *expected;
     } cases[] = {
-        {"arrays", [&] { ES(glDrawArrays)
-                         (GL_POINTS, 3, 2); }, "34"},
-        {"bytes", [&] { ES(glDrawElements)
-                        (GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes); }, "359"},
-        {"words", [&] { ES(glDrawElements)
-                        (GL_POINTS, 2, GL_UNSIGNED_INT, words); }, "17"},
-        {"range", [&] { ES(glDrawRangeElements)
-                        (GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes); }, "359"},
-        {"base vertex", [&] { ES(glDrawElementsBaseVertex)
-                              (GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes, 2); }, "57b"},
-        {"negative base", [&] { ES(glDrawRangeElementsBaseVertex)
-                                (GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes, -3); },
+        {"arrays",
+         [&] {
+             ES(glDrawArrays)
+             (GL_POINTS, 3, 2);
+         },
+         "34"},
+        {"bytes",
+         [&] {
+             ES(glDrawElements)
+             (GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes);
+         },
+         "359"},
+        {"words",
+         [&] {
+             ES(glDrawElements)
+             (GL_POINTS, 2, GL_UNSIGNED_INT, words);
+         },
+         "17"},
+        {"range",
+         [&] {
+             ES(glDrawRangeElements)
+             (GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes);
+         },
+         "359"},
+        {"base vertex",
+         [&] {
+             ES(glDrawElementsBaseVertex)
+             (GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes, 2);
+         },
+         "57b"},
+        {"negative base",
+         [&] {
+             ES(glDrawRangeElementsBaseVertex)
+             (GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes, -3);
+         },
          "026"},
         {"restart index",
          [&] {
@@ -121,8 +144,11 @@ TEST_F(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
          "1256"
          "9a"},
         {"instances of a list",
-         [&] { ES(glDrawElementsInstancedBaseVertex)
-               (GL_POINTS, 2, GL_UNSIGNED_INT, words, 3, -1); }, "046a"},
+         [&] {
+             ES(glDrawElementsInstancedBaseVertex)
+             (GL_POINTS, 2, GL_UNSIGNED_INT, words, 3, -1);
+         },
+         "046a"},
     };
     setColumns(columns.data());
     for (const auto &row : cases) {
@@ -214,26 +240,56 @@ TEST_F(BackEndClientArrays, BadDrawsGiveTheErrorsOfEs) {
         std::function<void()> call;
         GLenum expected;
     } cases[] = {
-        {[&] { ES(glDrawArrays)
-               (GL_POINTS, 0, -1); }, GL_INVALID_VALUE},
-        {[&] { ES(glDrawArrays)
-               (GL_POINTS, 0, 0); }, GL_NO_ERROR},
-        {[&] { ES(glDrawArrays)
-               (99, 0, 1); }, GL_INVALID_ENUM},
-        {[&] { ES(glDrawElements)
-               (GL_POINTS, -1, GL_UNSIGNED_BYTE, list); }, GL_INVALID_VALUE},
-        {[&] { ES(glDrawElements)
-               (GL_POINTS, 1, GL_FLOAT, list); }, GL_INVALID_ENUM},
-        {[&] { ES(glDrawElements)
-               (GL_POINTS, 1, GL_UNSIGNED_BYTE, nullptr); }, GL_NO_ERROR},
-        {[&] { ES(glVertexAttribPointer)
-               (99, 1, GL_FLOAT, GL_FALSE, 0, list); }, GL_INVALID_VALUE},
-        {[&] { ES(glVertexAttribPointer)
-               (0, 5, GL_FLOAT, GL_FALSE, 0, list); }, GL_INVALID_VALUE},
-        {[&] { ES(glVertexAttribPointer)
-               (0, 1, GL_RGBA, GL_FALSE, 0, list); }, GL_INVALID_ENUM},
-        {[&] { ES(glVertexAttribPointer)
-               (0, 1, GL_FLOAT, GL_FALSE, -1, list); }, GL_INVALID_VALUE},
+        {[&] {
+             ES(glDrawArrays)
+             (GL_POINTS, 0, -1);
+         },
+         GL_INVALID_VALUE},
+        {[&] {
+             ES(glDrawArrays)
+             (GL_POINTS, 0, 0);
+         },
+         GL_NO_ERROR},
+        {[&] {
+             ES(glDrawArrays)
+             (99, 0, 1);
+         },
+         GL_INVALID_ENUM},
+        {[&] {
+             ES(glDrawElements)
+             (GL_POINTS, -1, GL_UNSIGNED_BYTE, list);
+         },
+         GL_INVALID_VALUE},
+        {[&] {
+             ES(glDrawElements)
+             (GL_POINTS, 1, GL_FLOAT, list);
+         },
+         GL_INVALID_ENUM},
+        {[&] {
+             ES(glDrawElements)
+             (GL_POINTS, 1, GL_UNSIGNED_BYTE, nullptr);
+         },
+         GL_NO_ERROR},
+        {[&] {
+             ES(glVertexAttribPointer)
+             (99, 1, GL_FLOAT, GL_FALSE, 0, list);
+         },
+         GL_INVALID_VALUE},
+        {[&] {
+             ES(glVertexAttribPointer)
+             (0, 5, GL_FLOAT, GL_FALSE, 0, list);
+         },
+         GL_INVALID_VALUE},
+        {[&] {
+             ES(glVertexAttribPointer)
+             (0, 1, GL_RGBA, GL_FALSE, 0, list);
+         },
+         GL_INVALID_ENUM},
+        {[&] {
+             ES(glVertexAttribPointer)
+             (0, 1, GL_FLOAT, GL_FALSE, -1, list);
+         },
+         GL_INVALID_VALUE},
         {[&] {
              ES(glBindVertexArray)(array);
              setColumns(list);
