@@ -9,7 +9,7 @@ GLuint hostBuffer(GLuint name) {
     EsContext *const context = EsContext::current();
     if (!context || name == 0) return name;
     const HostGl &gl = hostGl();
-    return context->shared->buffers.findOrMake(name, gl.genBuffers, context->shared->foreign(gl.isBuffer));
+    return context->shared->buffers.findOrMake(name, gl.genBuffers, gl.isBuffer);
 }
 
 } // namespace

@@ -25,15 +25,14 @@ void deleteAbandoned(ShareGroup &shared) {
         const std::lock_guard lock(shared.abandonedMutex);
         buffers.swap(shared.abandonedBuffers);
     }
+    for (const GLuint buffer : buffers)
+        shared.buffers.forgetHidden(buffer);
     if (!buffers.empty()) hostGl().deleteBuffers(static_cast<GLsizei>(buffers.size()), buffers.data());
 }
 
 // Only a context that lives is ours to read.
 std::shared_ptr<ShareGroup> shareGroupOf(zvEsContext share) {
-    if (isLiveContext(share)) return static_cast<const EsContext *>(share)->shared;
-    auto group = std::make_shared<ShareGroup>();
-    group->hasForeignContexts = share != nullptr;
-    return group;
+    return isLiveContext(share) ? static_cast<const EsContext *>(share)->shared : std::make_shared<ShareGroup>();
 }
 
 } // namespace

@@ -20,8 +20,7 @@
 class EsContext {
 public:
     // Sets the host context up so that an application finds the state that ES promises.
-    // settings: for the zvSettings functions. share: a context to share objects with, or null; foreign when another
-    // back end's.
+    // settings: for the zvSettings functions. share: a context to share objects with, or null.
     EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share);
     ~EsContext();
     EsContext(const EsContext &) = delete;

@@ -14,15 +14,14 @@ namespace {
 
 GLuint hostFramebuffer(GLuint name) {
     EsContext *const context = EsContext::current();
-    return context ? context->framebuffers.findOrMake(name, hostGl().genFramebuffers, nullptr) : name;
+    return context ? context->framebuffers.findOrMake(name, hostGl().genFramebuffers, hostGl().isFramebuffer) : name;
 }
 
 GLuint hostRenderbuffer(GLuint name) {
     EsContext *const context = EsContext::current();
     if (!context || name == 0) return name;
     const HostGl &gl = hostGl();
-    return context->shared->renderbuffers.findOrMake(name, gl.genRenderbuffers,
-                                                     context->shared->foreign(gl.isRenderbuffer));
+    return context->shared->renderbuffers.findOrMake(name, gl.genRenderbuffers, gl.isRenderbuffer);
 }
 
 GLenum hostRenderbufferFormat(GLenum format) {

@@ -56,7 +56,7 @@ GLuint NameTable::findOrMake(GLuint name, Generate *generate, IsObject *isObject
     if (const GLuint known = find(name)) return known;
     const std::lock_guard lock(m_mutex);
     if (const GLuint known = findLocked(name)) return known;
-    if (isObject && !m_otherNames.contains(name) && isObject(name)) {
+    if (!m_otherNames.contains(name) && isObject(name)) {
         set(name, name);
         return name;
     }
@@ -91,6 +91,11 @@ GLuint NameTable::generateHidden(Generate *generate) {
     m_otherNames.emplace(hostName, 0);
     m_hasOthers = true;
     return hostName;
+}
+
+void NameTable::forgetHidden(GLuint hostName) {
+    const std::lock_guard lock(m_mutex);
+    m_otherNames.erase(hostName);
 }
 
 void NameTable::alias(GLuint name, GLuint hostName) {

@@ -25,12 +25,14 @@ public:
     // The host's name, or 0. Takes no lock for names below a million.
     [[nodiscard]] GLuint find(GLuint name) const;
     // As find(); a name that is not known is one that the application made up, and gets an object. 0 stays 0.
-    // isObject: how to tell an object that another back end of the share group made, or null.
+    // isObject: how to tell an object that a context of another back end in the share group made.
     GLuint findOrMake(GLuint name, Generate *generate, IsObject *isObject);
     // New names for the application.
     void generate(GLsizei count, GLuint *names, Generate *generate);
     // A host object for this library's own use. Applications never meet it.
     GLuint generateHidden(Generate *generate);
+    // The host is about to delete it.
+    void forgetHidden(GLuint hostName);
 
     // Makes one name mean the object of another.
     void alias(GLuint name, GLuint hostName);

@@ -17,12 +17,6 @@ struct ShareGroup {
     SharedMap<uint32_t> activeAttribs;    // of programs: one bit each
     SharedMap<std::string> shaderSources; // of shaders: as the application gave them, where the host has another form
 
-    // A context of another back end shares the host's objects: names that are not known here may be its own.
-    bool hasForeignContexts = false;
-    NameTable::IsObject *foreign(NameTable::IsObject *isObject) const {
-        return hasForeignContexts ? isObject : nullptr;
-    }
-
     std::mutex abandonedMutex;
     // Rings of contexts that have ended: one that still lives has to delete them. Guarded by the mutex above.
     std::vector<GLuint> abandonedBuffers;

@@ -10,7 +10,7 @@ GLuint hostTexture(GLuint name) {
     EsContext *const context = EsContext::current();
     if (!context || name == 0) return name;
     const HostGl &gl = hostGl();
-    return context->shared->textures.findOrMake(name, gl.genTextures, context->shared->foreign(gl.isTexture));
+    return context->shared->textures.findOrMake(name, gl.genTextures, gl.isTexture);
 }
 
 // An external texture has no mipmaps and does not repeat.
