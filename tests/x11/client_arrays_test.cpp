@@ -51,7 +51,12 @@ protected:
         ES(glBufferData)(target, static_cast<GLsizeiptr>(byteCount), bytes, GL_STATIC_DRAW);
         return name;
     }
-    // The columns that are green: "012".
+    // The columns that the call draws: "012".
+    std::string drawn(const std::function<void()> &call) {
+        clear();
+        call();
+        return row();
+    }
     std::string row() {
         std::string drawn;
         for (int x = 0; x < size; ++x)
@@ -66,97 +71,45 @@ protected:
 
 TEST_F(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
     startColumns(3, 2);
+    setColumns(columns.data());
+    const auto drawArrays = ES(glDrawArrays);
+    const auto drawElements = ES(glDrawElements);
+    const auto range = ES(glDrawRangeElements);
+    const auto baseVertex = ES(glDrawElementsBaseVertex);
+    const auto rangeBaseVertex = ES(glDrawRangeElementsBaseVertex);
+    const auto instanced = ES(glDrawArraysInstanced);
+    const auto instancedBaseVertex = ES(glDrawElementsInstancedBaseVertex);
     const GLubyte bytes[] = {5, 3, 9};
     const GLushort shorts[] = {6, 0xFFFF, 2};
     const GLuint words[] = {1, 7};
-    const GLfloat shifts[] = {0, 4, 8};
+    EXPECT_EQ(drawn([&] { drawArrays(GL_POINTS, 3, 2); }), "34");
+    EXPECT_EQ(drawn([&] { drawElements(GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes); }), "359");
+    EXPECT_EQ(drawn([&] { drawElements(GL_POINTS, 2, GL_UNSIGNED_INT, words); }), "17");
+    EXPECT_EQ(drawn([&] { range(GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes); }), "359");
+    EXPECT_EQ(drawn([&] { baseVertex(GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes, 2); }), "57b");
+    EXPECT_EQ(drawn([&] { rangeBaseVertex(GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes, -3); }), "026");
+    ES(glEnable)(GL_PRIMITIVE_RESTART_FIXED_INDEX);
+    EXPECT_EQ(drawn([&] { drawElements(GL_POINTS, 3, GL_UNSIGNED_SHORT, shorts); }), "26");
+    ES(glDisable)(GL_PRIMITIVE_RESTART_FIXED_INDEX);
+
+    buffer(GL_ELEMENT_ARRAY_BUFFER, bytes, sizeof bytes);
+    const auto second = reinterpret_cast<const void *>(1);
+    EXPECT_EQ(drawn([&] { drawElements(GL_POINTS, 2, GL_UNSIGNED_BYTE, second); }), "39");
+    ES(glBindBuffer)(GL_ELEMENT_ARRAY_BUFFER, 0);
+
     const GLfloat pairs[][2] = {{1, 2}, {3, 4}};
-    const struct {
-        const char *name;
-        std::function<void()> draw;
-        const char *expected;
-    } cases[] = {
-        {"arrays",
-         [&] {
-             ES(glDrawArrays)
-             (GL_POINTS, 3, 2);
-         },
-         "34"},
-        {"bytes",
-         [&] {
-             ES(glDrawElements)
-             (GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes);
-         },
-         "359"},
-        {"words",
-         [&] {
-             ES(glDrawElements)
-             (GL_POINTS, 2, GL_UNSIGNED_INT, words);
-         },
-         "17"},
-        {"range",
-         [&] {
-             ES(glDrawRangeElements)
-             (GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes);
-         },
-         "359"},
-        {"base vertex",
-         [&] {
-             ES(glDrawElementsBaseVertex)
-             (GL_POINTS, 3, GL_UNSIGNED_BYTE, bytes, 2);
-         },
-         "57b"},
-        {"negative base",
-         [&] {
-             ES(glDrawRangeElementsBaseVertex)
-             (GL_POINTS, 3, 9, 3, GL_UNSIGNED_BYTE, bytes, -3);
-         },
-         "026"},
-        {"restart index",
-         [&] {
-             ES(glEnable)(GL_PRIMITIVE_RESTART_FIXED_INDEX);
-             ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_SHORT, shorts);
-             ES(glDisable)(GL_PRIMITIVE_RESTART_FIXED_INDEX);
-         },
-         "26"},
-        {"list in a buffer",
-         [&] {
-             buffer(GL_ELEMENT_ARRAY_BUFFER, bytes, sizeof bytes);
-             ES(glDrawElements)(GL_POINTS, 2, GL_UNSIGNED_BYTE, reinterpret_cast<const void *>(1));
-             ES(glBindBuffer)(GL_ELEMENT_ARRAY_BUFFER, 0);
-         },
-         "39"},
-        {"interleaved",
-         [&] {
-             setColumns(pairs, sizeof pairs[0]);
-             ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, sizeof pairs[0], &pairs[0][1]);
-             ES(glEnableVertexAttribArray)(shift);
-             ES(glDrawArrays)(GL_POINTS, 0, 2);
-         },
-         "37"},
-        {"instances",
-         [&] {
-             setColumns(columns.data());
-             ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, 0, shifts);
-             ES(glVertexAttribDivisor)(shift, 2);
-             ES(glDrawArraysInstanced)(GL_POINTS, 1, 2, 5);
-         },
-         "1256"
-         "9a"},
-        {"instances of a list",
-         [&] {
-             ES(glDrawElementsInstancedBaseVertex)
-             (GL_POINTS, 2, GL_UNSIGNED_INT, words, 3, -1);
-         },
-         "046a"},
-    };
+    setColumns(pairs, sizeof pairs[0]);
+    ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, sizeof pairs[0], &pairs[0][1]);
+    ES(glEnableVertexAttribArray)(shift);
+    EXPECT_EQ(drawn([&] { drawArrays(GL_POINTS, 0, 2); }), "37");
+
+    const GLfloat shifts[] = {0, 4, 8};
     setColumns(columns.data());
-    for (const auto &row : cases) {
-        clear();
-        row.draw();
-        EXPECT_EQ(this->row(), row.expected) << row.name;
-        EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR)) << row.name;
-    }
+    ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, 0, shifts);
+    ES(glVertexAttribDivisor)(shift, 2);
+    EXPECT_EQ(drawn([&] { instanced(GL_POINTS, 1, 2, 5); }), "12569a");
+    EXPECT_EQ(drawn([&] { instancedBaseVertex(GL_POINTS, 2, GL_UNSIGNED_INT, words, 3, -1); }), "046a");
+    EXPECT_EQ(error(), GL_NO_ERROR);
 }
 
 TEST_F(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
@@ -170,12 +123,9 @@ TEST_F(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
         // Enabled, and not read by the program.
         ES(glVertexAttribPointer)(7, 4, GL_FLOAT, GL_FALSE, 0, reinterpret_cast<const void *>(8));
         ES(glEnableVertexAttribArray)(7);
-        clear();
-        ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_BYTE, indices.as<GLubyte>());
-        EXPECT_EQ(row(), "456");
-        clear();
-        ES(glDrawArrays)(GL_POINTS, 4, 3);
-        EXPECT_EQ(row(), "456");
+        const auto drawList = [&] { ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_BYTE, indices.as<GLubyte>()); };
+        EXPECT_EQ(drawn(drawList), "456");
+        EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 4, 3); }), "456");
     }
     // The ring takes more draws than it holds at a time, and a draw that is larger than it.
     std::vector<GLfloat> many(300000, 20);
@@ -227,77 +177,32 @@ TEST_F(BackEndClientArrays, TheStateIsTheApplications) {
     ES(glDrawArrays)(GL_POINTS, 0, 1);
     EXPECT_EQ(row(), "c");
     EXPECT_EQ(attrib(GL_VERTEX_ATTRIB_ARRAY_ENABLED), GL_TRUE);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(error(), GL_NO_ERROR);
 }
 
 TEST_F(BackEndClientArrays, BadDrawsGiveTheErrorsOfEs) {
     startColumns(3, 0);
     setColumns(columns.data());
+    const auto drawArrays = ES(glDrawArrays);
+    const auto drawElements = ES(glDrawElements);
+    const auto pointer = ES(glVertexAttribPointer);
+    const GLubyte list[] = {1, 2};
+    const auto errorOf = [&](const auto &call) {
+        call();
+        return error();
+    };
+    EXPECT_EQ(errorOf([&] { drawArrays(GL_POINTS, 0, -1); }), GL_INVALID_VALUE);
+    EXPECT_EQ(errorOf([&] { drawArrays(GL_POINTS, 0, 0); }), GL_NO_ERROR);
+    EXPECT_EQ(errorOf([&] { drawArrays(99, 0, 1); }), GL_INVALID_ENUM);
+    EXPECT_EQ(errorOf([&] { drawElements(GL_POINTS, -1, GL_UNSIGNED_BYTE, list); }), GL_INVALID_VALUE);
+    EXPECT_EQ(errorOf([&] { drawElements(GL_POINTS, 1, GL_FLOAT, list); }), GL_INVALID_ENUM);
+    EXPECT_EQ(errorOf([&] { drawElements(GL_POINTS, 1, GL_UNSIGNED_BYTE, nullptr); }), GL_NO_ERROR);
+    EXPECT_EQ(errorOf([&] { pointer(99, 1, GL_FLOAT, GL_FALSE, 0, list); }), GL_INVALID_VALUE);
+    EXPECT_EQ(errorOf([&] { pointer(0, 5, GL_FLOAT, GL_FALSE, 0, list); }), GL_INVALID_VALUE);
+    EXPECT_EQ(errorOf([&] { pointer(0, 1, GL_RGBA, GL_FALSE, 0, list); }), GL_INVALID_ENUM);
+    EXPECT_EQ(errorOf([&] { pointer(0, 1, GL_FLOAT, GL_FALSE, -1, list); }), GL_INVALID_VALUE);
     GLuint array = 0;
     ES(glGenVertexArrays)(1, &array);
-    const GLubyte list[] = {1, 2};
-    const struct {
-        std::function<void()> call;
-        GLenum expected;
-    } cases[] = {
-        {[&] {
-             ES(glDrawArrays)
-             (GL_POINTS, 0, -1);
-         },
-         GL_INVALID_VALUE},
-        {[&] {
-             ES(glDrawArrays)
-             (GL_POINTS, 0, 0);
-         },
-         GL_NO_ERROR},
-        {[&] {
-             ES(glDrawArrays)
-             (99, 0, 1);
-         },
-         GL_INVALID_ENUM},
-        {[&] {
-             ES(glDrawElements)
-             (GL_POINTS, -1, GL_UNSIGNED_BYTE, list);
-         },
-         GL_INVALID_VALUE},
-        {[&] {
-             ES(glDrawElements)
-             (GL_POINTS, 1, GL_FLOAT, list);
-         },
-         GL_INVALID_ENUM},
-        {[&] {
-             ES(glDrawElements)
-             (GL_POINTS, 1, GL_UNSIGNED_BYTE, nullptr);
-         },
-         GL_NO_ERROR},
-        {[&] {
-             ES(glVertexAttribPointer)
-             (99, 1, GL_FLOAT, GL_FALSE, 0, list);
-         },
-         GL_INVALID_VALUE},
-        {[&] {
-             ES(glVertexAttribPointer)
-             (0, 5, GL_FLOAT, GL_FALSE, 0, list);
-         },
-         GL_INVALID_VALUE},
-        {[&] {
-             ES(glVertexAttribPointer)
-             (0, 1, GL_RGBA, GL_FALSE, 0, list);
-         },
-         GL_INVALID_ENUM},
-        {[&] {
-             ES(glVertexAttribPointer)
-             (0, 1, GL_FLOAT, GL_FALSE, -1, list);
-         },
-         GL_INVALID_VALUE},
-        {[&] {
-             ES(glBindVertexArray)(array);
-             setColumns(list);
-         },
-         GL_INVALID_OPERATION},
-    };
-    for (const auto &row : cases) {
-        row.call();
-        EXPECT_EQ(error(), row.expected) << "case " << &row - cases;
-    }
+    ES(glBindVertexArray)(array);
+    EXPECT_EQ(errorOf([&] { setColumns(list); }), GL_INVALID_OPERATION) << "an object of ES 3 takes buffers only";
 }

@@ -45,7 +45,8 @@ protected:
         ES(glReadPixels)(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, read.data());
         return read;
     }
-    GLenum error() { return ES(glGetError)(); }
+    // As the constants are written, signed.
+    GLint error() { return static_cast<GLint>(ES(glGetError)()); }
     GLint integer(GLenum name) {
         GLint value = -1;
         ES(glGetIntegerv)(name, &value);

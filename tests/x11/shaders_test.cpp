@@ -65,7 +65,7 @@ TEST_F(BackEndShaders, AnExternalSamplerReadsTheExternalTexture) {
     ES(glEnableVertexAttribArray)(0);
     ES(glDrawArrays)(GL_TRIANGLES, 0, 3);
     EXPECT_EQ(this->pixel(3, 3), blue);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(error(), GL_NO_ERROR);
 }
 
 TEST_F(BackEndShaders, AnSrgbImageOfTheApplicationsTakesSrgbValues) {

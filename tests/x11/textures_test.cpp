@@ -86,7 +86,7 @@ TEST_F(BackEndTextures, FormatsThatOnlyEsHasAreSampledAsEsSays) {
         SCOPED_TRACE(testing::Message() << std::hex << row.internal << ' ' << row.type);
         image(row.internal, row.internal, row.type, row.pixels);
         EXPECT_EQ(sampled(), row.expected);
-        EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+        EXPECT_EQ(error(), GL_NO_ERROR);
     }
     // Half floats keep more than a byte does.
     const GLushort big[] = {0x4500, 0x3C00, 0x3C00, 0x3C00};
@@ -102,17 +102,17 @@ TEST_F(BackEndTextures, StoragesAndPartsOfImagesHaveThemToo) {
     ES(glTexStorage2D)(GL_TEXTURE_2D, 1, GL_LUMINANCE8_ALPHA8_EXT, 1, 1);
     ES(glTexSubImage2D)(GL_TEXTURE_2D, 0, 0, 0, 1, 1, GL_LUMINANCE_ALPHA, GL_UNSIGNED_BYTE, bytes);
     EXPECT_EQ(sampled(), (Pixel{51, 51, 51, 102}));
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(error(), GL_NO_ERROR);
     bindNew();
     image(GL_LUMINANCE, GL_RGB, GL_UNSIGNED_BYTE, bytes);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_OPERATION)) << "the two formats of an image are one in ES";
+    EXPECT_EQ(error(), GL_INVALID_OPERATION) << "the two formats of an image are one in ES";
     // Red on a block of ETC1, which holds one colour without modifiers of weight.
     const GLubyte block[8] = {0xF8, 0, 0, 0, 0, 0, 0, 0};
     ES(glCompressedTexImage2D)(GL_TEXTURE_2D, 0, GL_ETC1_RGB8_OES, 4, 4, 0, sizeof block, block);
     const Pixel red = sampled();
     EXPECT_GT(red[0], 240);
     EXPECT_LT(red[1], 10);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(error(), GL_NO_ERROR);
 }
 
 TEST_F(BackEndTextures, TheApplicationsSwizzleLiesOverThatOfTheFormat) {
@@ -158,7 +158,7 @@ TEST_F(BackEndTextures, CopiesTakeTheChannelsThatTheFormatNames) {
                 ES(glCopyTexImage2D)(GL_TEXTURE_2D, 0, row.format, 2, 2, 3, 3, 0);
             }
             EXPECT_EQ(sampled(), row.expected);
-            EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+            EXPECT_EQ(error(), GL_NO_ERROR);
         }
     }
 }
@@ -181,14 +181,14 @@ TEST_F(BackEndTextures, AnEglImageIsTheTextureThatItWasMadeOf) {
     ES(glDeleteTextures)(1, &source);
     ES(glBindTexture)(GL_TEXTURE_2D, sibling);
     EXPECT_EQ(sampled(), blue) << "the sibling outlives the source";
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(error(), GL_NO_ERROR);
 
     ES(glEGLImageTargetTexture2DOES)(GL_TEXTURE_2D, &native);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_OPERATION));
+    EXPECT_EQ(error(), GL_INVALID_OPERATION);
     ES(glEGLImageTargetTexture2DOES)(GL_TEXTURE_2D, nullptr);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_VALUE));
+    EXPECT_EQ(error(), GL_INVALID_VALUE);
     ES(glEGLImageTargetRenderbufferStorageOES)(GL_RENDERBUFFER, &record);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_OPERATION));
+    EXPECT_EQ(error(), GL_INVALID_OPERATION);
 }
 
 TEST_F(BackEndTextures, NamesMayBeMadeUp) {
@@ -212,7 +212,7 @@ TEST_F(BackEndTextures, NamesMayBeMadeUp) {
     GLuint name = 7000000;
     ES(glBindFramebuffer)(GL_FRAMEBUFFER, 40);
     ES(glFramebufferTexture2D)(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, name, 0);
-    EXPECT_EQ(ES(glCheckFramebufferStatus)(GL_FRAMEBUFFER), static_cast<GLenum>(GL_FRAMEBUFFER_COMPLETE));
+    EXPECT_EQ(ES(glCheckFramebufferStatus)(GL_FRAMEBUFFER), GL_FRAMEBUFFER_COMPLETE);
     EXPECT_EQ(pixel(0, 0), blue);
     GLint attached = 0;
     ES(glGetFramebufferAttachmentParameteriv)
@@ -225,5 +225,5 @@ TEST_F(BackEndTextures, NamesMayBeMadeUp) {
     EXPECT_EQ(integer(GL_ARRAY_BUFFER_BINDING), 60);
     ES(glDeleteTextures)(1, &name);
     EXPECT_EQ(ES(glIsTexture)(name), GL_FALSE);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
+    EXPECT_EQ(error(), GL_NO_ERROR);
 }
