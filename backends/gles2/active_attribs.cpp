@@ -1,7 +1,6 @@
 #include "active_attribs.h"
 
 #include "host_gl.h"
-#include "overrides.h"
 
 #include <algorithm>
 #include <string>
@@ -49,10 +48,6 @@ uint32_t askHost(GLuint program) {
     return mask;
 }
 
-void forget(GLuint program) {
-    if (EsContext *const context = EsContext::current()) context->shared->activeAttribs.remove(program);
-}
-
 } // namespace
 
 uint32_t activeAttribs(EsContext &context) {
@@ -67,29 +62,6 @@ uint32_t activeAttribs(EsContext &context) {
     return mask;
 }
 
-namespace overrides {
-
-void GL_APIENTRY linkProgram(GLuint program) {
-    hostGl().linkProgram(program);
-    forget(program);
+void forgetActiveAttribs(GLuint program) {
+    if (EsContext *const context = EsContext::current()) context->shared->activeAttribs.remove(program);
 }
-
-void GL_APIENTRY programBinary(GLuint program, GLenum format, const void *binary, GLsizei length) {
-    hostGl().programBinary(program, format, binary, length);
-    forget(program);
-}
-
-GLuint GL_APIENTRY createProgram() {
-    const GLuint program = hostGl().createProgram();
-    // The name may have been another program's.
-    forget(program);
-    return program;
-}
-
-GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar *const *strings) {
-    const GLuint program = hostGl().createShaderProgramv(type, count, strings);
-    forget(program);
-    return program;
-}
-
-} // namespace overrides

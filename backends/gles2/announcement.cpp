@@ -53,9 +53,13 @@ std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optio
         std::ranges::copy_if(device->extensionNames, std::back_inserter(names),
                              [&](const std::string &name) { return isCarried(host, name); });
     } else {
-        for (const std::string_view name : esExtensionNames) {
+        const auto add = [&](std::string_view name) {
             if (isCarried(host, name)) names.emplace_back(name);
-        }
+        };
+        std::ranges::for_each(esExtensionNames, add);
+        std::ranges::for_each(carriedExtensions, add, &Carried::name);
+        std::ranges::sort(names);
+        names.erase(std::ranges::unique(names).begin(), names.end());
     }
     return names;
 }

@@ -8,7 +8,7 @@
 #include "texture_formats.h"
 #include "vertex_format.h"
 
-#include <array>
+#include <span>
 
 namespace {
 
@@ -26,6 +26,18 @@ GLuint hostRenderbuffer(GLuint name) {
 
 GLenum hostRenderbufferFormat(GLenum format) {
     return EsContext::current() ? hostTextureFormat(format).internal : format;
+}
+
+// The surface has its one buffer or none; an attachment of a framebuffer has a place of its own, where desktop OpenGL
+// takes any order. The host judges what is no buffer at all.
+bool isDrawBufferList(const EsContext &context, std::span<const GLenum> buffers) {
+    if (context.drawFramebuffer == 0) return buffers.size() == 1 && (buffers[0] == GL_BACK || buffers[0] == GL_NONE);
+    for (size_t index = 0; index < buffers.size(); ++index) {
+        const bool isAttachment = buffers[index] >= GL_COLOR_ATTACHMENT0 && buffers[index] <= GL_COLOR_ATTACHMENT31;
+        if (buffers[index] == GL_BACK) return false;
+        if (isAttachment && buffers[index] != GL_COLOR_ATTACHMENT0 + index) return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -134,10 +146,12 @@ void GL_APIENTRY readBuffer(GLenum src) {
 }
 
 void GL_APIENTRY drawBuffers(GLsizei n, const GLenum *bufs) {
-    const bool isSurface = n == 1 && bufs && EsContext::current();
-    if (!isSurface) return hostGl().drawBuffers(n, bufs);
-    const GLenum buffer = hostBuffer(bufs[0]);
-    hostGl().drawBuffers(1, &buffer);
+    const HostGl &gl = hostGl();
+    EsContext *const context = EsContext::current();
+    if (!context || n < 0 || !bufs) return gl.drawBuffers(n, bufs);
+    if (!isDrawBufferList(*context, {bufs, static_cast<size_t>(n)})) return context->raise(GL_INVALID_OPERATION);
+    const GLenum surfaceBuffer = n == 1 ? hostBuffer(bufs[0]) : GL_NONE;
+    gl.drawBuffers(n, context->drawFramebuffer == 0 ? &surfaceBuffer : bufs);
 }
 
 void GL_APIENTRY readPixels(GLint x, GLint y, GLsizei width, GLsizei height, GLenum format, GLenum type, void *pixels) {
