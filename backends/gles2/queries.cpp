@@ -45,7 +45,7 @@ std::optional<GLuint> objectName(const EsContext &context, GLenum pname) {
 
 // Nothing where the host's answer is right.
 std::optional<Numbers> ownAnswer(const EsContext &context, GLenum pname) {
-    constexpr GLenum gpuDisjoint = 0x8FBB; // GL_GPU_DISJOINT_EXT
+    constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_framebuffer_fetch
     const Announcement &announced = context.announced;
     switch (pname) {
     case GL_MAJOR_VERSION:
@@ -60,8 +60,8 @@ std::optional<Numbers> ownAnswer(const EsContext &context, GLenum pname) {
         return announced.compressedFormats;
     case GL_GENERATE_MIPMAP_HINT:
         return Numbers{double(context.generateMipmapHint)};
-    case gpuDisjoint:
-        return Numbers{0};
+    case fragmentShaderDiscardsSamples:
+        return Numbers{1};
     default:
         break;
     }

@@ -13,6 +13,8 @@ protected:
     static constexpr Pixel green = {0, 255, 0, 255};
     static constexpr Pixel blue = {0, 0, 255, 255};
 
+    void TearDown() override { EXPECT_EQ(current() ? error() : GL_NO_ERROR, GL_NO_ERROR); }
+
     // Starts a context with a program in use whose attribute 0 is "vec2 position".
     void startWith(int major, int minor, const std::string &vertex, const std::string &fragment) {
         start(major, minor);
