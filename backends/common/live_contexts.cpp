@@ -42,7 +42,8 @@ void *currentLiveContext() {
         uint64_t changes = 0;
         void *context = nullptr;
     };
-    thread_local Answer last;
+    // Small enough for the block that every thread has from its start: drawing asks at each call.
+    static constinit thread_local Answer last __attribute__((tls_model("initial-exec")));
 
     void *const asked = zvCurrentEsContext();
     LiveContexts &live = liveContexts();
@@ -50,4 +51,10 @@ void *currentLiveContext() {
     const std::lock_guard lock(live.mutex);
     last = {asked, live.changes, live.contexts.contains(asked) ? asked : nullptr};
     return last.context;
+}
+
+bool isLiveContext(const void *esContext) {
+    LiveContexts &live = liveContexts();
+    const std::lock_guard lock(live.mutex);
+    return live.contexts.contains(esContext);
 }

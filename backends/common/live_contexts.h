@@ -8,3 +8,6 @@ void contextEnds(const void *esContext);
 // The calling thread's current back-end context if it is one of this library's, otherwise null. Takes no lock while
 // neither the current context nor the set of live ones changes.
 [[nodiscard]] void *currentLiveContext();
+
+// Whether that is one of this library's own. Any thread.
+[[nodiscard]] bool isLiveContext(const void *esContext);

@@ -4,13 +4,49 @@
 #include "host_gl.h"
 #include "render_mode.h"
 
+#include "common/host_features.h"
+
+#include <cstdio>
+#include <cstring>
 #include <memory>
 #include <new>
+#include <string>
 
-zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *, zvEsContext) {
-    if (!attribs || !findHostGl()) return nullptr;
+namespace {
+
+// Empty when the host carries a context of that version.
+std::string reasonToRefuse(GLint major) {
+    if (!findHostGl()) return "the host has no OpenGL library with the functions that it takes";
+    const HostFeatures host;
+    const char *const version = reinterpret_cast<const char *>(hostGl().getString(GL_VERSION));
+    const std::string found = std::string("the host's context is ") + (version ? version : "of no known version");
+    if (host.version() < 32) return found + "; version 3.2 is the least";
+    if (!host.carries(41, "GL_ARB_ES2_compatibility")) return found + " and lacks GL_ARB_ES2_compatibility";
+    if (major >= 3 && !host.carries(43, "GL_ARB_ES3_compatibility")) {
+        return found + " and lacks GL_ARB_ES3_compatibility";
+    }
+    return "";
+}
+
+// On standard error, and to a GUI.
+void tell(const std::string &text) {
+    std::fprintf(stderr, "(Error) %s\n", text.c_str());
+    zvMessage message = {};
+    message.header.type = ZV_LOG_ERROR;
+    std::strncpy(message.text.text, text.c_str(), sizeof message.text.text - 1);
+    zvPostFrameMessage(message);
+}
+
+} // namespace
+
+zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *settings, zvEsContext share) {
+    if (!attribs) return nullptr;
+    if (const std::string reason = reasonToRefuse(attribs->esMajor); !reason.empty()) {
+        tell("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
+        return nullptr;
+    }
     try {
-        return std::make_unique<EsContext>(*attribs).release();
+        return std::make_unique<EsContext>(*attribs, settings, share).release();
     } catch (const std::bad_alloc &) {
         return nullptr;
     }

@@ -1,12 +1,58 @@
-// Drawing, with what has to be right before it.
-#include "es_context.h"
+// Drawing, with what has to be right before it: the render mode, and arrays and index lists in the application's
+// memory. A draw from buffers alone costs a few comparisons.
+#include "client_arrays.h"
 #include "host_gl.h"
 #include "overrides.h"
 
 namespace {
 
-void prepare() {
-    if (EsContext *const context = EsContext::current()) beginDraw(context->wireframe);
+EsContext *prepare() {
+    EsContext *const context = EsContext::current();
+    if (context) beginDraw(context->wireframe);
+    return context;
+}
+
+template <typename Draw>
+void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) {
+    EsContext *const context = prepare();
+    const bool isFed = !context || !context->vertexArray->enabledClientAttribs();
+    // What is malformed goes on as it is, and the host raises the error.
+    if (isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw();
+    const FedVertices vertices(*context, {first, int64_t(first) + count - 1, instanceCount});
+    if (vertices.isComplete()) draw();
+}
+
+// Arrays in the application's memory are fed for the vertices that the list names.
+template <typename Draw>
+void feedAndDraw(EsContext &context, const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
+    std::optional<FedVertices> vertices;
+    if (context.vertexArray->enabledClientAttribs()) {
+        const auto range = findIndexRange(context, list);
+        if (!range) return;
+        vertices.emplace(context, DrawnVertices{int64_t(range->lowest) + baseVertex,
+                                                int64_t(range->highest) + baseVertex, instanceCount});
+        if (!vertices->isComplete()) return;
+    }
+    const FedIndices indices(context, list);
+    if (indices.isComplete()) draw(indices.indices());
+}
+
+template <typename Draw>
+void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
+    EsContext *const context = prepare();
+    if (!context) return draw(list.indices);
+    const VertexArrayState &state = *context->vertexArray;
+    if (state.elementBuffer && !state.enabledClientAttribs()) return draw(list.indices);
+    // The host raises the error: for what is malformed, and for the objects of ES 3, which take no list of the
+    // application's memory.
+    const bool isWellFormed = list.count > 0 && instanceCount > 0 && indexSize(list.type) > 0;
+    if (state.elementBuffer && !isWellFormed) return draw(list.indices);
+    if (!context->takesClientMemory()) return draw(list.indices);
+    // Without a buffer it would take them all for one and the same error.
+    if (indexSize(list.type) == 0) return context->raise(GL_INVALID_ENUM);
+    if (list.count < 0 || instanceCount < 0) return context->raise(GL_INVALID_VALUE);
+    if (!isWellFormed || (!state.elementBuffer && !list.indices)) return;
+    feedAndDraw(*context, list, instanceCount, baseVertex, draw);
 }
 
 } // namespace
@@ -14,8 +60,7 @@ void prepare() {
 namespace overrides {
 
 void GL_APIENTRY drawArrays(GLenum mode, GLint first, GLsizei count) {
-    prepare();
-    hostGl().drawArrays(mode, first, count);
+    drawVertices(first, count, 1, [&] { hostGl().drawArrays(mode, first, count); });
 }
 
 void GL_APIENTRY drawArraysIndirect(GLenum mode, const void *indirect) {
@@ -24,19 +69,18 @@ void GL_APIENTRY drawArraysIndirect(GLenum mode, const void *indirect) {
 }
 
 void GL_APIENTRY drawArraysInstanced(GLenum mode, GLint first, GLsizei count, GLsizei instanceCount) {
-    prepare();
-    hostGl().drawArraysInstanced(mode, first, count, instanceCount);
+    drawVertices(first, count, instanceCount, [&] { hostGl().drawArraysInstanced(mode, first, count, instanceCount); });
 }
 
 void GL_APIENTRY drawElements(GLenum mode, GLsizei count, GLenum type, const void *indices) {
-    prepare();
-    hostGl().drawElements(mode, count, type, indices);
+    drawIndexed({count, type, indices}, 1, 0,
+                [&](const void *list) { hostGl().drawElements(mode, count, type, list); });
 }
 
 void GL_APIENTRY drawElementsBaseVertex(GLenum mode, GLsizei count, GLenum type, const void *indices,
                                         GLint baseVertex) {
-    prepare();
-    hostGl().drawElementsBaseVertex(mode, count, type, indices, baseVertex);
+    drawIndexed({count, type, indices}, 1, baseVertex,
+                [&](const void *list) { hostGl().drawElementsBaseVertex(mode, count, type, list, baseVertex); });
 }
 
 void GL_APIENTRY drawElementsIndirect(GLenum mode, GLenum type, const void *indirect) {
@@ -46,26 +90,28 @@ void GL_APIENTRY drawElementsIndirect(GLenum mode, GLenum type, const void *indi
 
 void GL_APIENTRY drawElementsInstanced(GLenum mode, GLsizei count, GLenum type, const void *indices,
                                        GLsizei instanceCount) {
-    prepare();
-    hostGl().drawElementsInstanced(mode, count, type, indices, instanceCount);
+    drawIndexed({count, type, indices}, instanceCount, 0,
+                [&](const void *list) { hostGl().drawElementsInstanced(mode, count, type, list, instanceCount); });
 }
 
 void GL_APIENTRY drawElementsInstancedBaseVertex(GLenum mode, GLsizei count, GLenum type, const void *indices,
                                                  GLsizei instanceCount, GLint baseVertex) {
-    prepare();
-    hostGl().drawElementsInstancedBaseVertex(mode, count, type, indices, instanceCount, baseVertex);
+    drawIndexed({count, type, indices}, instanceCount, baseVertex, [&](const void *list) {
+        hostGl().drawElementsInstancedBaseVertex(mode, count, type, list, instanceCount, baseVertex);
+    });
 }
 
 void GL_APIENTRY drawRangeElements(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type,
                                    const void *indices) {
-    prepare();
-    hostGl().drawRangeElements(mode, start, end, count, type, indices);
+    drawIndexed({count, type, indices}, 1, 0,
+                [&](const void *list) { hostGl().drawRangeElements(mode, start, end, count, type, list); });
 }
 
 void GL_APIENTRY drawRangeElementsBaseVertex(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type,
                                              const void *indices, GLint baseVertex) {
-    prepare();
-    hostGl().drawRangeElementsBaseVertex(mode, start, end, count, type, indices, baseVertex);
+    drawIndexed({count, type, indices}, 1, baseVertex, [&](const void *list) {
+        hostGl().drawRangeElementsBaseVertex(mode, start, end, count, type, list, baseVertex);
+    });
 }
 
 } // namespace overrides

@@ -63,7 +63,10 @@ void *lookUpEntry(std::string_view name) {
     const EsName *const row = findEsName(name);
     if (!row) return nullptr;
     const EsContext *const context = EsContext::current();
-    if (context && !context->host.carries(row->version, row->extensions)) return nullptr;
+    if (context && !context->host.carries(row->version, row->extensions) &&
+        !context->announced.hasOneOf(row->extensions)) {
+        return nullptr;
+    }
     return resolveExport(row->name);
 }
 

@@ -3,47 +3,14 @@
 #include "common/live_contexts.h"
 #include "host_gl.h"
 
+#include <algorithm>
+
 namespace {
 
 // Names that the headers of ES lack.
 constexpr GLenum programPointSize = 0x8642;
 constexpr GLenum textureCubeMapSeamless = 0x884F;
 constexpr GLenum framebufferSrgb = 0x8DB9;
-
-constexpr std::string_view esExtensionNames[] = {
-#define ES_EXTENSION(name) name,
-#include "data/es_extensions.def"
-#undef ES_EXTENSION
-};
-
-// Names of the host's extensions that also are extensions of ES, sorted.
-std::vector<std::string> carriedExtensions(const HostFeatures &host) {
-    std::vector<std::string> names;
-    for (const std::string_view name : esExtensionNames) {
-        if (host.hasExtension(name)) names.emplace_back(name);
-    }
-    return names;
-}
-
-std::string versionText(const HostGl &gl, GLint major, GLint minor) {
-    const char *const host = reinterpret_cast<const char *>(gl.getString(GL_VERSION));
-    return "OpenGL ES " + std::to_string(major) + '.' + std::to_string(minor) + " Zelvane (" + (host ? host : "") + ')';
-}
-
-// The language's version is 1.00 for ES 2.0 and that of the context ever since.
-std::string shadingLanguageText(GLint major, GLint minor) {
-    if (major < 3) return "OpenGL ES GLSL ES 1.00";
-    return "OpenGL ES GLSL ES " + std::to_string(major) + '.' + std::to_string(minor) + '0';
-}
-
-std::string joined(const std::vector<std::string> &names) {
-    std::string text;
-    for (const std::string &name : names) {
-        if (!text.empty()) text += ' ';
-        text += name;
-    }
-    return text;
-}
 
 // Applications check for errors from their first call on and must not meet ours. A lost context reports one for ever,
 // hence the limit.
@@ -52,13 +19,31 @@ void sweepErrors(const HostGl &gl) {
     }
 }
 
+void deleteAbandoned(ShareGroup &shared) {
+    std::vector<GLuint> buffers;
+    {
+        const std::lock_guard lock(shared.abandonedMutex);
+        buffers.swap(shared.abandonedBuffers);
+    }
+    for (const GLuint buffer : buffers)
+        shared.buffers.forgetHidden(buffer);
+    if (!buffers.empty()) hostGl().deleteBuffers(static_cast<GLsizei>(buffers.size()), buffers.data());
+}
+
+// Only a context that lives is ours to read.
+std::shared_ptr<ShareGroup> shareGroupOf(zvEsContext share) {
+    return isLiveContext(share) ? static_cast<const EsContext *>(share)->shared : std::make_shared<ShareGroup>();
+}
+
 } // namespace
 
-EsContext::EsContext(const ContextAttribs &attribs)
-    : major(attribs.esMajor), minor(attribs.esMinor), version(versionText(hostGl(), major, minor)),
-      shadingLanguageVersion(shadingLanguageText(major, minor)), extensionNames(carriedExtensions(host)),
-      extensions(joined(extensionNames)), hasEsShaders(host.carries(41, "GL_ARB_ES2_compatibility")) {
+EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
+    : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
+      shared(shareGroupOf(share)) {
     const HostGl &gl = hostGl();
+    GLint attribCount = 0;
+    gl.getIntegerv(GL_MAX_VERTEX_ATTRIBS, &attribCount);
+    maxVertexAttribs = std::min(static_cast<GLuint>(attribCount), VertexArrayState::maxAttribs);
     gl.genVertexArrays(1, &defaultVertexArray);
     gl.bindVertexArray(defaultVertexArray);
     gl.enable(programPointSize);
@@ -69,6 +54,9 @@ EsContext::EsContext(const ContextAttribs &attribs)
 
 EsContext::~EsContext() {
     contextEnds(this);
+    const std::lock_guard lock(shared->abandonedMutex);
+    for (const GLuint ring : {vertexStream.name(), indexStream.name()})
+        if (ring) shared->abandonedBuffers.push_back(ring);
 }
 
 EsContext *EsContext::current() {
@@ -76,7 +64,16 @@ EsContext *EsContext::current() {
 }
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {
-    const HostGl &gl = hostGl();
-    (attribs.srgbFramebuffer ? gl.enable : gl.disable)(framebufferSrgb);
-    sweepErrors(gl);
+    isSurfaceSrgb = attribs.srgbFramebuffer != 0;
+    setDrawFramebuffer(drawFramebuffer);
+    deleteAbandoned(*shared);
+    sweepErrors(hostGl());
+}
+
+void EsContext::setDrawFramebuffer(GLuint framebuffer) {
+    drawFramebuffer = framebuffer;
+    const bool isWanted = framebuffer != 0 || isSurfaceSrgb;
+    if (isWanted == writesSrgb) return;
+    writesSrgb = isWanted;
+    (isWanted ? hostGl().enable : hostGl().disable)(framebufferSrgb);
 }

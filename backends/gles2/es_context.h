@@ -2,19 +2,26 @@
 // the host context current; used there.
 #pragma once
 
+#include "announcement.h"
 #include "common/host_features.h"
 #include "render_mode.h"
+#include "share_group.h"
+#include "stream_buffer.h"
+#include "vertex_array_state.h"
 
 #include <GLES3/gl32.h>
 #include <zelvane/back_end.h>
 
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class EsContext {
 public:
     // Sets the host context up so that an application finds the state that ES promises.
-    explicit EsContext(const ContextAttribs &attribs);
+    // settings: for the zvSettings functions. share: a context to share objects with, or null.
+    EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share);
     ~EsContext();
     EsContext(const EsContext &) = delete;
     EsContext &operator=(const EsContext &) = delete;
@@ -25,18 +32,42 @@ public:
     // The surface may have another colour space than at the last bind.
     void setAttribs(const ContextAttribs &attribs);
 
+    // What is drawn to: the host's name of a framebuffer, 0 for the surface. A framebuffer of the application's always
+    // takes sRGB values where its image has such a format; a surface only where it has that colour space.
+    void setDrawFramebuffer(GLuint framebuffer);
+
+    // Object 0 takes arrays and index lists in the application's memory. So do the objects of
+    // OES_vertex_array_object; those of ES 3 do not.
+    [[nodiscard]] bool takesClientMemory() const { return major < 3 || vertexArray == &vertexArrayZero; }
+
+    // An error of our own for the application, unless one is pending.
+    void raise(GLenum error) {
+        if (pendingError == GL_NO_ERROR) pendingError = error;
+    }
+
     // Constant after construction.
     const GLint major;
     const GLint minor;
     const HostFeatures host;
-    const std::string version;
-    const std::string shadingLanguageVersion;
-    const std::vector<std::string> extensionNames;
-    const std::string extensions; // with a blank between
+    const Announcement announced;
     // Stands for object 0, which a core context lacks. The host's name.
     GLuint defaultVertexArray = 0;
-    // The host compiles the shading language of ES.
-    const bool hasEsShaders;
+    const std::shared_ptr<ShareGroup> shared;
+    GLuint maxVertexAttribs = 0;
 
     Wireframe wireframe;
+    GLenum pendingError = GL_NO_ERROR;
+    GLenum generateMipmapHint = GL_DONT_CARE;
+    GLuint arrayBuffer = 0; // the host's name
+    VertexArrayState vertexArrayZero;
+    std::unordered_map<GLuint, VertexArrayState> vertexArrays; // the others
+    VertexArrayState *vertexArray = &vertexArrayZero;          // what is bound
+    NameTable framebuffers;
+    GLuint drawFramebuffer = 0; // the host's name
+    bool isSurfaceSrgb = false;
+    bool writesSrgb = false;        // what the host has been told
+    TextureSwizzles swizzlesOfZero; // of the textures of name 0
+    StreamBuffer vertexStream{GL_ARRAY_BUFFER};
+    StreamBuffer indexStream{GL_ELEMENT_ARRAY_BUFFER};
+    std::vector<std::byte> readBackIndices; // keeps its memory from draw to draw
 };

@@ -12,8 +12,7 @@ std::optional<HostGl> loadHostGl() {
     gl.field = reinterpret_cast<decltype(gl.field)>(hostFunction(#name));                                              \
     if (!gl.field) return std::nullopt;
 #define DESKTOP_CALL(field, name, type) HOST_CALL(field, name)
-    HOST_CALLS(HOST_CALL)
-    DESKTOP_CALLS(DESKTOP_CALL)
+#include "data/host_calls.def"
 #undef DESKTOP_CALL
 #undef HOST_CALL
     return gl;

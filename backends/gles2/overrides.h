@@ -2,7 +2,11 @@
 // current.
 #pragma once
 
+// The names of extensions have prototypes too.
+#define GL_GLEXT_PROTOTYPES
 #include <GLES3/gl32.h>
+
+#include <GLES2/gl2ext.h>
 
 #include <string_view>
 

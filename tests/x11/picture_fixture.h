@@ -13,6 +13,8 @@ protected:
     static constexpr Pixel green = {0, 255, 0, 255};
     static constexpr Pixel blue = {0, 0, 255, 255};
 
+    void TearDown() override { EXPECT_EQ(current() ? error() : GL_NO_ERROR, GL_NO_ERROR); }
+
     // Starts a context with a program in use whose attribute 0 is "vec2 position".
     void startWith(int major, int minor, const std::string &vertex, const std::string &fragment) {
         start(major, minor);
@@ -45,7 +47,8 @@ protected:
         ES(glReadPixels)(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, read.data());
         return read;
     }
-    GLenum error() { return ES(glGetError)(); }
+    // As the constants are written, signed.
+    GLint error() { return static_cast<GLint>(ES(glGetError)()); }
     GLint integer(GLenum name) {
         GLint value = -1;
         ES(glGetIntegerv)(name, &value);

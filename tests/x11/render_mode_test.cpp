@@ -69,7 +69,6 @@ TEST_F(BackEndRenderMode, WireframeDrawsEdgesFromTheNextDrawOn) {
         }
         EXPECT_EQ(drawnInside(), step.inside);
     }
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
 }
 
 TEST_F(BackEndRenderMode, AFrameThatDrawsPostsOneMarkerToAnAttachedGui) {

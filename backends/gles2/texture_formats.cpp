@@ -1,0 +1,94 @@
+#include "texture_formats.h"
+
+#include "vertex_format.h"
+
+// gl2ext.h repeats names of gl32.h in the same words.
+#include <GLES2/gl2ext.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr Swizzle plain = plainSwizzle;
+constexpr Swizzle alpha = {GL_ZERO, GL_ZERO, GL_ZERO, GL_RED};
+constexpr Swizzle luminance = {GL_RED, GL_RED, GL_RED, GL_ONE};
+constexpr Swizzle luminanceAlpha = {GL_RED, GL_RED, GL_RED, GL_GREEN};
+
+struct Unsized {
+    GLenum format, type, hostInternal, hostFormat;
+    const Swizzle &swizzle;
+};
+struct Sized {
+    GLenum internal, hostInternal;
+    const Swizzle &swizzle;
+};
+struct Client {
+    GLenum format, hostFormat;
+};
+
+#define UNSIZED(...)
+#define SIZED(...)
+#define CLIENT(...)
+
+#undef UNSIZED
+#define UNSIZED(format, type, hostInternal, hostFormat, swizzle) {format, type, hostInternal, hostFormat, swizzle},
+constexpr Unsized unsizedFormats[] = {
+#include "data/texture_formats.def"
+};
+#undef UNSIZED
+#define UNSIZED(...)
+
+#undef SIZED
+#define SIZED(internal, hostInternal, swizzle) {internal, hostInternal, swizzle},
+constexpr Sized sizedFormats[] = {
+#include "data/texture_formats.def"
+};
+#undef SIZED
+#define SIZED(...)
+
+#undef CLIENT
+#define CLIENT(format, hostFormat) {format, hostFormat},
+constexpr Client clientFormats[] = {
+#include "data/texture_formats.def"
+};
+#undef CLIENT
+#undef SIZED
+#undef UNSIZED
+
+GLenum hostClientFormat(GLenum format) {
+    const auto row = std::ranges::find(clientFormats, format, &Client::format);
+    return row == std::end(clientFormats) ? format : row->hostFormat;
+}
+
+} // namespace
+
+Swizzle composed(const Swizzle &outer, const Swizzle &inner) {
+    Swizzle result = outer;
+    for (GLint &channel : result) {
+        if (channel >= GL_RED && channel <= GL_ALPHA) channel = inner[static_cast<size_t>(channel - GL_RED)];
+    }
+    return result;
+}
+
+HostTextureFormat hostTextureFormat(GLenum internal, GLenum format, GLenum type) {
+    if (type == halfFloatOes) type = GL_HALF_FLOAT;
+    for (const Unsized &row : unsizedFormats) {
+        if (row.format == internal && row.format == format && row.type == type) {
+            return {row.hostInternal, row.hostFormat, type, row.swizzle};
+        }
+    }
+    const HostTextureFormat sized = hostTextureFormat(internal);
+    return {sized.internal, hostClientFormat(format), type, sized.swizzle};
+}
+
+HostTextureFormat hostTextureFormat(GLenum internal) {
+    const auto row = std::ranges::find(sizedFormats, internal, &Sized::internal);
+    if (row == std::end(sizedFormats)) return {internal, internal, GL_UNSIGNED_BYTE, plain};
+    return {row->hostInternal, internal, GL_UNSIGNED_BYTE, row->swizzle};
+}
+
+bool isOnlyOfEs(GLenum internal) {
+    return internal == GL_ALPHA || internal == GL_LUMINANCE || internal == GL_LUMINANCE_ALPHA ||
+           internal == GL_BGRA_EXT || internal == GL_SRGB_EXT || internal == GL_SRGB_ALPHA_EXT;
+}
