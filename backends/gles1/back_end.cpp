@@ -1,5 +1,6 @@
 // The five functions that libEGL.so.1 asks of a back end.
 #include "common/refusal.h"
+#include "common/render_mode.h"
 #include "entry_lookup.h"
 #include "es_context.h"
 #include "host_gl.h"
@@ -52,5 +53,5 @@ void *zvGetExtProcAddress(const char *name) {
 }
 
 void zvSetRenderMode(const uint8_t *mode, size_t length) {
-    if (mode && length > 0) setWireframeOfAll(*mode == 1);
+    if (mode && length > 0) setRenderMode(*mode);
 }

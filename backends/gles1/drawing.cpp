@@ -24,7 +24,7 @@ bool beginDraw(EsContext &context, GLenum mode) {
         context.raise(GL_INVALID_ENUM);
         return false;
     }
-    context.wireframe.apply();
+    ::beginDraw(context.wireframe);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "entry_lookup.h"
 
 #include "common/host_library.h"
+#include "common/render_mode.h"
 #include "es_context.h"
 #include "extensions.h"
 #include "host_gl.h"
@@ -48,9 +49,7 @@ const char *find(const HostName (&table)[size], std::string_view name) {
 }
 
 void *debugEntry(std::string_view name) {
-    if (name == "Zelvane_ToggleWireframe" || name == "zvToggleWireframe")
-        return reinterpret_cast<void *>(debug::toggleWireframe);
-    if (name == "zvSetContextWireframe") return reinterpret_cast<void *>(debug::setContextWireframe);
+    if (void *const function = findWireframeSwitch(name)) return function;
     const char *const hostName = find(debugNames, name);
     return hostName ? hostFunction(hostName) : nullptr;
 }

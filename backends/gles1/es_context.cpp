@@ -63,6 +63,11 @@ EsContext *EsContext::current() {
     return static_cast<EsContext *>(currentLiveContext());
 }
 
+Wireframe *currentWireframe() {
+    EsContext *const context = EsContext::current();
+    return context ? &context->wireframe : nullptr;
+}
+
 void EsContext::setAttribs(const ContextAttribs &attribs) {
     const HostGl &gl = hostGl();
     (attribs.srgbFramebuffer ? gl.enable : gl.disable)(desktop::framebufferSrgb);

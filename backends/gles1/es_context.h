@@ -3,9 +3,9 @@
 #pragma once
 
 #include "array_objects.h"
+#include "common/render_mode.h"
 #include "device_limits.h"
 #include "texture_crops.h"
-#include "wireframe.h"
 
 #include <zelvane/back_end.h>
 

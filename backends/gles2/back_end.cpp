@@ -1,8 +1,8 @@
 // The five functions that libEGL.so.1 asks of a back end.
+#include "common/render_mode.h"
 #include "entry_lookup.h"
 #include "es_context.h"
 #include "host_gl.h"
-#include "render_mode.h"
 
 #include "common/host_features.h"
 

@@ -1,10 +1,10 @@
 #include "entry_lookup.h"
 
 #include "common/host_library.h"
+#include "common/render_mode.h"
 #include "es_context.h"
 #include "host_gl.h"
 #include "overrides.h"
-#include "render_mode.h"
 
 #include <algorithm>
 #include <iterator>
@@ -39,8 +39,10 @@ constexpr HostName hostNames[] = {
 // The debug names that reach the host's function as it is.
 constexpr HostName debugNames[] = {
 #define DEBUG_NAME(name, hostName) {#name, #hostName},
-#include "data/debug_names.def"
+#include "common/data/debug_names.def"
 #undef DEBUG_NAME
+    // Sources go to the host in the form that it is to compile.
+    {"zvGetOpenGLShaderSource", "glGetShaderSource"},
 };
 
 template <size_t size>

@@ -4,7 +4,7 @@
 
 #include "announcement.h"
 #include "common/host_features.h"
-#include "render_mode.h"
+#include "common/render_mode.h"
 #include "share_group.h"
 #include "stream_buffer.h"
 #include "vertex_array_state.h"

@@ -31,6 +31,10 @@ extern "C" ZV_EXPORT const char *zvSettingsProfileText(const void *) {
     return profileText.c_str();
 }
 
+extern "C" ZV_EXPORT int zvGuiIsAttached(void) {
+    return 0;
+}
+
 extern "C" ZV_EXPORT void zvPostFrameMessage(zvMessage message) {
     lastMessage = message;
 }

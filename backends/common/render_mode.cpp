@@ -1,7 +1,6 @@
-#include "render_mode.h"
+#include "common/render_mode.h"
 
-#include "es_context.h"
-#include "host_gl.h"
+#include "common/host_library.h"
 
 #include <zelvane/back_end.h>
 
@@ -9,14 +8,21 @@
 
 namespace {
 
-constexpr GLenum polygonLine = 0x1B01;
-constexpr GLenum polygonFill = 0x1B02;
+constexpr unsigned frontAndBack = 0x0408;
+constexpr unsigned polygonLine = 0x1B01;
+constexpr unsigned polygonFill = 0x1B02;
 
 // Written on the link's thread, beside running GL calls.
 std::atomic<bool> isWantedEverywhere = false;
 
 // The frames below it have their marker, or drew nothing.
 std::atomic<uint64_t> nextMarkedFrame = 0;
+
+void setPolygonMode(unsigned mode) {
+    using PolygonMode = void (*)(unsigned face, unsigned mode);
+    static const auto polygonMode = reinterpret_cast<PolygonMode>(hostFunction("glPolygonMode"));
+    if (polygonMode) polygonMode(frontAndBack, mode);
+}
 
 void postMarker() {
     const uint64_t frame = zvCurrentFrameNumber();
@@ -28,13 +34,13 @@ void postMarker() {
     zvPostFrameMessage(marker);
 }
 
-uint64_t GL_APIENTRY toggleWireframe(GLuint isEnabled) {
+uint64_t toggleWireframe(unsigned isEnabled) {
     setRenderMode(isEnabled != 0);
     return 0;
 }
 
-uint64_t GL_APIENTRY setContextWireframe(GLuint isEnabled) {
-    if (EsContext *const context = EsContext::current()) context->wireframe.isWanted = isEnabled != 0;
+uint64_t setContextWireframe(unsigned isEnabled) {
+    if (Wireframe *const wireframe = currentWireframe()) wireframe->isWanted = isEnabled != 0;
     return 0;
 }
 
@@ -47,7 +53,7 @@ void setRenderMode(uint8_t mode) {
 void beginDraw(Wireframe &wireframe) {
     const bool isWanted = wireframe.isWanted || isWantedEverywhere.load(std::memory_order_relaxed);
     if (isWanted != wireframe.isOn) {
-        hostGl().polygonMode(GL_FRONT_AND_BACK, isWanted ? polygonLine : polygonFill);
+        setPolygonMode(isWanted ? polygonLine : polygonFill);
         wireframe.isOn = isWanted;
     }
     if (zvGuiIsAttached()) postMarker();

@@ -1,8 +1,6 @@
 // Wireframe drawing, and the marker that a GUI gets for a frame that draws.
 #pragma once
 
-#include <GLES3/gl32.h>
-
 #include <cstdint>
 #include <string_view>
 
@@ -22,3 +20,6 @@ void beginDraw(Wireframe &wireframe);
 // The debug entries that switch wireframe drawing, or null: zvToggleWireframe and Zelvane_ToggleWireframe for every
 // context, zvSetContextWireframe for the current one. A context draws wireframes while either asks for it.
 [[nodiscard]] void *findWireframeSwitch(std::string_view name);
+
+// Each back end defines it: that of the calling thread's context, or null without one.
+[[nodiscard]] Wireframe *currentWireframe();
