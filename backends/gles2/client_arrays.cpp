@@ -121,6 +121,8 @@ FedVertices::FedVertices(EsContext &context, const DrawnVertices &drawn) {
     context.vertexStream.bind(context.shared->buffers);
     m_isComplete = context.vertexStream.put({read.blocks.data(), read.blockCount});
     if (m_isComplete) pointHostAt(state, read);
+    // Another context may have deleted it; the host binds no name that is gone.
+    if (context.arrayBuffer && !gl.isBuffer(context.arrayBuffer)) context.arrayBuffer = 0;
     gl.bindBuffer(GL_ARRAY_BUFFER, context.arrayBuffer);
 }
 

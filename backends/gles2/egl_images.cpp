@@ -41,13 +41,17 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     GLint bound = 0;
     gl.getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
     const auto old = static_cast<GLuint>(bound);
-    const GLuint name = names.nameOf(old);
+    const auto last = context->lastTextureNames.find(old);
+    const GLuint name = last == context->lastTextureNames.end() ? names.nameOf(old) : last->second;
     if (source == 0 || name == 0) return context->raise(GL_INVALID_OPERATION);
     if (source == old) return;
     const bool isUnused = names.remove(name) != 0;
     names.alias(name, source);
     gl.bindTexture(GL_TEXTURE_2D, source);
-    if (isUnused) gl.deleteTextures(1, &old);
+    context->lastTextureNames[source] = name;
+    if (!isUnused) return;
+    context->shared->swizzles.remove(old);
+    gl.deleteTextures(1, &old);
 }
 
 // A texture of the host cannot be the storage of a renderbuffer.

@@ -63,7 +63,8 @@ public:
     std::unordered_map<GLuint, VertexArrayState> vertexArrays; // the others
     VertexArrayState *vertexArray = &vertexArrayZero;          // what is bound
     NameTable framebuffers;
-    GLuint drawFramebuffer = 0; // the host's name
+    std::unordered_map<GLuint, GLuint> lastTextureNames; // by the host's: what it was bound as, where the names differ
+    GLuint drawFramebuffer = 0;                          // the host's name
     bool isSurfaceSrgb = false;
     bool writesSrgb = false;        // what the host has been told
     TextureSwizzles swizzlesOfZero; // of the textures of name 0

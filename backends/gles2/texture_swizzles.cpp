@@ -101,22 +101,22 @@ void GL_APIENTRY texParameterf(GLenum target, GLenum pname, GLfloat param) {
 }
 
 void GL_APIENTRY texParameteriv(GLenum target, GLenum pname, const GLint *params) {
-    if (isSwizzle(pname)) return texParameteri(target, pname, *params);
+    if (isSwizzle(pname) && params) return texParameteri(target, pname, *params);
     hostGl().texParameteriv(hostTarget(target), pname, params);
 }
 
 void GL_APIENTRY texParameterfv(GLenum target, GLenum pname, const GLfloat *params) {
-    if (isSwizzle(pname)) return texParameterf(target, pname, *params);
+    if (isSwizzle(pname) && params) return texParameterf(target, pname, *params);
     hostGl().texParameterfv(hostTarget(target), pname, params);
 }
 
 void GL_APIENTRY texParameterIiv(GLenum target, GLenum pname, const GLint *params) {
-    if (isSwizzle(pname)) return texParameteri(target, pname, *params);
+    if (isSwizzle(pname) && params) return texParameteri(target, pname, *params);
     hostGl().texParameterIiv(hostTarget(target), pname, params);
 }
 
 void GL_APIENTRY texParameterIuiv(GLenum target, GLenum pname, const GLuint *params) {
-    if (isSwizzle(pname)) return texParameteri(target, pname, static_cast<GLint>(*params));
+    if (isSwizzle(pname) && params) return texParameteri(target, pname, static_cast<GLint>(*params));
     hostGl().texParameterIuiv(hostTarget(target), pname, params);
 }
 

@@ -54,6 +54,13 @@ void GL_APIENTRY bindTexture(GLenum target, GLuint texture) {
     const GLuint host = hostTexture(texture);
     if (target == textureExternal) setExternalDefaults(host);
     hostGl().bindTexture(hostTarget(target), host);
+    EsContext *const context = EsContext::current();
+    if (!context) return;
+    if (texture != host) {
+        context->lastTextureNames[host] = texture;
+    } else if (!context->lastTextureNames.empty()) {
+        context->lastTextureNames.erase(host);
+    }
 }
 
 void GL_APIENTRY framebufferTexture2D(GLenum target, GLenum attachment, GLenum textarget, GLuint texture, GLint level) {

@@ -168,10 +168,18 @@ TEST_F(BackEndTextures, AnEglImageIsTheTextureThatItWasMadeOf) {
     ES(glTexSubImage2D)(GL_TEXTURE_2D, 0, 0, 0, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, second);
     ES(glBindTexture)(GL_TEXTURE_2D, source);
     EXPECT_EQ(sampled(), blue);
-    ES(glDeleteTextures)(1, &source);
-    ES(glBindTexture)(GL_TEXTURE_2D, sibling);
-    EXPECT_EQ(sampled(), blue) << "the sibling outlives the source";
 
+    // One image after the other, as a stream of pictures does.
+    const GLuint other = bindNew();
+    image(GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, first);
+    record.buffer = other;
+    ES(glBindTexture)(GL_TEXTURE_2D, sibling);
+    ES(glEGLImageTargetTexture2DOES)(GL_TEXTURE_2D, &record);
+    ES(glBindTexture)(GL_TEXTURE_2D, source);
+    EXPECT_EQ(sampled(), blue) << "the first one keeps its own";
+    ES(glDeleteTextures)(1, &other);
+    ES(glBindTexture)(GL_TEXTURE_2D, sibling);
+    EXPECT_EQ(sampled(), (Pixel{255, 0, 0, 255})) << "the sibling outlives the source";
     ES(glEGLImageTargetTexture2DOES)(GL_TEXTURE_2D, &native);
     EXPECT_EQ(error(), GL_INVALID_OPERATION);
     ES(glEGLImageTargetTexture2DOES)(GL_TEXTURE_2D, nullptr);
