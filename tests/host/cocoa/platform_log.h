@@ -11,11 +11,13 @@ namespace cocoa_tests {
 
 // Forgets all messages and counts objects from 1 again.
 void restart();
+// Adds a line of the case's own.
+void say(const std::string &line);
 // The messages since the last time.
 std::string takeMessages();
 
 // The next object of that class cannot be initialised.
-void failNextInit(const char *className);
+void failNextInit(const std::string &className);
 // Of any handle of the operations list.
 unsigned retainCount(const void *object);
 
@@ -29,8 +31,5 @@ host::platform::View makeOther();
 // Gives the context, and what is current on the thread, as addresses to compare.
 const void *makeForeignCurrent();
 const void *current();
-
-// Waits for a block on the main queue and runs it. Call on the main thread.
-void runMainQueueOnce();
 
 } // namespace cocoa_tests
