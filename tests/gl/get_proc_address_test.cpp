@@ -1,47 +1,25 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <string>
 
 #include "egl/extension_entries.h"
 #include "egl/thread_record.h"
 #include "gl/entry_tables.h"
 
-TEST(GetProcAddress, ExtensionNamesGiveTheEntriesBehindThem) {
-    const auto function = [](auto *entry) { return reinterpret_cast<gl::Function>(entry); };
-    const std::pair<const char *, gl::Function> rows[] = {
-        {"eglCreateSyncKHR", function(egl::createSyncKHR)},
-        {"eglDestroySyncKHR", function(eglDestroySync)},
-        {"eglClientWaitSyncKHR", function(eglClientWaitSync)},
-        {"eglGetSyncAttribKHR", function(egl::getSyncAttribKHR)},
-        {"eglCreateImageKHR", function(eglCreateImage)},
-        {"eglDestroyImageKHR", function(eglDestroyImage)},
-        {"eglSwapBuffersWithDamageEXT", function(egl::swapBuffersWithDamage)},
-        {"eglSwapBuffersWithDamageKHR", function(egl::swapBuffersWithDamage)},
-        {"eglSetDamageRegionKHR", function(egl::setDamageRegionKHR)},
-        {"eglGetPlatformDisplayEXT", function(egl::getPlatformDisplayEXT)},
-        {"eglCreatePlatformWindowSurfaceEXT", function(eglCreateWindowSurface)},
-        {"eglCreatePlatformPixmapSurfaceEXT", function(eglCreatePixmapSurface)},
-        {"eglWaitSyncKHR", function(eglWaitSync)},
-        {"glDrawArrays", gl::baseTable[22].function},
-        {"glPointSizePointerOES", gl::extensionTable[67].function},
-        {"zvGetOpenGLShaderSource", gl::extensionTable[225].function},
-    };
-    for (const auto &[name, function] : rows)
-        EXPECT_EQ(eglGetProcAddress(name), function) << name;
-}
-
-TEST(GetProcAddress, OtherNamesGiveNullAndEveryLookupClearsAPendingError) {
+// Core functions are linked, so that they are not found by name. Every look-up clears a pending error.
+TEST(GetProcAddress, NamesGiveTheEntriesBehindThemAndOtherNamesNull) {
     const std::string home = getenv("HOME");
-    const std::tuple<const char *, std::string, bool> rows[] = {
-        {"glFlush", "", false},                                              // the load fails
-        {"glFlush", home, true},          {"eglCreateContext", home, false}, // core functions are linked
-        {"eglCreateSync", home, false},   {"gldrawarrays", home, false},     // no other case or suffix
-        {"glDrawArraysEXT", home, false}, {"glDrawArrays ", home, false},    {"", home, false}, {nullptr, home, false},
-    };
-    for (const auto &[name, directory, isFound] : rows) {
-        setenv("HOME", directory.c_str(), 1);
+    const auto find = [](const char *name) {
         egl::threadRecord.error = EGL_BAD_ALLOC;
-        EXPECT_EQ(eglGetProcAddress(name) != nullptr, isFound) << (name ? name : "null");
-        EXPECT_EQ(egl::threadRecord.error, EGL_SUCCESS) << (name ? name : "null");
-    }
+        const auto found = eglGetProcAddress(name);
+        EXPECT_EQ(egl::threadRecord.error, EGL_SUCCESS);
+        return found;
+    };
+#define ENTRY(name, entry) EXPECT_EQ(find(name), reinterpret_cast<gl::Function>(entry)) << name;
+#define PROXY(name, row) EXPECT_EQ(find(name), row.function) << name;
+#define OTHER(name, directory, isFound)                                                                                \
+    setenv("HOME", std::string(directory).c_str(), 1);                                                                 \
+    EXPECT_EQ(find(name) != nullptr, isFound) << testing::PrintToString(name);
+#include "gl/data/proc_addresses.def"
 }
