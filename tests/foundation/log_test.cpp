@@ -13,12 +13,8 @@ TEST(Log, LevelsHavePrefixesAndStreams) {
     setLogListener([](int32_t level, const char *text) { heard = std::to_string(level) + text; });
     const auto text = [](size_t length) { return std::string(length, 'x'); };
     const std::tuple<int32_t, size_t, size_t, const char *, const char *> rows[] = {
-        {LogInfo, 1, 1, "(Info) ", "standard output"},
-        {LogWarning, 0, 0, "(Warning) ", "standard output"},
-        {LogError, 13, 13, "(Error) ", "standard error"},
-        {LogError, 14, 13, "(Error) ", "as long as the first buffer: the last character is lost"},
-        {LogError, 15, 15, "(Error) ", "a longer text is whole"},
-        {9, 1, 0, "", "no such level: nothing at all"},
+#define LEVEL(...) {__VA_ARGS__},
+#include "foundation/data/log_levels.def"
     };
     for (const auto &[level, length, printed, prefix, reason] : rows) {
         SCOPED_TRACE(reason);
