@@ -24,6 +24,10 @@ Format format(const List &list) {
     return Format(operations.createPixelFormat(0, list.data()));
 }
 
+Format derived(const List &from, const List &list) {
+    return Format(operations.derivePixelFormat(format(from).get(), list.data()));
+}
+
 Context context(const List &list, ContextContainer *share = nullptr) {
     return Context(operations.createContext(format(list).get(), share));
 }
@@ -42,6 +46,7 @@ struct Bench {
     Context first = context(core), second = context(legacy);
     View view = host.makeView(64, 48, title);
     Buffer buffer{operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8)};
+    const ContextContainer *const firstContext = first.get(); // also once it was released
     SavedBinding *saved = nullptr;
 
     void bind(const Context &context) const {
@@ -61,15 +66,9 @@ const std::map<std::string, void (*)(Bench &)> steps = {
      }},
     {"unknown attribute", [](Bench &) { EXPECT_EQ(operations.pixelFormatValue(format(core).get(), 4712), 0); }},
     {"derived format",
-     [](Bench &) {
-         const Format derived(operations.derivePixelFormat(format(core).get(), legacy.data()));
-         EXPECT_EQ(operations.pixelFormatValue(derived.get(), OpenGLProfile), int32_t(profileLegacy));
-     }},
-    {"release nulls",
-     [](Bench &) {
-         operations.releasePixelFormat(nullptr);
-         operations.releasePixelBuffer(nullptr);
-     }},
+     [](Bench &) { EXPECT_EQ(operations.pixelFormatValue(derived(core, legacy).get(), OpenGLProfile), 0x1000); }},
+    {"release no format", [](Bench &) { operations.releasePixelFormat(nullptr); }},
+    {"release no buffer", [](Bench &) { operations.releasePixelBuffer(nullptr); }},
     {"both contexts", [](Bench &b) { EXPECT_TRUE(b.first && b.second); }},
     {"shared context", [](Bench &b) { EXPECT_NE(context(core, b.first.get()), nullptr); }},
     {"refuse a context", [](Bench &b) { b.host.refuseNext("createContext"); }},
@@ -79,16 +78,11 @@ const std::map<std::string, void (*)(Bench &)> steps = {
     {"bind second", [](Bench &b) { b.bind(b.second); }},
     {"bind foreign", [](Bench &b) { b.host.makeForeignCurrent(); }},
     {"clear", [](Bench &) { operations.clearCurrentContext(); }},
-    {"first current", [](Bench &b) { b.expectCurrent(b.first.get()); }},
+    {"first current", [](Bench &b) { b.expectCurrent(b.firstContext); }},
     {"none current", [](Bench &b) { b.expectCurrent(nullptr); }},
     {"none current elsewhere", [](Bench &b) { std::thread([&] { b.expectCurrent(nullptr); }).join(); }},
     {"foreign current", [](Bench &b) { EXPECT_TRUE(b.host.isForeignCurrent()); }},
-    {"release first",
-     [](Bench &b) {
-         const auto *container = b.first.get();
-         b.first.reset();
-         b.expectCurrent(container);
-     }},
+    {"release first", [](Bench &b) { b.first.reset(); }},
 
     {"attach view", [](Bench &b) { EXPECT_TRUE(operations.setView(b.first.get(), b.view)); }},
     {"attach nothing", [](Bench &b) { EXPECT_TRUE(operations.setView(b.first.get(), {})); }},
@@ -110,29 +104,18 @@ const std::map<std::string, void (*)(Bench &)> steps = {
 
     {"refuse a buffer", [](Bench &b) { b.host.refuseNext("createPixelBuffer"); }},
     {"no buffer", [](Bench &) { EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 4, 4), nullptr); }},
-    {"no buffer without a size",
-     [](Bench &) {
-         EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 0, 4), nullptr);
-         EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 4, -1), nullptr);
-     }},
-    {"buffer sizes",
-     [](Bench &b) {
-         EXPECT_EQ(sizeOf(operations.pixelBufferSize, b.buffer.get()), Size(16, 8));
-         EXPECT_EQ(sizeOf(operations.pixelBufferSize, nullptr), untouched);
-     }},
+    {"no flat buffer", [](Bench &) { EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 0, 4), nullptr); }},
+    {"no negative buffer", [](Bench &) { EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 4, -1), nullptr); }},
+    {"buffer size", [](Bench &b) { EXPECT_EQ(sizeOf(operations.pixelBufferSize, b.buffer.get()), Size(16, 8)); }},
+    {"size of no buffer", [](Bench &) { EXPECT_EQ(sizeOf(operations.pixelBufferSize, nullptr), untouched); }},
     {"first size", [](Bench &b) { EXPECT_EQ(sizeOf(operations.viewSize, b.view), Size(64, 48)); }},
     {"second size", [](Bench &b) { EXPECT_EQ(sizeOf(operations.viewSize, b.view), Size(70, 50)); }},
-    {"no sizes",
-     [](Bench &b) {
-         for (const View &none : {View{}, b.host.badView()})
-             EXPECT_EQ(sizeOf(operations.viewSize, none), untouched);
-     }},
+    {"size of no view", [](Bench &) { EXPECT_EQ(sizeOf(operations.viewSize, View{}), untouched); }},
+    {"size of a bad view", [](Bench &b) { EXPECT_EQ(sizeOf(operations.viewSize, b.host.badView()), untouched); }},
     {"title", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.view), title); }},
-    {"no titles",
-     [](Bench &b) {
-         for (const View &none : {View{}, b.host.makeView(8, 8, nullptr), b.host.badView()})
-             EXPECT_EQ(operations.viewTitle(none), "");
-     }},
+    {"title of no view", [](Bench &) { EXPECT_EQ(operations.viewTitle({}), ""); }},
+    {"no title", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.host.makeView(8, 8, nullptr)), ""); }},
+    {"title of a bad view", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.host.badView()), ""); }},
 };
 
 struct Promise {

@@ -3,7 +3,6 @@
 
 #include <thread>
 
-#include "foundation/dynamic_library.h"
 #include "foundation/paths.h"
 #include "host/cocoa/platform_log.h"
 #include "host/host_context.h"
@@ -24,7 +23,7 @@ class Cocoa : public testing::Test {
 protected:
     Cocoa() { restart(); }
     static void expectMessages(const char *file) {
-        EXPECT_EQ(takeMessages(), fileText(ZELVANE_SOURCE_DIR "/tests/host/cocoa/data/"s + file));
+        EXPECT_EQ(messages, fileText(ZELVANE_SOURCE_DIR "/tests/host/cocoa/data/"s + file));
     }
 };
 
@@ -43,7 +42,7 @@ TEST_F(Cocoa, AttributeListsToTheNumber) {
     const std::tuple<const char *, PixelFormat *, int> rows[] = {
         {"legacy", format, 1}, {"core", format, 0}, {"any", format, 2}, {"core, single", single, 0}};
     for (const auto &[name, from, legacy] : rows) {
-        say("-- "s + name);
+        messages += "-- "s + name + "\n";
         const auto handle = createHostContext({.format = from, .legacy = legacy});
     }
     expectMessages("attribute_lists.txt");
@@ -63,11 +62,11 @@ TEST_F(Cocoa, OwnersOfEachObject) {
     operations.restoreBinding(saved);
     EXPECT_EQ(retainCount(context), 1u);
     EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
-    say("-- the second goes, neither its format nor its share context");
+    messages += "-- the second goes, neither its format nor its share context\n";
     second.reset();
-    say("-- no format, no context");
+    messages += "-- no format, no context\n";
     EXPECT_EQ(createHostContext({.format = nullptr})->context->container(), nullptr);
-    say("-- the format goes, a buffer comes");
+    messages += "-- the format goes, a buffer comes\n";
     operations.releasePixelFormat(format);
     const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 64, 32));
     EXPECT_EQ(retainCount(buffer.get()), 1u);
@@ -88,19 +87,19 @@ TEST_F(Cocoa, BindingInOrder) {
         {"the window again", window},
         {"and again", window},
     };
-    takeMessages();
+    messages.clear();
     for (const auto &[name, surface] : rows) {
-        say("-- "s + name);
+        messages += "-- "s + name + "\n";
         EXPECT_TRUE(makeHostContextCurrent(handle.get(), surface));
         EXPECT_EQ(current() == nullptr, surface == nullptr);
     }
-    say("-- swap, each surface");
+    messages += "-- swap, each surface\n";
     window->swapBuffers();
     late->swapBuffers();
     setHostSwapInterval(handle.get(), -3);
-    say("-- the frame of a view that was never bound");
+    messages += "-- the frame of a view that was never bound\n";
     setFrame(other, 5, 5);
-    say("-- and of one that was bound three times");
+    messages += "-- and of one that was bound three times\n";
     setFrame(view, 5, 5);
     EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
     expectMessages("binding.txt");
@@ -123,7 +122,7 @@ TEST_F(Cocoa, FrameIsReadOnTheMainThread) {
     };
     expectSize();
     std::thread(expectSize).join();
-    EXPECT_EQ(takeMessages(), "NSView1 frame\ndispatch_sync begins\nNSView1 frame\ndispatch_sync ends\n");
+    EXPECT_EQ(messages, "NSView1 frame\ndispatch_sync begins\nNSView1 frame\ndispatch_sync ends\n");
     EXPECT_EQ(operations.viewTitle(view), "") << "in no window";
 }
 
@@ -139,14 +138,6 @@ TEST_F(Cocoa, NoPoolIsNeeded) {
         EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
     }).join();
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "the runtime tells of objects that no pool holds";
-}
-
-TEST_F(Cocoa, NamesAndDirectories) {
-    EXPECT_EQ(hostOpenGLLibraryName, "libGL.dylib"s);
-    EXPECT_EQ(es1LibraryName, "libGLESv1_CM.dylib"s);
-    EXPECT_EQ(es2LibraryName, "libGLESv2.dylib"s);
-    EXPECT_EQ(hostLibrarySearchPaths(),
-              (std::vector{getOwnDirectory(), "/System/Library/Frameworks/OpenGL.framework/Libraries/"s}));
 }
 
 } // namespace

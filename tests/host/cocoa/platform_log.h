@@ -11,13 +11,10 @@ namespace cocoa_tests {
 
 // Forgets all messages and counts objects from 1 again.
 void restart();
-// Adds a line of the case's own.
-void say(const std::string &line);
-// The messages since the last time.
-std::string takeMessages();
-
-// The next object of that class cannot be initialised.
-void failNextInit(const std::string &className);
+// What was noted; cases add lines of their own.
+extern std::string messages;
+// The next object of this class cannot be initialised.
+extern std::string failingClass;
 // Of any handle of the operations list.
 unsigned retainCount(const void *object);
 

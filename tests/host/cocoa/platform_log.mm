@@ -6,10 +6,13 @@
 
 #include "host/cocoa/platform_log.h"
 
+// Threads of the cases never run at the same time.
+std::string cocoa_tests::messages, cocoa_tests::failingClass;
+
 namespace {
 
-// Threads of the cases never run at the same time.
-std::string messages, failingClass;
+using namespace cocoa_tests;
+
 std::map<std::string, int> counts;
 thread_local id currentContext = nil;
 
@@ -205,18 +208,6 @@ using host::platform::View;
 void restart() {
     messages.clear();
     counts.clear();
-}
-
-void say(const std::string &line) {
-    messages += line + "\n";
-}
-
-std::string takeMessages() {
-    return std::exchange(messages, {});
-}
-
-void failNextInit(const std::string &className) {
-    failingClass = className;
 }
 
 unsigned retainCount(const void *object) {
