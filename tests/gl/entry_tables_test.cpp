@@ -3,9 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <set>
 #include <string>
 #include <utility>
+
+#include "egl/extension_entries.h"
+#include "egl/thread_record.h"
 
 using gl::baseTable;
 using gl::extensionTable;
@@ -27,4 +31,21 @@ TEST(EntryTables, OrderIsFixed) {
     EXPECT_EQ(std::pair(std::size(extensionTable), std::size(baseTable)), std::pair(size_t{226}, size_t{439}));
 #define PLACE(table, index, expected) EXPECT_STREQ(table[index].name, expected);
 #include "gl/data/places.def"
+}
+
+// Core functions are linked, so that they are not found by name. Every look-up clears a pending error.
+TEST(GetProcAddress, NamesGiveTheEntriesBehindThemAndOtherNamesNull) {
+    const std::string home = getenv("HOME");
+    const auto find = [](const char *name) {
+        egl::threadRecord.error = EGL_BAD_ALLOC;
+        const auto found = eglGetProcAddress(name);
+        EXPECT_EQ(egl::threadRecord.error, EGL_SUCCESS);
+        return found;
+    };
+#define ENTRY(name, entry) EXPECT_EQ(find(name), reinterpret_cast<gl::Function>(entry)) << name;
+#define PROXY(name, row) EXPECT_EQ(find(name), row.function) << name;
+#define OTHER(name, directory, isFound)                                                                                \
+    setenv("HOME", std::string(directory).c_str(), 1);                                                                 \
+    EXPECT_EQ(find(name) != nullptr, isFound) << testing::PrintToString(name);
+#include "gl/data/proc_addresses.def"
 }

@@ -18,15 +18,14 @@ constexpr int32_t caveat = EGL_CONFIG_CAVEAT, slow = EGL_SLOW_CONFIG, broken = E
 constexpr int32_t red = EGL_RED_SIZE, green = EGL_GREEN_SIZE, blue = EGL_BLUE_SIZE, alpha = EGL_ALPHA_SIZE;
 constexpr int32_t buffer = EGL_BUFFER_SIZE, depth = EGL_DEPTH_SIZE, id = EGL_CONFIG_ID;
 
+Order orderOf(const List &request, const List &a, const List &b) {
+    const egl::ConfigSortOrder order(ended(request).data());
+    return {order(configOf(a), configOf(b)), order(configOf(b), configOf(a))};
+}
+
 TEST(ConfigSortOrder, Keys) {
-    const std::tuple<const char *, Order, List, List, List> rows[] = {
-#define KEY(...) {__VA_ARGS__},
+#define KEY(reason, expected, ...) EXPECT_EQ(orderOf(__VA_ARGS__), expected) << reason;
 #include "profiles/data/sort_keys.def"
-    };
-    for (const auto &[reason, expected, request, a, b] : rows) {
-        const egl::ConfigSortOrder order(ended(request).data());
-        EXPECT_EQ(Order(order(configOf(a), configOf(b)), order(configOf(b), configOf(a))), expected) << reason;
-    }
 }
 
 TEST(SortConfigs, MoreColourBitsAreNoAdvantage) {

@@ -1,6 +1,7 @@
 #include "profiles/config.h"
 
 #include <algorithm>
+#include <array>
 #include <tuple>
 
 #include <EGL/egl.h>
@@ -24,12 +25,9 @@ TEST(ConfigMatch, Rules) {
         configOf({EGL_BUFFER_SIZE, 5, EGL_RED_SIZE, 5, EGL_GREEN_SIZE, 5, EGL_BLUE_SIZE, 5, EGL_ALPHA_SIZE, 5,
                   EGL_DEPTH_SIZE, 5, EGL_STENCIL_SIZE, 5, EGL_SAMPLES, 5, EGL_SAMPLE_BUFFERS, 5});
     const Config clear = configOf({EGL_TRANSPARENT_TYPE, EGL_TRANSPARENT_RGB, EGL_TRANSPARENT_GREEN_VALUE, 7});
-    const std::tuple<const Config &, bool, const char *, List> rows[] = {
-#define MATCH(...) {__VA_ARGS__},
+#define MATCH(config, isMatch, reason, ...)                                                                            \
+    EXPECT_EQ(config.matches(ended(__VA_ARGS__).data()), isMatch) << reason << ": " << #__VA_ARGS__;
 #include "profiles/data/matches.def"
-    };
-    for (const auto &[config, isMatch, reason, list] : rows)
-        EXPECT_EQ(config.matches(ended(list).data()), isMatch) << reason << testing::PrintToString(list);
     EXPECT_TRUE(plain.matches(nullptr));
 }
 
@@ -81,7 +79,7 @@ TEST(ConfigList, StoresHandlesUpToTheSize) {
 }
 
 TEST(DeviceProfile, AllowsExactlyItsVersions) {
-    const std::tuple<int32_t, int32_t, int32_t> rows[] = {
+    const std::array<int32_t, 3> rows[] = {
 #define VERSION(...) {__VA_ARGS__},
 #include "profiles/data/allowed_versions.def"
     };

@@ -38,12 +38,8 @@ TEST(EmbeddedProfiles, AreTheFilesInTheirOrderReadWhole) {
 }
 
 TEST(EmbeddedProfiles, ANameIsTheDeviceOrElseTheRenderer) {
-    const std::pair<const char *, const char *> rows[] = {
-#define NAME(...) {__VA_ARGS__},
+#define NAME(text, name) EXPECT_EQ(egl::profileDisplayName(text), name) << text;
 #include "profiles/data/profile_names.def"
-    };
-    for (const auto &[text, name] : rows)
-        EXPECT_EQ(egl::profileDisplayName(text), name) << text;
 }
 
 } // namespace

@@ -29,12 +29,8 @@ std::optional<int32_t> valueIn(const std::string &config, int32_t attribute) {
 }
 
 TEST(ProfileReader, ReadsEachElementByItsKind) {
-    const std::tuple<std::string, const char *, int32_t, std::optional<int32_t>> rows[] = {
-#define ELEMENT(...) {__VA_ARGS__},
+#define ELEMENT(config, reason, attribute, value) EXPECT_EQ(valueIn(config, attribute), value) << reason << config;
 #include "profiles/data/elements.def"
-    };
-    for (const auto &[config, why, attribute, expected] : rows)
-        EXPECT_EQ(valueIn(config, attribute), expected) << why << ": " << config;
 }
 
 TEST(ProfileReader, TakesConfigsAndVersionsFromWhatIsAProfile) {
@@ -76,7 +72,7 @@ protected:
 
     const std::filesystem::path directory = std::filesystem::path(getenv("HOME")) / "profiles";
     DeviceProfile profile;
-    std::string text;
+    std::string text = "as before";
 };
 
 TEST_F(ProfileFiles, AFileIsFoundByItsWholeNameUnlessOneIsEmbedded) {
@@ -85,7 +81,9 @@ TEST_F(ProfileFiles, AFileIsFoundByItsWholeNameUnlessOneIsEmbedded) {
     write("TI PandaBoard", device);
     write("cut", "<profile><egl>");
     mkfifo((directory / "pipe").c_str(), 0600); // opening it would wait for ever
-    for (const char *name : {"", "a device", "cut", ".", "pipe", "../profiles/missing", "ti pandaboard"}) {
+    EXPECT_FALSE(load("missing"));
+    EXPECT_EQ(text, "as before");
+    for (const char *name : {"", "a device", "cut", ".", "pipe", "ti pandaboard"}) {
         EXPECT_FALSE(load(name)) << name;
         EXPECT_EQ(profile.name, "") << name;
     }
@@ -94,16 +92,6 @@ TEST_F(ProfileFiles, AFileIsFoundByItsWholeNameUnlessOneIsEmbedded) {
     EXPECT_EQ(text, device);
     EXPECT_TRUE(load("TI PandaBoard"));
     EXPECT_EQ(profile.configs.size(), 10u);
-}
-
-TEST_F(ProfileFiles, AHugeFileIsReadToItsEnd) {
-    const std::string rubbish = "<extension>" + std::string(5000, '&') + "</extension>";
-    std::string large = "<profile><egl>";
-    for (int i = 0; large.size() < 50'000'000; ++i)
-        large += "<config id=\"" + std::to_string(i % 7) + "\">" + rubbish + "</config>";
-    write("large", large + "<config id=\"7\"/></egl></profile>");
-    ASSERT_TRUE(load("large"));
-    EXPECT_EQ(profile.configs.size(), 8u);
 }
 
 } // namespace
