@@ -118,43 +118,35 @@ const std::map<std::string, void (*)(Bench &)> steps = {
     {"title of a bad view", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.host.badView()), ""); }},
 };
 
-struct Promise {
-    const char *operation, *precondition, *promise;
-    unsigned on;
-    const char *steps;
-};
+// The steps are words between commas.
+void keep(OperationsHost &host, const std::string &row, unsigned on, const char *words) {
+    if (!(on & host.implementation())) return;
+    SCOPED_TRACE(row);
+    Bench bench{host};
+    std::istringstream stream(words);
+    for (std::string step; std::getline(stream >> std::ws, step, ',');)
+        steps.at(step)(bench);
+    operations.clearCurrentContext();
+}
 
-const Promise promises[] = {
-#define PROMISE(...) {__VA_ARGS__},
-#include "host/data/promises.def"
-};
-
-const List formats[] = {
-#define FORMAT(...) {__VA_ARGS__},
-#include "host/data/formats.def"
-};
+void expectAtLeast(const List &list) {
+    const auto chosen = format(list);
+    ASSERT_NE(chosen, nullptr) << testing::PrintToString(list);
+    for (size_t i = 0; list[i]; ++i) {
+        const uint32_t attribute = list[i];
+        const int32_t value = attribute == DoubleBuffer ? 1 : static_cast<int32_t>(list[++i]);
+        const bool isNear = attribute == SampleBuffers || attribute == Samples;
+        EXPECT_TRUE(isNear || operations.pixelFormatValue(chosen.get(), attribute) >= value) << attribute;
+    }
+}
 
 TEST(Operations, KeepTheirPromises) {
     const auto host = makeOperationsHost();
-    for (const auto &row : promises) {
-        if (!(row.on & host->implementation())) continue;
-        SCOPED_TRACE(std::string(row.operation) + ", " + row.precondition + ": " + row.promise);
-        Bench bench{*host};
-        std::istringstream words(row.steps);
-        for (std::string step; std::getline(words >> std::ws, step, ',');)
-            steps.at(step)(bench);
-        operations.clearCurrentContext();
-    }
-    for (const List &list : formats) {
-        const auto chosen = format(list);
-        ASSERT_NE(chosen, nullptr) << testing::PrintToString(list);
-        for (size_t i = 0; list[i]; ++i) {
-            const uint32_t attribute = list[i];
-            const int32_t value = attribute == DoubleBuffer ? 1 : static_cast<int32_t>(list[++i]);
-            const bool isNear = attribute == SampleBuffers || attribute == Samples;
-            EXPECT_TRUE(isNear || operations.pixelFormatValue(chosen.get(), attribute) >= value) << attribute;
-        }
-    }
+#define PROMISE(operation, precondition, promise, on, words)                                                           \
+    keep(*host, operation ", " precondition ": " promise, on, words);
+#include "host/data/promises.def"
+#define FORMAT(...) expectAtLeast({__VA_ARGS__});
+#include "host/data/formats.def"
 }
 
 } // namespace
