@@ -3,13 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <array>
 
 #include "capability/feature_checks.h"
 #include "capability/feature_texts.h"
 #include "capability/host_egl.h"
 #include "capability/scripted_host.h"
 #include "fakes/every_extension.h"
+#include "support/file_text.h"
 
 using namespace capability;
 using testing::ElementsAre;
@@ -69,63 +69,34 @@ TEST(FeatureSets, ALevelBindsWhatIsItsOwnByTheNamesOfItsVariant) {
 }
 
 TEST(FeatureSets, VariantsFollowVersionAndExtensions) {
-    const struct {
-        const char *version, *extensions;
-        int32_t vertexArrays, storage;
-        bool hasDirectStorage;
-        int32_t multisample, sampleShading, multisampleTextures, seamless;
-        const char *reason;
-    } rows[] = {
-        {"4.6", everyExtension, 0, 0, true, 0, 1, 0, 0, "everything; the core form comes first"},
-        {"4.0", "", 0, 0, false, 0, -1, -1, 0, "4.0 bare: core storage, and no direct form"},
-        {"3.3", "GL_ARB_texture_storage", 0, 1, true, 0, -1, -1, 0, "3.3 with texture storage"},
-        {"2.1", "GL_APPLE_vertex_array_object GL_EXT_framebuffer_multisample", 2, -1, false, 0, -1, -1, 0,
-         "the second way to multisampling is variant 0 too"},
-        {"2.1", "GL_ARB_texture_storage_multisample", -1, 1, true, -1, -1, -1, 0,
-         "the beginning of a longer name counts before 3.0"},
-        {"3.0", "GL_ARB_texture_storage_multisample", 0, -1, false, -1, -1, -1, 0, "but not from 3.0 on"},
-        {"3.0", "GL_ARB_texture_storage_multisample GL_ARB_texture_multisample", 0, -1, false, -1, -1, 1, 0,
-         "needs both of its extensions"},
-        {"1.0", everyExtension, 1, -1, false, -1, 1, 1, 1, "a version condition beside the extensions"},
-        {"5.0", "", 0, 0, false, 0, -1, 0, 0, "an unknown version passes every version test"},
-        {nullptr, everyExtension, -1, -1, false, -1, -1, -1, -1, "no version text fails every test"},
+    const std::tuple<const char *, const char *, const char *, bool, std::vector<int32_t>> rows[] = {
+#define VARIANTS(...) {__VA_ARGS__},
+#include "capability/data/variants.def"
     };
-    for (const auto &row : rows) {
-        const ScriptedHost host(row.version, row.extensions);
+    for (const auto &[version, extensions, reason, hasDirectStorage, variants] : rows) {
+        const ScriptedHost host(version, extensions);
         const Es31Features set(host.library);
-        EXPECT_THAT((std::array{set.vertexArrayObjects.variant, set.textureStorage.variant,
-                                set.multisampledFramebuffers.variant, set.sampleShading.variant,
-                                set.multisampleTextures.variant, set.seamlessCubeMaps.variant}),
-                    ElementsAre(row.vertexArrays, row.storage, row.multisample, row.sampleShading,
-                                row.multisampleTextures, row.seamless))
-            << row.reason;
-        EXPECT_EQ(set.textureStorage.hasDirectStorage, row.hasDirectStorage) << row.reason;
+        EXPECT_THAT(variants, ElementsAre(set.vertexArrayObjects.variant, set.textureStorage.variant,
+                                          set.multisampledFramebuffers.variant, set.sampleShading.variant,
+                                          set.multisampleTextures.variant, set.seamlessCubeMaps.variant))
+            << reason;
+        EXPECT_EQ(set.textureStorage.hasDirectStorage, hasDirectStorage) << reason;
         EXPECT_EQ(set.uniforms.functions.size(), 44u) << "mandatory: looked up on any host";
     }
 }
 
 TEST(HostGlView, AsksByListOrByText) {
-    const struct {
-        const char *version, *extensions, *directory;
-        bool hasName, hasBeginning;
-        size_t known;
-        const char *reason;
-    } rows[] = {
-        {"3.0", "GL_ARB_sync GL_ARB_copy_image", "", true, false, 2, "a list compares whole names"},
-        {"3.0", "GL_ARB_sync GL_ARB_copy_image", "no_stringi", true, true, 2, "without the function, the text"},
-        {"2.1", " GL_ARB_sync\tGL_x\nGL_ARB_sync ", "", true, true, 2,
-         "any white space; repeats kept, unknown dropped"},
-        {"2.1", nullptr, "", false, false, 0, "no text"},
-        {nullptr, "GL_ARB_sync", "", true, true, 1, "no version is an old host"},
+    const std::tuple<const char *, const char *, const char *, bool, bool, size_t, const char *> rows[] = {
+#define VIEW(...) {__VA_ARGS__},
+#include "capability/data/views.def"
     };
-    for (const auto &row : rows) {
-        ScriptedHost host(row.version, row.extensions, row.directory);
+    for (const auto &[version, extensions, directory, hasName, hasBeginning, known, reason] : rows) {
+        const ScriptedHost host(version, extensions, directory);
         EsBaseFeatures set(host.library);
-        EXPECT_EQ(hostHasExtension(set.view(), "GL_ARB_sync"), row.hasName) << row.reason;
-        EXPECT_EQ(hostHasExtension(set.view(), "GL_ARB_syn"), row.hasBeginning) << row.reason;
-        EXPECT_EQ(hostExtensionIds(set).size(), row.known) << row.reason;
-        EXPECT_FALSE(hostHasExtension(set.view(), ""));
-        EXPECT_FALSE(hostHasExtension(set.view(), nullptr));
+        EXPECT_EQ(hostHasExtension(set.view(), "GL_ARB_sync"), hasName) << reason;
+        EXPECT_EQ(hostHasExtension(set.view(), "GL_ARB_syn"), hasBeginning) << reason;
+        EXPECT_EQ(hostExtensionIds(set).size(), known) << reason;
+        EXPECT_FALSE(hostHasExtension(set.view(), "") || hostHasExtension(set.view(), nullptr));
     }
     EXPECT_TRUE(hostHasExtension({}, "")) << "before any look at the name";
     EXPECT_EQ(hostGlVersion({}), 20);
@@ -155,13 +126,9 @@ TEST(FeatureSets, NothingIsLookedUpInAClosedLibraryOrAgainstTheModel) {
 
 TEST(FeatureTexts, TellWhatIsMissing) {
     const FeatureAlternative version{0, 12, {}}, both{1, 3, {"GL_a", "GL_b"}}, none{2, 1, {}};
-    const std::string atLeast = "OpenGL version must be at least ",
-                      second = atLeast + "1.2 and the following extensions must be supported: 'GL_a' 'GL_b'",
-                      all = atLeast + "3.3\nOR\n" + second + "\nOR\n\nOR\n";
-    const std::pair<uint32_t, std::string> rows[] = {{0, all}, {1, second}, {2, ""}, {7, all}};
-    for (const auto &[variant, text] : rows)
-        EXPECT_EQ(describeRequirements({{version, both, none}}, variant), text) << variant;
-    EXPECT_EQ(describeFeatureFailure(descriptorOf(Feature::sampleShading), 1),
-              "This feature cannot be emulated on the host system: 'sample shading'\n"
-              "The following extensions must be supported: 'GL_ARB_sample_shading'");
+    std::string told;
+    for (const uint32_t variant : {0, 1, 2, 7})
+        told += describeRequirements({{version, both, none}}, variant) + "\n--\n";
+    told += describeFeatureFailure(descriptorOf(Feature::sampleShading), 1) + "\n";
+    EXPECT_EQ(told, fileText(ZELVANE_SOURCE_DIR "/tests/capability/data/requirements.txt"));
 }

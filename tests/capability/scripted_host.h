@@ -1,6 +1,7 @@
 // A host OpenGL library with a version and an extension list of the test's own.
 #pragma once
 
+#include <stdexcept>
 #include <string>
 
 #include "fakes/control.h"
@@ -9,7 +10,12 @@
 class ScriptedHost {
 public:
     // Null texts are those that the host does not give. The texts must outlive the host.
-    explicit ScriptedHost(const char *version, const char *extensions = "", const std::string &directory = "");
+    explicit ScriptedHost(const char *version, const char *extensions = "", const std::string &directory = "") {
+        if (!library.open({FAKE_GL_DIRECTORY "/" + directory})) throw std::runtime_error("no fake libGL");
+        script = reinterpret_cast<FakeGl *(*)()>(library.getSymbol("fakeGl"))();
+        script->version = version;
+        script->extensions = extensions;
+    }
 
     DynamicLibrary library{"libGL.so.1"};
     FakeGl *script = nullptr;

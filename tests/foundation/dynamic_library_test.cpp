@@ -40,10 +40,8 @@ TEST_F(DynamicLibraryTest, SearchOrder) {
     const fs::path inTemporary = fs::path(getenv("TMPDIR")) / "bare.so";
     fs::copy_file(ZELVANE_LOADABLE, inTemporary);
     const std::tuple<std::string, std::vector<std::string>, bool, const char *> rows[] = {
-        {name, {missing, directory.string() + "/"}, true, "found in the second, two slashes in a row"},
-        {name, {missing}, false, "found nowhere"},
-        {name, {}, false, "bare name outside the temporary directory"},
-        {"bare.so", {missing}, true, "bare name in the temporary directory, where the link points from"},
+#define SEARCH(...) {__VA_ARGS__},
+#include "foundation/data/searches.def"
     };
     for (const auto &[file, paths, isLoaded, reason] : rows) {
         DynamicLibrary tried(file);

@@ -60,17 +60,6 @@ protected:
     }
 };
 
-// Threads that start together: body(index), each with no context at first.
-void runThreads(int count, const std::function<void(int)> &body) {
-    std::barrier start(count);
-    std::vector<std::jthread> threads;
-    for (int index = 0; index < count; ++index)
-        threads.emplace_back([&, index] {
-            start.arrive_and_wait();
-            body(index);
-        });
-}
-
 } // namespace
 
 namespace egl {
@@ -91,8 +80,7 @@ TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
         EXPECT_EQ(name, "glName");
         return address(context == contextAt(0) ? answerOne : answerTwo);
     };
-    for (const int round : {0, 1}) {
-        SCOPED_TRACE(round);
+    for ([[maybe_unused]] const int round : {0, 1}) {
         egl::threadRecord.current = contextAt(0);
         EXPECT_EQ(entry(), 1);
         egl::threadRecord.current = contextAt(1);
@@ -164,15 +152,18 @@ TEST_F(EntryProxy, ThreadsAskOnceForEachContextWhileOthersCall) {
         return context < contextAt(32) ? address(answerOne) : nullptr;
     };
     std::barrier<> pairs[] = {std::barrier<>(2), std::barrier<>(2)};
-    runThreads(4, [&](int thread) {
-        for (int index = 0; index < 64; ++index) {
-            const int own = (index + thread / 2 * 16) % 64;
-            egl::threadRecord.current = contextAt(own);
-            pairs[thread / 2].arrive_and_wait();
-            for (int call = 0; call < 20; ++call)
-                ASSERT_EQ((Entry<record, int()>::call()), own < 32 ? 1 : 0);
-        }
-    });
+    std::vector<std::jthread> threads;
+    for (int thread = 0; thread < 4; ++thread)
+        threads.emplace_back([&, thread] {
+            for (int index = 0; index < 64; ++index) {
+                const int own = (index + thread / 2 * 16) % 64;
+                egl::threadRecord.current = contextAt(own);
+                pairs[thread / 2].arrive_and_wait();
+                for (int call = 0; call < 20; ++call)
+                    EXPECT_EQ((Entry<record, int()>::call()), own < 32 ? 1 : 0);
+            }
+        });
+    threads.clear();
     EXPECT_EQ(questions, 64u);
     const std::string line = "Attempted to use an unsupported extension function: 'glShared'";
     EXPECT_THAT(errors, AllOf(SizeIs(32), Each(line)));

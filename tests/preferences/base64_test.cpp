@@ -5,18 +5,15 @@
 #include <sstream>
 #include <tuple>
 
+#include "preferences/byte_buffers.h"
+
 namespace {
 
 TEST(Base64, LinesPadsAndForeignCharacters) {
     const std::string line(72, 'A');
     const std::tuple<std::string, std::string, bool, const char *> rows[] = {
-        {"", "\n", true, "a final line feed in all cases"},
-        {"f", "Zg==\n", true, "one byte: two pads"},
-        {"\xff\xef\xbe", "/+++\n", true, "bytes above 127, the last characters of the alphabet"},
-        {std::string(54, '\0'), line + "\n\n", true, "a full line has its own line feed"},
-        {std::string(109, '\0'), line + "\n" + line + "\nAA==\n", true, "the count of groups starts anew"},
-        {"foo", "Z m\n9%v\xff\x80", false, "foreign characters are skipped"},
-        {"", "Z", false, "a cut group gives no byte for its rest"},
+#define BASE64(...) {__VA_ARGS__},
+#include "preferences/data/base64.def"
     };
     for (const auto &[bytes, text, isEncoded, reason] : rows) {
         std::istringstream plain(bytes), coded(text);
@@ -25,6 +22,15 @@ TEST(Base64, LinesPadsAndForeignCharacters) {
         EXPECT_EQ(decoded.str(), bytes) << reason;
         EXPECT_EQ(encoded.str() == text, isEncoded) << reason;
     }
+}
+
+// The sum of capacity and count is one of 32 bits: a wrapped one must not be written behind.
+TEST(ByteBuffers, RefusesSingleCharactersAndSumsThatWrap) {
+    CVectorByteWrapper buffer;
+    EXPECT_EQ(buffer.sputn("aa", 2), 2);
+    EXPECT_EQ(buffer.sputc('x'), std::char_traits<char>::eof());
+    EXPECT_EQ(buffer.sputn("f", 0xffffffff) + buffer.sputn("f", 0x100000001), 0);
+    EXPECT_EQ(buffer.bytes().size(), 2u);
 }
 
 } // namespace

@@ -27,21 +27,17 @@ protected:
     std::string error;
 };
 
-TEST_F(PreferenceFileTest, ReadingMakesDirectoriesAndTemplate) {
+TEST_F(PreferenceFileTest, ReadingMakesDirectoriesAndTemplateOrNamesTheStepThatFailed) {
     const mode_t mask = umask(0);
     const auto record = open(readPreferences, false);
     umask(mask);
     ASSERT_NE(record.stream, nullptr) << error;
     files.closePreferenceFile(record, false);
-    EXPECT_EQ(text(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                      "<!DOCTYPE plist PUBLIC \"-//Apple Computer//DTD PLIST 1.0//EN\" "
-                      "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-                      "<plist version=\"1.0\">\n<dict>\n</dict>\n</plist>\n");
+    EXPECT_EQ(text(), fileText(ZELVANE_SOURCE_DIR "/tests/preferences/data/template.plist"));
     for (const auto &made : {home, directory.parent_path(), directory})
         EXPECT_EQ(static_cast<unsigned>(fs::status(made).permissions()), 0775u) << made;
-}
+    fs::remove_all(home);
 
-TEST_F(PreferenceFileTest, FailuresNameTheStep) {
     fs::create_directories(home);
     std::ofstream(home / ".kzrconfig") << "in the way";
     expectFailure(readPreferences, "Failed to create preference directory structure", ENOTDIR);
@@ -57,11 +53,8 @@ TEST_F(PreferenceFileTest, FailuresNameTheStep) {
 
 TEST_F(PreferenceFileTest, WritesByModeAndCommits) {
     const std::tuple<int, bool, bool, const char *, const char *> rows[] = {
-        {writePreferences, true, true, "new", "commit takes the temporary file"},
-        {writePreferences, true, false, "old", "without a commit the file stays"},
-        {writePreferences, false, false, "new", "written in place"},
-        {2, true, false, "new", "other modes write in place whatever atomic says"},
-        {writePreferences, false, true, "", "a commit without a temporary file deletes the file"},
+#define COMMIT(...) {__VA_ARGS__},
+#include "preferences/data/commits.def"
     };
     for (const auto &[mode, isAtomic, commits, after, reason] : rows) {
         write("old");

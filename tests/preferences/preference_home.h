@@ -4,12 +4,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "support/environment.h"
+#include "support/file_text.h"
 
 class PreferenceHome : public testing::Test {
 protected:
@@ -23,10 +23,7 @@ protected:
     void writePairs(const std::string &pairs) const {
         write("<plist version=\"1.0\"><dict>" + pairs + "</dict></plist>");
     }
-    std::string text() const {
-        std::ifstream stream(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    std::string text() const { return fileText(file); }
 
     const std::filesystem::path home = std::filesystem::path(getenv("HOME")) / "preferences";
     const std::filesystem::path directory = home / ".kzrconfig" / "Tarnwell Graphics";

@@ -8,23 +8,19 @@
 namespace {
 
 using SettingsTest = PreferenceHome;
-using HostConfigurationDeathTest = PreferenceHome;
 
 const std::string directoryPair = "<key>profiles_directory</key><string>/profiles</string>";
 const std::string otherPairs = "<key>current_profile</key><string>phone</string>"
                                "<key>strict_context_mode</key><true/><key>radeon_hd_hack</key><true/>";
 
 TEST_F(SettingsTest, ReadsTheSectionOfThisVersion) {
-    const std::tuple<std::string, std::string, std::string, std::string, bool, bool> rows[] = {
-        {"Zelvane 6.31", directoryPair + otherPairs, "/profiles", "phone", true, true}, // every key
-        {"Zelvane 6.30", directoryPair + otherPairs, "", "", true, false},              // another version
-        {"Zelvane 6.31", otherPairs, "", "", true, true}, // no profile without a directory
-        {"Zelvane 6.31", "<key>strict_context_mode</key><string>true</string>", "", "", true, false}, // wrong type
-        {"Zelvane 6.31", "<true/>", "", "", false, false},                                            // no key
+    const std::tuple<const char *, std::string, std::string, std::string, std::string, bool, bool> rows[] = {
+#define SECTION(...) {__VA_ARGS__},
+#include "preferences/data/sections.def"
     };
     std::string error;
-    for (const auto &[section, pairs, directory, profile, isLoaded, isStrict] : rows) {
-        SCOPED_TRACE(section + pairs);
+    for (const auto &[reason, section, pairs, directory, profile, isLoaded, isStrict] : rows) {
+        SCOPED_TRACE(reason);
         Settings settings;
         writePairs("<key>" + section + "</key><dict>" + pairs + "</dict>");
         EXPECT_EQ(settings.load(error), isLoaded);
@@ -47,19 +43,16 @@ TEST_F(SettingsTest, VariableSeedsTheDirectoryOnce) {
     }
 }
 
-// The word is looked up once in a process, so that this runs in one of its own.
-TEST_F(HostConfigurationDeathTest, WordOfTheProcess) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto loadEmbedded = [&] {
-        Settings settings;
-        std::string error;
-        writePairs("<key>Zelvane 6.31</key><dict>" + directoryPair + otherPairs + "</dict>");
-        const bool isLoaded = dlopen(ZELVANE_EMBEDDER, RTLD_NOW | RTLD_GLOBAL) && settings.load(error);
-        const bool isProfileIgnored =
-            settings.getProfilesDirectory() == "/profiles" && settings.getCurrentProfile().empty();
-        _exit(isLoaded && isProfileIgnored && getHostConfiguration() == 6 ? 0 : 2);
-    };
-    EXPECT_EXIT(loadEmbedded(), testing::ExitedWithCode(0), "");
+// The word is looked up once in a process, and this case has one of its own.
+TEST_F(SettingsTest, WordOfTheProcess) {
+    ASSERT_TRUE(dlopen(ZELVANE_EMBEDDER, RTLD_NOW | RTLD_GLOBAL));
+    writePairs("<key>Zelvane 6.31</key><dict>" + directoryPair + otherPairs + "</dict>");
+    Settings settings;
+    std::string error;
+    EXPECT_TRUE(settings.load(error)) << error;
+    EXPECT_EQ(settings.getProfilesDirectory(), "/profiles");
+    EXPECT_EQ(settings.getCurrentProfile(), "") << "ignored";
+    EXPECT_EQ(getHostConfiguration(), 6u);
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include <numeric>
 #include <random>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -23,19 +22,8 @@ std::string sorted(std::string records) {
 }
 
 TEST(PartitionSort, OrderThatIsNotTransitiveLeavesWhatTheStepsLeave) {
-    const std::tuple<const char *, const char *, const char *> rows[] = {
-        {"", "", "nothing"},
-        {"21", "12", "two of a group"},
-        {"3B1", "3B1", "first and last never meet"},
-        {"4B10", "4B01", "the fourth sinks to a barrier"},
-        {"321ZB0", "123BZ0", "six are sorted by insertion"},
-        {"6F4D2B0", "BD4F026", "one record is found for the first place"},
-        {"15B3aA2H", "1HBAa235", "none before the pivot: two pairs swap, the top goes on"},
-        {"0123456789:;<=UTSRQPONMLKaA", "0123456789:;<=AKLMNOPQSTUaR", "gives up after eight moves: A gets past a"},
-        {"0123456789:;<FaAzyxwvutsr", "0123456789:;<FaArstuvwxyz", "the eighth move is of the last record: no more"},
-    };
-    for (const auto &[input, output, reason] : rows)
-        EXPECT_EQ(sorted(input), output) << reason;
+#define SORT(records, expected, reason) EXPECT_EQ(sorted(records), expected) << reason;
+#include "profiles/data/partition_sorts.def"
 }
 
 // Applications see the order that the steps leave, so that a hash of many results has to stay as it is.

@@ -10,6 +10,7 @@
 #include "host/operations_host.h"
 #include "host/pixel_format.h"
 #include "host/probe_context.h"
+#include "support/file_text.h"
 
 namespace {
 
@@ -18,20 +19,17 @@ using namespace host;
 using namespace host::platform;
 using namespace std::string_literals;
 
+// The conversation of a case is a file in data/.
 class Cocoa : public testing::Test {
 protected:
     Cocoa() { restart(); }
+    static void expectMessages(const char *file) {
+        EXPECT_EQ(messages, fileText(ZELVANE_SOURCE_DIR "/tests/host/cocoa/data/"s + file));
+    }
 };
 
-const PixelFormatRequest shared = {.hasWindowBit = true,
-                                   .redSize = 8,
-                                   .greenSize = 8,
-                                   .blueSize = 8,
-                                   .alphaSize = 8,
-                                   .depthSize = 24,
-                                   .stencilSize = 8,
-                                   .sampleBuffers = 1,
-                                   .samples = 4};
+// display, hasWindowBit, red, green, blue, alpha, depth, stencil, sample buffers, samples
+const PixelFormatRequest shared = {0, true, 8, 8, 8, 8, 24, 8, 1, 4};
 
 std::shared_ptr<glove::ISurface> surfaceOf(const View &view) {
     return createHostWindowSurface(view.display, view.window);
@@ -41,33 +39,21 @@ TEST_F(Cocoa, AttributeListsToTheNumber) {
     auto *format = makeHostPixelFormat(shared);
     static_cast<void>(makeHostPixelFormat({}));
     static_cast<void>(makeProbePixelFormat());
-    EXPECT_EQ(takeMessages(), "NSOpenGLPixelFormat1 init 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0\n"
-                              "NSOpenGLPixelFormat2 init 99 12800 8 0 11 0 12 0 13 0 55 0 56 0 0\n"
-                              "NSOpenGLPixelFormat3 init 99 12800 0\n");
     auto *single = makeHostPixelFormat({.redSize = 8, .samples = 4});
-    for (const auto &[from, number, legacy, list] :
-         {std::tuple(format, "1", 1, "99 4096 5 8 24 11 8 12 24 13 8 55 1 56 4 0"),
-          {format, "1", 0, "99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0"},
-          {format, "1", 2, "99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0"},
-          {single, "4", 0, "99 12800 5 8 8 11 0 12 0 13 0 55 0 56 4 0"}}) {
-        takeMessages();
+    const std::tuple<const char *, PixelFormat *, int> rows[] = {
+        {"legacy", format, 1}, {"core", format, 0}, {"any", format, 2}, {"core, single", single, 0}};
+    for (const auto &[name, from, legacy] : rows) {
+        messages += "-- "s + name + "\n";
         const auto handle = createHostContext({.format = from, .legacy = legacy});
-        std::string expected;
-        for (const char *attribute : {"5", "8", "11", "12", "13", "55", "56"})
-            expected += "NSOpenGLPixelFormat"s + number + " getValues " + attribute + " 0\n";
-        const auto messages = takeMessages();
-        EXPECT_EQ(messages.substr(0, expected.size()), expected) << "for virtual screen 0";
-        EXPECT_NE(messages.find(" init "s + list + "\n"), std::string::npos) << messages;
     }
+    expectMessages("attribute_lists.txt");
 }
 
 TEST_F(Cocoa, OwnersOfEachObject) {
     auto *format = makeHostPixelFormat(shared);
     auto first = createHostContext({.format = format});
     auto second = createHostContext({.format = format, .share = first->context});
-    EXPECT_NE(takeMessages().find("NSOpenGLContext2 init NSOpenGLPixelFormat3 NSOpenGLContext1\n"), std::string::npos);
-    const auto surface = surfaceOf(makeView(4, 4, "t"));
-    EXPECT_TRUE(makeHostContextCurrent(second.get(), surface));
+    EXPECT_TRUE(makeHostContextCurrent(second.get(), surfaceOf(makeView(4, 4, "t"))));
     setHostSwapInterval(second.get(), 7);
     const void *context = current();
     EXPECT_EQ(retainCount(second->context->container()), 1u);
@@ -77,62 +63,55 @@ TEST_F(Cocoa, OwnersOfEachObject) {
     operations.restoreBinding(saved);
     EXPECT_EQ(retainCount(context), 1u);
     EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
-    takeMessages();
+    messages += "-- the second goes, neither its format nor its share context\n";
     second.reset();
-    EXPECT_EQ(takeMessages(), "NSOpenGLContext2 dealloc\n") << "neither its format nor its share context";
+    messages += "-- no format, no context\n";
     EXPECT_EQ(createHostContext({.format = nullptr})->context->container(), nullptr);
-    EXPECT_EQ(takeMessages(), "");
+    messages += "-- the format goes, a buffer comes\n";
     operations.releasePixelFormat(format);
     const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 64, 32));
     EXPECT_EQ(retainCount(buffer.get()), 1u);
-    EXPECT_EQ(takeMessages(), "NSOpenGLPixelFormat1 dealloc\nNSOpenGLPixelBuffer1 init 0 0 0 64 32\n");
+    expectMessages("owners.txt");
 }
 
 TEST_F(Cocoa, BindingInOrder) {
     const auto handle = createHostContext({.format = makeHostPixelFormat(shared)});
     auto *buffer = operations.createPixelBuffer(0, 0, 0, 4, 4);
     const View view = makeView(4, 4, "t"), other = makeView(4, 4, "t");
-    const auto window = surfaceOf(view), late = surfaceOf(other), odd = surfaceOf(makeOther()),
-               disguised = surfaceOf({0, reinterpret_cast<uint64_t>(buffer)});
-    const auto pbuffer = createHostPBufferSurface(nullptr);
-    const auto bind = [&](const std::shared_ptr<glove::ISurface> &surface) {
-        takeMessages();
-        EXPECT_TRUE(makeHostContextCurrent(handle.get(), surface));
-        return takeMessages();
+    const auto window = surfaceOf(view), late = surfaceOf(other);
+    const std::pair<const char *, std::shared_ptr<glove::ISurface>> rows[] = {
+        {"nothing: detached only", nullptr},
+        {"no class that can be attached", surfaceOf(makeOther())},
+        {"a window", window},
+        {"a buffer as a window", surfaceOf({0, reinterpret_cast<uint64_t>(buffer)})},
+        {"a buffer", createHostPBufferSurface(nullptr)},
+        {"the window again", window},
+        {"and again", window},
     };
-    EXPECT_EQ(bind(nullptr), "NSOpenGLContext1 setView nil\n");
-    EXPECT_EQ(current(), nullptr) << "detached only";
-    EXPECT_EQ(bind(odd), "NSOpenGLContext1 makeCurrentContext\n") << "no class that can be attached";
-    EXPECT_EQ(bind(window), "NSOpenGLContext1 setView NSView1\n");
-    EXPECT_EQ(bind(disguised), "NSOpenGLContext1 setPixelBuffer NSOpenGLPixelBuffer1 0 0 0\n");
-    EXPECT_EQ(bind(pbuffer), "NSOpenGLContext1 setPixelBuffer NSOpenGLPixelBuffer2 0 0 0\n");
-    for (int i = 0; i < 9; ++i)
-        EXPECT_EQ(bind(window), "NSOpenGLContext1 setView NSView1\n");
+    messages.clear();
+    for (const auto &[name, surface] : rows) {
+        messages += "-- "s + name + "\n";
+        EXPECT_TRUE(makeHostContextCurrent(handle.get(), surface));
+        EXPECT_EQ(current() == nullptr, surface == nullptr);
+    }
+    messages += "-- swap, each surface\n";
     window->swapBuffers();
     late->swapBuffers();
     setHostSwapInterval(handle.get(), -3);
-    EXPECT_EQ(takeMessages(), "NSOpenGLContext1 flushBuffer\nNSOpenGLContext1 setValues -3 222\n");
-
+    messages += "-- the frame of a view that was never bound\n";
     setFrame(other, 5, 5);
-    EXPECT_EQ(takeMessages(), "") << "a view that was never bound";
+    messages += "-- and of one that was bound three times\n";
     setFrame(view, 5, 5);
-    std::string updates;
-    for (int i = 0; i < 10; ++i)
-        updates += "NSOpenGLContext1 update\n";
-    EXPECT_EQ(takeMessages(), updates) << "one for each of the ten binds";
     EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
-    EXPECT_EQ(takeMessages(), "NSOpenGLContext clearCurrentContext\n");
+    expectMessages("binding.txt");
 }
 
 TEST_F(Cocoa, ProbeWithNothingCurrent) {
     auto probe = createHostProbeContext(nullptr);
     EXPECT_TRUE(isHostProbeCurrent(*probe));
-    const auto messages = takeMessages();
-    EXPECT_TRUE(messages.starts_with("NSOpenGLPixelFormat1 init 99 12800 0\nNSOpenGLPixelFormat2 init 99 12800 0\n"));
-    EXPECT_TRUE(messages.ends_with("init NSOpenGLPixelFormat3 nil\nNSOpenGLContext1 makeCurrentContext\n")) << messages;
     destroyHostProbeContext(std::move(probe));
-    EXPECT_EQ(takeMessages(), "NSOpenGLContext clearCurrentContext\nNSOpenGLContext1 dealloc\n");
     EXPECT_EQ(current(), nullptr);
+    expectMessages("probe.txt");
 }
 
 TEST_F(Cocoa, FrameIsReadOnTheMainThread) {
@@ -140,15 +119,11 @@ TEST_F(Cocoa, FrameIsReadOnTheMainThread) {
     const auto expectSize = [&] {
         int32_t width = 0, height = 0;
         operations.viewSize(view, &width, &height);
-        EXPECT_EQ(width, 64);
-        EXPECT_EQ(height, 48);
+        EXPECT_EQ(std::pair(width, height), std::pair(64, 48));
     };
     expectSize();
-    EXPECT_EQ(takeMessages(), "NSView1 frame on the main thread\n");
-    std::thread thread(expectSize);
-    runMainQueueOnce();
-    thread.join();
-    EXPECT_EQ(takeMessages(), "dispatch_sync\nNSView1 frame on the main thread\n");
+    std::thread(expectSize).join();
+    EXPECT_EQ(messages, "NSView1 frame\ndispatch_sync begins\nNSView1 frame\ndispatch_sync ends\n");
     EXPECT_EQ(operations.viewTitle(view), "") << "in no window";
 }
 
@@ -167,9 +142,8 @@ TEST_F(Cocoa, NoPoolIsNeeded) {
 }
 
 TEST_F(Cocoa, NamesAndDirectories) {
-    EXPECT_EQ(hostOpenGLLibraryName, "libGL.dylib"s);
-    EXPECT_EQ(es1LibraryName, "libGLESv1_CM.dylib"s);
-    EXPECT_EQ(es2LibraryName, "libGLESv2.dylib"s);
+    EXPECT_EQ(hostOpenGLLibraryName + " "s + es1LibraryName + " " + es2LibraryName,
+              "libGL.dylib libGLESv1_CM.dylib libGLESv2.dylib");
     EXPECT_EQ(hostLibrarySearchPaths(),
               (std::vector{getOwnDirectory(), "/System/Library/Frameworks/OpenGL.framework/Libraries/"s}));
 }

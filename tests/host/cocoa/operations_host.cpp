@@ -19,7 +19,7 @@ public:
     void makeForeignCurrent() override { m_foreign = cocoa_tests::makeForeignCurrent(); }
     bool isForeignCurrent() override { return m_foreign && cocoa_tests::current() == m_foreign; }
     void refuseNext(const char *operation) override {
-        cocoa_tests::failNextInit(("NSOpenGL" + std::string(operation + sizeof("create") - 1)).c_str());
+        cocoa_tests::failingClass = "NSOpenGL" + std::string(operation + sizeof("create") - 1);
     }
 
 private:

@@ -11,11 +11,10 @@ namespace cocoa_tests {
 
 // Forgets all messages and counts objects from 1 again.
 void restart();
-// The messages since the last time.
-std::string takeMessages();
-
-// The next object of that class cannot be initialised.
-void failNextInit(const char *className);
+// What was noted; cases add lines of their own.
+extern std::string messages;
+// The next object of this class cannot be initialised.
+extern std::string failingClass;
 // Of any handle of the operations list.
 unsigned retainCount(const void *object);
 
@@ -29,8 +28,5 @@ host::platform::View makeOther();
 // Gives the context, and what is current on the thread, as addresses to compare.
 const void *makeForeignCurrent();
 const void *current();
-
-// Waits for a block on the main queue and runs it. Call on the main thread.
-void runMainQueueOnce();
 
 } // namespace cocoa_tests

@@ -1,28 +1,20 @@
 #import <Foundation/Foundation.h>
 
-#include <condition_variable>
 #include <map>
-#include <mutex>
 #include <sstream>
 #include <utility>
 
 #include "host/cocoa/platform_log.h"
 
+// Threads of the cases never run at the same time.
+std::string cocoa_tests::messages, cocoa_tests::failingClass;
+
 namespace {
 
-struct State {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::string messages;
-    std::string failingClass;
-    std::map<std::string, int> counts;
-    void (^block)(void) = nil; // what waits on the main queue
-};
+using namespace cocoa_tests;
 
-State &state() {
-    static auto *instance = new State;
-    return *instance;
-}
+std::map<std::string, int> counts;
+thread_local id currentContext = nil;
 
 std::string text(id object);
 
@@ -32,14 +24,11 @@ requires std::is_arithmetic_v<Number> std::string text(Number value) {
 }
 
 template <typename... Words>
-void note(id receiver, const char *message, Words... words) {
-    const std::lock_guard lock(state().mutex);
-    state().messages += text(receiver) + " " + message;
-    ((state().messages += " " + text(words)), ...);
-    state().messages += "\n";
+void note(id receiver, const std::string &message, Words... words) {
+    messages += text(receiver) + " " + message;
+    ((messages += " " + text(words)), ...);
+    messages += "\n";
 }
-
-thread_local id currentContext = nil;
 
 } // namespace
 
@@ -53,10 +42,9 @@ thread_local id currentContext = nil;
 @implementation Recorded
 - (id)init {
     const std::string name = class_getName([self class]);
-    const std::lock_guard lock(state().mutex);
-    m_number = ++state().counts[name];
-    if (state().failingClass != name) return self;
-    state().failingClass.clear();
+    m_number = ++counts[name];
+    if (failingClass != name) return self;
+    failingClass.clear();
     return nil;
 }
 - (void)dealloc {
@@ -90,7 +78,7 @@ std::string text(id object) {
         if (attribute != 5) words << *++list << " ";
         (*m_values)[attribute] = attribute == 5 ? 1 : static_cast<int32_t>(*list);
     }
-    note(self, ("init " + words.str() + "0").c_str());
+    note(self, "init " + words.str() + "0");
     return self;
 }
 - (void)getValues:(int32_t *)value forAttribute:(uint32_t)attribute forVirtualScreen:(int32_t)screen {
@@ -115,12 +103,10 @@ std::string text(id object) {
 }
 + (void)clearCurrentContext {
     currentContext = nil;
-    const std::lock_guard lock(state().mutex);
-    state().messages += "NSOpenGLContext clearCurrentContext\n";
+    messages += "NSOpenGLContext clearCurrentContext\n";
 }
 - (id)initWithFormat:(id)format shareContext:(id)share {
-    if (!(self = [super init])) return nil;
-    note(self, "init", format, share);
+    if ((self = [super init])) note(self, "init", format, share);
     return self;
 }
 - (void)makeCurrentContext {
@@ -157,55 +143,48 @@ std::string text(id object) {
 @end
 
 @interface NSOpenGLPixelBuffer : Recorded {
-    int32_t m_width, m_height;
+    int32_t pixelsWide, pixelsHigh;
 }
+@property(nonatomic) int32_t pixelsWide, pixelsHigh;
 @end
 
 @implementation NSOpenGLPixelBuffer
+@synthesize pixelsWide, pixelsHigh;
 - (id)initWithTextureTarget:(uint32_t)target
       textureInternalFormat:(uint32_t)format
       textureMaxMipMapLevel:(int32_t)level
                  pixelsWide:(int32_t)width
                  pixelsHigh:(int32_t)height {
     if (!(self = [super init])) return nil;
-    m_width = width;
-    m_height = height;
+    pixelsWide = width;
+    pixelsHigh = height;
     note(self, "init", target, format, level, width, height);
     return self;
-}
-- (int32_t)pixelsWide {
-    return m_width;
-}
-- (int32_t)pixelsHigh {
-    return m_height;
 }
 @end
 
 @interface NSWindow : Recorded {
-@public
-    NSString *m_title;
+    NSString *title;
 }
+@property(nonatomic, copy) NSString *title;
 @end
 
 @implementation NSWindow
-- (NSString *)title {
-    return m_title;
-}
+@synthesize title;
 @end
 
 @interface NSView : Recorded {
-@public
-    NSWindow *m_window;
+    NSWindow *window;
     NSRect m_frame;
 }
+@property(nonatomic, retain) NSWindow *window;
+@property(nonatomic) NSRect frame;
 @end
 
 @implementation NSView
-- (NSWindow *)window {
-    return m_window;
-}
+@synthesize window, frame = m_frame;
 - (NSRect)frame {
-    note(self, [NSThread isMainThread] ? "frame on the main thread" : "frame elsewhere");
+    note(self, "frame");
     return m_frame;
 }
 @end
@@ -217,11 +196,9 @@ extern "C" struct dispatch_queue_s *dispatch_get_main_queue() {
 }
 
 extern "C" void dispatch_sync(struct dispatch_queue_s *, void (^block)(void)) {
-    std::unique_lock lock(state().mutex);
-    state().messages += [NSThread isMainThread] ? "dispatch_sync would wait for itself\n" : "dispatch_sync\n";
-    state().block = block;
-    state().changed.notify_all();
-    state().changed.wait(lock, [] { return !state().block; });
+    messages += "dispatch_sync begins\n";
+    block();
+    messages += "dispatch_sync ends\n";
 }
 
 namespace cocoa_tests {
@@ -229,19 +206,8 @@ namespace cocoa_tests {
 using host::platform::View;
 
 void restart() {
-    const std::lock_guard lock(state().mutex);
-    state().messages.clear();
-    state().counts.clear();
-}
-
-std::string takeMessages() {
-    const std::lock_guard lock(state().mutex);
-    return std::exchange(state().messages, {});
-}
-
-void failNextInit(const char *className) {
-    const std::lock_guard lock(state().mutex);
-    state().failingClass = className;
+    messages.clear();
+    counts.clear();
 }
 
 unsigned retainCount(const void *object) {
@@ -250,16 +216,16 @@ unsigned retainCount(const void *object) {
 
 View makeView(double width, double height, const char *title, Place place) {
     NSView *view = [[NSView alloc] init];
-    view->m_frame = NSMakeRect(0, 0, width, height);
-    if (place == Place::inWindow) view->m_window = [[NSWindow alloc] init];
-    if (title) view->m_window->m_title = [[NSString alloc] initWithUTF8String:title];
+    view.frame = NSMakeRect(0, 0, width, height);
+    if (place == Place::inWindow) view.window = [[NSWindow alloc] init];
+    if (title) view.window.title = [[NSString alloc] initWithUTF8String:title];
     return {0, reinterpret_cast<uint64_t>(view)};
 }
 
 void setFrame(const View &view, double width, double height) {
     @autoreleasepool {
         NSView *changed = reinterpret_cast<NSView *>(view.window);
-        changed->m_frame = NSMakeRect(0, 0, width, height);
+        changed.frame = NSMakeRect(0, 0, width, height);
         [[NSNotificationCenter defaultCenter] postNotificationName:NSViewFrameDidChangeNotification object:changed];
     }
 }
@@ -274,17 +240,6 @@ const void *makeForeignCurrent() {
 
 const void *current() {
     return currentContext;
-}
-
-void runMainQueueOnce() {
-    std::unique_lock lock(state().mutex);
-    state().changed.wait(lock, [] { return state().block; });
-    auto block = state().block;
-    lock.unlock();
-    block();
-    lock.lock();
-    state().block = nil;
-    state().changed.notify_all();
 }
 
 } // namespace cocoa_tests

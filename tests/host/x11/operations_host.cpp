@@ -11,12 +11,8 @@ public:
     unsigned implementation() const override { return onX11; }
     View makeView(int width, int height, const char *title) override {
         const Window made = window(width, height);
-        if (title) {
-            XChangeProperty(application, made, XInternAtom(application, "_NET_WM_NAME", False),
-                            XInternAtom(application, "UTF8_STRING", False), 8, PropModeReplace,
-                            reinterpret_cast<const unsigned char *>(title), static_cast<int>(std::strlen(title)));
-        }
         XSync(application, False);
+        if (title) setText(made, "_NET_WM_NAME", "UTF8_STRING", title);
         return viewOf(made);
     }
     void resizeView(const View &view, int width, int height) override {

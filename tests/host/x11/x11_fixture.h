@@ -4,8 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstring>
-#include <vector>
+#include <string_view>
 
 #include "host/operations_host.h"
 
@@ -45,6 +44,13 @@ protected:
             XCreateSimpleWindow(application, DefaultRootWindow(application), 0, 0, width, height, 0, 0, 0);
         XMapWindow(application, result);
         return result;
+    }
+
+    void setText(Window window, const char *property, const char *type, std::string_view text) const {
+        XChangeProperty(application, window, XInternAtom(application, property, False),
+                        XInternAtom(application, type, False), 8, PropModeReplace,
+                        reinterpret_cast<const unsigned char *>(text.data()), static_cast<int>(text.size()));
+        XSync(application, False);
     }
 
     [[nodiscard]] View viewOf(Window window) const { return {reinterpret_cast<uint64_t>(application), window}; }

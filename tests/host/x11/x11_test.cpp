@@ -1,0 +1,149 @@
+// What the X11 operations promise beyond their list.
+#include "x11_fixture.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <string>
+#include <thread>
+
+#include <X11/Xatom.h>
+
+#include "host/platform/x11/connection.h"
+#include "host/platform/x11/x_calls.h"
+
+namespace {
+
+using OnX11 = X11Host;
+
+TEST_F(OnX11, ContextsHaveTheProfileOfTheFormatAndGoWhenReleasedAndNoLongerCurrent) {
+    const std::tuple<const uint32_t *, const char *, GLint> rows[] = {{coreList, "3.2", 1}, {legacyList, "1.4", 2}};
+    for (const auto &[list, oldest, profileMask] : rows) {
+        auto made = context(list);
+        ASSERT_TRUE(operations.makeCurrent(made.get()));
+        made.reset();
+        EXPECT_GE(std::string(glString(GL_VERSION)).substr(0, 3), oldest);
+        GLint mask = 0;
+        gl<void (*)(GLenum, GLint *)>("glGetIntegerv")(0x9126, &mask); // GL_CONTEXT_PROFILE_MASK
+        EXPECT_EQ(mask, profileMask);
+        operations.clearCurrentContext();
+        EXPECT_EQ(glXGetCurrentContext(), nullptr);
+    }
+    EXPECT_EQ(operations.createContext(nullptr, nullptr), nullptr);
+}
+
+TEST_F(OnX11, ThreadThatEndsWithAContextCurrentLetsItGo) {
+    auto made = context();
+    std::thread([&] { ASSERT_TRUE(operations.makeCurrent(made.get())); }).join();
+    EXPECT_TRUE(operations.makeCurrent(made.get()));
+}
+
+TEST_F(OnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
+    const auto made = context(), probe = context();
+    const Window target = window(64, 48); // not flushed: the layer has to wait for the application's connection
+    ASSERT_TRUE(operations.setView(made.get(), viewOf(target)));
+    ASSERT_TRUE(operations.makeCurrent(made.get()));
+    EXPECT_EQ(glXGetCurrentDrawable(), target);
+    auto *saved = operations.saveBinding();
+    ASSERT_TRUE(operations.makeCurrent(probe.get()));
+    operations.restoreBinding(saved);
+    EXPECT_EQ(glXGetCurrentDrawable(), target);
+    ASSERT_TRUE(operations.setView(made.get(), {}));
+    EXPECT_NE(glXGetCurrentDrawable(), target);
+}
+
+// An application that tries one config after the other on a window found the first one's child over all later frames.
+TEST_F(OnX11, ChildIsSeenOnlyWhileItIsDrawnTo) {
+    constexpr uint32_t list[] = {
+        OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, SampleBuffers, 1, Samples, 4, 0};
+    const auto direct = context(), sampled = context(list);
+    const Window target = window(64, 48);
+    for (const auto &[drawn, state] : {std::pair(sampled.get(), IsViewable), std::pair(direct.get(), IsUnmapped)}) {
+        ASSERT_TRUE(operations.setView(drawn, viewOf(target)) && operations.makeCurrent(drawn));
+        operations.flushBuffer(drawn);
+        operations.viewSize(viewOf(target), nullptr, nullptr); // waits for the layer's connection
+        Window root = 0, parent = 0, *children = nullptr;
+        unsigned count = 0;
+        XQueryTree(application, target, &root, &parent, &children, &count);
+        if (count == 0) GTEST_SKIP() << "this server has samples in its default visual";
+        XWindowAttributes attributes{};
+        XGetWindowAttributes(application, children[0], &attributes);
+        XFree(children);
+        EXPECT_EQ(attributes.map_state, state);
+    }
+}
+
+TEST_F(OnX11, PixelBuffersOutliveTheirReleaseAndLeaveTheContextCurrent) {
+    const auto made = context(), other = context(legacyList);
+    Buffer buffer(operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8));
+    for (const auto &context : {made.get(), other.get()})
+        ASSERT_TRUE(operations.setPixelBuffer(context, buffer.get()) && operations.makeCurrent(context));
+    buffer.reset();
+    EXPECT_TRUE(operations.setPixelBuffer(other.get(), nullptr));
+    EXPECT_EQ(operations.currentContext(), other.get());
+    EXPECT_TRUE(operations.makeCurrent(made.get()));
+}
+
+TEST_F(OnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
+    const Window target = window(8, 8);
+    XStoreName(application, target, "not sent yet");
+    EXPECT_EQ(operations.viewTitle(viewOf(target)), "not sent yet");
+    XDeleteProperty(application, target, XA_WM_NAME);
+    setText(target, "WM_NAME", "STRING", "Gr\xf6\xdf\x65");
+    EXPECT_EQ(operations.viewTitle({0, target}), "Gr\u00f6\u00dfe");
+    setText(target, "_NET_WM_NAME", "UTF8_STRING", "\u30bf\u30a4\u30c8\u30eb");
+    EXPECT_EQ(operations.viewTitle({0, target}), "\u30bf\u30a4\u30c8\u30eb");
+    const Window view = XCreateSimpleWindow(application, target, 0, 0, 4, 4, 0, 0, 0);
+    EXPECT_EQ(operations.viewTitle(viewOf(view)), "\u30bf\u30a4\u30c8\u30eb");
+}
+
+int applicationErrors = 0;
+
+TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
+    XSetErrorHandler([](Display *, XErrorEvent *) { return ++applicationErrors; });
+    XMapWindow(application, 0x12345); // still on its way when the trap is set
+    x11::ErrorTrap trap(application, X_UnmapWindow);
+    EXPECT_EQ(applicationErrors, 1);
+    XMapWindow(application, 0x12345); // another kind of request
+    EXPECT_FALSE(trap.sawError());
+    XUnmapWindow(application, 0x12345);
+    EXPECT_TRUE(trap.sawError());
+    EXPECT_EQ(applicationErrors, 2);
+}
+
+// The server dies under a context that draws. Where the application's handler lets the process live, it goes on, and
+// every operation fails.
+TEST(ServerThatDies, MakesEveryOperationFail) {
+    XSetIOErrorHandler([](Display *) { return 0; });
+    const std::string before = getenv("DISPLAY");
+    FILE *server = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp 2>/dev/null", "r");
+    int process = 0, display = -1;
+    ASSERT_EQ(fscanf(server, "%d %d", &process, &display), 2) << "Xvfb did not start";
+    setenv("DISPLAY", (":" + std::to_string(display)).c_str(), 1);
+
+    const Format format(operations.createPixelFormat(0, coreList));
+    const Context made(operations.createContext(format.get(), nullptr));
+    const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 8, 8));
+    ASSERT_NE(made, nullptr);
+    const View root{0, DefaultRootWindow(x11::Connection::open(0)->display())};
+    EXPECT_TRUE(operations.setView(made.get(), root));
+    EXPECT_TRUE(operations.makeCurrent(made.get()));
+    kill(process, SIGKILL);
+    pclose(server);
+
+    operations.flushBuffer(made.get());
+    int32_t width = -1;
+    operations.viewSize(root, &width, nullptr);
+    EXPECT_EQ(width, -1);
+    operations.flushBuffer(made.get());
+    EXPECT_FALSE(operations.setView(made.get(), root));
+    EXPECT_FALSE(operations.setPixelBuffer(made.get(), buffer.get()));
+    EXPECT_EQ(operations.createPixelFormat(0, coreList), nullptr);
+    EXPECT_EQ(operations.createContext(format.get(), nullptr), nullptr);
+    operations.clearCurrentContext();
+    EXPECT_FALSE(operations.makeCurrent(made.get()));
+
+    setenv("DISPLAY", before.c_str(), 1);
+    EXPECT_NE(Format(operations.createPixelFormat(0, coreList)), nullptr);
+}
+
+} // namespace
