@@ -1,7 +1,5 @@
-// The five functions that libEGL.so.1 asks of a back end.
+// Makes the contexts of this back end, or says why the host carries none.
 #include "common/refusal.h"
-#include "common/render_mode.h"
-#include "entry_lookup.h"
 #include "es_context.h"
 #include "host_gl.h"
 
@@ -38,20 +36,4 @@ zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], 
     } catch (const std::bad_alloc &) {
         return nullptr;
     }
-}
-
-void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
-    if (esContext && attribs) static_cast<EsContext *>(esContext)->setAttribs(*attribs);
-}
-
-void zvDeleteEsContext(zvEsContext esContext) {
-    delete static_cast<EsContext *>(esContext);
-}
-
-void *zvGetExtProcAddress(const char *name) {
-    return name ? lookUpEntry(name) : nullptr;
-}
-
-void zvSetRenderMode(const uint8_t *mode, size_t length) {
-    if (mode && length > 0) setRenderMode(*mode);
 }

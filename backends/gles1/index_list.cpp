@@ -20,19 +20,6 @@ GLuint indexAt(const std::byte *place, GLsizei size) {
 
 } // namespace
 
-GLsizei indexSize(GLenum type) {
-    switch (type) {
-    case GL_UNSIGNED_BYTE:
-        return 1;
-    case GL_UNSIGNED_SHORT:
-        return 2;
-    case GL_UNSIGNED_INT:
-        return 4;
-    default:
-        return 0;
-    }
-}
-
 std::optional<std::vector<GLuint>> readIndices(GLsizei count, GLenum type, const void *indices) {
     const HostGl &gl = hostGl();
     const GLsizei size = indexSize(type);

@@ -1,13 +1,11 @@
 // The indices of one draw, wherever they lie.
 #pragma once
 
+#include "common/index_size.h"
 #include "es1_gl.h"
 
 #include <optional>
 #include <vector>
-
-// 0 for a type that is none of indices.
-[[nodiscard]] GLsizei indexSize(GLenum type);
 
 // Of client memory, or of the bound element buffer. Nothing where the buffer ends before the list does. count: above 0.
 [[nodiscard]] std::optional<std::vector<GLuint>> readIndices(GLsizei count, GLenum type, const void *indices);

@@ -1,13 +1,9 @@
-// The five functions that libEGL.so.1 asks of a back end.
-#include "common/render_mode.h"
-#include "entry_lookup.h"
+// Makes the contexts of this back end, or says why the host carries none.
+#include "common/host_features.h"
+#include "common/refusal.h"
 #include "es_context.h"
 #include "host_gl.h"
 
-#include "common/host_features.h"
-
-#include <cstdio>
-#include <cstring>
 #include <memory>
 #include <new>
 #include <string>
@@ -28,21 +24,12 @@ std::string reasonToRefuse(GLint major) {
     return "";
 }
 
-// On standard error, and to a GUI.
-void tell(const std::string &text) {
-    std::fprintf(stderr, "(Error) %s\n", text.c_str());
-    zvMessage message = {};
-    message.header.type = ZV_LOG_ERROR;
-    std::strncpy(message.text.text, text.c_str(), sizeof message.text.text - 1);
-    zvPostFrameMessage(message);
-}
-
 } // namespace
 
 zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *settings, zvEsContext share) {
     if (!attribs) return nullptr;
     if (const std::string reason = reasonToRefuse(attribs->esMajor); !reason.empty()) {
-        tell("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
+        reportRefusal("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
         return nullptr;
     }
     try {
@@ -50,20 +37,4 @@ zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], 
     } catch (const std::bad_alloc &) {
         return nullptr;
     }
-}
-
-void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
-    if (esContext && attribs) static_cast<EsContext *>(esContext)->setAttribs(*attribs);
-}
-
-void zvDeleteEsContext(zvEsContext esContext) {
-    delete static_cast<EsContext *>(esContext);
-}
-
-void *zvGetExtProcAddress(const char *name) {
-    return name ? lookUpEntry(name) : nullptr;
-}
-
-void zvSetRenderMode(const uint8_t *mode, size_t length) {
-    if (mode && length > 0) setRenderMode(*mode);
 }

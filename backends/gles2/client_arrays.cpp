@@ -130,22 +130,9 @@ FedVertices::~FedVertices() {
     forEachBit(m_switchedOff, [](GLuint attrib) { hostGl().enableVertexAttribArray(attrib); });
 }
 
-size_t indexSize(GLenum type) {
-    switch (type) {
-    case GL_UNSIGNED_BYTE:
-        return 1;
-    case GL_UNSIGNED_SHORT:
-        return 2;
-    case GL_UNSIGNED_INT:
-        return 4;
-    default:
-        return 0;
-    }
-}
-
 std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list) {
     const HostGl &gl = hostGl();
-    const size_t size = static_cast<size_t>(list.count) * indexSize(list.type);
+    const size_t size = static_cast<size_t>(list.count) * static_cast<size_t>(indexSize(list.type));
     const void *indices = list.indices;
     if (context.vertexArray->elementBuffer) {
         GLint64 bufferSize = 0;
@@ -173,7 +160,7 @@ FedIndices::FedIndices(EsContext &context, const IndexList &list) : m_indices(li
     if (context.vertexArray->elementBuffer) return;
     m_isFed = true;
     context.indexStream.bind(context.shared->buffers);
-    const size_t size = static_cast<size_t>(list.count) * indexSize(list.type);
+    const size_t size = static_cast<size_t>(list.count) * static_cast<size_t>(indexSize(list.type));
     StreamBlock block = {{static_cast<const std::byte *>(list.indices), size}};
     m_isComplete = context.indexStream.put({&block, 1});
     m_indices = reinterpret_cast<const void *>(block.offset);

@@ -2,6 +2,7 @@
 // reads is copied into a ring before it, and no more than that.
 #pragma once
 
+#include "common/index_size.h"
 #include "es_context.h"
 
 #include <cstdint>
@@ -35,9 +36,6 @@ struct IndexList {
     GLenum type;
     const void *indices; // an offset where the object has an element buffer
 };
-
-// Bytes of an index; 0 for what is no type of index.
-[[nodiscard]] size_t indexSize(GLenum type);
 
 // Lowest and highest index that the draw reads. Nothing when it reads none.
 struct IndexRange {
