@@ -33,11 +33,7 @@ TEST_F(Contexts, NoAttributesGiveAnEs1Context) {
 TEST_F(Contexts, BackEndGetsTheAttributes) {
     const EGLint client = EGL_CONTEXT_CLIENT_VERSION;
     const std::pair<std::vector<EGLint>, ContextAttribs> rows[] = {
-        {{client, 3, EGL_CONTEXT_MINOR_VERSION_KHR, 1, 0x30FC, 9, 0x30FD, 5, 0x3100, 0x9999, 0x31BD, 0x31BF, 0x30BF, 1,
-          0x3138, 1},
-         {0, 3, 3, 1, 9, 5, 0x31BF, 0x9999, 0, 0, 0, 1, 0, {}}},
-        // Raised to ES 3 with the config; medium priority, and no errors in spite of EGL_FALSE.
-        {{client, 2, EGL_CONTEXT_OPENGL_NO_ERROR_KHR, EGL_FALSE}, {0, 2, 3, 0, 0, 0, 0, 0x3102, 0, 0, 0, 1, 0, {}}},
+#include "egl/data/context_attribs.def"
     };
     for (auto [attributes, expected] : rows) {
         const EGLContext context = create(attributes, config());

@@ -5,12 +5,7 @@ using Surfaces = EntryTest;
 TEST_F(Surfaces, PbufferCrossesTargetAndFormat) {
     const EGLint target = EGL_TEXTURE_TARGET, format = EGL_TEXTURE_FORMAT;
     const std::pair<std::vector<EGLint>, const char *> rows[] = {
-        // asked of the host: target, internal format, level, width, height
-        {{EGL_WIDTH, 64, EGL_HEIGHT, 32}, "(0, 0, 0, 64, 32)"},
-        {{EGL_WIDTH, 4, target, EGL_TEXTURE_2D, format, EGL_TEXTURE_RGBA, EGL_HEIGHT, 2}, "(12383, 12382, 0, 4, 2)"},
-        {{EGL_WIDTH, 4, target, EGL_NO_TEXTURE, format, EGL_NO_TEXTURE, EGL_HEIGHT, 2}, "(6408, 3553, 0, 4, 2)"},
-        {{EGL_WIDTH, 4, target, EGL_TEXTURE_2D, target, EGL_TEXTURE_RGB, EGL_HEIGHT, -1}, "(6407, 0, 0, 4, -1)"},
-        {{EGL_LARGEST_PBUFFER, 1, EGL_WIDTH, 4, EGL_VG_COLORSPACE, 7, EGL_HEIGHT, 2}, "(0, 0, 0, 4, 2)"},
+#include "egl/data/pbuffers.def"
     };
     for (auto [attributes, asked] : rows) {
         attributes.push_back(EGL_NONE);

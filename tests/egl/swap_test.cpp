@@ -28,11 +28,7 @@ TEST_F(Swap, FlushesOnlyTheBoundView) {
         EGLSurface bound, swapped;
         bool isFlushed;
     } rows[] = {
-        {"another surface of the bound window", bound, sameWindow, true},
-        {"no buffer is not a view", bound, refused, false},
-        {"a pixel buffer is nobody's view", buffer, buffer, false},
-        {"no buffer equals no view", buffer, refused, true},
-        {"detached", refused, bound, false},
+#include "egl/data/flushes.def"
     };
     for (const auto &row : rows) {
         EXPECT_SUCCEEDS(eglMakeCurrent(m_display, row.bound, row.bound, context));
