@@ -27,9 +27,6 @@ protected:
     // current ones. Null when the back end refuses.
     zvEsContext start(const std::string &profile = "", bool isCore = false, zvEsContext share = nullptr);
 
-    // The last record that the back end has posted.
-    static const zvMessage &posted();
-
     template <typename Function>
     Function *es(const char *name) {
         return reinterpret_cast<Function *>(getExtProcAddress(name));
@@ -42,7 +39,7 @@ protected:
     // A texture of one level with these texels, bound, on and unfiltered.
     GLuint bindTexture(GLenum target = GL_TEXTURE_2D);
     GLint integer(GLenum pname);
-    GLenum error();
+    GLint error();
 
     decltype(&zvGetExtProcAddress) getExtProcAddress;
     decltype(&zvSetRenderMode) setRenderMode;
