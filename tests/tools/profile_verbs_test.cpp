@@ -27,18 +27,7 @@ TEST(ProfileVerbs, StatusAndMessageOfBadInput) {
         int status;
         const char *message;
     } cases[] = {
-        {"", 2, "subcommand"},
-        {"use", 2, "name or --none"},
-        {"use --none name", 2, "excludes"},
-        {"use nothing", 1, "\"nothing\" is none of the built-in profiles, and no profiles directory is set"},
-        {"use x --directory /nowhere", 1, "\"/nowhere\" is no directory"},
-        {"strict maybe", 2, "maybe"},
-        {"profiles show nothing", 1, "no readable profile \"nothing\""},
-        {"profiles show", 2, "name"},
-        {"profiles check /nowhere", 1, "\"/nowhere\" is no readable file"},
-        {"profiles check /", 1, "\"/\" is no readable file"},
-        {"--help", 0, "Exit status: 0 done, 1"},
-        {"use --help", 0, "Exit status: 0 done, 1"},
+#include "tools/data/bad_input.def"
     };
     for (const auto &row : cases) {
         const CommandResult result = run(row.arguments);

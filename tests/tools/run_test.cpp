@@ -11,20 +11,7 @@ const struct {
     int status;
     const char *output; // a part of it
 } rows[] = {
-    {"its status", "run -- sh -c 'exit 7'", 7, ""},
-    {"its signal", "run -- sh -c 'kill -9 $$'", 137, ""},
-    {"a signal that only we get", "run -- sh -c 'trap \"kill \\$!; exit 3\" TERM; sleep 60 & kill -TERM $PPID; wait'",
-     3, ""},
-    {"its words", "run --loose -- printf '[%s]' -- '[a,b]' '' report --help '{}'", 0,
-     "[--][[a,b]][][report][--help][{}]"},
-    {"our libraries", "run -- " SAME_COPY, 4, ""},
-    {"no program", "run -- no-such-program", 125, "\"no-such-program\" is no program"},
-    {"no words", "run --strict", 2, "PROGRAM"},
-    {"no such profile", "run --profile Nobody -- true", 125, "\"Nobody\" is none of the built-in profiles"},
-    {"no back end", "run --backends /etc -- true", 125, "\"/etc\" has neither libGLESv1_CM.so.1 nor"},
-    {"another copy", "run -- " OTHER_COPY, 125, "linked to another copy: it takes libEGL.so.1 from"},
-    {"a missing symbol", "run -- " LACKING_COPY, 4, "warning"},
-    {"the missing symbol", "run -- " LACKING_COPY " call", 127, "eglNobodys"},
+#include "tools/data/runs.def"
 };
 
 } // namespace

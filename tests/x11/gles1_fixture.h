@@ -18,6 +18,7 @@ protected:
     static constexpr Pixel red = {255, 0, 0, 255};
     static constexpr Pixel green = {0, 255, 0, 255};
     static constexpr Pixel blue = {0, 0, 255, 255};
+    static constexpr Pixel white = {255, 255, 255, 255};
     static constexpr Pixel black = {0, 0, 0, 255};
 
     Gles1();
