@@ -15,9 +15,10 @@ struct CommandResult {
     std::string output; // of both streams
 };
 
-// arguments as the shell takes them.
-inline CommandResult run(const std::string &arguments) {
-    FILE *pipe = popen((std::string(ZELVANE_COMMAND) + " " + arguments + " 2>&1").c_str(), "r");
+// Runs a line of the shell, to which zelvane is a word.
+inline CommandResult shell(const std::string &line) {
+    const std::string script = "zelvane() { " ZELVANE_COMMAND " \"$@\"; }\n{ " + line + "\n} 2>&1";
+    FILE *pipe = popen(script.c_str(), "r");
     CommandResult result{-1, {}};
     char buffer[4096];
     while (const size_t count = fread(buffer, 1, sizeof buffer, pipe))
@@ -25,6 +26,11 @@ inline CommandResult run(const std::string &arguments) {
     const int status = pclose(pipe);
     if (WIFEXITED(status)) result.status = WEXITSTATUS(status);
     return result;
+}
+
+// arguments as the shell takes them.
+inline CommandResult run(const std::string &arguments) {
+    return shell("zelvane " + arguments);
 }
 
 inline std::filesystem::path homeDirectory() {
