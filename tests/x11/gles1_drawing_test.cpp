@@ -81,6 +81,7 @@ TEST_F(Gles1Drawing, DrawsFromArraysOfEveryTypeWhereverTheyLie) {
 
 TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
     const std::vector<char> greens = inType(GL_FIXED, {0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1});
+    const std::vector<char> normals = inType(GL_FIXED, {0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1});
     ES(glEnableClientState)(GL_COLOR_ARRAY);
     ES(glColorPointer)(4, GL_FIXED, 0, greens.data());
     drawWholeQuad();
@@ -88,7 +89,6 @@ TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
     ES(glDisableClientState)(GL_COLOR_ARRAY);
 
     // Light from the front: black unless the normals point there.
-    const std::vector<char> normals = inType(GL_FIXED, {0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1});
     const GLfixed whites[] = {65536, 65536, 65536, 65536};
     ES(glNormal3x)(0, 0, -65536);
     ES(glEnableClientState)(GL_NORMAL_ARRAY);
