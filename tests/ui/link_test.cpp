@@ -81,12 +81,9 @@ TEST_F(Link, SignalsOfTheApplicationStayWithItsThreads) {
 }
 
 TEST(LinkFaults, WithoutAGuiRecordsVanishAndALateOneGetsNewConnectionsAlone) {
-    const auto path = KZRIPC::socketPath(productName);
     for (const bool isFileLeft : {false, true}) {
-        unlink(path.c_str());
         if (isFileLeft) {
-            const KZRIPC::ServerSocket dead(productName, 1);
-            ASSERT_FALSE(dead.failed());
+            EXPECT_FALSE(KZRIPC::ServerSocket(productName, 1).failed());
         }
         const UiLink early(noteRenderMode);
         for (int i = 0; i < 1000; ++i)

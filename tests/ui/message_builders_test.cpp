@@ -40,17 +40,14 @@ TEST(MessageBuilders, TypesStampsAndValuesLieAtTheirOffsets) {
 // A build without the cut would show here as what follows the field, or as a read beyond the record.
 TEST(MessageBuilders, TextsAreCutOneShortOfTheirField) {
     using Build = Message (*)(const std::string &);
-    const struct {
-        Build build;
-        size_t offset, size;
-    } rows[] = {
+    const std::tuple<Build, size_t, size_t> rows[] = {
 #define FIELD(record, offset, size) {[](const std::string &text) { return record; }, offset, size},
 #include "ui/data/text_fields.def"
     };
-    for (const auto &row : rows) {
-        for (const size_t length : {row.size - 1, row.size, size_t(20000)}) {
-            const Message message = row.build(std::string(length, 'x'));
-            EXPECT_EQ(reinterpret_cast<const char *>(message.bytes + row.offset), std::string(row.size - 1, 'x'));
+    for (const auto &[build, offset, size] : rows) {
+        for (const size_t length : {size - 1, size, size_t(20000)}) {
+            const Message message = build(std::string(length, 'x'));
+            EXPECT_EQ(reinterpret_cast<const char *>(message.bytes + offset), std::string(size - 1, 'x'));
         }
     }
 }

@@ -43,20 +43,15 @@ TEST_F(Gles1State, FixedPointScalesNumbersAndNotEnumerants) {
     ES(glClearDepthx)(half);
     ES(glDepthRangex)(half / 2, half);
     ES(glPolygonOffsetx)(-half, 65536);
-    const struct {
-        GLenum name;
-        GLfloat number;
-        GLfixed fixed;
-    } states[] = {
+    const std::tuple<GLenum, GLfloat, GLfixed> states[] = {
 #include "x11/data/es1_states.def"
     };
-    for (const auto &row : states) {
+    for (const auto &[name, number, fixed] : states) {
         GLfloat numbers[4] = {9};
-        GLfixed fixed[4] = {9};
-        ES(glGetFloatv)(row.name, numbers);
-        ES(glGetFixedv)(row.name, fixed);
-        EXPECT_EQ(numbers[0], row.number) << std::hex << row.name;
-        EXPECT_EQ(fixed[0], row.fixed) << std::hex << row.name;
+        GLfixed fixeds[4] = {9};
+        ES(glGetFloatv)(name, numbers);
+        ES(glGetFixedv)(name, fixeds);
+        EXPECT_EQ(std::pair(numbers[0], fixeds[0]), std::pair(number, fixed)) << std::hex << name;
     }
     GLfixed read[4] = {};
     const auto expectKept = [&](auto set, auto get, GLenum target, GLenum name, GLfixed value) {

@@ -18,18 +18,16 @@ protected:
 } // namespace
 
 TEST_F(Gles1Textures, DecodesPalettedTexturesWithAllTheirLevels) {
-    const struct {
-        std::vector<GLubyte> first, second;
-    } palettes[] = {
+    const std::pair<std::vector<GLubyte>, std::vector<GLubyte>> palettes[] = {
 #include "x11/data/es1_palettes.def"
     };
     for (GLenum format = GL_PALETTE4_RGB8_OES; format <= GL_PALETTE8_RGB5_A1_OES; ++format) {
         SCOPED_TRACE(testing::Message() << std::hex << format);
         const bool isByte = format >= GL_PALETTE8_RGB8_OES;
-        const auto &row = palettes[(format - GL_PALETTE4_RGB8_OES) % 5];
-        std::vector<GLubyte> data(row.first.size() * (isByte ? 256 : 16));
-        std::ranges::copy(row.first, data.begin());
-        std::ranges::copy(row.second, data.begin() + static_cast<ptrdiff_t>(row.first.size()));
+        const auto &[first, second] = palettes[(format - GL_PALETTE4_RGB8_OES) % 5];
+        std::vector<GLubyte> data(first.size() * (isByte ? 256 : 16));
+        std::ranges::copy(first, data.begin());
+        std::ranges::copy(second, data.begin() + static_cast<ptrdiff_t>(first.size()));
         // 2 x 2: red, green, green, red; then one texel, green.
         const std::vector<GLubyte> indices =
             isByte ? std::vector<GLubyte>{0, 1, 1, 0, 1} : std::vector<GLubyte>{0x01, 0x10, 0x10};
@@ -73,22 +71,17 @@ TEST_F(Gles1Textures, DecodesEtc1AsTheHostDoes) {
 TEST_F(Gles1Textures, TakesTheFormatsOfEsAlone) {
     const GLubyte bytes[4] = {0, 255, 0, 255};
     const GLushort word = 0x07E0;
-    const struct {
-        GLenum internal, format, type;
-        const void *texel;
-        Pixel expected;
-        GLint error;
-    } cases[] = {
+    const std::tuple<GLint, GLenum, GLenum, const void *, Pixel, GLint> cases[] = {
 #include "x11/data/es1_textures.def"
     };
-    for (const auto &row : cases) {
-        SCOPED_TRACE(testing::Message() << std::hex << row.internal << ' ' << row.format << ' ' << row.type);
+    for (const auto &[internal, format, type, texel, expected, fault] : cases) {
+        SCOPED_TRACE(testing::Message() << std::hex << internal << ' ' << format << ' ' << type);
         bindTexture();
-        ES(glTexImage2D)(GL_TEXTURE_2D, 0, static_cast<GLint>(row.internal), 1, 1, 0, row.format, row.type, row.texel);
-        EXPECT_EQ(error(), row.error);
-        if (row.error != GL_NO_ERROR) continue;
+        ES(glTexImage2D)(GL_TEXTURE_2D, 0, internal, 1, 1, 0, format, type, texel);
+        EXPECT_EQ(error(), fault);
+        if (fault != GL_NO_ERROR) continue;
         drawImage(1, 1);
-        EXPECT_EQ(pixel(3, 3), row.expected);
+        EXPECT_EQ(pixel(3, 3), expected);
     }
     bindTexture();
     ES(glTexStorage2DEXT)(GL_TEXTURE_2D, 1, GL_BGRA8_EXT, 1, 1);
