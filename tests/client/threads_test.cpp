@@ -38,10 +38,8 @@ TEST_F(ClientThreads, FourCreateBindDrawSwapAndDestroyAtOnce) {
             EXPECT_TRUE(eglTerminate(other));
         }
     };
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int i = 0; i < 4; ++i)
         threads.emplace_back(work, windows[i], i / 4.0f);
     threads.emplace_back(restart);
-    for (auto &thread : threads)
-        thread.join();
 }

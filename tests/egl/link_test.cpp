@@ -130,7 +130,7 @@ TEST_F(EntryLink, RenderModeReachesContextsInTheOrderOfTheirHandles) {
 
 TEST_F(EntryLink, ModesArriveWhileThreadsMakeAndDestroyContexts) {
     connect();
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([this] {
             for (int i = 0; i < 20; ++i)
@@ -139,8 +139,7 @@ TEST_F(EntryLink, ModesArriveWhileThreadsMakeAndDestroyContexts) {
     }
     for (int i = 0; i < 50; ++i)
         gui.send(i % 2 ? guiRenderModeOff() : guiRenderModeOn());
-    for (auto &thread : threads)
-        thread.join();
+    threads.clear();
     gui.send(guiDisconnect());
     while (gui.read()) {
     }

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
 struct CommandResult {
@@ -39,12 +38,6 @@ inline std::filesystem::path homeDirectory() {
 
 inline std::filesystem::path preferencesFile() {
     return homeDirectory() / ".kzrconfig/Tarnwell Graphics/com.tarnlight.Zelvane.plist";
-}
-
-inline std::string contentsOf(const std::filesystem::path &path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
 }
 
 inline void writeFile(const std::filesystem::path &path, const std::string &text) {

@@ -102,15 +102,14 @@ TEST(LinkFaults, WithoutAGuiRecordsVanishAndALateOneGetsNewConnectionsAlone) {
 
 TEST_F(Link, AGuiThatDoesNotReadLosesNothingAndCanStillDisconnect) {
     constexpr uint32_t producers = 4, each = 1000;
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (uint32_t producer = 0; producer < producers; ++producer) {
         threads.emplace_back([this, producer] {
             for (uint32_t i = 0; i < each; ++i)
                 link.post(backEndText(producer, i, ""));
         });
     }
-    for (auto &thread : threads)
-        thread.join();
+    threads.clear();
     uint32_t next[producers] = {};
     for (uint32_t i = 0; i < producers * each / 2; ++i) {
         const auto [producer, number] = gui.readUntil(ZV_BACK_END_TEXT).backEndText.values;
@@ -156,7 +155,7 @@ TEST(LinkFaults, AGuiThatIsKilledWhileEightThreadsLogHarmsNobody) {
     static const UiLink link(noteRenderMode);
     setLogListener([](int32_t, const char *text) { link.post(logError(text)); });
     std::atomic<int> logged = 0;
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     testing::internal::CaptureStderr();
     for (int thread = 0; thread < 8; ++thread) {
         threads.emplace_back([&logged] {
@@ -167,8 +166,7 @@ TEST(LinkFaults, AGuiThatIsKilledWhileEightThreadsLogHarmsNobody) {
     while (logged < 400)
         std::this_thread::yield();
     kill(child, SIGKILL);
-    for (auto &thread : threads)
-        thread.join();
+    threads.clear();
     logMessage(LogError, "after");
     setLogListener(nullptr);
     EXPECT_NE(testing::internal::GetCapturedStderr().find("(Error) after\n"), std::string::npos);

@@ -56,8 +56,8 @@ TEST_F(Transport, CopiesShareADescriptorThatOnlyCloseEnds) {
 TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
     const ServerSocket server(name, 1);
     Client client(name);
-    std::thread receiver([&] { EXPECT_LE(client.receive(bytes, sizeof bytes), 0); });
-    std::thread sender([&] {
+    const std::jthread receiver([&] { EXPECT_LE(client.receive(bytes, sizeof bytes), 0); });
+    const std::jthread sender([&] {
         signal(SIGPIPE, SIG_IGN);
         const std::string block(8240, 'x');
         while (client.send(block.data(), block.size()) > 0) {
@@ -67,8 +67,6 @@ TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
     while (poll(&room, 1, 0) == 1) // until nothing more goes in, so that the sender waits
         std::this_thread::yield();
     client.close();
-    receiver.join();
-    sender.join();
 }
 
 } // namespace
