@@ -67,6 +67,12 @@ Pixel ClientTest::drawAndRead(const GlFunctions &gl, float red, float green, flo
     return pixel;
 }
 
+Pixel ClientTest::shownAfterSwap(EGLSurface surface, int x, int y) {
+    EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
+    widthOf(surface);
+    return shownPixel(x, y);
+}
+
 Pixel ClientTest::shownPixel(int x, int y) {
     XImage *image = XGetImage(m_x, DefaultRootWindow(m_x), x, y, 1, 1, AllPlanes, ZPixmap);
     if (!image) return {};

@@ -55,6 +55,7 @@ protected:
     EGLint widthOf(EGLSurface surface);
     // Clears the current surface with the colour and reads its middle back.
     static Pixel drawAndRead(const GlFunctions &gl, float red, float green, float blue);
+    Pixel shownAfterSwap(EGLSurface surface, int x, int y);
     // What the screen shows; windows stand at its origin, the newest on top.
     Pixel shownPixel(int x, int y);
 

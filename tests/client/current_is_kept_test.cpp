@@ -76,9 +76,7 @@ TEST_F(CurrentIsKept, OfEglWhileASecondContextIsMadeAndOfGlxBesideIt) {
     EXPECT_EQ(GlxBinding(), eglsOwn);
     EXPECT_EQ(eglGetCurrentContext(), context);
     gl.clear(GL_COLOR_BUFFER_BIT); // with the colour from before
-    EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
-    widthOf(surface);
-    EXPECT_EQ(shownPixel(32, 24), red);
+    EXPECT_EQ(shownAfterSwap(surface, 32, 24), red);
 
     useGlx(); // takes the thread over behind EGL's back
     const GlxBinding own;
