@@ -2,38 +2,6 @@
 
 #include <X11/Xutil.h>
 
-namespace {
-
-template <typename Function>
-void take(Function &function, const char *name) {
-    function = reinterpret_cast<Function>(eglGetProcAddress(name));
-}
-
-Window makeWindowWith(Display *x, int width, int height, int depth, Visual *visual) {
-    const Window root = DefaultRootWindow(x);
-    XSetWindowAttributes attributes{};
-    attributes.colormap = XCreateColormap(x, root, visual, AllocNone);
-    const Window window = XCreateWindow(x, root, 0, 0, width, height, 0, depth, InputOutput, visual,
-                                        CWColormap | CWBorderPixel | CWBackPixel, &attributes);
-    XMapWindow(x, window);
-    XSync(x, False);
-    return window;
-}
-
-} // namespace
-
-GlFunctions::GlFunctions() {
-    take(clear, "glClear");
-    take(clearColor, "glClearColor");
-    take(readPixels, "glReadPixels");
-    take(getString, "glGetString");
-    take(getError, "glGetError");
-    take(viewport, "glViewport");
-    take(genTextures, "glGenTextures");
-    take(bindTexture, "glBindTexture");
-    take(isTexture, "glIsTexture");
-}
-
 ClientTest::ClientTest() : m_x(XOpenDisplay(nullptr)) {
     if (!m_x) throw std::runtime_error("the tests need an X server");
 }
@@ -55,24 +23,39 @@ EGLContext ClientTest::makeContext(EGLContext share, EGLint major) {
     return eglCreateContext(m_egl, m_config, share, attributes);
 }
 
-Window ClientTest::makeWindow(int width, int height) {
-    return makeWindowWith(m_x, width, height, DefaultDepth(m_x, DefaultScreen(m_x)),
-                          DefaultVisual(m_x, DefaultScreen(m_x)));
+Window ClientTest::makeWindow() {
+    return makeWindowOf(DefaultVisual(m_x, DefaultScreen(m_x)), DefaultDepth(m_x, DefaultScreen(m_x)));
 }
 
-Window ClientTest::makeWindowOfAnotherVisual(int width, int height) {
-    XVisualInfo wanted{};
-    wanted.c_class = TrueColor;
-    wanted.depth = 32;
-    int count = 0;
-    XVisualInfo *found = XGetVisualInfo(m_x, VisualClassMask | VisualDepthMask, &wanted, &count);
-    const Window window = count > 0 ? makeWindowWith(m_x, width, height, 32, found[0].visual) : None;
-    if (found) XFree(found);
+Window ClientTest::makeWindowOf(Visual *visual, int depth) {
+    const Window root = DefaultRootWindow(m_x);
+    XSetWindowAttributes attributes{};
+    attributes.colormap = XCreateColormap(m_x, root, visual, AllocNone);
+    const Window window = XCreateWindow(m_x, root, 0, 0, 64, 48, 0, depth, InputOutput, visual,
+                                        CWColormap | CWBorderPixel | CWBackPixel, &attributes);
+    XMapWindow(m_x, window);
+    XSync(m_x, False);
     return window;
+}
+
+Window ClientTest::makeWindowOfAnotherVisual() {
+    XVisualInfo found{};
+    if (!XMatchVisualInfo(m_x, DefaultScreen(m_x), 32, TrueColor, &found)) throw std::runtime_error("one visual");
+    return makeWindowOf(found.visual, 32);
 }
 
 EGLSurface ClientTest::makeSurface(Window window) {
     return eglCreateWindowSurface(m_egl, m_config, window, nullptr);
+}
+
+void ClientTest::bind(EGLSurface surface, EGLContext context) {
+    ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+}
+
+EGLint ClientTest::widthOf(EGLSurface surface) {
+    EGLint width = -1;
+    EXPECT_TRUE(eglQuerySurface(m_egl, surface, EGL_WIDTH, &width));
+    return width;
 }
 
 Pixel ClientTest::drawAndRead(const GlFunctions &gl, float red, float green, float blue) {
@@ -82,6 +65,12 @@ Pixel ClientTest::drawAndRead(const GlFunctions &gl, float red, float green, flo
     gl.readPixels(5, 5, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixel.data());
     EXPECT_EQ(gl.getError(), GLenum(GL_NO_ERROR));
     return pixel;
+}
+
+Pixel ClientTest::shownAfterSwap(EGLSurface surface, int x, int y) {
+    EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
+    widthOf(surface);
+    return shownPixel(x, y);
 }
 
 Pixel ClientTest::shownPixel(int x, int y) {

@@ -12,19 +12,29 @@
 
 using Pixel = std::array<uint8_t, 4>;
 
-// The functions that the tests draw with, as eglGetProcAddress hands them out.
-struct GlFunctions {
-    GlFunctions();
+const Pixel red{255, 0, 0, 255};
+const Pixel green{0, 255, 0, 255};
 
-    PFNGLCLEARPROC clear;
-    PFNGLCLEARCOLORPROC clearColor;
-    PFNGLREADPIXELSPROC readPixels;
-    PFNGLGETSTRINGPROC getString;
-    PFNGLGETERRORPROC getError;
-    PFNGLVIEWPORTPROC viewport;
-    PFNGLGENTEXTURESPROC genTextures;
-    PFNGLBINDTEXTUREPROC bindTexture;
-    PFNGLISTEXTUREPROC isTexture;
+// A function as eglGetProcAddress hands it out, of the type that is wanted.
+struct Named {
+    template <typename Function>
+    operator Function *() const {
+        return reinterpret_cast<Function *>(eglGetProcAddress(name));
+    }
+    const char *name;
+};
+
+// The functions that the tests draw with.
+struct GlFunctions {
+    PFNGLCLEARPROC clear = Named("glClear");
+    PFNGLCLEARCOLORPROC clearColor = Named("glClearColor");
+    PFNGLREADPIXELSPROC readPixels = Named("glReadPixels");
+    PFNGLGETSTRINGPROC getString = Named("glGetString");
+    PFNGLGETERRORPROC getError = Named("glGetError");
+    PFNGLVIEWPORTPROC viewport = Named("glViewport");
+    PFNGLGENTEXTURESPROC genTextures = Named("glGenTextures");
+    PFNGLBINDTEXTUREPROC bindTexture = Named("glBindTexture");
+    PFNGLISTEXTUREPROC isTexture = Named("glIsTexture");
 };
 
 class ClientTest : public testing::Test {
@@ -35,12 +45,17 @@ protected:
     // Chooses the first config and makes an ES 2 context on it.
     void initialise(EGLNativeDisplayType native);
     EGLContext makeContext(EGLContext share = EGL_NO_CONTEXT, EGLint major = 2);
-    Window makeWindow(int width = 64, int height = 48);
-    // A window of a visual that is not the default one, or None when the server has only one.
-    Window makeWindowOfAnotherVisual(int width, int height);
+    Window makeWindow();
+    Window makeWindowOf(Visual *visual, int depth);
+    // A window of a visual that is not the default one.
+    Window makeWindowOfAnotherVisual();
     EGLSurface makeSurface(Window window);
+    void bind(EGLSurface surface, EGLContext context);
+    // A round trip, so that the server has drawn.
+    EGLint widthOf(EGLSurface surface);
     // Clears the current surface with the colour and reads its middle back.
     static Pixel drawAndRead(const GlFunctions &gl, float red, float green, float blue);
+    Pixel shownAfterSwap(EGLSurface surface, int x, int y);
     // What the screen shows; windows stand at its origin, the newest on top.
     Pixel shownPixel(int x, int y);
 

@@ -4,24 +4,20 @@
 #include <thread>
 #include <vector>
 
-namespace {
-
-class ClientThreads : public ClientTest {};
-
-} // namespace
+using ClientThreads = ClientTest;
 
 TEST_F(ClientThreads, FourCreateBindDrawSwapAndDestroyAtOnce) {
     initialise(EGL_DEFAULT_DISPLAY);
     std::vector<Window> windows;
     for (int i = 0; i < 4; ++i)
-        windows.push_back(i % 2 ? makeWindowOfAnotherVisual(64, 48) : makeWindow());
+        windows.push_back(i % 2 ? makeWindowOfAnotherVisual() : makeWindow());
 
     const auto work = [&](Window window, float shade) {
         const Pixel expected{uint8_t(shade * 255 + 0.5f), 0, 0, 255};
         for (int round = 0; round < 5; ++round) {
             const EGLContext parent = makeContext(), context = makeContext(parent);
             const EGLSurface surface = makeSurface(window);
-            ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)) << std::hex << eglGetError();
+            bind(surface, context);
             const GlFunctions gl;
             const EGLSync sync = eglCreateSync(m_egl, EGL_SYNC_FENCE, nullptr);
             for (int frame = 0; frame < 5; ++frame) {
@@ -42,10 +38,8 @@ TEST_F(ClientThreads, FourCreateBindDrawSwapAndDestroyAtOnce) {
             EXPECT_TRUE(eglTerminate(other));
         }
     };
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int i = 0; i < 4; ++i)
         threads.emplace_back(work, windows[i], i / 4.0f);
     threads.emplace_back(restart);
-    for (auto &thread : threads)
-        thread.join();
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "fakes/control.h"
+#include "support/golden.h"
 
 using testing::AllOf;
 using testing::ElementsAre;

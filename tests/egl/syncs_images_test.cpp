@@ -11,63 +11,31 @@ using Images = EntryTest;
 
 } // namespace
 
-TEST_F(Syncs, CreationFailsInOrder) {
-    const EGLAttrib some[] = {EGL_SYNC_STATUS, 1, EGL_NONE};
-    const auto createKhr = procAddress<PFNEGLCREATESYNCKHRPROC>("eglCreateSyncKHR");
-    EXPECT_FAILS(EGL_BAD_MATCH, eglCreateSync(initialised(), EGL_SYNC_FENCE, some));
-    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglCreateSync(m_display, EGL_SYNC_REUSABLE_KHR, nullptr));
-    EXPECT_FAILS(EGL_BAD_MATCH, createKhr(m_display, EGL_SYNC_FENCE, nullptr));
+TEST_F(Syncs, WaitsAndAttributesAreTranslated) {
     current();
-    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, eglCreateSync(m_display, EGL_SYNC_FENCE, some));
-    const EGLint narrow[] = {-5, 1, EGL_NONE};
-    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, createKhr(m_display, EGL_SYNC_FENCE, narrow));
     takeLog();
-    EXPECT_EQ(createKhr(m_display, EGL_SYNC_FENCE, nullptr), reinterpret_cast<EGLSync>(0x5000)) << "the host's";
-    EXPECT_EQ(takeLog(), "glFenceSync(0x9117, 0)\n");
-}
-
-TEST_F(Syncs, WaitsTranslateFlagsAndResults) {
-    current();
     const EGLSync sync = fence();
-    takeLog();
-    for (const auto &[flag, host] : {std::pair(0, "1"), {1, "1"}, {2, "0"}, {-1, "0"}}) {
-        EXPECT_EQ(eglClientWaitSync(m_display, sync, flag, 12), EGL_CONDITION_SATISFIED);
-        EXPECT_EQ(takeLog(), std::string("glClientWaitSync(0x5000, ") + host + ", 12)\nglGetError()\n");
-    }
-    const std::pair<uint32_t, EGLint> results[] = {{0x911A, EGL_CONDITION_SATISFIED},
-                                                   {0x911B, EGL_TIMEOUT_EXPIRED},
-                                                   {0x911C, EGL_CONDITION_SATISFIED},
-                                                   {0x911D, 0},
-                                                   {7, 0}};
+    EXPECT_EQ(sync, reinterpret_cast<EGLSync>(0x5000)) << "the host's";
+    for (const EGLint flags : {0, 1, 2, -1})
+        EXPECT_EQ(eglClientWaitSync(m_display, sync, flags, 12), EGL_CONDITION_SATISFIED);
+    EXPECT_SUCCEEDS(eglWaitSync(m_display, sync, 0));
+    hostGl().syncValue = -2;
+    EGLAttrib value = 77;
+    for (const EGLint attribute : {EGL_SYNC_TYPE, EGL_SYNC_CONDITION, EGL_SYNC_STATUS, EGL_WIDTH})
+        EXPECT_SUCCEEDS(eglGetSyncAttrib(m_display, sync, attribute, &value));
+    EXPECT_EQ(value, -2) << "widened with its sign";
+    EXPECT_EQ(takeLog(), golden("egl/data/syncs.txt"));
+    const std::pair<uint32_t, EGLint> results[] = {
+#include "egl/data/wait_results.def"
+    };
     for (const auto &[host, expected] : results) {
         hostGl().clientWaitResult = host;
         EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, EGL_FOREVER), expected);
-        EXPECT_EQ(eglGetError(), EGL_SUCCESS);
     }
-    takeLog();
-    EXPECT_SUCCEEDS(eglWaitSync(m_display, sync, 0));
-    EXPECT_EQ(takeLog(), "glWaitSync(0x5000, 1, 0xffffffffffffffff)\nglGetError()\n");
-}
-
-TEST_F(Syncs, AttributesAnswerWithTheHostsNumbers) {
-    current();
-    const EGLSync sync = fence();
-    hostGl().syncValue = -2;
-    const std::pair<EGLint, const char *> names[] = {
-        {EGL_SYNC_TYPE, "0x9112"}, {EGL_SYNC_CONDITION, "0x9113"}, {EGL_SYNC_STATUS, "0x9114"}, {EGL_WIDTH, "0x0"}};
-    for (const auto &[attribute, host] : names) {
-        takeLog();
-        EGLAttrib value = 77;
-        EXPECT_SUCCEEDS(eglGetSyncAttrib(m_display, sync, attribute, &value));
-        EXPECT_EQ(value, -2) << "widened with its sign";
-        EXPECT_EQ(takeLog(), std::string("glGetSynciv(0x5000, ") + host + ", 1)\n");
-    }
-    const auto attribKhr = procAddress<PFNEGLGETSYNCATTRIBKHRPROC>("eglGetSyncAttribKHR");
     EGLint narrow = 77;
+    const auto attribKhr = procAddress<PFNEGLGETSYNCATTRIBKHRPROC>("eglGetSyncAttribKHR");
     EXPECT_FAILS(EGL_BAD_PARAMETER, attribKhr(m_display, nullptr, EGL_SYNC_STATUS, &narrow));
     EXPECT_EQ(narrow, 0) << "stored after a failure too";
-    EXPECT_FAILS(EGL_BAD_PARAMETER, eglGetSyncAttrib(m_display, sync, EGL_SYNC_STATUS, nullptr));
-    EXPECT_FAILS(EGL_BAD_PARAMETER, attribKhr(m_display, sync, EGL_SYNC_STATUS, nullptr));
 }
 
 TEST_F(Syncs, NothingWorksWithoutACurrentContext) {
@@ -102,11 +70,7 @@ TEST_F(Images, RecordsAreReadThroughTheHandle) {
     EXPECT_EQ(static_cast<const uint32_t *>(image)[0], uint32_t(EGL_GL_TEXTURE_2D));
     EXPECT_EQ(static_cast<const uint64_t *>(image)[1], 0x4242u);
 
-    EXPECT_FAILS(EGL_BAD_CONTEXT, eglCreateImage(display, badContext, EGL_NATIVE_BUFFER_ANDROID, buffer, nullptr));
     EXPECT_NE(eglCreateImage(display, nullptr, EGL_NATIVE_BUFFER_ANDROID, buffer, nullptr), EGL_NO_IMAGE);
-    EXPECT_FAILS(EGL_BAD_PARAMETER, eglCreateImage(display, nullptr, EGL_GL_RENDERBUFFER, buffer, nullptr));
-
     EXPECT_SUCCEEDS(eglDestroyImage(display, image));
     EXPECT_EQ(eglDestroyImage(display, image), EGLBoolean(12300));
-    EXPECT_EQ(eglGetError(), EGL_SUCCESS);
 }

@@ -94,4 +94,14 @@ TEST_F(ProfileFiles, AFileIsFoundByItsWholeNameUnlessOneIsEmbedded) {
     EXPECT_EQ(profile.configs.size(), 10u);
 }
 
+TEST_F(ProfileFiles, AHugeFileIsReadToItsEnd) {
+    const std::string rubbish = "<extension>" + std::string(5000, '&') + "</extension>";
+    std::string large = "<profile><egl>";
+    for (int i = 0; large.size() < 50'000'000; ++i)
+        large += "<config id=\"" + std::to_string(i % 7) + "\">" + rubbish + "</config>";
+    write("large", large + "<config id=\"7\"/></egl></profile>");
+    ASSERT_TRUE(load("large"));
+    EXPECT_EQ(profile.configs.size(), 8u);
+}
+
 } // namespace

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
 struct CommandResult {
@@ -15,9 +14,10 @@ struct CommandResult {
     std::string output; // of both streams
 };
 
-// arguments as the shell takes them.
-inline CommandResult run(const std::string &arguments) {
-    FILE *pipe = popen((std::string(ZELVANE_COMMAND) + " " + arguments + " 2>&1").c_str(), "r");
+// Runs a line of the shell, to which zelvane is a word.
+inline CommandResult shell(const std::string &line) {
+    const std::string script = "zelvane() { " ZELVANE_COMMAND " \"$@\"; }\n{ " + line + "\n} 2>&1";
+    FILE *pipe = popen(script.c_str(), "r");
     CommandResult result{-1, {}};
     char buffer[4096];
     while (const size_t count = fread(buffer, 1, sizeof buffer, pipe))
@@ -27,18 +27,17 @@ inline CommandResult run(const std::string &arguments) {
     return result;
 }
 
+// arguments as the shell takes them.
+inline CommandResult run(const std::string &arguments) {
+    return shell("zelvane " + arguments);
+}
+
 inline std::filesystem::path homeDirectory() {
     return getenv("HOME");
 }
 
 inline std::filesystem::path preferencesFile() {
     return homeDirectory() / ".kzrconfig/Tarnwell Graphics/com.tarnlight.Zelvane.plist";
-}
-
-inline std::string contentsOf(const std::filesystem::path &path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
 }
 
 inline void writeFile(const std::filesystem::path &path, const std::string &text) {

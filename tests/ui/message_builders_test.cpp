@@ -21,49 +21,11 @@ uint32_t word(const Message &message, size_t offset) {
 TEST(MessageBuilders, TypesStampsAndValuesLieAtTheirOffsets) {
     const uint32_t first[] = {31, 32}, second[] = {41}, third[] = {51, 52, 53}, last[] = {61}, extensions[] = {7, 8};
     const BackEndLists lists{0x1122334455667788, -5, {21, 22}, {first, second, third}, {71, 72}, last};
-    // One a type, in the order of their numbers.
     const struct {
         Message message;
         std::vector<std::pair<size_t, uint32_t>> words;
     } rows[] = {
-        {processHello(-3), {{12, uint32_t(-3)}}},
-        {linkStop(), {}},
-        {windowTitle(""), {}},
-        {backEndText(4, 5, ""), {{12, 4}, {16, 5}}},
-        {backEndMarker(), {}},
-        {backEndRecord({1, 2, 3, 4}, ""), {{12, 1}, {16, 2}, {20, 3}, {24, 4}}},
-        {logInfo(""), {}},
-        {logWarning(""), {}},
-        {logError(""), {}},
-        {backEndNamedText(6, "", ""), {{12, 6}}},
-        {backEndLists(lists),
-         {{16, 0x55667788},
-          {20, 0x11223344},
-          {24, uint32_t(-5)},
-          {28, 21},
-          {32, 22},
-          {36, 31},
-          {40, 32},
-          {44, 0},
-          {2084, 41},
-          {2088, 0},
-          {4132, 51},
-          {4140, 53},
-          {4144, 0},
-          {6180, 71},
-          {6184, 72},
-          {6188, 61},
-          {6192, 0}}},
-        {guiDisconnect(), {}},
-        {guiRenderModeOn(), {}},
-        {guiRenderModeOff(), {}},
-        {systemReportGlVersion(9), {{12, 9}}},
-        {systemReportExtension(642, true), {{12, 642}, {16, 1}}},
-        {systemReportFeature("", true), {{524, 1}}},
-        {systemReportFeatureAlternative("", 11, extensions), {{524, 11}, {528, 7}, {532, 8}, {536, 0}}},
-        {systemReportEsRequirement(5, ""), {{12, 5}}},
-        {systemReportEsExtensionRequirement(80, ""), {{12, 80}}},
-        {systemReportEnd(), {}},
+#include "ui/data/records.def"
     };
     for (uint32_t type = 0; type < std::size(rows); ++type) {
         const Message &message = rows[type].message;
@@ -78,27 +40,14 @@ TEST(MessageBuilders, TypesStampsAndValuesLieAtTheirOffsets) {
 // A build without the cut would show here as what follows the field, or as a read beyond the record.
 TEST(MessageBuilders, TextsAreCutOneShortOfTheirField) {
     using Build = Message (*)(const std::string &);
-    const struct {
-        Build build;
-        size_t offset, size;
-    } rows[] = {
-        {[](auto &text) { return windowTitle(text); }, 12, 512},
-        {[](auto &text) { return logInfo(text); }, 12, 512},
-        {[](auto &text) { return logWarning(text); }, 12, 512},
-        {[](auto &text) { return logError(text); }, 12, 512},
-        {[](auto &text) { return backEndText(1, 1, text); }, 20, 512},
-        {[](auto &text) { return backEndRecord({}, text); }, 28, 512},
-        {[](auto &text) { return backEndNamedText(1, text, "after"); }, 16, 64},
-        {[](auto &text) { return backEndNamedText(1, "before", text); }, 80, 512},
-        {[](auto &text) { return systemReportFeature(text, true); }, 12, 512},
-        {[](auto &text) { return systemReportFeatureAlternative(text, 0x41414141, {}); }, 12, 512},
-        {[](auto &text) { return systemReportEsRequirement(1, text); }, 16, 512},
-        {[](auto &text) { return systemReportEsExtensionRequirement(1, text); }, 16, 512},
+    const std::tuple<Build, size_t, size_t> rows[] = {
+#define FIELD(record, offset, size) {[](const std::string &text) { return record; }, offset, size},
+#include "ui/data/text_fields.def"
     };
-    for (const auto &row : rows) {
-        for (const size_t length : {row.size - 1, row.size, size_t(20000)}) {
-            const Message message = row.build(std::string(length, 'x'));
-            EXPECT_EQ(reinterpret_cast<const char *>(message.bytes + row.offset), std::string(row.size - 1, 'x'));
+    for (const auto &[build, offset, size] : rows) {
+        for (const size_t length : {size - 1, size, size_t(20000)}) {
+            const Message message = build(std::string(length, 'x'));
+            EXPECT_EQ(reinterpret_cast<const char *>(message.bytes + offset), std::string(size - 1, 'x'));
         }
     }
 }

@@ -39,17 +39,13 @@ TEST_F(Transport, CopiesShareADescriptorThatOnlyCloseEnds) {
     EXPECT_GE(fcntl(descriptor, F_GETFD), 0) << "the end of a client closes nothing";
 
     Client accepted(server);
-    Client copy(accepted);
-    Client assigned(name);
-    assigned = accepted;
+    Client copy(name);
+    copy = Client(accepted);
     EXPECT_EQ(copy.descriptor(), accepted.descriptor());
-    EXPECT_EQ(assigned.descriptor(), accepted.descriptor());
     accepted.close();
-    EXPECT_TRUE(copy.isOpen());
     EXPECT_EQ(copy.receive(bytes, sizeof bytes), 0);
     descriptor = copy.descriptor();
     copy.close();
-    assigned.close();
     EXPECT_LT(fcntl(descriptor, F_GETFD), 0);
     const int reused = open("/dev/null", O_RDONLY);
     copy.close();
@@ -60,8 +56,8 @@ TEST_F(Transport, CopiesShareADescriptorThatOnlyCloseEnds) {
 TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
     const ServerSocket server(name, 1);
     Client client(name);
-    std::thread receiver([&] { EXPECT_LE(client.receive(bytes, sizeof bytes), 0); });
-    std::thread sender([&] {
+    const std::jthread receiver([&] { EXPECT_LE(client.receive(bytes, sizeof bytes), 0); });
+    const std::jthread sender([&] {
         signal(SIGPIPE, SIG_IGN);
         const std::string block(8240, 'x');
         while (client.send(block.data(), block.size()) > 0) {
@@ -71,8 +67,6 @@ TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
     while (poll(&room, 1, 0) == 1) // until nothing more goes in, so that the sender waits
         std::this_thread::yield();
     client.close();
-    receiver.join();
-    sender.join();
 }
 
 } // namespace

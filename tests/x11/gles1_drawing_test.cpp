@@ -20,6 +20,8 @@ std::vector<char> inType(GLenum type, const std::vector<GLfloat> &numbers) {
 
 class Gles1Drawing : public Gles1 {
 protected:
+    Gles1Drawing() { start(); }
+
     GLuint buffer(GLenum target, const void *data, size_t length) {
         GLuint name = 0;
         ES(glGenBuffers)(1, &name);
@@ -27,21 +29,22 @@ protected:
         ES(glBufferData)(target, static_cast<GLsizeiptr>(length), data, GL_STATIC_DRAW);
         return name;
     }
-    void expectRightHalf(Pixel color) {
-        EXPECT_EQ(pixel(size / 2 + 1, 3), color);
-        EXPECT_EQ(pixel(size - 1, size - 1), color);
-        EXPECT_EQ(pixel(size / 2 - 1, 3), black);
+    void expectPixels(const std::vector<std::tuple<GLint, GLint, Pixel>> &rows) {
+        for (const auto &[x, y, color] : rows)
+            EXPECT_EQ(pixel(x, y), color) << x << ' ' << y;
     }
+    void expectRightHalf(Pixel color) { expectPixels({{9, 3, color}, {15, 15, color}, {7, 3, black}}); }
     // Red, green; above them blue, white.
     void bindColors() {
         bindTexture();
-        const GLubyte texels[] = {255, 0, 0, 255, 0, 255, 0, 255, 0, 0, 255, 255, 255, 255, 255, 255};
+        const Pixel texels[] = {red, green, blue, white};
         ES(glTexImage2D)(GL_TEXTURE_2D, 0, GL_RGBA, 2, 2, 0, GL_RGBA, GL_UNSIGNED_BYTE, texels);
     }
-    static constexpr GLfloat wholeQuad[] = {-1, -1, 1, -1, -1, 1, 1, 1};
     void drawWholeQuad() {
+        static constexpr GLfloat corners[] = {-1, -1, 1, -1, -1, 1, 1, 1};
+        clear();
         ES(glBindBuffer)(GL_ARRAY_BUFFER, 0);
-        ES(glVertexPointer)(2, GL_FLOAT, 0, wholeQuad);
+        ES(glVertexPointer)(2, GL_FLOAT, 0, corners);
         ES(glEnableClientState)(GL_VERTEX_ARRAY);
         ES(glDrawArrays)(GL_TRIANGLE_STRIP, 0, 4);
     }
@@ -50,7 +53,6 @@ protected:
 } // namespace
 
 TEST_F(Gles1Drawing, DrawsFromArraysOfEveryTypeWhereverTheyLie) {
-    start();
     ES(glEnableClientState)(GL_VERTEX_ARRAY);
     ES(glColor4x)(0, 65536, 0, 65536);
     // Two vertices that no draw reads, then the right half. The copies end where the numbers do.
@@ -58,31 +60,28 @@ TEST_F(Gles1Drawing, DrawsFromArraysOfEveryTypeWhereverTheyLie) {
     const GLushort indices[] = {2, 3, 4, 4, 3, 5};
     for (const GLenum type : {GL_BYTE, GL_SHORT, GL_FIXED, GL_FLOAT}) {
         for (const bool isInBuffer : {false, true}) {
-            for (const bool isIndexed : {false, true}) {
-                SCOPED_TRACE(testing::Message() << std::hex << type << isInBuffer << isIndexed);
-                const std::vector<char> bytes = inType(type, corners);
-                if (isInBuffer) buffer(GL_ARRAY_BUFFER, bytes.data(), bytes.size());
-                ES(glVertexPointer)(2, type, 0, isInBuffer ? nullptr : bytes.data());
-                ES(glBindBuffer)(GL_ARRAY_BUFFER, 0);
-                EXPECT_EQ(integer(GL_VERTEX_ARRAY_TYPE), static_cast<GLint>(type));
-                EXPECT_EQ(integer(GL_VERTEX_ARRAY_BUFFER_BINDING) != 0, isInBuffer);
-                if (isIndexed && isInBuffer) buffer(GL_ELEMENT_ARRAY_BUFFER, indices, sizeof indices);
-                clear();
-                if (isIndexed) {
-                    ES(glDrawElements)(GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, isInBuffer ? nullptr : indices);
-                } else {
-                    ES(glDrawArrays)(GL_TRIANGLE_STRIP, 2, 4);
-                }
-                ES(glBindBuffer)(GL_ELEMENT_ARRAY_BUFFER, 0);
-                expectRightHalf(green);
-            }
+            SCOPED_TRACE(testing::Message() << std::hex << type << isInBuffer);
+            const std::vector<char> bytes = inType(type, corners);
+            if (isInBuffer) buffer(GL_ARRAY_BUFFER, bytes.data(), bytes.size());
+            ES(glVertexPointer)(2, type, 0, isInBuffer ? nullptr : bytes.data());
+            ES(glBindBuffer)(GL_ARRAY_BUFFER, 0);
+            EXPECT_EQ(integer(GL_VERTEX_ARRAY_TYPE), static_cast<GLint>(type));
+            EXPECT_EQ(integer(GL_VERTEX_ARRAY_BUFFER_BINDING) != 0, isInBuffer);
+            clear();
+            ES(glDrawArrays)(GL_TRIANGLE_STRIP, 2, 4);
+            expectRightHalf(green);
+            if (isInBuffer) buffer(GL_ELEMENT_ARRAY_BUFFER, indices, sizeof indices);
+            clear();
+            ES(glDrawElements)(GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, isInBuffer ? nullptr : indices);
+            ES(glBindBuffer)(GL_ELEMENT_ARRAY_BUFFER, 0);
+            expectRightHalf(green);
         }
     }
 }
 
 TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
-    start();
     const std::vector<char> greens = inType(GL_FIXED, {0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1});
+    const std::vector<char> normals = inType(GL_FIXED, {0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1});
     ES(glEnableClientState)(GL_COLOR_ARRAY);
     ES(glColorPointer)(4, GL_FIXED, 0, greens.data());
     drawWholeQuad();
@@ -90,14 +89,13 @@ TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
     ES(glDisableClientState)(GL_COLOR_ARRAY);
 
     // Light from the front: black unless the normals point there.
-    const std::vector<char> normals = inType(GL_FIXED, {0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1});
+    const GLfixed whites[] = {65536, 65536, 65536, 65536};
     ES(glNormal3x)(0, 0, -65536);
     ES(glEnableClientState)(GL_NORMAL_ARRAY);
     ES(glNormalPointer)(GL_FIXED, 0, normals.data());
     ES(glEnable)(GL_LIGHTING);
     ES(glEnable)(GL_LIGHT0);
-    const GLfixed white[] = {65536, 65536, 65536, 65536};
-    ES(glMaterialxv)(GL_FRONT_AND_BACK, GL_DIFFUSE, white);
+    ES(glMaterialxv)(GL_FRONT_AND_BACK, GL_DIFFUSE, whites);
     drawWholeQuad();
     EXPECT_EQ(pixel(5, 5)[0], 255);
     ES(glDisable)(GL_LIGHTING);
@@ -113,17 +111,12 @@ TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
         ES(glEnableClientState)(GL_TEXTURE_COORD_ARRAY);
         ES(glTexCoordPointer)(2, type, 0, coordinates.data());
         ES(glClientActiveTexture)(GL_TEXTURE0);
-        clear();
         drawWholeQuad();
-        EXPECT_EQ(pixel(1, 1), red) << type;
-        EXPECT_EQ(pixel(size - 2, 1), green) << type;
-        EXPECT_EQ(pixel(1, size - 2), blue) << type;
-        EXPECT_EQ(integer(GL_CLIENT_ACTIVE_TEXTURE), GL_TEXTURE0);
+        expectPixels({{1, 1, red}, {14, 1, green}, {1, 14, blue}});
     }
 }
 
 TEST_F(Gles1Drawing, EachVertexArrayObjectHasItsOwnArrays) {
-    start();
     const std::vector<char> right = inType(GL_FIXED, {0, -1, 1, -1, 0, 1, 1, 1});
     GLuint object = 0;
     ES(glGenVertexArraysOES)(1, &object);
@@ -133,26 +126,22 @@ TEST_F(Gles1Drawing, EachVertexArrayObjectHasItsOwnArrays) {
     ES(glEnableClientState)(GL_VERTEX_ARRAY);
     ES(glBindBuffer)(GL_ARRAY_BUFFER, 0);
     ES(glVertexPointer)(2, GL_FIXED, 0, right.data());
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_OPERATION)) << "client memory in an object";
+    EXPECT_EQ(error(), GL_INVALID_OPERATION) << "client memory in an object";
     ES(glBindVertexArrayOES)(0);
-    EXPECT_EQ(integer(GL_VERTEX_ARRAY_TYPE), GL_FLOAT);
     drawWholeQuad();
-    EXPECT_EQ(pixel(1, 1)[0], 255);
+    EXPECT_EQ(pixel(1, 1), white);
     ES(glBindVertexArrayOES)(object);
-    ES(glColor4x)(0, 65536, 0, 65536);
     clear();
     ES(glDrawArrays)(GL_TRIANGLE_STRIP, 0, 4);
-    expectRightHalf(green);
+    expectRightHalf(white);
     // What is left of the array must not be read at an offset that was one of the buffer.
     ES(glDeleteBuffers)(1, &name);
     ES(glDrawArrays)(GL_TRIANGLE_STRIP, 0, 4);
-    EXPECT_EQ(integer(GL_VERTEX_ARRAY_BUFFER_BINDING), 0);
     ES(glDeleteVertexArraysOES)(1, &object);
     EXPECT_EQ(integer(GL_VERTEX_ARRAY_TYPE), GL_FLOAT);
 }
 
 TEST_F(Gles1Drawing, PointsMayHaveSizesOfTheirOwn) {
-    start();
     const GLfloat centres[] = {-0.5f, -0.5f, 0.5f, 0.5f};
     const GLfixed sizes[] = {2 * 65536, 6 * 65536};
     const GLubyte indices[] = {1, 0};
@@ -160,62 +149,43 @@ TEST_F(Gles1Drawing, PointsMayHaveSizesOfTheirOwn) {
     ES(glVertexPointer)(2, GL_FLOAT, 0, centres);
     ES(glEnableClientState)(GL_POINT_SIZE_ARRAY_OES);
     ES(glPointSizePointerOES)(GL_FIXED, 0, sizes);
-    EXPECT_TRUE(ES(glIsEnabled)(GL_POINT_SIZE_ARRAY_OES));
     for (const bool isIndexed : {false, true}) {
         clear();
         if (isIndexed) ES(glDrawElements)(GL_POINTS, 2, GL_UNSIGNED_BYTE, indices);
         if (!isIndexed) ES(glDrawArrays)(GL_POINTS, 0, 2);
-        EXPECT_EQ(pixel(4, 4)[0], 255);
-        EXPECT_EQ(pixel(6, 4), black);
-        EXPECT_EQ(pixel(14, 12)[0], 255);
-        EXPECT_EQ(pixel(12, 9)[0], 255);
+        expectPixels({{4, 4, white}, {6, 4, black}, {14, 12, white}, {12, 9, white}});
     }
     EXPECT_EQ(integer(GL_POINT_SIZE), 1);
 }
 
 TEST_F(Gles1Drawing, DrawsTheCropOfATextureInWindowCoordinates) {
-    start();
     bindColors();
     const GLint crop[] = {0, 2, 2, -2}; // upside down
     ES(glTexParameteriv)(GL_TEXTURE_2D, GL_TEXTURE_CROP_RECT_OES, crop);
     // All of this must be set aside and come back.
     ES(glMatrixMode)(GL_TEXTURE);
     ES(glScalex)(3 * 65536, 5 * 65536, 65536);
-    ES(glTranslatex)(65536, 0, 0);
     ES(glEnable)(GL_LIGHTING);
     ES(glEnable)(GL_CULL_FACE);
     ES(glFrontFace)(GL_CW);
     ES(glViewport)(0, 0, 4, 4);
     clear();
     ES(glDrawTexxOES)(2 * 65536, 4 * 65536, 0, 8 * 65536, 8 * 65536);
-    EXPECT_EQ(pixel(2, 4), blue);
-    EXPECT_EQ(pixel(2, 11), red);
-    EXPECT_EQ(pixel(9, 11), green);
-    for (const auto &[x, y] : {std::array{1, 4}, {10, 4}, {2, 3}, {2, 12}})
-        EXPECT_EQ(pixel(x, y), black) << x << ' ' << y;
-    EXPECT_EQ(integer(GL_MATRIX_MODE), GL_TEXTURE);
+    expectPixels({{2, 4, blue}, {2, 11, red}, {9, 11, green}});
+    expectPixels({{1, 4, black}, {10, 4, black}, {2, 3, black}, {2, 12, black}});
     GLfixed matrix[16] = {};
     ES(glGetFixedv)(GL_TEXTURE_MATRIX, matrix);
     EXPECT_EQ(matrix[5], 5 * 65536);
-    EXPECT_EQ(matrix[12], 3 * 65536);
+    EXPECT_EQ(integer(GL_MATRIX_MODE), GL_TEXTURE);
     EXPECT_TRUE(ES(glIsEnabled)(GL_LIGHTING));
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_NO_ERROR));
-    ES(glDrawTexiOES)(0, 0, 0, 0, 4);
-    EXPECT_EQ(error(), static_cast<GLenum>(GL_INVALID_VALUE));
 }
 
 TEST_F(Gles1Drawing, DrawsIntoFramebufferObjectsWhoseNamesNobodyGenerated) {
-    start();
     clear();
-    const GLuint texture = bindTexture();
-    ES(glDisable)(GL_TEXTURE_2D);
-    ES(glTexImage2D)(GL_TEXTURE_2D, 0, GL_RGBA, size, size, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
     ES(glBindFramebufferOES)(GL_FRAMEBUFFER_OES, 7);
-    ES(glFramebufferTexture2DOES)(GL_FRAMEBUFFER_OES, GL_COLOR_ATTACHMENT0_OES, GL_TEXTURE_2D, texture, 0);
     ES(glBindRenderbufferOES)(GL_RENDERBUFFER_OES, 9);
-    ES(glRenderbufferStorageOES)(GL_RENDERBUFFER_OES, GL_DEPTH_COMPONENT16_OES, size, size);
-    ES(glFramebufferRenderbufferOES)(GL_FRAMEBUFFER_OES, GL_DEPTH_ATTACHMENT_OES, GL_RENDERBUFFER_OES, 9);
-    ASSERT_EQ(ES(glCheckFramebufferStatusOES)(GL_FRAMEBUFFER_OES), static_cast<GLenum>(GL_FRAMEBUFFER_COMPLETE_OES));
+    ES(glRenderbufferStorageOES)(GL_RENDERBUFFER_OES, GL_RGBA4_OES, size, size);
+    ES(glFramebufferRenderbufferOES)(GL_FRAMEBUFFER_OES, GL_COLOR_ATTACHMENT0_OES, GL_RENDERBUFFER_OES, 9);
     ES(glClearColorx)(0, 0, 65536, 65536);
     clear();
     EXPECT_EQ(pixel(3, 3), blue);
@@ -224,18 +194,13 @@ TEST_F(Gles1Drawing, DrawsIntoFramebufferObjectsWhoseNamesNobodyGenerated) {
 }
 
 TEST_F(Gles1Drawing, GeneratesTheCoordinatesOfCubeMaps) {
-    start();
     bindTexture(GL_TEXTURE_CUBE_MAP_OES);
     for (GLenum face = GL_TEXTURE_CUBE_MAP_POSITIVE_X_OES; face <= GL_TEXTURE_CUBE_MAP_NEGATIVE_Z_OES; ++face) {
         const Pixel texel = face == GL_TEXTURE_CUBE_MAP_POSITIVE_Y_OES ? green : red;
         ES(glTexImage2D)(face, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, texel.data());
     }
-    GLfixed mode = 0;
-    ES(glGetTexGenxvOES)(GL_TEXTURE_GEN_STR_OES, GL_TEXTURE_GEN_MODE_OES, &mode);
-    EXPECT_EQ(mode, GL_REFLECTION_MAP_OES);
     ES(glTexGeniOES)(GL_TEXTURE_GEN_STR_OES, GL_TEXTURE_GEN_MODE_OES, GL_NORMAL_MAP_OES);
     ES(glEnable)(GL_TEXTURE_GEN_STR_OES);
-    EXPECT_TRUE(ES(glIsEnabled)(GL_TEXTURE_GEN_STR_OES));
     for (const GLfloat up : {1.0f, -1.0f}) {
         ES(glNormal3f)(0, up, 0);
         drawWholeQuad();
@@ -244,21 +209,12 @@ TEST_F(Gles1Drawing, GeneratesTheCoordinatesOfCubeMaps) {
 }
 
 TEST_F(Gles1Drawing, TheRenderModeAndTheDebugEntriesSwitchWireframe) {
-    start();
-    const uint8_t modes[] = {1, 0};
-    const auto expect = [&](bool isWire) {
-        clear();
-        drawWholeQuad();
-        EXPECT_EQ(pixel(3, 8), (isWire ? black : Pixel{255, 255, 255, 255}));
-    };
-    expect(false);
-    setRenderMode(&modes[0], 1);
-    expect(true);
-    setRenderMode(&modes[1], 1);
-    expect(false);
     const auto set = reinterpret_cast<void (*)(GLuint)>(getExtProcAddress("zvSetContextWireframe"));
-    set(1);
-    expect(true);
-    set(0);
-    expect(false);
+    for (const bool isByEntry : {false, true}) {
+        for (const uint8_t isWire : {0, 1, 0}) {
+            isByEntry ? set(isWire) : setRenderMode(&isWire, 1);
+            drawWholeQuad();
+            EXPECT_EQ(pixel(3, 8), (isWire ? black : white));
+        }
+    }
 }

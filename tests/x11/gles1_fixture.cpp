@@ -13,7 +13,6 @@ namespace {
 
 zvEsContext currentEsContext = nullptr;
 std::string profileText;
-zvMessage lastMessage;
 
 // Stays open: the driver is unloaded with the last connection, and its losses could not be told by its name any more.
 Display *connection() {
@@ -35,9 +34,7 @@ extern "C" ZV_EXPORT int zvGuiIsAttached(void) {
     return 0;
 }
 
-extern "C" ZV_EXPORT void zvPostFrameMessage(zvMessage message) {
-    lastMessage = message;
-}
+extern "C" ZV_EXPORT void zvPostFrameMessage(zvMessage) {}
 
 struct Gles1::Host {
     GLXContext context;
@@ -55,7 +52,7 @@ Gles1::Gles1() : m_library(dlopen(ZELVANE_BACK_END, RTLD_LAZY | RTLD_GLOBAL)) {
 }
 
 Gles1::~Gles1() {
-    EXPECT_EQ(currentEsContext ? error() : GL_NO_ERROR, static_cast<GLenum>(GL_NO_ERROR)) << "at the end";
+    EXPECT_EQ(currentEsContext ? error() : GL_NO_ERROR, GL_NO_ERROR) << "at the end";
     const auto deleteEsContext = reinterpret_cast<decltype(&zvDeleteEsContext)>(symbol("zvDeleteEsContext"));
     glXMakeContextCurrent(connection(), None, None, nullptr);
     for (const Host &host : hosts) {
@@ -97,10 +94,6 @@ zvEsContext Gles1::start(const std::string &profile, bool isCore, zvEsContext sh
     return currentEsContext;
 }
 
-const zvMessage &Gles1::posted() {
-    return lastMessage;
-}
-
 void *Gles1::symbol(const char *name) const {
     return dlsym(m_library, name);
 }
@@ -131,6 +124,6 @@ GLint Gles1::integer(GLenum pname) {
     return value;
 }
 
-GLenum Gles1::error() {
-    return ES(glGetError)();
+GLint Gles1::error() {
+    return static_cast<GLint>(ES(glGetError)());
 }

@@ -18,6 +18,7 @@ protected:
     static constexpr Pixel red = {255, 0, 0, 255};
     static constexpr Pixel green = {0, 255, 0, 255};
     static constexpr Pixel blue = {0, 0, 255, 255};
+    static constexpr Pixel white = {255, 255, 255, 255};
     static constexpr Pixel black = {0, 0, 0, 255};
 
     Gles1();
@@ -26,9 +27,6 @@ protected:
     // Makes a host context and a back-end context on it, which shares with the last one if asked, and makes them the
     // current ones. Null when the back end refuses.
     zvEsContext start(const std::string &profile = "", bool isCore = false, zvEsContext share = nullptr);
-
-    // The last record that the back end has posted.
-    static const zvMessage &posted();
 
     template <typename Function>
     Function *es(const char *name) {
@@ -42,7 +40,7 @@ protected:
     // A texture of one level with these texels, bound, on and unfiltered.
     GLuint bindTexture(GLenum target = GL_TEXTURE_2D);
     GLint integer(GLenum pname);
-    GLenum error();
+    GLint error();
 
     decltype(&zvGetExtProcAddress) getExtProcAddress;
     decltype(&zvSetRenderMode) setRenderMode;
