@@ -35,17 +35,6 @@ void post(const UiLink &link, uint32_t type) {
     link.post(message);
 }
 
-TEST(LinkFaults, AThousandApplicationsConnectOneAfterTheOther) {
-    ScriptedGui gui;
-    for (int i = 0; i < 1000; ++i) {
-        const UiLink link(noteRenderMode);
-        link.post(windowTitle(std::to_string(i)));
-        gui.accept();
-        ASSERT_EQ(gui.read()->header.type, ZV_PROCESS_HELLO);
-        ASSERT_EQ(textOf(*gui.read()), std::to_string(i));
-    }
-}
-
 } // namespace
 
 TEST_F(Link, OnlyTypesOfTheLibraryAndTheBackEndsAreSent) {
@@ -183,4 +172,15 @@ TEST(LinkFaults, AGuiThatIsKilledWhileEightThreadsLogHarmsNobody) {
     EXPECT_NE(testing::internal::GetCapturedStderr().find("(Error) after\n"), std::string::npos);
     EXPECT_EQ(waitpid(child, nullptr, 0), child);
     unlink(server.path().c_str());
+}
+
+TEST(LinkFaults, AThousandApplicationsConnectOneAfterTheOther) {
+    ScriptedGui gui;
+    for (int i = 0; i < 1000; ++i) {
+        const UiLink link(noteRenderMode);
+        link.post(windowTitle(std::to_string(i)));
+        gui.accept();
+        ASSERT_EQ(gui.read()->header.type, ZV_PROCESS_HELLO);
+        ASSERT_EQ(textOf(*gui.read()), std::to_string(i));
+    }
 }
