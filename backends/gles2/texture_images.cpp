@@ -71,11 +71,4 @@ void GL_APIENTRY texStorage3D(GLenum target, GLsizei levels, GLenum internalform
                   [&](GLenum internal) { hostGl().texStorage3D(target, levels, internal, width, height, depth); });
 }
 
-void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum internalformat, GLsizei width, GLsizei height,
-                                      GLint border, GLsizei imageSize, const void *data) {
-    defineStorage(target, internalformat, [&](GLenum internal) {
-        hostGl().compressedTexImage2D(target, level, internal, width, height, border, imageSize, data);
-    });
-}
-
 } // namespace overrides
