@@ -1,13 +1,11 @@
 // The five functions that libEGL.so.1 asks of a back end.
+#include "common/host_features.h"
+#include "common/refusal.h"
 #include "common/render_mode.h"
 #include "entry_lookup.h"
 #include "es_context.h"
 #include "host_gl.h"
 
-#include "common/host_features.h"
-
-#include <cstdio>
-#include <cstring>
 #include <memory>
 #include <new>
 #include <string>
@@ -28,21 +26,12 @@ std::string reasonToRefuse(GLint major) {
     return "";
 }
 
-// On standard error, and to a GUI.
-void tell(const std::string &text) {
-    std::fprintf(stderr, "(Error) %s\n", text.c_str());
-    zvMessage message = {};
-    message.header.type = ZV_LOG_ERROR;
-    std::strncpy(message.text.text, text.c_str(), sizeof message.text.text - 1);
-    zvPostFrameMessage(message);
-}
-
 } // namespace
 
 zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *settings, zvEsContext share) {
     if (!attribs) return nullptr;
     if (const std::string reason = reasonToRefuse(attribs->esMajor); !reason.empty()) {
-        tell("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
+        reportRefusal("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
         return nullptr;
     }
     try {
