@@ -61,7 +61,7 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     } else {
         gl.compressedTexImage2D(target, level, host.internal, width, height, border, imageSize, data);
     }
-    setFormatSwizzle(*context, target, host.swizzle);
+    setFormatSwizzle(*context, target, internalformat, host.swizzle);
 }
 
 // No part of an ETC1 image can be replaced.

@@ -94,6 +94,59 @@ TEST_F(BackEndTextures, FormatsThatOnlyEsHasAreSampledAsEsSays) {
     EXPECT_EQ(sampled()[0], 128);
 }
 
+TEST_F(BackEndTextures, AnImageTellsWhatTheApplicationGave) {
+    start(3, 1);
+    bindNew();
+    const struct {
+        GLenum internal;
+        GLint sizes[4];
+    } cases[] = {
+        {GL_ALPHA, {0, 0, 0, 8}},
+        {GL_LUMINANCE, {0, 0, 0, 0}},
+        {GL_LUMINANCE_ALPHA, {0, 0, 0, 8}},
+        {GL_RGBA, {8, 8, 8, 8}},
+    };
+    for (const auto &row : cases) {
+        SCOPED_TRACE(row.internal);
+        image(row.internal, row.internal, GL_UNSIGNED_BYTE, nullptr);
+        GLfloat internal = 0;
+        ES(glGetTexLevelParameterfv)(GL_TEXTURE_2D, 0, GL_TEXTURE_INTERNAL_FORMAT, &internal);
+        EXPECT_EQ(internal, static_cast<GLfloat>(row.internal));
+        for (GLenum channel = 0; channel < 4; ++channel) {
+            GLint size = -2;
+            ES(glGetTexLevelParameteriv)(GL_TEXTURE_2D, 0, GL_TEXTURE_RED_SIZE + channel, &size);
+            EXPECT_EQ(size, row.sizes[channel]) << channel;
+        }
+    }
+    image(GL_ALPHA, GL_ALPHA, GL_UNSIGNED_BYTE, nullptr);
+    GLint untouched = -2;
+    ES(glGetTexLevelParameteriv)(GL_TEXTURE_2D, -1, GL_TEXTURE_INTERNAL_FORMAT, &untouched);
+    EXPECT_EQ(error(), GL_INVALID_VALUE);
+    EXPECT_EQ(untouched, -2);
+}
+
+TEST_F(BackEndTextures, AnImageOfEs2HasTheFormatsOfEs2) {
+    start(2, 0);
+    bindNew();
+    const struct {
+        GLenum internal, format, type;
+        GLint error;
+    } cases[] = {
+        {GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR},
+        {GL_RGB, GL_RGB, GL_UNSIGNED_SHORT_5_6_5, GL_NO_ERROR},
+        {GL_ALPHA, GL_ALPHA, GL_HALF_FLOAT_OES, GL_NO_ERROR},
+        {GL_RGBA8, GL_RGBA, GL_UNSIGNED_BYTE, GL_INVALID_VALUE},
+        {GL_RGB, GL_RGBA, GL_UNSIGNED_BYTE, GL_INVALID_OPERATION},
+        {GL_RGBA, GL_RGBA, GL_UNSIGNED_SHORT_5_6_5, GL_INVALID_OPERATION},
+        {GL_RGBA, GL_RGBA, GL_INT, GL_INVALID_ENUM},
+        {GL_RGBA, GL_RGBA_INTEGER, GL_UNSIGNED_BYTE, GL_INVALID_ENUM},
+    };
+    for (const auto &row : cases) {
+        image(row.internal, row.format, row.type, nullptr);
+        EXPECT_EQ(error(), row.error) << std::hex << row.internal << ' ' << row.format << ' ' << row.type;
+    }
+}
+
 TEST_F(BackEndTextures, StoragesAndPartsOfImagesHaveThemToo) {
     startTextured(3, 0);
     const GLubyte bytes[] = {51, 102};
@@ -220,6 +273,13 @@ TEST_F(BackEndTextures, NamesMayBeMadeUp) {
     EXPECT_EQ(integer(GL_RENDERBUFFER_BINDING), 50);
     ES(glBindBuffer)(GL_ARRAY_BUFFER, 60);
     EXPECT_EQ(integer(GL_ARRAY_BUFFER_BINDING), 60);
+    char label[20] = "";
+    ES(glObjectLabelKHR)(GL_TEXTURE, name, -1, "sky");
+    ES(glGetObjectLabelEXT)(GL_TEXTURE, name, sizeof label, nullptr, label);
+    EXPECT_STREQ(label, "sky");
+    ES(glLabelObjectEXT)(GL_BUFFER_OBJECT_EXT, 60, 0, "corners");
+    ES(glGetObjectLabelKHR)(GL_BUFFER_KHR, 60, sizeof label, nullptr, label);
+    EXPECT_STREQ(label, "corners");
     ES(glDeleteTextures)(1, &name);
     EXPECT_EQ(ES(glIsTexture)(name), GL_FALSE);
 }
