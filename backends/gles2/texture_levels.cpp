@@ -26,13 +26,13 @@ void get(GLenum target, GLint level, GLenum pname, Value *params,
     const TextureSwizzle known = context ? formatSwizzle(*context, target) : TextureSwizzle{};
     if (known.ofFormat == plainSwizzle) return host(target, level, pname, params);
     const GLenum hostName = hostChannel(pname, known.ofFormat);
-    // Stays when the call is an error.
-    constexpr Value none = -1;
-    Value found = none;
-    host(target, level, hostName == GL_NONE ? pname : hostName, &found);
+    // Stays when the call is an error; a host's form for floats may write all the same.
+    constexpr GLint none = -1;
+    GLint found = none;
+    hostGl().getTexLevelParameteriv(target, level, hostName == GL_NONE ? pname : hostName, &found);
     if (found == none) return;
     if (hostName == GL_NONE) found = 0;
-    *params = pname == GL_TEXTURE_INTERNAL_FORMAT ? static_cast<Value>(known.internal) : found;
+    *params = static_cast<Value>(pname == GL_TEXTURE_INTERNAL_FORMAT ? static_cast<GLint>(known.internal) : found);
 }
 
 } // namespace
