@@ -1,6 +1,6 @@
 // Paletted and ETC1 textures, which hosts need not have, are decoded here. The rest goes to the host.
+#include "common/etc1.h"
 #include "es_context.h"
-#include "etc1.h"
 #include "host_gl.h"
 #include "overrides.h"
 

@@ -68,14 +68,14 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
                           pixels);
         });
     }
-    setFormatSwizzle(*context, target, host.swizzle);
+    setFormatSwizzle(*context, target, internalformat, host.swizzle);
 }
 
 void GL_APIENTRY copyTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLint x, GLint y,
                                    GLsizei width, GLsizei height) {
     const HostGl &gl = hostGl();
     EsContext *const context = EsContext::current();
-    const Channels channels = context ? channelsOf(formatSwizzle(*context, target)) : Channels{};
+    const Channels channels = context ? channelsOf(formatSwizzle(*context, target).ofFormat) : Channels{};
     if (channels.count == 0 || width <= 0 || height <= 0) {
         return gl.copyTexSubImage2D(target, level, xoffset, yoffset, x, y, width, height);
     }

@@ -88,7 +88,20 @@ HostTextureFormat hostTextureFormat(GLenum internal) {
     return {row->hostInternal, internal, GL_UNSIGNED_BYTE, row->swizzle};
 }
 
-bool isOnlyOfEs(GLenum internal) {
-    return internal == GL_ALPHA || internal == GL_LUMINANCE || internal == GL_LUMINANCE_ALPHA ||
-           internal == GL_BGRA_EXT || internal == GL_SRGB_EXT || internal == GL_SRGB_ALPHA_EXT;
+GLenum es2ImageError(GLenum internal, GLenum format, GLenum type) {
+    if (type == halfFloatOes) type = GL_HALF_FLOAT;
+    const auto isKnown = [](GLenum name, GLenum Unsized::*column) {
+        return std::ranges::find(unsizedFormats, name, column) != std::end(unsizedFormats);
+    };
+    if (!isKnown(format, &Unsized::format) || !isKnown(type, &Unsized::type)) return GL_INVALID_ENUM;
+    if (!isKnown(internal, &Unsized::format)) return GL_INVALID_VALUE;
+    const auto isRow = [&](const Unsized &row) { return row.format == format && row.type == type; };
+    const bool isTaken = internal == format && std::ranges::any_of(unsizedFormats, isRow);
+    return isTaken ? GL_NO_ERROR : GL_INVALID_OPERATION;
+}
+
+GLenum es3ImageError(GLenum internal, GLenum format) {
+    const bool isOnlyOfEs = internal == GL_ALPHA || internal == GL_LUMINANCE || internal == GL_LUMINANCE_ALPHA ||
+                            internal == GL_BGRA_EXT || internal == GL_SRGB_EXT || internal == GL_SRGB_ALPHA_EXT;
+    return isOnlyOfEs && internal != format ? GL_INVALID_OPERATION : GL_NO_ERROR;
 }

@@ -6,16 +6,16 @@
 
 namespace {
 
-// Calls the host with its own format and gives the texture the swizzle of the application's. In ES the two formats of
-// an unsized image are one.
+// Calls the host with its own format and gives the texture the swizzle of the application's.
 template <typename Define>
 void define(GLenum target, GLenum internal, GLenum format, GLenum type, Define call) {
     EsContext *const context = EsContext::current();
     if (!context) return call(HostTextureFormat{internal, format, type, plainSwizzle});
-    if (isOnlyOfEs(internal) && internal != format) return context->raise(GL_INVALID_OPERATION);
+    const GLenum error = context->major < 3 ? es2ImageError(internal, format, type) : es3ImageError(internal, format);
+    if (error != GL_NO_ERROR) return context->raise(error);
     const HostTextureFormat host = hostTextureFormat(internal, format, type);
     call(host);
-    setFormatSwizzle(*context, target, host.swizzle);
+    setFormatSwizzle(*context, target, internal, host.swizzle);
 }
 
 template <typename Define>
@@ -24,7 +24,7 @@ void defineStorage(GLenum target, GLenum internal, Define call) {
     if (!context) return call(internal);
     const HostTextureFormat host = hostTextureFormat(internal);
     call(host.internal);
-    setFormatSwizzle(*context, target, host.swizzle);
+    setFormatSwizzle(*context, target, internal, host.swizzle);
 }
 
 } // namespace
@@ -69,13 +69,6 @@ void GL_APIENTRY texStorage3D(GLenum target, GLsizei levels, GLenum internalform
                               GLsizei depth) {
     defineStorage(target, internalformat,
                   [&](GLenum internal) { hostGl().texStorage3D(target, levels, internal, width, height, depth); });
-}
-
-void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum internalformat, GLsizei width, GLsizei height,
-                                      GLint border, GLsizei imageSize, const void *data) {
-    defineStorage(target, internalformat, [&](GLenum internal) {
-        hostGl().compressedTexImage2D(target, level, internal, width, height, border, imageSize, data);
-    });
 }
 
 } // namespace overrides

@@ -64,7 +64,7 @@ bool getApplications(GLenum target, GLenum pname, Value *params) {
 
 } // namespace
 
-void setFormatSwizzle(EsContext &context, GLenum target, const Swizzle &swizzle) {
+void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const Swizzle &swizzle) {
     if (swizzle == plainSwizzle && hasNone(context)) return;
     target = wholeTarget(target);
     if (!bindingOf(target)) return;
@@ -77,16 +77,16 @@ void setFormatSwizzle(EsContext &context, GLenum target, const Swizzle &swizzle)
             hostGl().getTexParameteriv(target, swizzleNames[channel], &entry->ofApplication[channel]);
     }
     entry->ofFormat = swizzle;
+    entry->internal = internal;
     place.swizzles->set(place.key, *entry);
     tellHost(target, *entry);
 }
 
-Swizzle formatSwizzle(EsContext &context, GLenum target) {
+TextureSwizzle formatSwizzle(EsContext &context, GLenum target) {
     target = wholeTarget(target);
-    if (hasNone(context) || !bindingOf(target)) return plainSwizzle;
+    if (hasNone(context) || !bindingOf(target)) return {};
     const Place place = placeOf(context, target);
-    const auto entry = place.swizzles->find(place.key);
-    return entry ? entry->ofFormat : plainSwizzle;
+    return place.swizzles->find(place.key).value_or(TextureSwizzle{});
 }
 
 namespace overrides {

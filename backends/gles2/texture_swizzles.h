@@ -5,8 +5,9 @@
 #include "texture_formats.h"
 
 struct TextureSwizzle {
-    Swizzle ofFormat;
-    Swizzle ofApplication;
+    Swizzle ofFormat = plainSwizzle;
+    Swizzle ofApplication = plainSwizzle;
+    GLenum internal = GL_NONE; // as the application gave it
 };
 
 // Those of a share group's textures, by the host's name; a context has one of its own for the textures of name 0, by
@@ -16,7 +17,8 @@ using TextureSwizzles = SharedMap<TextureSwizzle>;
 class EsContext;
 
 // The texture that is bound to the target has got this swizzle with its image's format.
-void setFormatSwizzle(EsContext &context, GLenum target, const Swizzle &swizzle);
+// internal: what the application calls the format.
+void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const Swizzle &swizzle);
 
-// That of the format of the texture that is bound to the target.
-[[nodiscard]] Swizzle formatSwizzle(EsContext &context, GLenum target);
+// Those of the texture that is bound to the target.
+[[nodiscard]] TextureSwizzle formatSwizzle(EsContext &context, GLenum target);

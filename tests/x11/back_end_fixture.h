@@ -2,53 +2,148 @@
 // libEGL would do, the fixture does: it binds the context and tells which back-end context is current.
 #pragma once
 
+#define GL_GLEXT_PROTOTYPES
 #include <GLES3/gl32.h>
+
+#include <GLES2/gl2ext.h>
 #include <gmock/gmock.h>
 #include <zelvane/back_end.h>
 
-#include <memory>
+#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
-struct HostContext; // the X and GLX objects
+using Pixel = std::array<GLubyte, 4>;
+
+#define SHADER(name, text) constexpr const char *name = text;
+#include "x11/data/shaders.def"
+#undef SHADER
+
+// What an application gets for the name, and what the library itself has under it.
+#define ES(name) (this->es<decltype(name)>(#name))
+#define OWN(name) reinterpret_cast<decltype(&name)>(this->symbol(#name))
 
 class BackEnd : public testing::Test {
+public:
+    // What the back end is told to be the calling thread's context.
+    static inline zvEsContext current = nullptr;
+
 protected:
     static constexpr int size = 16;
+    static constexpr Pixel black = {0, 0, 0, 255};
+    static constexpr Pixel red = {255, 0, 0, 255};
+    static constexpr Pixel green = {0, 255, 0, 255};
+    static constexpr Pixel blue = {0, 0, 255, 255};
 
     BackEnd();
     ~BackEnd() override;
+    // Every case takes the errors that it expects.
+    void TearDown() override { EXPECT_EQ(current ? error() : GL_NO_ERROR, GL_NO_ERROR); }
 
-    // Makes a back-end context of this version on the bound host context and makes it the current one.
-    void start(int esMajor, int esMinor, bool isSrgb = false);
-
-    // What the back end is told to be the calling thread's context.
-    static zvEsContext &current();
+    // Makes a back-end context of this version on the bound host context and makes it the current one, in the place of
+    // the one before.
+    void start(int esMajor, int esMinor, bool isSrgb = false) {
+        if (current) OWN(zvDeleteEsContext)(std::exchange(current, nullptr));
+        attribs.requestedMajor = esMajor;
+        attribs.esMajor = esMajor;
+        attribs.esMinor = esMinor;
+        attribs.srgbFramebuffer = isSrgb;
+        const uint64_t displayAndHandle[2] = {1, 1};
+        current = OWN(zvCreateEsContext)(&attribs, displayAndHandle, nullptr, nullptr);
+        ASSERT_NE(current, nullptr);
+    }
+    // The same with a cleared surface and with a program in use, whose attribute 0 is "position".
+    void startWith(int esMajor, int esMinor, const std::string &vertex, const std::string &fragment) {
+        start(esMajor, esMinor);
+        use(vertex, fragment);
+        ES(glViewport)(0, 0, size, size);
+        clear();
+    }
 
     // What an application gets for the name. The prototype says the type: es<decltype(glClear)>("glClear").
     template <typename Function>
     Function *es(const char *name) {
-        return reinterpret_cast<Function *>(getExtProcAddress(name));
+        return reinterpret_cast<Function *>(OWN(zvGetExtProcAddress)(name));
     }
-    // One value of glGetIntegerv.
-    GLint integer(GLenum name);
     // A symbol of the library itself.
     void *symbol(const char *name) const;
-    // File name of the library that holds the function.
-    static std::string homeOf(void *function);
 
-    GLuint compile(GLenum type, const std::vector<std::string> &source);
+    // Strings of a shader, and whether the last one compiled.
+    GLuint compile(GLenum type, const std::vector<std::string> &source) {
+        std::vector<const GLchar *> strings;
+        for (const std::string &string : source)
+            strings.push_back(string.c_str());
+        const GLuint shader = ES(glCreateShader)(type);
+        ES(glShaderSource)(shader, static_cast<GLsizei>(strings.size()), strings.data(), nullptr);
+        ES(glCompileShader)(shader);
+        GLint status = GL_FALSE;
+        ES(glGetShaderiv)(shader, GL_COMPILE_STATUS, &status);
+        isCompiled = status;
+        return shader;
+    }
+    bool isCompiled = false;
+    void use(const std::string &vertex, const std::string &fragment) {
+        program = ES(glCreateProgram)();
+        ES(glAttachShader)(program, compile(GL_VERTEX_SHADER, {vertex}));
+        ES(glAttachShader)(program, compile(GL_FRAGMENT_SHADER, {fragment}));
+        ES(glBindAttribLocation)(program, 0, "position");
+        ES(glLinkProgram)(program);
+        GLint isLinked = GL_FALSE;
+        ES(glGetProgramiv)(program, GL_LINK_STATUS, &isLinked);
+        char log[1000] = "";
+        ES(glGetProgramInfoLog)(program, sizeof log, nullptr, log);
+        ASSERT_EQ(isLinked, GL_TRUE) << log;
+        ES(glUseProgram)(program);
+    }
+    GLuint program = 0;
 
-    decltype(&zvCreateEsContext) createEsContext;
-    decltype(&zvSetEsContextAttribs) setEsContextAttribs;
-    decltype(&zvDeleteEsContext) deleteEsContext;
-    decltype(&zvGetExtProcAddress) getExtProcAddress;
-    decltype(&zvSetRenderMode) setRenderMode;
+    // Draws to an image of this format from now on, in framebuffer 40 and renderbuffer 50.
+    void drawToImage(GLenum format) {
+        ES(glBindFramebuffer)(GL_FRAMEBUFFER, 40);
+        ES(glBindRenderbuffer)(GL_RENDERBUFFER, 50);
+        ES(glRenderbufferStorage)(GL_RENDERBUFFER, format, size, size);
+        ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, 50);
+    }
+    void clear(GLfloat r = 0, GLfloat g = 0, GLfloat b = 0, GLfloat a = 1) {
+        ES(glClearColor)(r, g, b, a);
+        ES(glClear)(GL_COLOR_BUFFER_BIT);
+    }
+    // A new buffer, bound.
+    GLuint buffer(GLenum target, const void *bytes, size_t byteCount) {
+        GLuint name = 0;
+        ES(glGenBuffers)(1, &name);
+        ES(glBindBuffer)(target, name);
+        ES(glBufferData)(target, static_cast<GLsizeiptr>(byteCount), bytes, GL_STATIC_DRAW);
+        return name;
+    }
+    // Of positions of two numbers, in a buffer.
+    void draw(GLenum mode, const std::vector<GLfloat> &positions) {
+        buffer(GL_ARRAY_BUFFER, positions.data(), positions.size() * sizeof(GLfloat));
+        ES(glVertexAttribPointer)(0, 2, GL_FLOAT, GL_FALSE, 0, nullptr);
+        ES(glEnableVertexAttribArray)(0);
+        ES(glDrawArrays)(mode, 0, static_cast<GLsizei>(positions.size() / 2));
+    }
+    Pixel pixel(GLint x, GLint y) {
+        Pixel read = {1, 2, 3, 4};
+        ES(glReadPixels)(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, read.data());
+        return read;
+    }
+    // One value of glGetIntegerv.
+    GLint integer(GLenum name) {
+        GLint value = -1;
+        ES(glGetIntegerv)(name, &value);
+        return value;
+    }
+    std::string text(GLenum name) {
+        const GLubyte *const string = ES(glGetString)(name);
+        return string ? reinterpret_cast<const char *>(string) : "null";
+    }
+    // As the constants are written, signed.
+    GLint error() { return static_cast<GLint>(ES(glGetError)()); }
+
     ContextAttribs attribs = {};
 
 private:
-    std::unique_ptr<HostContext> m_host;
     void *m_library;
 };
-
-#define ES(name) (this->es<decltype(name)>(#name))

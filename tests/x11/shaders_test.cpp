@@ -1,92 +1,65 @@
-#include "x11/picture_fixture.h"
+#include "x11/back_end_fixture.h"
 
 namespace {
 
-class BackEndShaders : public BackEndPicture {
+class BackEndShaders : public BackEnd {
 protected:
-    bool isCompiled(const std::string &source) {
-        shader = compile(GL_FRAGMENT_SHADER, {source});
-        GLint status = GL_FALSE;
-        ES(glGetShaderiv)(shader, GL_COMPILE_STATUS, &status);
-        return status;
+    std::string source(GLuint shader, const char *entry = "glGetShaderSource") {
+        std::string text(400, '#');
+        GLsizei length = 0;
+        es<decltype(glGetShaderSource)>(entry)(shader, 400, &length, text.data());
+        return text.substr(0, static_cast<size_t>(length));
     }
-    std::string source() {
-        char text[400] = "";
-        ES(glGetShaderSource)(shader, sizeof text, nullptr, text);
-        return text;
-    }
-    GLuint shader = 0;
 };
 
 } // namespace
 
 TEST_F(BackEndShaders, AContextCompilesTheVersionsThatItHas) {
-    const struct {
-        const char *first;
-        int since; // version of ES
-    } cases[] = {
-        {"", 20},
-        {"#version 100\n", 20},
-        {"#version 300 es\n", 30},
-        {"/* a */ # version 310 es\n", 31},
-        {"#version 320 es\n", 32},
-        {"#version 330\n", 99},
-        {"#version 300\n", 99},
+    const auto check = [&](int version, const std::string &first, int since) {
+        const std::string body = "precision mediump float;\nvoid main() {}\n";
+        const GLuint shader = compile(GL_FRAGMENT_SHADER, {first, body.substr(0, 30), body.substr(30)});
+        EXPECT_EQ(isCompiled, version >= since) << version << ' ' << first;
+        EXPECT_EQ(source(shader), first + body);
+        GLint length = 0;
+        ES(glGetShaderiv)(shader, GL_SHADER_SOURCE_LENGTH, &length);
+        EXPECT_EQ(length, static_cast<GLint>(first.size() + body.size()) + 1);
+        GLchar start[5];
+        ES(glGetShaderSource)(shader, sizeof start, nullptr, start);
+        EXPECT_EQ(start, (first + body).substr(0, 4));
     };
     for (const int version : {20, 30, 31, 32}) {
         start(version / 10, version % 10);
-        for (const auto &row : cases) {
-            const std::string whole = std::string(row.first) + "precision mediump float;\nvoid main() {}\n";
-            EXPECT_EQ(isCompiled(whole), version >= row.since) << version << ' ' << row.first;
-            EXPECT_EQ(source(), whole);
-        }
-        deleteEsContext(std::exchange(current(), nullptr));
+#define SHADER_VERSION(first, since) check(version, first, since);
+#include "x11/data/shader_versions.def"
+#undef SHADER_VERSION
     }
 }
 
-TEST_F(BackEndShaders, AnExternalSamplerReadsTheExternalTexture) {
-    constexpr GLenum external = 0x8D65;
-    const std::string fragment = "#extension GL_OES_EGL_image_external : require\n"
-                                 "precision mediump float; uniform samplerExternalOES image, samplerExternalOESlike;\n"
-                                 "void main() { gl_FragColor = texture2D(image, vec2(0.5)); }";
-    startWith(2, 0, plainVertex, fragment);
-    ASSERT_TRUE(isCompiled(fragment));
-    EXPECT_EQ(source(), fragment);
-    const GLubyte pixel[] = {0, 0, 255, 255};
-    ES(glBindTexture)(external, 77);
-    GLint wrap = 0;
-    ES(glGetTexParameteriv)(external, GL_TEXTURE_WRAP_S, &wrap);
-    EXPECT_EQ(wrap, GL_CLAMP_TO_EDGE);
-    EXPECT_EQ(integer(0x8D67), 77);
-    ES(glTexImage2D)(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, pixel);
-    const GLfloat corners[] = {-1, -1, 3, -1, -1, 3};
-    ES(glVertexAttribPointer)(0, 2, GL_FLOAT, GL_FALSE, 0, corners);
-    ES(glEnableVertexAttribArray)(0);
-    ES(glDrawArrays)(GL_TRIANGLES, 0, 3);
-    EXPECT_EQ(this->pixel(3, 3), blue);
+TEST_F(BackEndShaders, TheHostGetsAVersionAndCountsTheApplicationsLines) {
+    start(2, 0);
+    const GLuint shader = compile(GL_FRAGMENT_SHADER, {"precision mediump float;\nvoid main() {\nbroken;\n}\n"});
+    EXPECT_THAT(source(shader, "zvGetOpenGLShaderSource"), testing::HasSubstr("#version"));
+    char log[500] = "";
+    ES(glGetShaderInfoLog)(shader, sizeof log, nullptr, log);
+    EXPECT_THAT(log, testing::HasSubstr("0:3("));
 }
 
-TEST_F(BackEndShaders, AnSrgbImageOfTheApplicationsTakesSrgbValues) {
-    startWith(3, 0, plainVertex, "void main() { gl_FragColor = vec4(0.5); }");
-    GLuint framebuffer = 0, renderbuffer = 0;
-    ES(glGenFramebuffers)(1, &framebuffer);
-    ES(glBindFramebuffer)(GL_FRAMEBUFFER, framebuffer);
-    ES(glGenRenderbuffers)(1, &renderbuffer);
-    ES(glBindRenderbuffer)(GL_RENDERBUFFER, renderbuffer);
-    ES(glRenderbufferStorage)(GL_RENDERBUFFER, GL_SRGB8_ALPHA8, size, size);
-    ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, renderbuffer);
-    const auto clearedTo = [&] {
-        ES(glClearColor)(0.5F, 0.5F, 0.5F, 1);
-        ES(glClear)(GL_COLOR_BUFFER_BIT);
-        return int(pixel(2, 2)[0]);
-    };
-    EXPECT_NEAR(clearedTo(), 188, 1);
-    ES(glDeleteFramebuffers)(1, &framebuffer);
-    EXPECT_NEAR(clearedTo(), 128, 1) << "the surface does not";
+TEST_F(BackEndShaders, AnExternalSamplerReadsTheExternalTexture) {
+    startWith(2, 0, plainVertex, externalFragment);
+    EXPECT_EQ(source(compile(GL_FRAGMENT_SHADER, {externalFragment})), externalFragment);
+    const GLubyte texel[] = {0, 0, 255, 255};
+    ES(glBindTexture)(GL_TEXTURE_EXTERNAL_OES, 77);
+    GLint wrap = 0;
+    ES(glGetTexParameteriv)(GL_TEXTURE_EXTERNAL_OES, GL_TEXTURE_WRAP_S, &wrap);
+    EXPECT_EQ(wrap, GL_CLAMP_TO_EDGE);
+    EXPECT_EQ(integer(GL_TEXTURE_BINDING_EXTERNAL_OES), 77);
+    ES(glTexImage2D)(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, texel);
+    draw(GL_TRIANGLES, {-1, -1, 3, -1, -1, 3});
+    EXPECT_EQ(pixel(3, 3), blue);
 }
 
 TEST_F(BackEndShaders, AProgramIsAVertexAndAFragmentShader) {
-    startGreen(2, 0);
+    start(2, 0);
     const GLuint half = ES(glCreateProgram)();
     const auto attach = ES(glAttachShader);
     attach(half, compile(GL_VERTEX_SHADER, {plainVertex}));

@@ -1,4 +1,4 @@
-#include "etc1.h"
+#include "common/etc1.h"
 
 #include <algorithm>
 #include <array>
