@@ -3,7 +3,6 @@
 
 #include <thread>
 
-#include "foundation/dynamic_library.h"
 #include "foundation/paths.h"
 #include "host/cocoa/platform_log.h"
 #include "host/host_context.h"
@@ -139,13 +138,6 @@ TEST_F(Cocoa, NoPoolIsNeeded) {
         EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
     }).join();
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "the runtime tells of objects that no pool holds";
-}
-
-TEST_F(Cocoa, NamesAndDirectories) {
-    EXPECT_EQ(hostOpenGLLibraryName + " "s + es1LibraryName + " " + es2LibraryName,
-              "libGL.dylib libGLESv1_CM.dylib libGLESv2.dylib");
-    EXPECT_EQ(hostLibrarySearchPaths(),
-              (std::vector{getOwnDirectory(), "/System/Library/Frameworks/OpenGL.framework/Libraries/"s}));
 }
 
 } // namespace
