@@ -76,13 +76,3 @@ TEST_F(DisplayEntries, FailedLoadIsTriedAgain) {
     setenv("HOME", home.c_str(), 1);
     EXPECT_SUCCEEDS(eglInitialize(eglGetDisplay(EGL_DEFAULT_DISPLAY), nullptr, nullptr));
 }
-
-TEST_F(DisplayEntries, ChooseConfigFindsTheOnlyOne) {
-    const EGLint none[] = {EGL_RED_SIZE, 9, EGL_NONE};
-    EGLConfig chosen[2] = {};
-    EGLint count = -77;
-    EXPECT_SUCCEEDS(eglChooseConfig(initialised(), none, chosen, 1, &count));
-    EXPECT_TRUE(count == 0 && !chosen[0]);
-    EXPECT_SUCCEEDS(eglChooseConfig(m_display, nullptr, chosen, 2, &count));
-    EXPECT_TRUE(count == 1 && chosen[0] == config());
-}

@@ -43,6 +43,7 @@ TEST_F(Profiles, AnEmbeddedOneGivesConfigsVersionsAndItsText) {
         EXPECT_EQ(contextOn(all.back(), major) || contextOn(all.front(), major), major != 2) << major;
     EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, contextOn(all[0], 3)));
     EXPECT_THAT(backEnd().profileText, AllOf(HasSubstr("Tarnlight T330"), EndsWith("</profile>\n")));
+    EXPECT_EQ(backEnd().profilesDirectory, directory);
 }
 
 TEST_F(Profiles, WithoutOneBackEndsGetAnEmptyText) {
