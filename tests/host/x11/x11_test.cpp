@@ -129,7 +129,6 @@ TEST(ServerThatDies, MakesEveryOperationFail) {
     EXPECT_FALSE(operations.setView(made.get(), root));
     EXPECT_FALSE(operations.setPixelBuffer(made.get(), buffer.get()));
     EXPECT_EQ(operations.createPixelFormat(0, coreList), nullptr);
-    EXPECT_EQ(operations.createContext(format.get(), nullptr), nullptr);
     operations.clearCurrentContext();
     EXPECT_FALSE(operations.makeCurrent(made.get()));
 
