@@ -22,7 +22,6 @@ using gl::GLEntryProxy;
 using testing::AllOf;
 using testing::Each;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 namespace {
@@ -86,7 +85,6 @@ TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
         EXPECT_EQ(entry(), context ? 2 : 1);
     }
     EXPECT_EQ(questions, 2u);
-    EXPECT_THAT(errors, IsEmpty());
 }
 
 // Also what a new context at the address of a dead one gets.
