@@ -19,7 +19,7 @@ protected:
 
     const EGLDisplay display = initialised();
     const EGLConfig config = EntryTest::config();
-    const EGLContext context = EntryTest::context(0);
+    const EGLContext context = create({}, config);
     const EGLSurface pixmap = eglCreatePixmapSurface(display, config, 5, nullptr);
 };
 

@@ -9,10 +9,6 @@ namespace {
 
 class Contexts : public EntryTest {
 protected:
-    EGLContext create(std::vector<EGLint> attributes, EGLConfig from) {
-        attributes.push_back(EGL_NONE);
-        return eglCreateContext(initialised(), from, EGL_NO_CONTEXT, attributes.data());
-    }
     EGLint query(EGLContext context, EGLint attribute) {
         EGLint value = -77;
         EXPECT_SUCCEEDS(eglQueryContext(initialised(), context, attribute, &value));

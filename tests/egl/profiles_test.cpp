@@ -25,10 +25,7 @@ protected:
         found.resize(count);
         return found;
     }
-    EGLContext contextOn(EGLConfig config, EGLint major) {
-        const EGLint attributes[] = {EGL_CONTEXT_CLIENT_VERSION, major, EGL_NONE};
-        return eglCreateContext(initialised(), config, EGL_NO_CONTEXT, attributes);
-    }
+    EGLContext contextOn(EGLConfig config, EGLint major) { return create({EGL_CONTEXT_CLIENT_VERSION, major}, config); }
 
     const std::string directory = std::string(getenv("HOME")) + "/profiles";
 };
