@@ -34,6 +34,11 @@ TEST_F(DisplayEntries, InitializeAndTerminateMoveBetweenTwoStates) {
     EGLint major = -1, minor = -1;
     EXPECT_SUCCEEDS(eglInitialize(m_display, &major, &minor));
     EXPECT_EQ(major * 10 + minor, 15);
+    const EGLint none[] = {EGL_RED_SIZE, 9, EGL_NONE};
+    EGLConfig chosen = nullptr;
+    EGLint count = -77;
+    EXPECT_SUCCEEDS(eglChooseConfig(m_display, none, &chosen, 1, &count));
+    EXPECT_TRUE(count == 0 && !chosen);
 #define STRING(name, text) EXPECT_STREQ(eglQueryString(m_display, name), text);
 #include "egl/data/strings.def"
 
