@@ -167,6 +167,7 @@ TEST_F(PropertyList, DataRoundTrip) {
         bytes.resize(readSize);
         EXPECT_EQ(std::vector(found.get(), found.get() + foundSize), bytes) << size;
     }
+    EXPECT_EQ(store.setData("d", nullptr, 4), RESULT_CRITICAL_ERROR);
 }
 
 } // namespace
