@@ -2,7 +2,6 @@
 
 #include <set>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "capability/extension_catalogue.h"
@@ -32,35 +31,27 @@ TEST(Extensions, BothFormsOfANameAreKnown) {
     }
     EXPECT_STREQ(hostExtensionName(1), "GL_ARB_imaging");
     EXPECT_EQ(hostExtensionFromName("GL_GL_NV_internalformat_sample_query"), 642);
-    EXPECT_EQ(hostExtensionFromName("GL_WGL_ARB_extensions_string"),
-              hostExtensionFromName("WGL_ARB_extensions_string"));
     for (const char *unknown : {"", "GL_", "ARB_imaging", "GL_ARB_imagin", "gl_ARB_imaging"})
         EXPECT_EQ(hostExtensionFromName(unknown), 0) << unknown;
     EXPECT_EQ(hostExtensionFromName(nullptr) + esExtensionFromName(nullptr), 0);
-    EXPECT_STREQ(hostExtensionName(0), "<unknown extension>");
-    EXPECT_STREQ(hostExtensionName(643), "<unknown extension>");
-}
-
-TEST(Extensions, EsNamesAreStoredBare) {
+    for (const HostExtension unknown : {0, 643})
+        EXPECT_STREQ(hostExtensionName(unknown), "<unknown extension>");
     for (EsExtension id = 1; id <= 127; ++id) {
         EXPECT_EQ(esExtensionFromName(esExtensionName(id, false)), id);
         EXPECT_EQ(esExtensionFromName(esExtensionName(id, true)), id);
     }
-    EXPECT_EQ(esExtensionFromName("APPLE_sync"), 2);
     EXPECT_STREQ(esExtensionName(2, true), "GL_APPLE_sync");
     EXPECT_STREQ(esExtensionName(128, true), "<unknown extension>");
 }
 
 TEST(Extensions, EsVersionsHaveTheirRanges) {
-    const std::tuple<EsExtensionList, int32_t, EsExtension, EsExtension> rows[] = {
-#define RANGES(...) {__VA_ARGS__},
-#include "capability/data/es_ranges.def"
-    };
-    for (const auto &[list, size, atFortyNine, last] : rows) {
+    const auto expectRanges = [&](EsExtensionList list, int32_t size, EsExtension atFortyNine, EsExtension last) {
         const std::vector<EsExtension> expected = {0, 1, atFortyNine, last, 0};
         std::vector<EsExtension> found;
         for (const int32_t position : {0, 1, 49, size, size + 1})
             found.push_back(esExtensionsFor(list, position));
         EXPECT_EQ(found, expected) << size;
-    }
+    };
+#define RANGES(...) expectRanges(__VA_ARGS__);
+#include "capability/data/es_ranges.def"
 }

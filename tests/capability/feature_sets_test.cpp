@@ -16,40 +16,27 @@ using testing::ElementsAre;
 
 namespace {
 
-size_t lookUps(const std::vector<const FeatureBinding *> &bindings) {
-    size_t count = 0;
-    for (const auto *binding : bindings)
-        count += std::ranges::count_if(binding->functions, [](const void *function) { return function; });
-    return count;
-}
-
-// What each level looks up, on a library that has everything.
-std::vector<size_t> lookUpsOf(const ScriptedHost &host) {
+// On a library that has everything.
+size_t lookUpsOf(const ScriptedHost &host) {
     const Es31Features es31(host.library);
-    std::vector<const FeatureBinding *> bindings;
-    std::vector<size_t> counts;
-#define FIELD(feature) bindings.push_back(&es31.feature);
+    size_t count = 0;
+#define FIELD(feature) count += std::ranges::count_if(es31.feature.functions, [](auto function) { return function; });
 #define BIND(feature)
-#include "capability/data/es_base_features.def"
-    counts.push_back(lookUps(bindings));
 #include "capability/data/es20_features.def"
-    // Bound by the next level only.
-    counts.push_back(lookUps(bindings) - es31.shaderImageLoadStore.functions.size());
 #include "capability/data/es30_features.def"
-    counts.push_back(lookUps(bindings));
 #include "capability/data/es31_features.def"
-    counts.push_back(lookUps(bindings));
+#include "capability/data/es_base_features.def"
 #undef BIND
 #undef FIELD
-    return counts;
+    return count;
 }
 
 } // namespace
 
 TEST(FeatureSets, LookEveryNameUp) {
-    EXPECT_THAT(lookUpsOf(ScriptedHost("4.6", everyExtension)), ElementsAre(237, 372, 384, 423));
+    EXPECT_EQ(lookUpsOf(ScriptedHost("4.6", everyExtension)), 423u);
     const auto noTextureStorage = everyExtensionBut({"GL_ARB_texture_storage"});
-    EXPECT_THAT(lookUpsOf(ScriptedHost("4.6", noTextureStorage.c_str())), ElementsAre(234, 369, 381, 420));
+    EXPECT_EQ(lookUpsOf(ScriptedHost("4.6", noTextureStorage.c_str())), 420u);
 }
 
 TEST(FeatureSets, ALevelBindsWhatIsItsOwnByTheNamesOfItsVariant) {
@@ -57,23 +44,16 @@ TEST(FeatureSets, ALevelBindsWhatIsItsOwnByTheNamesOfItsVariant) {
     const Es20Features es20(host.library);
     EXPECT_EQ(es20.shaderImageLoadStore.variant, -1);
     EXPECT_EQ(Es30Features(host.library).shaderImageLoadStore.variant, 1);
-    EXPECT_EQ(es20.get.variant, -1) << "mandatory";
-    EXPECT_TRUE(featureAvailable(es20.get, descriptorOf(Feature::get)));
-    EXPECT_EQ(es20.get.functions.size(), 9u);
+    EXPECT_TRUE(es20.get.variant == -1 && featureAvailable(es20.get, descriptorOf(Feature::get))) << "mandatory";
     EXPECT_EQ(es20.get.function<void *>(Feature::get, "glNoSuchName"), nullptr);
     // All names lead to one function of the fake, apart from those that it really has.
     EXPECT_EQ(es20.get.function<void *>(Feature::get, "glGetString"), host.library.getSymbol("glGetString"));
-    EXPECT_EQ(es20.fenceSync.variant, 1);
-    EXPECT_EQ(es20.fenceSync.functions.at(0), host.library.getSymbol("glClientWaitSync"));
     EXPECT_EQ(es20.fenceSync.functions.at(3), host.library.getSymbol("glGetSynciv"));
 }
 
 TEST(FeatureSets, VariantsFollowVersionAndExtensions) {
-    const std::tuple<const char *, const char *, const char *, bool, std::vector<int32_t>> rows[] = {
-#define VARIANTS(...) {__VA_ARGS__},
-#include "capability/data/variants.def"
-    };
-    for (const auto &[version, extensions, reason, hasDirectStorage, variants] : rows) {
+    const auto expectVariants = [&](const char *version, const char *extensions, const char *reason,
+                                    bool hasDirectStorage, const std::vector<int32_t> &variants) {
         const ScriptedHost host(version, extensions);
         const Es31Features set(host.library);
         EXPECT_THAT(variants, ElementsAre(set.vertexArrayObjects.variant, set.textureStorage.variant,
@@ -82,22 +62,23 @@ TEST(FeatureSets, VariantsFollowVersionAndExtensions) {
             << reason;
         EXPECT_EQ(set.textureStorage.hasDirectStorage, hasDirectStorage) << reason;
         EXPECT_EQ(set.uniforms.functions.size(), 44u) << "mandatory: looked up on any host";
-    }
+    };
+#define VARIANTS(...) expectVariants(__VA_ARGS__);
+#include "capability/data/variants.def"
 }
 
 TEST(HostGlView, AsksByListOrByText) {
-    const std::tuple<const char *, const char *, const char *, bool, bool, size_t, const char *> rows[] = {
-#define VIEW(...) {__VA_ARGS__},
-#include "capability/data/views.def"
-    };
-    for (const auto &[version, extensions, directory, hasName, hasBeginning, known, reason] : rows) {
+    const auto expectView = [&](const char *version, const char *extensions, const char *directory, bool hasName,
+                                bool hasBeginning, size_t known, const char *reason) {
         const ScriptedHost host(version, extensions, directory);
         EsBaseFeatures set(host.library);
         EXPECT_EQ(hostHasExtension(set.view(), "GL_ARB_sync"), hasName) << reason;
         EXPECT_EQ(hostHasExtension(set.view(), "GL_ARB_syn"), hasBeginning) << reason;
         EXPECT_EQ(hostExtensionIds(set).size(), known) << reason;
         EXPECT_FALSE(hostHasExtension(set.view(), "") || hostHasExtension(set.view(), nullptr));
-    }
+    };
+#define VIEW(...) expectView(__VA_ARGS__);
+#include "capability/data/views.def"
     EXPECT_TRUE(hostHasExtension({}, "")) << "before any look at the name";
     EXPECT_EQ(hostGlVersion({}), 20);
 }

@@ -32,8 +32,10 @@ struct GlFunctions {
     PFNGLGETSTRINGPROC getString = Named("glGetString");
     PFNGLGETERRORPROC getError = Named("glGetError");
     PFNGLVIEWPORTPROC viewport = Named("glViewport");
-    PFNGLGENTEXTURESPROC genTextures = Named("glGenTextures");
     PFNGLBINDTEXTUREPROC bindTexture = Named("glBindTexture");
+    PFNGLDELETETEXTURESPROC deleteTextures = Named("glDeleteTextures");
+    PFNGLTEXIMAGE2DPROC texImage2D = Named("glTexImage2D");
+    PFNGLGETTEXPARAMETERIVPROC getTexParameteriv = Named("glGetTexParameteriv");
     PFNGLISTEXTUREPROC isTexture = Named("glIsTexture");
 };
 

@@ -4,9 +4,7 @@
 #include <GLES3/gl3.h>
 
 #include <atomic>
-#include <string>
 #include <thread>
-#include <vector>
 
 namespace {
 
@@ -18,7 +16,7 @@ protected:
         second = makeContext(first);
         surface = makeSurface(makeWindow());
     }
-    void use(EGLContext context) { ASSERT_TRUE(eglMakeCurrent(m_egl, surface, surface, context)); }
+    void use(EGLContext context) { bind(surface, context); }
 
     EGLContext first = nullptr, second = nullptr;
     EGLSurface surface = nullptr;
@@ -29,25 +27,22 @@ protected:
 
 TEST_F(Sharing, NamesAndWhatIsKnownOfThemAreTheGroups) {
     const GLuint made = 500;
-    const auto texImage2D = reinterpret_cast<PFNGLTEXIMAGE2DPROC>(eglGetProcAddress("glTexImage2D"));
-    const auto getSwizzle = reinterpret_cast<PFNGLGETTEXPARAMETERIVPROC>(eglGetProcAddress("glGetTexParameteriv"));
-    const auto deleteTextures = reinterpret_cast<PFNGLDELETETEXTURESPROC>(eglGetProcAddress("glDeleteTextures"));
     use(first);
     gl.bindTexture(GL_TEXTURE_2D, made);
-    texImage2D(GL_TEXTURE_2D, 0, GL_LUMINANCE, 1, 1, 0, GL_LUMINANCE, GL_UNSIGNED_BYTE, "a");
+    gl.texImage2D(GL_TEXTURE_2D, 0, GL_LUMINANCE, 1, 1, 0, GL_LUMINANCE, GL_UNSIGNED_BYTE, "a");
     use(second);
     EXPECT_TRUE(gl.isTexture(made));
     gl.bindTexture(GL_TEXTURE_2D, made);
     GLint swizzle = 0;
-    getSwizzle(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_A, &swizzle);
+    gl.getTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_A, &swizzle);
     EXPECT_EQ(swizzle, GL_ALPHA) << "the application set none";
 
     use(first);
     EXPECT_TRUE(eglDestroyContext(m_egl, second));
     EXPECT_TRUE(gl.isTexture(made));
-    deleteTextures(1, &made);
+    gl.deleteTextures(1, &made);
     EXPECT_FALSE(gl.isTexture(made));
-    EXPECT_EQ(drawAndRead(gl, 0, 1, 0), (Pixel{0, 255, 0, 255}));
+    EXPECT_EQ(drawAndRead(gl, 0, 1, 0), green);
 
     const EGLContext apart = makeContext();
     gl.bindTexture(GL_TEXTURE_2D, made);

@@ -9,10 +9,6 @@ namespace {
 
 class Contexts : public EntryTest {
 protected:
-    EGLContext create(std::vector<EGLint> attributes, EGLConfig from) {
-        attributes.push_back(EGL_NONE);
-        return eglCreateContext(initialised(), from, EGL_NO_CONTEXT, attributes.data());
-    }
     EGLint query(EGLContext context, EGLint attribute) {
         EGLint value = -77;
         EXPECT_SUCCEEDS(eglQueryContext(initialised(), context, attribute, &value));
@@ -41,11 +37,9 @@ TEST_F(Contexts, BackEndGetsTheAttributes) {
         EXPECT_SUCCEEDS(eglMakeCurrent(m_display, surface, surface, context));
         expected.contextHandle = reinterpret_cast<uintptr_t>(context);
         EXPECT_EQ(memcmp(&backEnd().createdWith, &expected, sizeof expected), 0);
-        EXPECT_EQ(query(context, EGL_CONTEXT_CLIENT_VERSION), attributes[1]);
         EXPECT_THAT(backEnd().displayAndHandle,
                     ElementsAre(reinterpret_cast<uintptr_t>(m_display), expected.contextHandle));
     }
-    EXPECT_STREQ(backEnd().profilesDirectory, "");
 }
 
 TEST_F(Contexts, DestroyWaitsForTheUnbind) {
@@ -76,11 +70,10 @@ TEST_F(Contexts, LibraryStaysForAsLongAsAContextIsLeft) {
         void *library = dlopen(path.c_str(), RTLD_NOW | RTLD_NOLOAD);
         return library && dlclose(library) == 0;
     };
-    const EGLContext one = context(1), other = context(1);
-    eglDestroyContext(m_display, one);
-    EXPECT_TRUE(isLoaded());
-    eglDestroyContext(m_display, other);
-    EXPECT_FALSE(isLoaded());
+    for (const auto &[destroyed, isLeft] : {std::pair(context(1), true), {context(1), false}}) {
+        eglDestroyContext(m_display, destroyed);
+        EXPECT_EQ(isLoaded(), isLeft);
+    }
     const EGLContext last = current(1);
     procAddress<void (*)(unsigned)>("glClear")(1);
     EXPECT_SUCCEEDS(eglDestroyContext(m_display, last));
@@ -98,20 +91,14 @@ TEST_F(Contexts, MissingLibraryShowsAtTheFirstBind) {
 
 TEST_F(Contexts, OnePointerServesThoseOfBothBackEnds) {
     const auto getString = procAddress<PFNGLGETSTRINGPROC>("glGetString");
-    const auto attrib = procAddress<PFNGLVERTEXATTRIB4FPROC>("glVertexAttrib4f");
     EXPECT_EQ(errorsOf([&] { EXPECT_EQ(getString(GL_VERSION), nullptr); }),
               "(Error) Attempted to call 'glGetString', but there is no current context.\n");
     // A dead context's memory was taken by one of the other version, which then got the wrong back end's functions.
-    for (int round = 0; round < 4; ++round) {
-        const EGLint major = 1 + round % 2;
+    for (const EGLint major : {1, 2, 1, 2}) {
         const EGLContext made = current(major);
         EXPECT_STREQ(reinterpret_cast<const char *>(getString(GL_VERSION)), major == 1 ? "es1" : "es2");
         EXPECT_SUCCEEDS(eglDestroyContext(m_display, made));
         EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
     }
     EXPECT_THAT(takeLines("zvGetExtProcAddress"), SizeIs(2)) << "the later ones inherit the answers of the first";
-    current(2);
-    takeLog();
-    attrib(3, 1, 2, 0.5f, -4);
-    EXPECT_EQ(takeLog(), "es2 zvGetExtProcAddress(glVertexAttrib4f)\nes2 glVertexAttrib4f(3, 1, 2, 0.5, -4)\n");
 }

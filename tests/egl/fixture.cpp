@@ -76,9 +76,13 @@ EGLConfig EntryTest::config() {
     return reinterpret_cast<EGLConfig>(1);
 }
 
+EGLContext EntryTest::create(std::vector<EGLint> attributes, EGLConfig from, EGLContext share) {
+    attributes.push_back(EGL_NONE);
+    return eglCreateContext(initialised(), from, share, attributes.data());
+}
+
 EGLContext EntryTest::context(EGLint major, EGLContext share) {
-    const EGLint attributes[] = {EGL_CONTEXT_CLIENT_VERSION, major, EGL_NONE};
-    const EGLContext made = eglCreateContext(initialised(), config(), share, major ? attributes : nullptr);
+    const EGLContext made = create({EGL_CONTEXT_CLIENT_VERSION, major}, config(), share);
     EXPECT_NE(made, EGL_NO_CONTEXT);
     return made;
 }

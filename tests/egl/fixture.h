@@ -52,7 +52,7 @@ protected:
 
     EGLDisplay initialised();
     EGLConfig config();
-    // major 0 passes no attributes at all.
+    EGLContext create(std::vector<EGLint> attributes, EGLConfig from, EGLContext share = EGL_NO_CONTEXT);
     EGLContext context(EGLint major = 2, EGLContext share = EGL_NO_CONTEXT);
     EGLSurface window(EGLNativeWindowType id = 77);
     EGLSurface pbuffer(EGLint width = 16, EGLint height = 8);

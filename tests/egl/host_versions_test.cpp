@@ -11,8 +11,8 @@ namespace {
 class HostVersions : public EntryTest {
 protected:
     EGLContext create(EGLint major, EGLint minor = 0, EGLContext share = EGL_NO_CONTEXT) {
-        const EGLint attributes[] = {EGL_CONTEXT_CLIENT_VERSION, major, EGL_CONTEXT_MINOR_VERSION_KHR, minor, EGL_NONE};
-        return eglCreateContext(initialised(), config(), share, attributes);
+        return EntryTest::create({EGL_CONTEXT_CLIENT_VERSION, major, EGL_CONTEXT_MINOR_VERSION_KHR, minor}, config(),
+                                 share);
     }
 
     // Makes such a context and looks at what the back end is told of it.

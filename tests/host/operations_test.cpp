@@ -58,64 +58,8 @@ struct Bench {
 };
 
 const std::map<std::string, void (*)(Bench &)> steps = {
-    {"refuse a format", [](Bench &b) { b.host.refuseNext("createPixelFormat"); }},
-    {"no format", [](Bench &) { EXPECT_EQ(format(core), nullptr); }},
-    {"no deep format",
-     [](Bench &) {
-         EXPECT_EQ(format({ColorSize, 24, DepthSize, 1000, 0}), nullptr);
-     }},
-    {"unknown attribute", [](Bench &) { EXPECT_EQ(operations.pixelFormatValue(format(core).get(), 4712), 0); }},
-    {"derived format",
-     [](Bench &) { EXPECT_EQ(operations.pixelFormatValue(derived(core, legacy).get(), OpenGLProfile), 0x1000); }},
-    {"release no format", [](Bench &) { operations.releasePixelFormat(nullptr); }},
-    {"release no buffer", [](Bench &) { operations.releasePixelBuffer(nullptr); }},
-    {"both contexts", [](Bench &b) { EXPECT_TRUE(b.first && b.second); }},
-    {"shared context", [](Bench &b) { EXPECT_NE(context(core, b.first.get()), nullptr); }},
-    {"refuse a context", [](Bench &b) { b.host.refuseNext("createContext"); }},
-    {"no context", [](Bench &) { EXPECT_EQ(context(core), nullptr); }},
-
-    {"bind first", [](Bench &b) { b.bind(b.first); }},
-    {"bind second", [](Bench &b) { b.bind(b.second); }},
-    {"bind foreign", [](Bench &b) { b.host.makeForeignCurrent(); }},
-    {"clear", [](Bench &) { operations.clearCurrentContext(); }},
-    {"first current", [](Bench &b) { b.expectCurrent(b.firstContext); }},
-    {"none current", [](Bench &b) { b.expectCurrent(nullptr); }},
-    {"none current elsewhere", [](Bench &b) { std::thread([&] { b.expectCurrent(nullptr); }).join(); }},
-    {"foreign current", [](Bench &b) { EXPECT_TRUE(b.host.isForeignCurrent()); }},
-    {"release first", [](Bench &b) { b.first.reset(); }},
-
-    {"attach view", [](Bench &b) { EXPECT_TRUE(operations.setView(b.first.get(), b.view)); }},
-    {"attach nothing", [](Bench &b) { EXPECT_TRUE(operations.setView(b.first.get(), {})); }},
-    {"no bad view", [](Bench &b) { EXPECT_FALSE(operations.setView(b.first.get(), b.host.badView())); }},
-    {"attach buffer", [](Bench &b) { EXPECT_TRUE(operations.setPixelBuffer(b.first.get(), b.buffer.get())); }},
-    {"attach null buffer", [](Bench &b) { EXPECT_TRUE(operations.setPixelBuffer(b.first.get(), nullptr)); }},
-    {"has view", [](Bench &b) { b.expectView(b.view); }},
-    {"has nothing", [](Bench &b) { b.expectView({}); }},
-    {"observe", [](Bench &b) { operations.observeViewFrame(b.first.get(), b.view); }},
-    {"resize", [](Bench &b) { b.host.resizeView(b.view, 70, 50); }},
-    {"flush", [](Bench &b) { operations.flushBuffer(b.first.get()); }},
-    {"set interval 7", [](Bench &b) { operations.setSwapInterval(b.first.get(), 7); }},
-    {"set interval -1", [](Bench &b) { operations.setSwapInterval(b.first.get(), -1); }},
-
-    {"save", [](Bench &b) { b.saved = operations.saveBinding(); }},
-    {"save nothing", [](Bench &) { EXPECT_EQ(operations.saveBinding(), nullptr); }},
-    {"restore", [](Bench &b) { operations.restoreBinding(b.saved); }},
-    {"restore nothing", [](Bench &) { operations.restoreBinding(nullptr); }},
-
-    {"refuse a buffer", [](Bench &b) { b.host.refuseNext("createPixelBuffer"); }},
-    {"no buffer", [](Bench &) { EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 4, 4), nullptr); }},
-    {"no flat buffer", [](Bench &) { EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 0, 4), nullptr); }},
-    {"no negative buffer", [](Bench &) { EXPECT_EQ(operations.createPixelBuffer(0, 0, 0, 4, -1), nullptr); }},
-    {"buffer size", [](Bench &b) { EXPECT_EQ(sizeOf(operations.pixelBufferSize, b.buffer.get()), Size(16, 8)); }},
-    {"size of no buffer", [](Bench &) { EXPECT_EQ(sizeOf(operations.pixelBufferSize, nullptr), untouched); }},
-    {"first size", [](Bench &b) { EXPECT_EQ(sizeOf(operations.viewSize, b.view), Size(64, 48)); }},
-    {"second size", [](Bench &b) { EXPECT_EQ(sizeOf(operations.viewSize, b.view), Size(70, 50)); }},
-    {"size of no view", [](Bench &) { EXPECT_EQ(sizeOf(operations.viewSize, View{}), untouched); }},
-    {"size of a bad view", [](Bench &b) { EXPECT_EQ(sizeOf(operations.viewSize, b.host.badView()), untouched); }},
-    {"title", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.view), title); }},
-    {"title of no view", [](Bench &) { EXPECT_EQ(operations.viewTitle({}), ""); }},
-    {"no title", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.host.makeView(8, 8, nullptr)), ""); }},
-    {"title of a bad view", [](Bench &b) { EXPECT_EQ(operations.viewTitle(b.host.badView()), ""); }},
+#define STEP(name, ...) {name, []([[maybe_unused]] Bench &b) { __VA_ARGS__; }},
+#include "host/data/steps.def"
 };
 
 // The steps are words between commas.

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
-#include <tuple>
 
 #include "preferences/byte_buffers.h"
 
@@ -11,17 +10,16 @@ namespace {
 
 TEST(Base64, LinesPadsAndForeignCharacters) {
     const std::string line(72, 'A');
-    const std::tuple<std::string, std::string, bool, const char *> rows[] = {
-#define BASE64(...) {__VA_ARGS__},
-#include "preferences/data/base64.def"
-    };
-    for (const auto &[bytes, text, isEncoded, reason] : rows) {
+    const auto expectBase64 = [&](const std::string &bytes, const std::string &text, bool isEncoded,
+                                  const char *reason) {
         std::istringstream plain(bytes), coded(text);
         std::ostringstream encoded, decoded;
         EXPECT_TRUE(base64Decode(coded, decoded) && base64Encode(plain, encoded));
         EXPECT_EQ(decoded.str(), bytes) << reason;
         EXPECT_EQ(encoded.str() == text, isEncoded) << reason;
-    }
+    };
+#define BASE64(...) expectBase64(__VA_ARGS__);
+#include "preferences/data/base64.def"
 }
 
 // The sum of capacity and count is one of 32 bits: a wrapped one must not be written behind.

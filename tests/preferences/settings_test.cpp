@@ -14,22 +14,20 @@ const std::string otherPairs = "<key>current_profile</key><string>phone</string>
                                "<key>strict_context_mode</key><true/><key>radeon_hd_hack</key><true/>";
 
 TEST_F(SettingsTest, ReadsTheSectionOfThisVersion) {
-    const std::tuple<const char *, std::string, std::string, std::string, std::string, bool, bool> rows[] = {
-#define SECTION(...) {__VA_ARGS__},
-#include "preferences/data/sections.def"
-    };
     std::string error;
-    for (const auto &[reason, section, pairs, directory, profile, isLoaded, isStrict] : rows) {
+    const auto expectSection = [&](const char *reason, const std::string &section, const std::string &pairs,
+                                   const std::string &directory, const std::string &profile, bool isLoaded,
+                                   bool isStrict) {
         SCOPED_TRACE(reason);
         Settings settings;
         writePairs("<key>" + section + "</key><dict>" + pairs + "</dict>");
-        EXPECT_EQ(settings.load(error), isLoaded);
-        EXPECT_EQ(settings.isLoaded(), isLoaded);
+        EXPECT_TRUE(settings.load(error) == isLoaded && settings.isLoaded() == isLoaded);
         EXPECT_EQ(settings.getProfilesDirectory(), directory);
         EXPECT_EQ(settings.getCurrentProfile(), profile);
-        EXPECT_EQ(settings.getStrictContextMode(), isStrict);
-        EXPECT_EQ(settings.getRadeonHdHack(), isStrict);
-    }
+        EXPECT_TRUE(settings.getStrictContextMode() == isStrict && settings.getRadeonHdHack() == isStrict);
+    };
+#define SECTION(...) expectSection(__VA_ARGS__);
+#include "preferences/data/sections.def"
     EXPECT_EQ(error, "ERROR: Missing <key> tag\n");
 }
 

