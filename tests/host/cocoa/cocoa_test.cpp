@@ -3,17 +3,18 @@
 
 #include <thread>
 
+#include "foundation/dynamic_library.h"
 #include "foundation/paths.h"
-#include "host/cocoa/platform_log.h"
 #include "host/host_context.h"
 #include "host/operations_host.h"
 #include "host/pixel_format.h"
+#include "host/platform/recording/appkit.h"
 #include "host/probe_context.h"
 #include "support/file_text.h"
 
 namespace {
 
-using namespace cocoa_tests;
+using namespace recorded_appkit;
 using namespace host;
 using namespace host::platform;
 using namespace std::string_literals;
@@ -138,6 +139,13 @@ TEST_F(Cocoa, NoPoolIsNeeded) {
         EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
     }).join();
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "the runtime tells of objects that no pool holds";
+}
+
+TEST_F(Cocoa, NamesAndDirectories) {
+    EXPECT_EQ(hostOpenGLLibraryName + " "s + es1LibraryName + " " + es2LibraryName,
+              "libGL.dylib libGLESv1_CM.dylib libGLESv2.dylib");
+    EXPECT_EQ(hostLibrarySearchPaths(),
+              (std::vector{getOwnDirectory(), "/System/Library/Frameworks/OpenGL.framework/Libraries/"s}));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "host/operations_host.h"
 
-#include "host/cocoa/platform_log.h"
+#include "host/platform/recording/appkit.h"
 
 using namespace host::platform;
 
@@ -10,16 +10,18 @@ class CocoaHost final : public OperationsHost {
 public:
     unsigned implementation() const override { return onCocoa; }
     View makeView(int width, int height, const char *title) override {
-        View view = cocoa_tests::makeView(width, height, title);
+        View view = recorded_appkit::makeView(width, height, title);
         view.display = 7;
         return view;
     }
-    void resizeView(const View &view, int width, int height) override { cocoa_tests::setFrame(view, width, height); }
-    View badView() override { return cocoa_tests::makeOther(); }
-    void makeForeignCurrent() override { m_foreign = cocoa_tests::makeForeignCurrent(); }
-    bool isForeignCurrent() override { return m_foreign && cocoa_tests::current() == m_foreign; }
+    void resizeView(const View &view, int width, int height) override {
+        recorded_appkit::setFrame(view, width, height);
+    }
+    View badView() override { return recorded_appkit::makeOther(); }
+    void makeForeignCurrent() override { m_foreign = recorded_appkit::makeForeignCurrent(); }
+    bool isForeignCurrent() override { return m_foreign && recorded_appkit::current() == m_foreign; }
     void refuseNext(const char *operation) override {
-        cocoa_tests::failingClass = "NSOpenGL" + std::string(operation + sizeof("create") - 1);
+        recorded_appkit::failingClass = "NSOpenGL" + std::string(operation + sizeof("create") - 1);
     }
 
 private:

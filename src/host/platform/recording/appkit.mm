@@ -4,14 +4,14 @@
 #include <sstream>
 #include <utility>
 
-#include "host/cocoa/platform_log.h"
+#include "host/platform/recording/appkit.h"
 
 // Threads of the cases never run at the same time.
-std::string cocoa_tests::messages, cocoa_tests::failingClass;
+std::string recorded_appkit::messages, recorded_appkit::failingClass;
 
 namespace {
 
-using namespace cocoa_tests;
+using namespace recorded_appkit;
 
 std::map<std::string, int> counts;
 thread_local id currentContext = nil;
@@ -201,7 +201,7 @@ extern "C" void dispatch_sync(struct dispatch_queue_s *, void (^block)(void)) {
     messages += "dispatch_sync ends\n";
 }
 
-namespace cocoa_tests {
+namespace recorded_appkit {
 
 using host::platform::View;
 
@@ -242,4 +242,4 @@ const void *current() {
     return currentContext;
 }
 
-} // namespace cocoa_tests
+} // namespace recorded_appkit

@@ -1,5 +1,6 @@
-// The platform's classes as the cocoa tests have them: each notes the messages that it gets. Objects are named by class
-// and number from 1; messages are one a line, shortened to their first word: "NSOpenGLContext1 setView NSView1".
+// AppKit and OpenGL classes of the same names, which the cocoa operations run on in tests: each notes the messages that
+// it gets. Objects are named by class and number from 1; messages are one a line, shortened to their first word:
+// "NSOpenGLContext1 setView NSView1".
 #pragma once
 
 #include <cstdint>
@@ -7,7 +8,7 @@
 
 #include "host/platform/operations.h"
 
-namespace cocoa_tests {
+namespace recorded_appkit {
 
 // Forgets all messages and counts objects from 1 again.
 void restart();
@@ -29,4 +30,4 @@ host::platform::View makeOther();
 const void *makeForeignCurrent();
 const void *current();
 
-} // namespace cocoa_tests
+} // namespace recorded_appkit
