@@ -76,7 +76,19 @@ ZV_EXPORT void *zvGetExtProcAddress(const char *name);
  */
 ZV_EXPORT void zvSetRenderMode(const uint8_t *mode, size_t length);
 
+/* What is current on one thread. The library writes it at each bind and unbind; read only for back ends. */
+typedef struct zvThread {
+    zvEsContext es1Context; /* the current context of the ES 1 back end; null when nothing or another kind is current */
+    zvEsContext esContext;  /* the same of the ES 2 and 3 back end */
+} zvThread;
+
 /* ---- What Zelvane exports for back ends ---- */
+
+/*
+ * The calling thread's record, for back ends that look their context up at each call: a back end keeps the pointer in a
+ * thread-local variable of its own when it is called at a bind. Never null; good until the thread ends. Any thread.
+ */
+ZV_EXPORT const zvThread *zvCurrentThread(void);
 
 /* The back-end context that is current on the calling thread, or null. Leaves the EGL error alone. Any thread. */
 ZV_EXPORT zvEsContext zvCurrentEsContext(void);

@@ -7,6 +7,10 @@
 
 using namespace egl;
 
+const zvThread *zvCurrentThread(void) {
+    return &threadRecord.backEnd;
+}
+
 zvEsContext zvCurrentEsContext(void) {
     return threadRecord.current ? threadRecord.current->esContext.load() : nullptr;
 }

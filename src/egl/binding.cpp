@@ -54,6 +54,7 @@ void unbindCurrent(Display &display) {
     if (const auto current = currentContext()) {
         current->boundToThread = false;
         if (current->pendingDestroy) display.destroyContext(current->handle);
+        if (current->deletesWhenUnbound) (void)current->deleteEsContext();
     }
     setCurrentContext(nullptr, nullptr);
 }

@@ -48,6 +48,11 @@ void *Context::getExtProcAddress(const char *name) {
 }
 
 bool Context::deleteEsContext() {
+    if (boundToThread && threadRecord.current != this) {
+        // Its thread goes on drawing with it, and deletes it when it lets go.
+        deletesWhenUnbound = true;
+        return true;
+    }
     {
         std::shared_ptr<host::HostContextHandle> ended;
         const std::lock_guard lock(m_mutex);

@@ -35,8 +35,8 @@ public:
 
     // The back end's function of this name, or null. Asks the back end at every call.
     [[nodiscard]] void *getExtProcAddress(const char *name);
-    // Ends the host context and the back-end context. False when the back end cannot delete; the host context is gone
-    // all the same.
+    // Ends the host context and the back-end context; later, if another thread has the context current. False when the
+    // back end cannot delete; the host context is gone all the same.
     [[nodiscard]] bool deleteEsContext();
     // Hands a render mode to the back end. False when it takes none.
     bool setRenderMode(uint8_t mode);
@@ -64,6 +64,8 @@ public:
 
     std::atomic<bool> boundToThread = false;
     std::atomic<bool> pendingDestroy = false; // destroyed while bound: goes when it is unbound
+    // Taken for another display's context of the same number and destroyed while bound elsewhere.
+    std::atomic<bool> deletesWhenUnbound = false;
 
 private:
     using GetExtProcAddress = void *(*)(const char *name);

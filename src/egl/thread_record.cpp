@@ -14,11 +14,19 @@ struct CurrentOwner {
 
     ~CurrentOwner() {
         threadRecord.current = nullptr;
+        threadRecord.backEnd = {};
         threadRecord.ended = true;
     }
 };
 
 thread_local CurrentOwner currentOwner;
+
+// The library of a context is settled by the version that was asked for.
+zvThread backEndView(const Context *context) {
+    if (!context) return {};
+    const zvEsContext esContext = context->esContext;
+    return context->attribs.requestedMajor == 1 ? zvThread{esContext, nullptr} : zvThread{nullptr, esContext};
+}
 
 } // namespace
 
@@ -29,6 +37,7 @@ std::shared_ptr<Context> currentContext() {
 void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
     if (threadRecord.ended) return;
     threadRecord.current = context.get();
+    threadRecord.backEnd = backEndView(context.get());
     threadRecord.currentDisplay = display;
     // Swapped, so that the old context goes only after the record names the new one.
     currentOwner.context.swap(context);

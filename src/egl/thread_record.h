@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "egl/egl_api.h"
+#include "zelvane/back_end.h"
 
 namespace egl {
 
@@ -17,6 +18,7 @@ struct ThreadRecord {
     bool ended = false;                // the thread is exiting and can hold no context any more
     Context *current = nullptr;        // null when nothing is current
     Display *currentDisplay = nullptr; // of the current context
+    zvThread backEnd = {};             // what back ends read of it
 };
 
 extern constinit thread_local ThreadRecord threadRecord __attribute__((tls_model("initial-exec")));
