@@ -1,79 +1,71 @@
-// What a proxy adds to a call of the back end's function: compare each Proxy row with its Direct row. The argument is
-// the number of contexts that have called the name; where it says Switching, another of them is current at every call.
+// What a proxy adds to a call of the back end's function: the argument is the number
+// of contexts that have called the name, 0 for the function without its proxy. Where it says Switching, another context
+// is current at every call.
 #include <benchmark/benchmark.h>
 
-#include "gl/entry_proxy.h"
+#include "gl/entry_tables.h"
 #include "proxy_bench_back_end.h"
 
 namespace {
 
+using Flush = void();
 using DrawRangeElements = void(GLenum, GLuint, GLuint, GLsizei, GLenum, const void *);
 
-constinit gl::GLEntryProxy flushRecord{"glFlush"};
-constinit gl::GLEntryProxy drawRecord{"glDrawRangeElements"};
+std::byte contexts[64];
 
-// As far apart as real ones are in a heap. Nothing but the address of a context is looked at.
-constexpr size_t contextSize = 320;
-alignas(16) std::byte contextStorage[8][contextSize];
-
-egl::Context *context(size_t index) {
-    return reinterpret_cast<egl::Context *>(contextStorage[index]);
+gl::Function ask(void *, const char *name) {
+    return std::string_view(name) == "glFlush" ? reinterpret_cast<gl::Function>(backEndFlush)
+                                               : reinterpret_cast<gl::Function>(backEndDrawRangeElements);
 }
 
-// Contexts of earlier runs stay in the map, as they do in the library: run the rows in their order.
+void makeCurrent(size_t context) {
+    gl::currentFunctions = &gl::functionTableAt(&contexts[context], ask);
+}
+
+// The entry of that name, which every context has called, with the last one current.
 template <typename Signature>
-void bringUpContexts(gl::GLEntryProxy &record, Signature *function, size_t count) {
-    for (size_t index = 0; index < count; ++index)
-        record.resolved.store(context(index), reinterpret_cast<gl::Function>(function));
-    egl::threadRecord.current = context(count - 1);
+Signature *bringUpContexts(const char *name, Signature *direct, size_t count) {
+    auto *entry = reinterpret_cast<Signature *>(gl::findEntry(name));
+    for (size_t context = 0; context < count; ++context) {
+        makeCurrent(context);
+        if constexpr (std::is_same_v<Signature, Flush>)
+            entry();
+        else
+            entry(GL_TRIANGLES, 0, 99, 300, GL_UNSIGNED_SHORT, nullptr);
+    }
+    auto *function = count ? entry : direct;
+    benchmark::DoNotOptimize(function);
+    return function;
 }
 
-void noArgumentsDirect(benchmark::State &state) {
-    auto *function = backEndFlush;
-    benchmark::DoNotOptimize(function);
+// Argument 0 is the function itself.
+void noArguments(benchmark::State &state) {
+    auto *function = bringUpContexts("glFlush", backEndFlush, state.range(0));
     for (auto _ : state)
         function();
 }
 
-void noArgumentsProxy(benchmark::State &state) {
-    bringUpContexts(flushRecord, backEndFlush, state.range(0));
-    auto *function = gl::Entry<flushRecord, void()>::call;
-    benchmark::DoNotOptimize(function);
-    for (auto _ : state)
-        function();
-}
-
-void sixArgumentsDirect(benchmark::State &state) {
-    auto *function = backEndDrawRangeElements;
-    benchmark::DoNotOptimize(function);
+void sixArguments(benchmark::State &state) {
+    auto *function = bringUpContexts("glDrawRangeElements", backEndDrawRangeElements, state.range(0));
     for (auto _ : state)
         function(GL_TRIANGLES, 0, 99, 300, GL_UNSIGNED_SHORT, nullptr);
 }
 
-void sixArgumentsProxy(benchmark::State &state) {
-    bringUpContexts(drawRecord, backEndDrawRangeElements, state.range(0));
-    auto *function = gl::Entry<drawRecord, DrawRangeElements>::call;
-    benchmark::DoNotOptimize(function);
-    for (auto _ : state)
-        function(GL_TRIANGLES, 0, 99, 300, GL_UNSIGNED_SHORT, nullptr);
-}
-
-void sixArgumentsProxySwitching(benchmark::State &state) {
+void sixArgumentsSwitching(benchmark::State &state) {
     const size_t count = state.range(0);
-    bringUpContexts(drawRecord, backEndDrawRangeElements, count);
-    auto *function = gl::Entry<drawRecord, DrawRangeElements>::call;
-    benchmark::DoNotOptimize(function);
+    auto *function = bringUpContexts("glDrawRangeElements", backEndDrawRangeElements, count);
+    gl::FunctionTable *tables[64];
+    for (size_t context = 0; context < count; ++context)
+        tables[context] = &gl::functionTableAt(&contexts[context], ask);
     size_t calls = 0;
     for (auto _ : state) {
-        egl::threadRecord.current = context(calls++ & (count - 1));
+        gl::currentFunctions = tables[calls++ & (count - 1)];
         function(GL_TRIANGLES, 0, 99, 300, GL_UNSIGNED_SHORT, nullptr);
     }
 }
 
 } // namespace
 
-BENCHMARK(noArgumentsDirect);
-BENCHMARK(noArgumentsProxy)->RangeMultiplier(2)->Range(1, 8);
-BENCHMARK(sixArgumentsDirect);
-BENCHMARK(sixArgumentsProxy)->RangeMultiplier(2)->Range(1, 8);
-BENCHMARK(sixArgumentsProxySwitching)->Arg(8);
+BENCHMARK(noArguments)->Arg(0)->Arg(1)->Arg(8)->Arg(64);
+BENCHMARK(sixArguments)->Arg(0)->Arg(1)->Arg(8)->Arg(64);
+BENCHMARK(sixArgumentsSwitching)->Arg(64);

@@ -24,12 +24,17 @@ std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &conf
     return host::createHostContext(request);
 }
 
+gl::Function askBackEnd(void *context, const char *name) {
+    return reinterpret_cast<gl::Function>(static_cast<Context *>(context)->getExtProcAddress(name));
+}
+
 } // namespace
 
 Context::Context(Display &display, uint64_t handle, std::shared_ptr<const Config> config,
                  std::shared_ptr<Context> share, const ContextAttribs &attribs)
     : display(display), handle(handle), config(std::move(config)), shareContext(std::move(share)),
-      esLibrary(State::loadEsLibrary(attribs.requestedMajor)), attribs(withHandle(attribs, handle)),
+      functions(gl::functionTableAt(this, askBackEnd)), esLibrary(State::loadEsLibrary(attribs.requestedMajor)),
+      attribs(withHandle(attribs, handle)),
       m_hostContext(createHostContextFor(*this->config, shareContext.get(), attribs)) {}
 
 Context::~Context() {

@@ -7,6 +7,7 @@
 
 #include "egl/egl_api.h"
 #include "foundation/dynamic_library.h"
+#include "gl/function_table.h"
 #include "host/host_context.h"
 #include "profiles/config.h"
 #include "zelvane/back_end.h"
@@ -21,7 +22,7 @@ struct SurfacePair {
     std::shared_ptr<Surface> read;
 };
 
-// Held by shared pointer; the address is stable for its life and is what GL proxies remember answers by.
+// Held by shared pointer; the address is stable for its life and is what its table of functions goes by.
 class Context : public std::enable_shared_from_this<Context> {
 public:
     // Opens the back-end library and makes the host context. Neither failure shows here: the first bind tells.
@@ -57,6 +58,7 @@ public:
     const uint64_t handle;
     const std::shared_ptr<const Config> config;
     const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is gone
+    gl::FunctionTable &functions;
 
     DynamicLibrary esLibrary;                     // open for the life of the context; on one thread at a time
     std::atomic<zvEsContext> esContext = nullptr; // null until the first bind and once the back end has deleted it

@@ -1,6 +1,7 @@
 #include "egl/thread_record.h"
 
 #include "egl/context.h"
+#include "gl/function_table.h"
 
 namespace egl {
 
@@ -15,6 +16,7 @@ struct CurrentOwner {
     ~CurrentOwner() {
         threadRecord.current = nullptr;
         threadRecord.backEnd = {};
+        gl::currentFunctions = &gl::functionsWithoutContext;
         threadRecord.ended = true;
     }
 };
@@ -38,6 +40,7 @@ void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
     if (threadRecord.ended) return;
     threadRecord.current = context.get();
     threadRecord.backEnd = backEndView(context.get());
+    gl::currentFunctions = context ? &context->functions : &gl::functionsWithoutContext;
     threadRecord.currentDisplay = display;
     // Swapped, so that the old context goes only after the record names the new one.
     currentOwner.context.swap(context);

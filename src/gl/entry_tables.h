@@ -1,7 +1,9 @@
-// The proxies that eglGetProcAddress hands out, in the order that it searches.
+// The proxies that eglGetProcAddress hands out.
 #pragma once
 
-#include "gl/answer_map.h"
+#include <array>
+
+#include "gl/function_table.h"
 
 namespace gl {
 
@@ -11,8 +13,11 @@ struct ProcTableRow {
 };
 
 // Extensions, then the debug entries that go through to the back end.
-extern const ProcTableRow extensionTable[226];
+extern const std::array<ProcTableRow, extensionNameCount> extensionTable;
 // OpenGL ES 1, 2 and 3. glPointSizePointerOES stands in both tables, with a proxy in each.
-extern const ProcTableRow baseTable[439];
+extern const std::array<ProcTableRow, baseNameCount> baseTable;
+
+// The entry of this name, of the extension table where both have it. Null when none has.
+[[nodiscard]] Function findEntry(const char *name);
 
 } // namespace gl

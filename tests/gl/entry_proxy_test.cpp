@@ -1,19 +1,15 @@
-// Contexts that are nothing but an address, and a back end that answers for them. Stands in for src/egl/context.cpp and
-// thread_record.cpp.
+// Contexts that are nothing but an address, and a back end of the test's own that answers for them.
 #include "gl/entry_proxy.h"
 
 #include <gmock/gmock.h>
 
 #include <atomic>
-#include <barrier>
 #include <functional>
 #include <mutex>
 #include <thread>
 #include <tuple>
 #include <utility>
 
-#include "egl/context.h"
-#include "egl/thread_record.h"
 #include "foundation/log.h"
 #include "gl/entry_tables.h"
 
@@ -27,15 +23,18 @@ using testing::SizeIs;
 namespace {
 
 // Set before there are several threads; called on the asking one.
-std::function<void *(const egl::Context *, const std::string &name)> backEnd = [](auto...) { return nullptr; };
+std::function<void *(const void *context, const std::string &name)> backEnd = [](auto...) { return nullptr; };
 std::atomic<size_t> questions = 0; // to the back end
 std::mutex errorMutex;
 std::vector<std::string> errors; // that were logged
 
-alignas(egl::Context) std::byte storage[64][sizeof(egl::Context)];
+std::byte contexts[64];
 
-egl::Context *contextAt(size_t index) {
-    return reinterpret_cast<egl::Context *>(storage[index]);
+void makeCurrent(size_t context) {
+    gl::currentFunctions = &gl::functionTableAt(&contexts[context], [](void *asked, const char *name) {
+        ++questions;
+        return reinterpret_cast<gl::Function>(backEnd(asked, name));
+    });
 }
 
 template <typename Type>
@@ -50,9 +49,20 @@ int answerTwo() {
     return 2;
 }
 
+// Two slots that the tables give to other names, of these signatures here.
+constexpr GLEntryProxy first{"glFirst", 0};
+constexpr GLEntryProxy second{"glSecond", 1};
+
+template <const GLEntryProxy &proxy, typename Signature>
+void openSlot() {
+    gl::functionsWithoutContext.slots[proxy.slot] = reinterpret_cast<gl::Function>(&Entry<proxy, Signature>::resolve);
+}
+
 class EntryProxy : public testing::Test {
 protected:
     EntryProxy() {
+        openSlot<first, int()>();
+        openSlot<second, int()>();
         setLogListener([](int32_t, const char *text) {
             const std::lock_guard lock(errorMutex);
             errors.emplace_back(text);
@@ -62,26 +72,19 @@ protected:
 
 } // namespace
 
-namespace egl {
-
-constinit thread_local ThreadRecord threadRecord;
-
-void *Context::getExtProcAddress(const char *name) {
-    ++questions;
-    return backEnd(this, name);
-}
-
-} // namespace egl
-
 TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
-    static constinit GLEntryProxy record{"glName"};
-    const auto entry = &Entry<record, int()>::call; // taken before any context is there
-    backEnd = [](const egl::Context *context, const std::string &name) {
-        EXPECT_EQ(name, "glName");
-        return address(context == contextAt(0) ? answerOne : answerTwo);
+    const auto entry = &Entry<first, int()>::call; // taken before any context is there
+    EXPECT_EQ(entry(), 0);
+    EXPECT_EQ(entry(), 0);
+    const auto line = "Attempted to call 'glFirst', but there is no current context.";
+    EXPECT_THAT(std::exchange(errors, {}), ElementsAre(line, line));
+
+    backEnd = [](const void *context, const std::string &name) {
+        EXPECT_EQ(name, "glFirst");
+        return address(context == contexts ? answerOne : answerTwo);
     };
     for (const size_t context : {0, 1, 0, 1}) {
-        egl::threadRecord.current = contextAt(context);
+        makeCurrent(context);
         EXPECT_EQ(entry(), context ? 2 : 1);
     }
     EXPECT_EQ(questions, 2u);
@@ -89,14 +92,14 @@ TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
 
 // Also what a new context at the address of a dead one gets.
 TEST_F(EntryProxy, UnknownNameIsAskedAndLoggedOnceForEachContext) {
-    static constinit GLEntryProxy record{"glUnknown"};
-    const auto line = "Attempted to use an unsupported extension function: 'glUnknown'";
+    const auto line = "Attempted to use an unsupported extension function: 'glFirst'";
     for (const size_t context : {0, 1}) {
-        egl::threadRecord.current = contextAt(context);
+        makeCurrent(context);
         backEnd = [](auto...) { return nullptr; };
-        EXPECT_EQ((Entry<record, int()>::call()), 0);
+        EXPECT_EQ((Entry<first, int()>::call()), 0);
         backEnd = [](auto...) { return address(answerOne); };
-        EXPECT_EQ((Entry<record, int()>::call()), 0);
+        makeCurrent(context);
+        EXPECT_EQ((Entry<first, int()>::call()), 0);
         EXPECT_THAT(std::exchange(errors, {}), ElementsAre(line));
         EXPECT_EQ(questions, context + 1);
     }
@@ -105,7 +108,7 @@ TEST_F(EntryProxy, UnknownNameIsAskedAndLoggedOnceForEachContext) {
 // Narrow, wide and floating arguments, and more than fit into registers; the first call and the resolved one differ.
 TEST_F(EntryProxy, ArgumentsAndResultPassUnchanged) {
     using Mixed = GLint64(GLubyte, GLfloat, GLint64, GLshort, GLfloat, void *, GLint, GLint, GLint, const GLint *);
-    static constinit GLEntryProxy record{"glMixed"};
+    openSlot<first, Mixed>();
     static GLint object;
     static const std::tuple arguments(GLubyte{255}, 0.5f, GLint64{-1} << 40, GLshort{-7}, -2.25f, &object, 1, 2, 3,
                                       &object + 1);
@@ -114,49 +117,46 @@ TEST_F(EntryProxy, ArgumentsAndResultPassUnchanged) {
     backEnd = [](auto...) {
         return address<Mixed>([](auto... received) { return GLint64{Received(received...) == arguments} << 50; });
     };
-    egl::threadRecord.current = contextAt(0);
+    makeCurrent(0);
     for (const int call : {1, 2})
-        EXPECT_EQ(std::apply(Entry<record, Mixed>::call, arguments), 1LL << 50) << "call " << call;
+        EXPECT_EQ(std::apply(Entry<first, Mixed>::call, arguments), 1LL << 50) << "call " << call;
 }
 
 TEST_F(EntryProxy, BackEndMayCallEntriesWhileItAnswers) {
-    static constinit GLEntryProxy outer{"glOuter"};
-    static constinit GLEntryProxy inner{"glInner"};
     static bool isNested = false;
-    backEnd = [](const egl::Context *, const std::string &name) {
-        if (name == "glInner") return address(answerTwo);
-        if (!std::exchange(isNested, true)) {
-            EXPECT_EQ((Entry<inner, int()>::call()), 2);
-            EXPECT_EQ((Entry<outer, int()>::call()), 1);
-        }
+    backEnd = [](const void *, const std::string &name) -> void * {
+        if (name == "glSecond") return address(answerTwo);
+        if (std::exchange(isNested, true)) return nullptr;
+        EXPECT_EQ((Entry<second, int()>::call()), 2);
+        EXPECT_EQ((Entry<first, int()>::call()), 0);
         return address(answerOne);
     };
-    egl::threadRecord.current = contextAt(0);
-    EXPECT_EQ((Entry<outer, int()>::call()), 1);
+    makeCurrent(0);
+    EXPECT_EQ((Entry<first, int()>::call()), 0) << "the answer that came first stays";
+    EXPECT_THAT(errors, SizeIs(1));
 }
 
-// Two threads at a time resolve for one context, while two others call with contexts that are resolved or not.
-TEST_F(EntryProxy, ThreadsAskOnceForEachContextWhileOthersCall) {
-    static constinit GLEntryProxy record{"glShared"};
-    backEnd = [](const egl::Context *context, const std::string &) {
+// Contexts wander from thread to thread between calls.
+TEST_F(EntryProxy, ThreadsAskOnceForEachContext) {
+    backEnd = [](const void *context, const std::string &) {
         std::this_thread::yield();
-        return context < contextAt(32) ? address(answerOne) : nullptr;
+        return context < &contexts[32] ? address(answerOne) : nullptr;
     };
-    std::barrier<> pairs[] = {std::barrier<>(2), std::barrier<>(2)};
+    std::mutex owned[64];
     std::vector<std::jthread> threads;
     for (int thread = 0; thread < 4; ++thread)
         threads.emplace_back([&, thread] {
             for (int index = 0; index < 64; ++index) {
-                const int own = (index + thread / 2 * 16) % 64;
-                egl::threadRecord.current = contextAt(own);
-                pairs[thread / 2].arrive_and_wait();
+                const int own = (index + thread * 16) % 64;
+                const std::lock_guard lock(owned[own]);
+                makeCurrent(own);
                 for (int call = 0; call < 20; ++call)
-                    EXPECT_EQ((Entry<record, int()>::call()), own < 32 ? 1 : 0);
+                    EXPECT_EQ((Entry<first, int()>::call()), own < 32 ? 1 : 0);
             }
         });
     threads.clear();
     EXPECT_EQ(questions, 64u);
-    const std::string line = "Attempted to use an unsupported extension function: 'glShared'";
+    const std::string line = "Attempted to use an unsupported extension function: 'glFirst'";
     EXPECT_THAT(errors, AllOf(SizeIs(32), Each(line)));
 }
 
@@ -168,6 +168,6 @@ TEST_F(EntryProxy, DebugEntriesHandBackAWholeRegister) {
                 ElementsAre("Attempted to call 'Zelvane_ToggleWireframe', but there is no current context."));
 
     backEnd = [](auto...) { return address(+[](GLuint enable) -> GLuint64 { return GLuint64{enable} << 40; }); };
-    egl::threadRecord.current = contextAt(0);
+    makeCurrent(0);
     EXPECT_EQ(toggle(3), GLuint64{3} << 40);
 }

@@ -15,12 +15,14 @@ using gl::baseTable;
 using gl::extensionTable;
 using testing::ElementsAre;
 
-TEST(EntryTables, EveryRowHasAProxyOfItsOwn) {
+TEST(EntryTables, EveryRowHasAProxyOfItsOwnAndIsFoundByItsName) {
     std::set<std::string> names, doubled;
     std::set<gl::Function> functions;
     const auto note = [&](const gl::ProcTableRow &row) {
-        if (!names.insert(row.name).second) doubled.insert(row.name);
+        const bool isFirst = names.insert(row.name).second;
+        if (!isFirst) doubled.insert(row.name);
         EXPECT_TRUE(functions.insert(row.function).second) << row.name;
+        EXPECT_EQ(gl::findEntry(row.name) == row.function, isFirst) << row.name;
     };
     std::ranges::for_each(extensionTable, note);
     std::ranges::for_each(baseTable, note);
