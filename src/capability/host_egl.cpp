@@ -20,6 +20,7 @@ EGL::EGL(const DynamicLibrary &library) {
     bindFeature(Feature::get, get, {}, library);
     bindFeature(Feature::openGl, openGl, {}, library);
     const HostGlView view(&get, &openGl);
+    m_hasHost = capability::hostGlVersion(view) != 0;
     bindFeature(Feature::fenceSync, fenceSync, view, library);
     bindFeature(Feature::textureUpload, textureUpload, view, library);
     bindFeature(Feature::textures, textures, view, library);

@@ -9,7 +9,12 @@
 namespace host {
 
 struct EGL {
+    // All null.
+    EGL() = default;
     explicit EGL(const DynamicLibrary &library);
+
+    // Whether a host context was there to look at.
+    [[nodiscard]] bool hasHost() const { return m_hasHost; }
 
     capability::FeatureBinding fenceSync;
     capability::FeatureBinding get;
@@ -18,15 +23,23 @@ struct EGL {
     capability::FeatureBinding textures;
 
     using Sync = void *;
-    uint32_t (*glClientWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs);
-    void (*glDeleteSync)(Sync sync);
-    Sync (*glFenceSync)(uint32_t condition, uint32_t flags);
-    void (*glGetSynciv)(Sync sync, uint32_t name, int32_t size, int32_t *length, int32_t *values);
-    void (*glWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs);
-    uint32_t (*glGetError)();
+    uint32_t (*glClientWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs) = nullptr;
+    void (*glDeleteSync)(Sync sync) = nullptr;
+    Sync (*glFenceSync)(uint32_t condition, uint32_t flags) = nullptr;
+    void (*glGetSynciv)(Sync sync, uint32_t name, int32_t size, int32_t *length, int32_t *values) = nullptr;
+    void (*glWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs) = nullptr;
+    uint32_t (*glGetError)() = nullptr;
     void (*glCopyTexImage2D)(uint32_t target, int32_t level, uint32_t internalFormat, int32_t x, int32_t y,
-                             int32_t width, int32_t height, int32_t border);
-    void (*glBindTexture)(uint32_t target, uint32_t texture);
+                             int32_t width, int32_t height, int32_t border) = nullptr;
+    void (*glBindTexture)(uint32_t target, uint32_t texture) = nullptr;
+
+    // Takes one error that is pending on the host.
+    void sweepError() const {
+        if (glGetError) glGetError();
+    }
+
+private:
+    bool m_hasHost = false;
 };
 
 } // namespace host

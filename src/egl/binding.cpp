@@ -12,35 +12,34 @@ namespace {
 // The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
 void primeShareContext(Context &context, const std::shared_ptr<Surface> &draw, const std::shared_ptr<Surface> &read) {
     Context *share = context.shareContext.get();
-    if (!share || !share->hostContext() || share->esContext.load()) return;
-    (void)bindContext(*share, draw, read);
+    if (!share || share->esContext.load() || !share->hostContext()) return;
+    BindClaim claim(*share);
+    if (!claim.isHeld()) return;
+    if (bindContext(*share, draw, read)) claim.keep();
     unbindCurrent(context.display);
-    (void)host::makeHostContextCurrent(nullptr, {});
+    (void)host::makeHostContextCurrent(nullptr, nullptr);
 }
 
-// At every bind to a window, the same one too: titles change and nobody tells. A window without a title sends an empty
-// one.
+// At every bind to a window, the same one too, for as long as there is somebody to tell. A window without a title sends
+// an empty one.
 void postWindowTitle(const Surface *draw) {
-    const auto window = draw ? draw->hostSurface : nullptr;
-    if (!window || window->isPBuffer() || getHostConfiguration() & CONFIG_NO_WINDOW_TITLE) return;
+    const auto *window = draw ? draw->hostSurface.get() : nullptr;
+    if (!window || window->isPBuffer() || !state().uiLink().isAttached()) return;
+    if (getHostConfiguration() & CONFIG_NO_WINDOW_TITLE) return;
     state().uiLink().post(ui::messages::windowTitle(window->title()));
 }
 
-// The application must not inherit an error that the bind left.
-void sweepHostError() {
-    const auto hostEGL = state().hostEGL();
-    if (hostEGL->glGetError) hostEGL->glGetError();
-}
-
 // Makes the back-end context at the first bind and tells it the attributes at every later one.
-bool bindEsContext(Context &context) {
+bool bindEsContext(Context &context, host::HostBinding binding) {
     if (const zvEsContext esContext = context.esContext) {
-        State::setEsContextAttribs(esContext, context.attribs);
+        State::setEsContextAttribs(context.esLibrary, esContext, context.attribs);
         return true;
     }
+    // A back-end context sets its host context up: it waits for a bind that makes that current.
+    if (binding != host::HostBinding::current) return true;
     Context *share = context.shareContext.get();
-    const zvEsContext shareEsContext = share ? share->esContext.load() : nullptr;
-    context.esContext = state().createEsContext(context.attribs, context.display, shareEsContext);
+    const SharedEsContext shared(share);
+    context.esContext = state().createEsContext(context.esLibrary, context.attribs, context.display, shared.get());
     if (!context.esContext.load()) return false;
     if (share && share->attribs.requestedMajor != context.attribs.requestedMajor) {
         logMessage(LogWarning, "Attempting to share two contexts of differing API versions is unsupported.");
@@ -48,44 +47,58 @@ bool bindEsContext(Context &context) {
     return true;
 }
 
+// Does what eglDestroyContext put off.
+void endClaim(Context &context, Display &display) {
+    if (context.pendingDestroy) display.destroyContext(context.handle);
+    context.letGo();
+    // Another thread may have seen the claim just before, and left the destruction to this one.
+    if (context.pendingDestroy) display.destroyContext(context.handle);
+}
+
 } // namespace
 
+BindClaim::BindClaim(Context &context) : m_context(context), m_isCurrent(threadRecord.current == &context) {
+    if (!context.esContext.load()) m_firstBind = std::unique_lock(context.group->firstBinds);
+    m_isTaken = !m_isCurrent && context.claim();
+}
+
+BindClaim::~BindClaim() {
+    if (m_isTaken) endClaim(m_context, m_context.display);
+}
+
 void unbindCurrent(Display &display) {
-    if (const auto current = currentContext()) {
-        current->boundToThread = false;
-        if (current->pendingDestroy) display.destroyContext(current->handle);
-        if (current->deletesWhenUnbound) (void)current->deleteEsContext();
-    }
+    const auto current = currentContext();
+    if (!current) return;
+    endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
 }
 
 bool bindContext(Context &context, const std::shared_ptr<Surface> &draw, const std::shared_ptr<Surface> &read) {
     primeShareContext(context, draw, read);
-    if (!context.esLibrary.isLoaded()) return false;
+    if (!context.esLibrary.library.isLoaded()) return false;
     postWindowTitle(draw.get());
 
-    const std::weak_ptr<glove::ISurface> drawable = draw ? draw->hostSurface : nullptr;
-    const auto hostContext = context.hostContext();
-    if (!host::makeHostContextCurrent(hostContext.get(), drawable)) return false;
+    const auto *hostContext = context.claimedHostContext();
+    const auto binding = host::makeHostContextCurrent(hostContext, draw ? draw->hostSurface.get() : nullptr);
+    if (binding == host::HostBinding::failed) return false;
     // A host that refused the context at its creation shows here first.
-    if (!hostContext || !hostContext->context || !hostContext->context->container()) return false;
-    sweepHostError();
+    if (!hostContext || !hostContext->context->container()) return false;
+    // The application must not inherit an error that the bind left.
+    state().hostEGL(binding == host::HostBinding::current).sweepError();
 
-    // Never taken back by a later bind to a linear surface; back ends rely on seeing it once set.
-    if (draw && draw->attribute(EGL_GL_COLORSPACE) == EGL_GL_COLORSPACE_SRGB) context.attribs.srgbFramebuffer = 1;
-    if (!bindEsContext(context)) return false;
+    // Never taken back by a later bind to a linear surface: a back end sees it for good once it was set.
+    if (draw && draw->isSrgb) context.attribs.srgbFramebuffer = 1;
+    if (!bindEsContext(context, binding)) return false;
 
-    context.setSurfaces({draw, read});
+    if (context.surfaces.draw != draw || context.surfaces.read != read) context.surfaces = {draw, read};
     setCurrentContext(context.shared_from_this(), &context.display);
-    context.boundToThread = true;
-    context.setSurfaceless(false);
+    context.attribs.surfaceless = 0;
     return true;
 }
 
 bool bindSurfaceless(Context &context) {
-    constexpr EGLint attributes[] = {EGL_WIDTH, 1, EGL_HEIGHT, 1, EGL_LARGEST_PBUFFER, 1, EGL_NONE};
-    const auto surface = context.display.createPbufferSurface(*context.config, attributes);
-    context.setSurfaceless(true);
+    const auto surface = context.display.createPrivateSurface(context);
+    context.attribs.surfaceless = 1;
     return bindContext(context, surface, surface);
 }
 

@@ -9,16 +9,38 @@
 
 namespace egl {
 
+// A bind's claim on its context. Gives up what it took unless the bind succeeds.
+class BindClaim {
+public:
+    // Waits for the first bind of another context of the share group where this is the context's first bind, too.
+    explicit BindClaim(Context &context);
+    BindClaim(const BindClaim &) = delete;
+    BindClaim &operator=(const BindClaim &) = delete;
+    ~BindClaim();
+
+    // False when another thread has the context. A context that is current here is claimed already.
+    [[nodiscard]] bool isHeld() const { return m_isTaken || m_isCurrent; }
+    // The bind has succeeded: unbinding gives the claim up.
+    void keep() { m_isTaken = false; }
+
+private:
+    Context &m_context;
+    std::unique_lock<std::recursive_mutex> m_firstBind;
+    const bool m_isCurrent;
+    bool m_isTaken;
+};
+
 // Ends the thread's binding on the EGL side and does what eglDestroyContext put off. The host binding stays. The
-// display is the caller's and not the context's own: a doomed context of another display is looked up in the wrong
-// table, which callers accept.
+// display is the entry's and not the context's own: a doomed context of another display is looked up in the wrong
+// table.
 void unbindCurrent(Display &display);
 
-// False leaves the thread without a current context if it had another one.
+// The caller has claimed the context and prepared the thread. False leaves the thread without a current context if it
+// had another one.
 [[nodiscard]] bool bindContext(Context &context, const std::shared_ptr<Surface> &draw,
                                const std::shared_ptr<Surface> &read);
 
-// Binds with a pixel buffer of the library's own, which stays in the display's table until eglTerminate.
+// Binds with a surface of the library's own, which stays in the display's table until eglTerminate.
 [[nodiscard]] bool bindSurfaceless(Context &context);
 
 } // namespace egl

@@ -1,6 +1,7 @@
 #include "egl/context.h"
 
 #include "egl/display.h"
+#include "egl/private_buffers.h"
 #include "egl/state.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
@@ -33,55 +34,69 @@ gl::Function askBackEnd(void *context, const char *name) {
 Context::Context(Display &display, uint64_t handle, std::shared_ptr<const Config> config,
                  std::shared_ptr<Context> share, const ContextAttribs &attribs)
     : display(display), handle(handle), config(std::move(config)), shareContext(std::move(share)),
+      group(shareContext ? shareContext->group : std::make_shared<ContextGroup>()),
       functions(gl::functionTableAt(this, askBackEnd)), esLibrary(State::loadEsLibrary(attribs.requestedMajor)),
       attribs(withHandle(attribs, handle)),
       m_hostContext(createHostContextFor(*this->config, shareContext.get(), attribs)) {}
 
 Context::~Context() {
+    leavePrivateBuffer(std::move(privateBuffer));
     if (m_hostContext) new std::shared_ptr(std::move(m_hostContext));
 }
 
-void *Context::getExtProcAddress(const char *name) {
-    auto function = m_getExtProcAddress.load(std::memory_order_relaxed);
-    if (!function) {
-        function = reinterpret_cast<GetExtProcAddress>(esLibrary.getSymbol("zvGetExtProcAddress"));
-        m_getExtProcAddress.store(function, std::memory_order_relaxed);
-        // Proxies remember answers beyond the life of a context, so the code behind them has to stay.
-        esLibrary.keepLoaded("zvGetExtProcAddress");
-    }
-    return function ? function(name) : nullptr;
+void *Context::getExtProcAddress(const char *name) const {
+    // The table of functions remembers answers beyond the life of a context, so the code behind them has to stay.
+    if (!m_keepsLibrary.exchange(true, std::memory_order_relaxed)) esLibrary.library.keepLoaded("zvGetExtProcAddress");
+    return esLibrary.getExtProcAddress ? esLibrary.getExtProcAddress(name) : nullptr;
 }
 
 bool Context::deleteEsContext() {
-    if (boundToThread && threadRecord.current != this) {
-        // Its thread goes on drawing with it, and deletes it when it lets go.
-        deletesWhenUnbound = true;
-        return true;
+    if (threadRecord.current == this) return deleteClaimed();
+    if (!claim()) {
+        m_deletesWhenLetGo = true;
+        // The thread that had it may have looked just before.
+        if (!claim()) return true;
+        m_deletesWhenLetGo = false;
     }
+    if (deleteClaimed()) return true;
+    boundToThread = false;
+    return false;
+}
+
+bool Context::deleteClaimed() {
     {
         std::shared_ptr<host::HostContextHandle> ended;
         const std::lock_guard lock(m_mutex);
         ended.swap(m_hostContext);
     }
-    const zvEsContext doomed = esContext;
-    if (!doomed) return true;
+    if (!esContext.load()) return true;
     // The display of the record stays as it is.
     if (threadRecord.current == this) setCurrentContext(nullptr, threadRecord.currentDisplay);
-
-    using DeleteEsContext = void (*)(zvEsContext);
-    const auto deleteFunction = reinterpret_cast<DeleteEsContext>(esLibrary.getSymbol("zvDeleteEsContext"));
-    if (!deleteFunction) return false;
-    // The object may live on as the share context of another, whose first bind must not hand out a deleted one.
-    esContext = nullptr;
-    deleteFunction(doomed);
+    if (!esLibrary.deleteEsContext) return false;
+    deleteUnlessShared();
     return true;
 }
 
-bool Context::setRenderMode(uint8_t mode) {
-    using SetRenderMode = void (*)(const uint8_t *, size_t);
-    const auto function = reinterpret_cast<SetRenderMode>(esLibrary.getSymbol("zvSetRenderMode"));
-    if (!function) return false;
-    function(&mode, 1);
+void Context::deleteUnlessShared() {
+    zvEsContext doomed = nullptr;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_deletesWithoutSharers = m_sharers > 0;
+        if (m_deletesWithoutSharers) return;
+        // The object may live on as the share context of another, whose first bind must not hand out a deleted one.
+        doomed = esContext.exchange(nullptr);
+    }
+    if (doomed) esLibrary.deleteEsContext(doomed);
+}
+
+void Context::letGo() {
+    boundToThread = false;
+    if (m_deletesWhenLetGo && claim()) (void)deleteClaimed();
+}
+
+bool Context::setRenderMode(uint8_t mode) const {
+    if (!esLibrary.setRenderMode) return false;
+    esLibrary.setRenderMode(&mode, 1);
     return true;
 }
 
@@ -90,22 +105,21 @@ std::shared_ptr<host::HostContextHandle> Context::hostContext() const {
     return m_hostContext;
 }
 
-SurfacePair Context::surfaces() const {
-    const std::lock_guard lock(m_mutex);
-    return m_surfaces;
+SharedEsContext::SharedEsContext(Context *share) : m_share(share) {
+    if (!share) return;
+    const std::lock_guard lock(share->m_mutex);
+    ++share->m_sharers;
+    if (!share->m_deletesWithoutSharers) m_esContext = share->esContext;
 }
 
-void Context::setSurfaces(SurfacePair surfaces) {
-    const std::lock_guard lock(m_mutex);
-    std::swap(m_surfaces, surfaces);
-}
-
-bool Context::isSurfaceless() const {
-    return std::atomic_ref(const_cast<uint8_t &>(attribs.surfaceless)) != 0;
-}
-
-void Context::setSurfaceless(bool surfaceless) {
-    std::atomic_ref(attribs.surfaceless) = surfaceless ? 1 : 0;
+SharedEsContext::~SharedEsContext() {
+    if (!m_share) return;
+    bool isDeletedNow = false;
+    {
+        const std::lock_guard lock(m_share->m_mutex);
+        isDeletedNow = --m_share->m_sharers == 0 && m_share->m_deletesWithoutSharers;
+    }
+    if (isDeletedNow) m_share->deleteUnlessShared();
 }
 
 } // namespace egl

@@ -6,7 +6,7 @@
 #include <mutex>
 
 #include "egl/egl_api.h"
-#include "foundation/dynamic_library.h"
+#include "egl/es_library.h"
 #include "gl/function_table.h"
 #include "host/host_context.h"
 #include "profiles/config.h"
@@ -22,7 +22,17 @@ struct SurfacePair {
     std::shared_ptr<Surface> read;
 };
 
+// What contexts that share objects have in common.
+struct ContextGroup {
+    // Held for the first bind of each: it makes the back-end contexts of those that it shares with. Recursive, since a
+    // back end may call entries while it makes a context.
+    std::recursive_mutex firstBinds;
+};
+
 // Held by shared pointer; the address is stable for its life and is what its table of functions goes by.
+//
+// One thread at a time has a claim on a context, from before a bind to the unbind, or for deleting it. What is bound to
+// it is touched by the thread that has the claim alone.
 class Context : public std::enable_shared_from_this<Context> {
 public:
     // Opens the back-end library and makes the host context. Neither failure shows here: the first bind tells.
@@ -35,47 +45,77 @@ public:
     ~Context();
 
     // The back end's function of this name, or null. Asks the back end at every call.
-    [[nodiscard]] void *getExtProcAddress(const char *name);
+    [[nodiscard]] void *getExtProcAddress(const char *name) const;
     // Ends the host context and the back-end context; later, if another thread has the context current. False when the
-    // back end cannot delete; the host context is gone all the same.
+    // back end cannot delete; the host context is gone all the same. Any thread.
     [[nodiscard]] bool deleteEsContext();
     // Hands a render mode to the back end. False when it takes none.
-    bool setRenderMode(uint8_t mode);
+    bool setRenderMode(uint8_t mode) const;
 
-    // Null once deleteEsContext has run.
+    // False when a thread has it already, this one too.
+    [[nodiscard]] bool claim() { return !boundToThread.exchange(true); }
+    // Gives the claim up, and deletes what another thread meant to delete meanwhile.
+    void letGo();
+
+    // Null once deleteEsContext has run. Any thread.
     [[nodiscard]] std::shared_ptr<host::HostContextHandle> hostContext() const;
-
-    // The surfaces of the last bind. They outlive an unbind.
-    [[nodiscard]] SurfacePair surfaces() const;
-    void setSurfaces(SurfacePair surfaces);
-
-    // While a bind without the application's surfaces is under way, and after one that failed.
-    [[nodiscard]] bool isSurfaceless() const;
-    void setSurfaceless(bool surfaceless);
+    // The same for the thread that has the claim.
+    [[nodiscard]] const host::HostContextHandle *claimedHostContext() const { return m_hostContext.get(); }
 
     // Constant after construction.
     Display &display;
     const uint64_t handle;
     const std::shared_ptr<const Config> config;
     const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is gone
+    const std::shared_ptr<ContextGroup> group;
     gl::FunctionTable &functions;
+    const EsLibrary esLibrary; // open for the life of the context
 
-    DynamicLibrary esLibrary;                     // open for the life of the context; on one thread at a time
     std::atomic<zvEsContext> esContext = nullptr; // null until the first bind and once the back end has deleted it
-    ContextAttribs attribs;
 
     std::atomic<bool> boundToThread = false;
     std::atomic<bool> pendingDestroy = false; // destroyed while bound: goes when it is unbound
-    // Taken for another display's context of the same number and destroyed while bound elsewhere.
-    std::atomic<bool> deletesWhenUnbound = false;
+
+    // Of the thread that has the claim.
+    ContextAttribs
+        attribs;          // surfaceless is set during a bind without the application's surfaces, and after a failed one
+    SurfacePair surfaces; // of the last bind; they outlive an unbind
+    std::shared_ptr<glove::ISurface> privateBuffer; // what binds without surfaces draw to; made for the first of them
 
 private:
-    using GetExtProcAddress = void *(*)(const char *name);
+    friend class SharedEsContext;
 
-    std::atomic<GetExtProcAddress> m_getExtProcAddress = nullptr;
-    mutable std::mutex m_mutex; // guards what is below: other threads may bind or destroy this context meanwhile
+    // The caller has the claim.
+    bool deleteClaimed();
+    void deleteUnlessShared();
+
+    mutable std::atomic<bool> m_keepsLibrary = false;
+
+    // Another display's context of the same number, destroyed in its stead while a thread has it.
+    std::atomic<bool> m_deletesWhenLetGo = false;
+
+    mutable std::mutex m_mutex; // guards what is below
     std::shared_ptr<host::HostContextHandle> m_hostContext;
-    SurfacePair m_surfaces;
+    int m_sharers = 0; // back-end contexts that are being made with this one
+    bool m_deletesWithoutSharers = false;
+};
+
+// The back-end context of a context that another shares with, for as long as the back end needs it: one that is deleted
+// meanwhile on another thread goes with this.
+class SharedEsContext {
+public:
+    // Null stands for no context.
+    explicit SharedEsContext(Context *share);
+    SharedEsContext(const SharedEsContext &) = delete;
+    SharedEsContext &operator=(const SharedEsContext &) = delete;
+    ~SharedEsContext();
+
+    // Null when there is none, and when it is deleted already.
+    [[nodiscard]] zvEsContext get() const { return m_esContext; }
+
+private:
+    Context *m_share;
+    zvEsContext m_esContext = nullptr;
 };
 
 } // namespace egl

@@ -66,12 +66,9 @@ EGLBoolean EGLAPIENTRY eglDestroyContext(EGLDisplay dpy, EGLContext ctx) {
     return entry(dpy, EGL_FALSE, [&](Display &display) {
         const auto context = display.findContext(ctx);
         if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
-        if (context->boundToThread) {
-            context->pendingDestroy = true;
-        } else {
-            // A back end that cannot delete leaves the context in the table; the answer is true all the same.
-            display.destroyContext(context->handle);
-        }
+        if (context->boundToThread) context->pendingDestroy = true;
+        // A back end that cannot delete leaves the context in the table; the answer is true all the same.
+        if (!context->boundToThread) display.destroyContext(context->handle);
         return succeed(EGL_TRUE);
     });
 }

@@ -8,28 +8,32 @@ namespace {
 
 EGLBoolean releaseCurrent(Display &display) {
     unbindCurrent(display);
-    if (!host::makeHostContextCurrent(nullptr, {})) return fail(EGL_BAD_ALLOC, EGL_FALSE);
-    return succeed(EGL_TRUE);
-}
-
-bool isBoundElsewhere(const Context &context) {
-    return context.boundToThread && (!threadRecord.current || threadRecord.current->handle != context.handle);
+    const bool isReleased = host::makeHostContextCurrent(nullptr, nullptr) != host::HostBinding::failed;
+    return isReleased ? succeed(EGL_TRUE) : fail(EGL_BAD_ALLOC, EGL_FALSE);
 }
 
 EGLBoolean makeCurrent(Display &display, EGLSurface drawHandle, EGLSurface readHandle, EGLContext ctx) {
     const auto context = display.findContext(ctx);
     if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
-    if (isBoundElsewhere(*context)) return fail(EGL_BAD_ACCESS, EGL_FALSE);
-    // Before anything of the new context is tried: a bind that fails has lost the old one, and callers rely on that.
+    if (!prepareThread()) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+    BindClaim claim(*context);
+    if (!claim.isHeld()) return fail(EGL_BAD_ACCESS, EGL_FALSE);
+    // Before anything of the new context is tried: a bind that fails has lost the old one. The handles are compared, as
+    // they are everywhere: a context of another display that has the same number is not unbound.
     if (threadRecord.current && threadRecord.current->handle != context->handle) unbindCurrent(display);
 
+    bool isBound = false;
     if (!drawHandle && !readHandle) {
-        return bindSurfaceless(*context) ? succeed(EGL_TRUE) : fail(EGL_BAD_ALLOC, EGL_FALSE);
+        isBound = bindSurfaceless(*context);
+    } else {
+        const auto draw = display.findSurface(drawHandle);
+        const auto read = display.findSurface(readHandle);
+        if (!draw || !read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        isBound = bindContext(*context, draw, read);
     }
-    const auto draw = display.findSurface(drawHandle);
-    const auto read = display.findSurface(readHandle);
-    if (!draw || !read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-    return bindContext(*context, draw, read) ? succeed(EGL_TRUE) : fail(EGL_BAD_ALLOC, EGL_FALSE);
+    if (!isBound) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+    claim.keep();
+    return succeed(EGL_TRUE);
 }
 
 } // namespace
@@ -58,8 +62,7 @@ EGLSurface EGLAPIENTRY eglGetCurrentSurface(EGLint readdraw) {
     const Context *current = threadRecord.current;
     if (!current) return succeed(EGL_NO_SURFACE);
     if (readdraw != EGL_DRAW && readdraw != EGL_READ) return fail(EGL_BAD_PARAMETER, EGL_NO_SURFACE);
-    const auto [draw, read] = current->surfaces();
-    const auto &surface = readdraw == EGL_DRAW ? draw : read;
-    if (!surface || current->isSurfaceless()) return succeed(EGL_NO_SURFACE);
+    const auto &surface = readdraw == EGL_DRAW ? current->surfaces.draw : current->surfaces.read;
+    if (!surface || current->attribs.surfaceless) return succeed(EGL_NO_SURFACE);
     return succeed(asHandle<EGLSurface>(surface->handle));
 }

@@ -3,6 +3,7 @@
 #include "capability/host_egl.h"
 #include "egl/context.h"
 #include "egl/context_allocator.h"
+#include "egl/private_buffers.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
 
@@ -110,7 +111,7 @@ std::shared_ptr<Surface> Display::findSurface(EGLSurface handle) const {
     }
     const auto current = currentContext();
     if (!current) return nullptr;
-    const auto [draw, read] = current->surfaces();
+    const auto &[draw, read] = current->surfaces;
     if (draw && draw->handle == number(handle)) return draw;
     if (read && read->handle == number(handle)) return read;
     return nullptr;
@@ -134,6 +135,12 @@ std::shared_ptr<Surface> Display::createPbufferSurface(const Config &config, con
     const std::lock_guard lock(m_displayMutex);
     const uint64_t handle = m_surfaces.takeHandle();
     return insertSurface(handle, host::createHostPBufferSurface(attributes), config, attributes);
+}
+
+std::shared_ptr<Surface> Display::createPrivateSurface(Context &context) {
+    if (!context.privateBuffer) context.privateBuffer = takePrivateBuffer();
+    const std::lock_guard lock(m_displayMutex);
+    return insertSurface(m_surfaces.takeHandle(), context.privateBuffer, *context.config, privateBufferAttributes);
 }
 
 std::shared_ptr<Surface> Display::createPixmapSurface(const Config &config, const EGLint *attributes) {

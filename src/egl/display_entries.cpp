@@ -57,7 +57,7 @@ EGLBoolean EGLAPIENTRY eglSwapInterval(EGLDisplay dpy, EGLint interval) {
     return entry(dpy, EGL_FALSE, [&](Display &) {
         const auto current = currentContext();
         if (!current) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
-        if (!current->surfaces().draw) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (!current->surfaces.draw) return fail(EGL_BAD_SURFACE, EGL_FALSE);
         host::setHostSwapInterval(current->hostContext().get(), interval);
         return succeed(EGL_TRUE);
     });

@@ -36,6 +36,7 @@ State::State()
 
 State::~State() {
     detachGuiLink();
+    delete m_hostEGL.load();
     for (const auto &[display, nativeId] : m_displays)
         delete display;
 }
@@ -97,10 +98,16 @@ std::vector<std::shared_ptr<Context>> State::contexts() {
     return contexts;
 }
 
-std::shared_ptr<host::EGL> State::hostEGL() {
+const host::EGL &State::hostEGL(bool canLookUp) {
+    if (const auto *known = m_hostEGL.load(std::memory_order_acquire)) return *known;
+    static const host::EGL none;
+    if (!canLookUp) return none;
     const std::lock_guard lock(m_hostEGLMutex);
-    if (!m_hostEGL) m_hostEGL = std::make_shared<host::EGL>(m_openGLLibrary);
-    return m_hostEGL;
+    if (const auto *known = m_hostEGL.load(std::memory_order_relaxed)) return *known;
+    auto made = std::make_unique<const host::EGL>(m_openGLLibrary);
+    if (!made->hasHost()) return none;
+    m_hostEGL.store(made.get(), std::memory_order_release);
+    return *made.release();
 }
 
 bool State::isStrictContextMode() const {

@@ -22,6 +22,8 @@
 
 namespace egl {
 
+struct EsLibrary;
+
 class State {
 public:
     State();
@@ -42,8 +44,9 @@ public:
     // Those of all displays as they are now: displays in key order, contexts in handle order.
     [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts();
 
-    // The host functions, looked up at the first use and kept for the life of the process.
-    [[nodiscard]] std::shared_ptr<host::EGL> hostEGL();
+    // The host functions, looked up at the first use with a host context current and kept for the life of the state.
+    // All null until then. canLookUp: whether a context of ours is current on the host.
+    [[nodiscard]] const host::EGL &hostEGL(bool canLookUp = true);
 
     // False where the embedding tool forces loose contexts, whatever the settings say.
     [[nodiscard]] bool isStrictContextMode() const;
@@ -51,9 +54,9 @@ public:
     // The back-end library for this major version, or logs that it cannot be loaded and gives one that holds nothing.
     [[nodiscard]] static DynamicLibrary loadEsLibrary(int32_t major);
     // Null when the library or its function is missing, or when the back end fails.
-    [[nodiscard]] zvEsContext createEsContext(const ContextAttribs &attribs, const Display &display,
-                                              zvEsContext shareEsContext);
-    static void setEsContextAttribs(zvEsContext esContext, const ContextAttribs &attribs);
+    [[nodiscard]] zvEsContext createEsContext(const EsLibrary &library, const ContextAttribs &attribs,
+                                              const Display &display, zvEsContext shareEsContext);
+    static void setEsContextAttribs(const EsLibrary &library, zvEsContext esContext, const ContextAttribs &attribs);
 
     [[nodiscard]] const Settings &settings() const { return m_settings; }
     [[nodiscard]] const DeviceProfile &profile() const { return m_profile; }
@@ -78,8 +81,8 @@ private:
     UiLink m_uiLink;                              // connects in the constructor
     static inline constinit std::atomic<uint64_t> m_frameNumber = 0;
     capability::SystemReport m_report;
-    std::mutex m_hostEGLMutex;
-    std::shared_ptr<host::EGL> m_hostEGL; // guarded by m_hostEGLMutex
+    std::mutex m_hostEGLMutex; // held while the functions are looked up
+    std::atomic<const host::EGL *> m_hostEGL = nullptr;
 };
 
 // The head of nearly every entry: makes the state and loads it. False when the load fails, and once the state has gone

@@ -2,9 +2,22 @@
 
 namespace egl {
 
+namespace {
+
+// 0 where the list does not have the attribute.
+EGLint lastValue(const EGLint *attributes, EGLint name) {
+    EGLint value = 0;
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        if (attributes[0] == name) value = attributes[1];
+    }
+    return value;
+}
+
+} // namespace
+
 Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
                  const EGLint *attributes)
-    : handle(handle),
+    : handle(handle), isSrgb(lastValue(attributes, EGL_GL_COLORSPACE) == EGL_GL_COLORSPACE_SRGB),
       hostSurface(std::move(hostSurface)), m_attributes{{EGL_RENDER_BUFFER, EGL_BACK_BUFFER},
                                                         {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
                                                         {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},

@@ -26,6 +26,7 @@ public:
     void swap();
 
     const uint64_t handle;
+    const bool isSrgb;
     const std::shared_ptr<glove::ISurface> hostSurface;
 
     // Since the last swap.

@@ -20,7 +20,7 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
 EGLBoolean setDamageRegion(Display &display, const Context &current, EGLSurface surface) {
     const auto found = display.findSurface(surface);
     if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-    if (found != current.surfaces().draw || found->attribute(EGL_SWAP_BEHAVIOR) != EGL_BUFFER_DESTROYED) {
+    if (found != current.surfaces.draw || found->attribute(EGL_SWAP_BEHAVIOR) != EGL_BUFFER_DESTROYED) {
         return fail(EGL_BAD_MATCH, EGL_FALSE);
     }
     // The age must have been asked for since the last swap, and the region is set once.

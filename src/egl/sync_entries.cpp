@@ -48,10 +48,6 @@ uint32_t hostSyncName(EGLint attribute) {
     }
 }
 
-void sweepHostError(const host::EGL &hostEGL) {
-    if (hostEGL.glGetError) hostEGL.glGetError();
-}
-
 EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) {
     if (type == EGL_SYNC_FENCE && &display != threadRecord.currentDisplay) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
     // Any other type gives this error too.
@@ -59,9 +55,9 @@ EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) 
         return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
     }
     if (!threadRecord.current) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
-    const auto hostEGL = state().hostEGL();
-    if (!hostEGL->glFenceSync) return fail(EGL_BAD_ALLOC, EGL_NO_SYNC);
-    return succeed(display.createSync(*hostEGL));
+    const host::EGL &hostEGL = state().hostEGL();
+    if (!hostEGL.glFenceSync) return fail(EGL_BAD_ALLOC, EGL_NO_SYNC);
+    return succeed(display.createSync(hostEGL));
 }
 
 // What waits and queries check: a known sync, then a current context.
@@ -70,7 +66,7 @@ Result withSync(EGLDisplay dpy, EGLSync sync, Result failure, Body body) {
     return entry(dpy, failure, [&](Display &display) {
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, failure);
         if (!threadRecord.current) return fail(EGL_BAD_CONTEXT, failure);
-        return body(*state().hostEGL());
+        return body(state().hostEGL());
     });
 }
 
@@ -104,7 +100,7 @@ EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
         // Without a current context the sync stays known; callers rely on destroying it later.
         if (!threadRecord.current) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        display.destroySync(*state().hostEGL(), sync);
+        display.destroySync(state().hostEGL(), sync);
         return succeed(EGL_TRUE);
     });
 }
@@ -113,7 +109,7 @@ EGLint EGLAPIENTRY eglClientWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags,
     return withSync<EGLint>(dpy, sync, 0, [&](const host::EGL &hostEGL) -> EGLint {
         if (!hostEGL.glClientWaitSync) return succeed(0);
         const uint32_t result = hostEGL.glClientWaitSync(sync, hostWaitFlags(flags), timeoutNs);
-        sweepHostError(hostEGL);
+        hostEGL.sweepError();
         return succeed(eglWaitResult(result));
     });
 }
@@ -122,7 +118,7 @@ EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
     return withSync<EGLBoolean>(dpy, sync, EGL_FALSE, [&](const host::EGL &hostEGL) -> EGLBoolean {
         // The host takes no flags here and raises an error for them, which the sweep hides.
         if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), glTimeoutIgnored);
-        sweepHostError(hostEGL);
+        hostEGL.sweepError();
         return succeed(EGL_TRUE);
     });
 }

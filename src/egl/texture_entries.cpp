@@ -20,11 +20,11 @@ bool canBeBound(Surface &surface) {
 // Copies from what is bound for reading, which is the surface only if the application made it so. Goes past the back
 // end to the texture that is bound on the host.
 void copyToBoundTexture(Surface &surface) {
-    const auto hostEGL = state().hostEGL();
-    if (!hostEGL->glCopyTexImage2D) return;
+    const host::EGL &hostEGL = state().hostEGL();
+    if (!hostEGL.glCopyTexImage2D) return;
     const uint32_t format = surface.attribute(EGL_TEXTURE_FORMAT) == EGL_TEXTURE_RGB ? glRgb : glRgba;
-    hostEGL->glCopyTexImage2D(glTexture2D, 0, format, 0, 0, surface.attribute(EGL_WIDTH), surface.attribute(EGL_HEIGHT),
-                              0);
+    hostEGL.glCopyTexImage2D(glTexture2D, 0, format, 0, 0, surface.attribute(EGL_WIDTH), surface.attribute(EGL_HEIGHT),
+                             0);
 }
 
 } // namespace

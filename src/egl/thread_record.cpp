@@ -1,5 +1,8 @@
 #include "egl/thread_record.h"
 
+#include <climits>
+#include <pthread.h>
+
 #include "egl/context.h"
 #include "gl/function_table.h"
 
@@ -9,19 +12,32 @@ constinit thread_local ThreadRecord threadRecord;
 
 namespace {
 
-// Ends with its thread: drops the reference, and leaves binding, flags and deferred destruction as they are.
-struct CurrentOwner {
-    std::shared_ptr<Context> context;
+// Of the exit handlers that a thread has by pthread_key_create, which run in rounds for as long as values are set
+// again. An application's may release a context, so that ours gives way to them until the last round.
+void endThread(void *value);
 
-    ~CurrentOwner() {
-        threadRecord.current = nullptr;
-        threadRecord.backEnd = {};
-        gl::currentFunctions = &gl::functionsWithoutContext;
-        threadRecord.ended = true;
-    }
-};
+pthread_key_t exitKey() {
+    static const pthread_key_t key = [] {
+        pthread_key_t made{};
+        pthread_key_create(&made, endThread);
+        return made;
+    }();
+    return key;
+}
 
-thread_local CurrentOwner currentOwner;
+// The value counts the rounds.
+void setRound(uintptr_t round) {
+    pthread_setspecific(exitKey(), reinterpret_cast<void *>(round));
+}
+
+void endThread(void *value) {
+    const auto round = reinterpret_cast<uintptr_t>(value);
+    if (round < PTHREAD_DESTRUCTOR_ITERATIONS) return setRound(round + 1);
+    // Binding, flags and deferred destruction stay as they are.
+    const std::unique_ptr<std::shared_ptr<Context>> dropped(threadRecord.owner);
+    threadRecord = {.error = threadRecord.error, .ended = true};
+    gl::currentFunctions = &gl::functionsWithoutContext;
+}
 
 // The library of a context is settled by the version that was asked for.
 zvThread backEndView(const Context *context) {
@@ -33,17 +49,24 @@ zvThread backEndView(const Context *context) {
 } // namespace
 
 std::shared_ptr<Context> currentContext() {
-    return threadRecord.current ? threadRecord.current->shared_from_this() : nullptr;
+    return threadRecord.current ? *threadRecord.owner : nullptr;
+}
+
+bool prepareThread() {
+    if (threadRecord.owner) return true;
+    if (threadRecord.ended) return false;
+    threadRecord.owner = new std::shared_ptr<Context>;
+    setRound(1);
+    return true;
 }
 
 void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
-    if (threadRecord.ended) return;
     threadRecord.current = context.get();
+    threadRecord.currentDisplay = display;
     threadRecord.backEnd = backEndView(context.get());
     gl::currentFunctions = context ? &context->functions : &gl::functionsWithoutContext;
-    threadRecord.currentDisplay = display;
     // Swapped, so that the old context goes only after the record names the new one.
-    currentOwner.context.swap(context);
+    if (threadRecord.owner) threadRecord.owner->swap(context);
 }
 
 void setError(EGLint code) {

@@ -11,14 +11,15 @@ namespace egl {
 class Context;
 class Display;
 
-// Trivially destructible and statically initialised, so that reading it is one plain thread-local load: GL proxies do
-// so at every call. The strong reference to the context is held beside it and dropped at thread exit.
+// Trivially destructible and statically initialised, so that reading it is one plain thread-local load.
 struct ThreadRecord {
     EGLint error = EGL_SUCCESS;
-    bool ended = false;                // the thread is exiting and can hold no context any more
+    bool ended = false;                // the thread's last exit handlers run: it can hold no context any more
     Context *current = nullptr;        // null when nothing is current
     Display *currentDisplay = nullptr; // of the current context
     zvThread backEnd = {};             // what back ends read of it
+    // The strong reference to the current context, made at the first bind and dropped at the thread's exit.
+    std::shared_ptr<Context> *owner = nullptr;
 };
 
 extern constinit thread_local ThreadRecord threadRecord __attribute__((tls_model("initial-exec")));
@@ -26,8 +27,12 @@ extern constinit thread_local ThreadRecord threadRecord __attribute__((tls_model
 // A strong reference to the current context, or null.
 [[nodiscard]] std::shared_ptr<Context> currentContext();
 
-// Replaces the current context and its display and drops the reference to the old one. A thread that exits drops its
-// reference and does nothing else: the context stays marked as bound, which callers see as EGL_BAD_ACCESS elsewhere.
+// Makes sure that the thread can hold a context. False when it is too late in its life for that.
+[[nodiscard]] bool prepareThread();
+
+// Replaces the current context and its display and drops the reference to the old one; the thread is prepared. A thread
+// that exits drops its reference and does nothing else: the context stays marked as bound, which is EGL_BAD_ACCESS
+// elsewhere. Its exit handlers may still bind and release, but for those that run in the last round.
 void setCurrentContext(std::shared_ptr<Context> context, Display *display);
 
 // Keeps the first error: a pending one is never overwritten. Only success clears it.

@@ -3,7 +3,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
+#include <map>
+#include <mutex>
+#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 #include "foundation/log.h"
 #include "foundation/paths.h"
@@ -26,11 +30,42 @@ bool makeLinkTo(const std::string &target, std::string &link) {
     return symlink(target.c_str(), link.c_str()) == 0;
 }
 
+// The link that each file was loaded through. The loader keeps every name of a library for as long as that is loaded,
+// and compares them all at each open: a file that is loaded still is opened by the name that it has.
+class LinkNames {
+public:
+    // Null when the file is not loaded by a name of ours.
+    [[nodiscard]] void *reopen(const struct stat &file) {
+        const std::lock_guard lock(m_mutex);
+        const auto known = m_names.find({file.st_dev, file.st_ino});
+        return known == m_names.end() ? nullptr : dlopen(known->second.c_str(), RTLD_LAZY | RTLD_GLOBAL | RTLD_NOLOAD);
+    }
+    void note(const struct stat &file, const std::string &name) {
+        const std::lock_guard lock(m_mutex);
+        m_names[{file.st_dev, file.st_ino}] = name;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::map<std::pair<dev_t, ino_t>, std::string> m_names;
+};
+
+LinkNames &linkNames() {
+    static LinkNames &names = *new LinkNames;
+    return names;
+}
+
 void *openThroughLink(const std::string &path) {
+    // A relative target is the link's business: it counts from the link's directory.
+    struct stat file {};
+    const bool isKnown = path.starts_with('/') && stat(path.c_str(), &file) == 0;
+    if (void *const handle = isKnown ? linkNames().reopen(file) : nullptr) return handle;
+
     std::string link;
     if (!makeLinkTo(path, link)) return nullptr;
-    void *handle = dlopen(link.c_str(), RTLD_LAZY | RTLD_GLOBAL);
+    void *const handle = dlopen(link.c_str(), RTLD_LAZY | RTLD_GLOBAL);
     remove(link.c_str());
+    if (handle && isKnown) linkNames().note(file, link);
     return handle;
 }
 

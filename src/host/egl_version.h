@@ -3,7 +3,11 @@
 
 namespace host {
 
-constexpr int eglMajorVersion() { return 1; }
-constexpr int eglMinorVersion() { return 5; }
+constexpr int eglMajorVersion() {
+    return 1;
+}
+constexpr int eglMinorVersion() {
+    return 5;
+}
 
 } // namespace host

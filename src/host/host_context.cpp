@@ -11,10 +11,11 @@ using host::platform::ContextContainer;
 using host::platform::NativeObject;
 using host::platform::operations;
 
-// The contexts that live, by container. Never destroyed, since applications swap in their exit handlers too.
+// The contexts that live. Never destroyed, since applications swap in their exit handlers too.
 struct LiveContexts {
     std::mutex mutex;
-    std::map<ContextContainer *, glove::GLContext *> byContainer;
+    std::map<uint64_t, std::weak_ptr<glove::GLContext>> byNumber;
+    uint64_t lastNumber = 0;
 };
 
 LiveContexts &liveContexts() {
@@ -22,7 +23,7 @@ LiveContexts &liveContexts() {
     return *contexts;
 }
 
-thread_local ContextContainer *threadHostContext = nullptr;
+thread_local uint64_t threadHostContext = 0;
 
 bool attach(ContextContainer *container, const NativeObject &native) {
     if (native.isPixelBuffer()) return operations.setPixelBuffer(container, native.pixelBuffer);
@@ -32,33 +33,39 @@ bool attach(ContextContainer *container, const NativeObject &native) {
     return true;
 }
 
-bool bindHostContext(ContextContainer *container, const NativeObject &native) {
+host::HostBinding bindHostContext(const glove::GLContext *context, const NativeObject &native) {
+    using host::HostBinding;
+    auto *container = context ? context->container() : nullptr;
     if (!container) {
         operations.clearCurrentContext();
-        return true;
+        return HostBinding::current;
     }
-    // Without a surface the context is detached and not made current: what was current stays. Callers rely on it.
-    if (native.isNull()) return operations.setView(container, {});
-    return attach(container, native) && host::makeContainerCurrent(container);
+    if (native.isNull()) return operations.setView(container, {}) ? HostBinding::detached : HostBinding::failed;
+    const bool isCurrent = attach(container, native) && host::makeHostContextCurrentAsIs(*context);
+    return isCurrent ? HostBinding::current : HostBinding::failed;
 }
 
 } // namespace
 
 namespace glove {
 
-GLContext::GLContext(ContextContainer *container) : m_container(container) {
-    if (!m_container) return;
+std::shared_ptr<GLContext> GLContext::create(ContextContainer *container) {
+    if (!container) return std::make_shared<GLContext>(nullptr, 0);
     auto &live = liveContexts();
     const std::lock_guard lock(live.mutex);
-    live.byContainer[m_container] = this;
+    auto context = std::make_shared<GLContext>(container, ++live.lastNumber);
+    live.byNumber[context->number()] = context;
+    return context;
 }
+
+GLContext::GLContext(ContextContainer *container, uint64_t number) : m_container(container), m_number(number) {}
 
 GLContext::~GLContext() {
     if (!m_container) return;
     {
         auto &live = liveContexts();
         const std::lock_guard lock(live.mutex);
-        live.byContainer.erase(m_container);
+        live.byNumber.erase(m_number);
     }
     operations.releaseContext(m_container);
 }
@@ -75,20 +82,14 @@ std::unique_ptr<HostContextHandle> createHostContext(const HostContextRequest &r
         auto *share = request.share ? request.share->container() : nullptr;
         if (derived) container = operations.createContext(derived, share);
     }
-    return std::make_unique<HostContextHandle>(HostContextHandle{std::make_shared<glove::GLContext>(container)});
+    return std::make_unique<HostContextHandle>(HostContextHandle{glove::GLContext::create(container)});
 }
 
-bool makeHostContextCurrent(const HostContextHandle *hostContext, const std::weak_ptr<glove::ISurface> &surface) {
-    if (!hostContext) {
-        const bool isCleared = bindHostContext(nullptr, {});
-        setCurrentHostContext(nullptr);
-        return isCleared;
-    }
-    const auto locked = surface.lock();
-    auto *container = hostContext->context->container();
-    if (!bindHostContext(container, locked ? locked->nativeHandle() : NativeObject{})) return false;
-    setCurrentHostContext(container);
-    return true;
+HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface) {
+    const auto *context = hostContext ? hostContext->context.get() : nullptr;
+    const auto binding = bindHostContext(context, context && surface ? surface->nativeHandle() : NativeObject{});
+    if (binding != HostBinding::failed) setCurrentHostContext(context ? context->number() : 0);
+    return binding;
 }
 
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval) {
@@ -96,27 +97,30 @@ void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval)
     operations.setSwapInterval(hostContext->context->container(), interval);
 }
 
-ContextContainer *currentHostContext() {
+uint64_t currentHostContext() {
     return threadHostContext;
 }
 
 std::shared_ptr<glove::GLContext> lockCurrentHostContext() {
     auto &live = liveContexts();
     const std::lock_guard lock(live.mutex);
-    const auto found = live.byContainer.find(threadHostContext);
-    return found == live.byContainer.end() ? nullptr : found->second->weak_from_this().lock();
+    const auto found = live.byNumber.find(threadHostContext);
+    return found == live.byNumber.end() ? nullptr : found->second.lock();
 }
 
-bool makeContainerCurrent(ContextContainer *container) {
+bool makeHostContextCurrentAsIs(const glove::GLContext &context) {
+    auto *container = context.container();
     if (!container) {
         operations.clearCurrentContext();
         return true;
     }
-    return operations.currentContext() == container || operations.makeCurrent(container);
+    // Asked only where it can be: hosts take their time to answer.
+    const bool isCurrent = threadHostContext == context.number() && operations.currentContext() == container;
+    return isCurrent || operations.makeCurrent(container);
 }
 
-void setCurrentHostContext(ContextContainer *container) {
-    threadHostContext = container;
+void setCurrentHostContext(uint64_t number) {
+    threadHostContext = number;
 }
 
 } // namespace host

@@ -10,17 +10,24 @@
 namespace glove {
 
 // Owns one host context. Null container when the host gave none; everything then treats it as no context.
-class GLContext : public std::enable_shared_from_this<GLContext> {
+class GLContext {
 public:
-    explicit GLContext(host::platform::ContextContainer *container);
+    // Takes the container over and enters it among those that live.
+    [[nodiscard]] static std::shared_ptr<GLContext> create(host::platform::ContextContainer *container);
+
+    // For create.
+    GLContext(host::platform::ContextContainer *container, uint64_t number);
     GLContext(const GLContext &) = delete;
     GLContext &operator=(const GLContext &) = delete;
     ~GLContext();
 
     [[nodiscard]] host::platform::ContextContainer *container() const { return m_container; }
+    // Never used again, so that a number of a dead context stands for no other. 0 without a container.
+    [[nodiscard]] uint64_t number() const { return m_number; }
 
 private:
-    host::platform::ContextContainer *m_container;
+    host::platform::ContextContainer *const m_container;
+    const uint64_t m_number;
 };
 
 } // namespace glove
@@ -41,23 +48,29 @@ struct HostContextRequest {
 // Always gives a handle: a host that refuses shows at the first bind. Each call loses the format that it derives.
 [[nodiscard]] std::unique_ptr<HostContextHandle> createHostContext(const HostContextRequest &request);
 
-// Binds the context to the surface on the calling thread; a null context or an expired surface means none. With a
-// context and no surface the context is only detached, and what was current stays current.
-[[nodiscard]] bool makeHostContextCurrent(const HostContextHandle *hostContext,
-                                          const std::weak_ptr<glove::ISurface> &surface);
+enum class HostBinding {
+    failed,
+    detached, // the context has lost its view and is not made current: what was current stays
+    current,  // or nothing is, as asked
+};
+
+// Binds the context to the surface on the calling thread; null means none. A context without a surface, or with one
+// that has no native object, is only detached.
+[[nodiscard]] HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface);
 
 // Unclamped, in frames per swap. Does nothing without a context.
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval);
 
-// The container that this layer last made current on the thread. After a probe it may name a dead one: compare it,
-// never follow it.
-[[nodiscard]] platform::ContextContainer *currentHostContext();
-// The live context of that container. Null when it is dead, or when there is none.
+// The number of the context that this layer last made current on the thread, 0 for none. After a probe it may be a dead
+// one's.
+[[nodiscard]] uint64_t currentHostContext();
+// The live context of that number. Null when it is dead, or when there is none.
 [[nodiscard]] std::shared_ptr<glove::GLContext> lockCurrentHostContext();
 
-// Makes the container current with what is attached to it unless it is already; null clears the current context.
-[[nodiscard]] bool makeContainerCurrent(platform::ContextContainer *container);
-// Only for those who make containers current themselves.
-void setCurrentHostContext(platform::ContextContainer *container);
+// Makes the context current with what is attached to it unless it is already. One without a container clears the
+// current context.
+[[nodiscard]] bool makeHostContextCurrentAsIs(const glove::GLContext &context);
+// Only for those who make contexts current by that.
+void setCurrentHostContext(uint64_t number);
 
 } // namespace host

@@ -17,10 +17,10 @@ std::unique_ptr<HostProbeContext> createHostProbeContext(std::shared_ptr<glove::
     record->previous = operations.saveBinding();
     record->previousHostContext = currentHostContext();
 
-    auto *container = record->probe->context->container();
-    const bool isBound = makeContainerCurrent(container);
-    if (isBound) setCurrentHostContext(container);
-    record->isCurrent = isBound && container;
+    const auto &context = *record->probe->context;
+    const bool isBound = makeHostContextCurrentAsIs(context);
+    if (isBound) setCurrentHostContext(context.number());
+    record->isCurrent = isBound && context.container();
     return record;
 }
 

@@ -10,8 +10,8 @@ namespace host {
 
 // What was current before is put back at the end, so that an application that probes while drawing goes on drawing.
 struct HostProbeContext {
-    platform::SavedBinding *previous = nullptr;                // null when the thread had nothing current
-    platform::ContextContainer *previousHostContext = nullptr; // what currentHostContext() named
+    platform::SavedBinding *previous = nullptr; // null when the thread had nothing current
+    uint64_t previousHostContext = 0;           // what currentHostContext() named
     std::unique_ptr<HostContextHandle> probe;
     std::shared_ptr<glove::WSAPI> windowSystem;
     bool isCurrent = false;
@@ -20,7 +20,7 @@ struct HostProbeContext {
 // Makes the context and makes it current on the calling thread. Never null; ask isHostProbeCurrent.
 [[nodiscard]] std::unique_ptr<HostProbeContext> createHostProbeContext(std::shared_ptr<glove::WSAPI> windowSystem);
 [[nodiscard]] bool isHostProbeCurrent(const HostProbeContext &probe);
-// On a thread that had nothing current, currentHostContext() goes on naming the dead probe; callers rely on that.
+// On a thread that had nothing current, currentHostContext() goes on naming the dead probe.
 void destroyHostProbeContext(std::unique_ptr<HostProbeContext> probe);
 
 } // namespace host

@@ -12,27 +12,29 @@ namespace {
 // None when the view is gone or cannot be drawn to.
 GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     auto &connection = container.connection;
-    XWindowAttributes attributes{};
-    if (!connection.windowAttributes(view, attributes) || attributes.c_class != InputOutput) return None;
-    if (XScreenNumberOfScreen(attributes.screen) != connection.screen()) return None;
+    const auto facts = connection.windowFacts(view);
+    if (!facts || !facts->canBeDrawnTo) return None;
     const auto &visual = container.config.visual;
-    if (XVisualIDFromVisual(attributes.visual) == visual.visualid) return view.window;
-    return connection.children().childOf(view.window, visual);
-}
-
-Attachment exchange(ContextContainer &container, Attachment attachment) {
-    const std::lock_guard lock(container.mutex);
-    return std::exchange(container.attachment, std::move(attachment));
+    if (facts->visual == visual.visualid) return view.window;
+    return connection.children().childOf(view.window, visual, facts->width, facts->height);
 }
 
 // A current context is bound anew at once; where that fails, everything goes back to what it was.
 bool attach(ContextContainer &container, Attachment attachment) {
-    const GLXDrawable drawable = attachment.drawable;
-    auto previous = exchange(container, std::move(attachment));
-    if (previous.drawable == drawable || currentContext() != &container || makeCurrent(&container)) return true;
-    exchange(container, std::move(previous));
+    if (!canHold(container)) return false;
+    std::swap(container.attachment, attachment);
+    const bool isBoundAnew = container.attachment.drawable != attachment.drawable && currentContext() == &container;
+    if (!isBoundAnew || makeCurrent(&container)) return true;
+    container.attachment = std::move(attachment);
     makeCurrent(&container);
     return false;
+}
+
+// The window or its child has gone since it was attached.
+bool isGone(Connection &connection, const Attachment &attachment) {
+    const Window window = attachment.view.window;
+    if (!connection.windows().find(window)) return true;
+    return attachment.drawable != window && !connection.children().has(attachment.drawable);
 }
 
 } // namespace
@@ -44,12 +46,13 @@ bool setView(ContextContainer *container, const View &view) {
 }
 
 View view(const ContextContainer *container) {
-    return attachmentOf(*container).view;
+    return container->attachment.view;
 }
 
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer) {
     if (!buffer) return attach(*container, {});
     if (container->connection.isLost()) return false;
+    if (container->attachment.pbuffers == buffer->pbuffers) return canHold(*container);
     const GLXDrawable drawable = buffer->pbuffers->bufferFor(container->connection, container->config);
     return drawable && attach(*container, {.view = {}, .pbuffers = buffer->pbuffers, .drawable = drawable});
 }
@@ -59,20 +62,23 @@ void observeViewFrame(ContextContainer *, const View &) {
 }
 
 void flushBuffer(ContextContainer *container) {
-    const auto attachment = attachmentOf(*container);
+    const auto &attachment = container->attachment;
     auto &connection = container->connection;
     // GLX answers a swap of a pixel buffer with an error.
     if (!attachment.view.window || connection.isLost()) return;
+    // The frame before has asked the server for the drawable's size, and with the answer came all events.
+    connection.windows().takeReadEvents();
     // When it draws after a swap, such a renderer allocates by whatever size is left on its stack: gigabytes at times.
-    if (connection.isSoftware() && !connection.hasWindow(attachment.drawable)) {
+    if (connection.isSoftware() && isGone(connection, attachment)) {
         attach(*container, {});
         return;
     }
+    const bool isChild = attachment.drawable != attachment.view.window;
     connection.children().show(attachment.view.window, attachment.drawable);
     glXSwapBuffers(connection.display(), attachment.drawable);
     // Nobody else ever flushes this connection; a frame must not wait in its buffer for the next one.
-    XFlush(connection.display());
-    if (attachment.drawable != attachment.view.window) connection.children().follow(attachment.view.window);
+    connection.flush();
+    if (isChild) connection.windows().readEvents(); // which bring a child to its parent's size
 }
 
 } // namespace host::platform::x11

@@ -1,15 +1,10 @@
 #include "host/platform/x11/child_windows.h"
 
+#include <algorithm>
+
 #include "host/platform/x11/x_calls.h"
 
 namespace host::platform::x11 {
-
-bool ChildWindows::isThere(Window window, unsigned &width, unsigned &height) {
-    Window root = 0;
-    int x = 0, y = 0;
-    unsigned border = 0, depth = 0;
-    return XGetGeometry(m_display, window, &root, &x, &y, &width, &height, &border, &depth) != 0;
-}
 
 Window ChildWindows::create(Window parent, const XVisualInfo &visual, unsigned width, unsigned height) {
     auto &colormap = m_colormaps[visual.visualid];
@@ -20,8 +15,9 @@ Window ChildWindows::create(Window parent, const XVisualInfo &visual, unsigned w
     attributes.colormap = colormap;
     attributes.border_pixel = 0; // the parent's border cannot be copied to another depth
     attributes.bit_gravity = NorthWestGravity;
+    attributes.event_mask = StructureNotifyMask; // an application may destroy all children of its window
     return calls::createWindow(m_display, parent, 0, 0, width, height, 0, visual.depth, InputOutput, visual.visual,
-                               CWColormap | CWBorderPixel | CWBitGravity, &attributes);
+                               CWColormap | CWBorderPixel | CWBitGravity | CWEventMask, &attributes);
 }
 
 void ChildWindows::show(Window parent, Window child) {
@@ -36,18 +32,10 @@ void ChildWindows::show(Window parent, Window child) {
     }
 }
 
-Window ChildWindows::childOf(Window parent, const XVisualInfo &visual) {
-    unsigned width = 0, height = 0;
-    if (!isThere(parent, width, height)) {
-        forget(parent);
-        return 0;
-    }
+Window ChildWindows::childOf(Window parent, const XVisualInfo &visual, unsigned width, unsigned height) {
     const std::lock_guard lock(m_mutex);
     const std::pair key(parent, visual.visualid);
     auto &child = m_children[key];
-    // The parent's number may have come again after that window went with its child.
-    unsigned childWidth = 0, childHeight = 0;
-    if (child.window && !isThere(child.window, childWidth, childHeight)) child = {};
     if (!child.window) child = {create(parent, visual, width, height), width, height, false};
     if (!child.window) {
         m_children.erase(key);
@@ -65,19 +53,6 @@ void ChildWindows::fit(Child &child, unsigned width, unsigned height) {
     child.height = height;
 }
 
-void ChildWindows::follow(Window parent) {
-    {
-        const std::lock_guard lock(m_mutex);
-        const auto first = m_children.lower_bound({parent, 0});
-        if (first == m_children.end() || first->first.first != parent) return;
-    }
-    unsigned width = 0, height = 0;
-    if (isThere(parent, width, height))
-        resize(parent, width, height);
-    else
-        forget(parent);
-}
-
 void ChildWindows::resize(Window parent, unsigned width, unsigned height) {
     const std::lock_guard lock(m_mutex);
     auto child = m_children.lower_bound({parent, 0});
@@ -86,9 +61,15 @@ void ChildWindows::resize(Window parent, unsigned width, unsigned height) {
     }
 }
 
-void ChildWindows::forget(Window parent) {
+bool ChildWindows::has(Window child) {
     const std::lock_guard lock(m_mutex);
-    std::erase_if(m_children, [&](const auto &entry) { return entry.first.first == parent; });
+    return std::ranges::any_of(m_children, [&](const auto &entry) { return entry.second.window == child; });
+}
+
+void ChildWindows::forget(Window window) {
+    const std::lock_guard lock(m_mutex);
+    std::erase_if(m_children,
+                  [&](const auto &entry) { return entry.first.first == window || entry.second.window == window; });
 }
 
 } // namespace host::platform::x11

@@ -15,18 +15,17 @@ class ChildWindows {
 public:
     explicit ChildWindows(Display *display) : m_display(display) {}
 
-    // The child of that visual, not shown at first. None when the parent is gone.
-    [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual);
+    // The child of that visual, which fills a parent of that size, not shown at first. None when the parent is gone.
+    [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
     // With the first frame, and not before: a child that covers its parent keeps every Expose event from it, and there
     // are applications that draw at their first one. Hides the parent's other children, which would cover it; no child
     // has the parent's own number.
     void show(Window parent, Window child);
-    // Brings the parent's children to its size, which costs a round trip where there are any.
-    void follow(Window parent);
-    // The same for a size that is known already.
+    // Brings the parent's children to its size.
     void resize(Window parent, unsigned width, unsigned height);
-    // For a parent that is gone.
-    void forget(Window parent);
+    [[nodiscard]] bool has(Window child);
+    // For a parent or a child that is gone.
+    void forget(Window window);
 
 private:
     struct Child {
@@ -38,10 +37,9 @@ private:
 
     Window create(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
     void fit(Child &child, unsigned width, unsigned height);
-    bool isThere(Window window, unsigned &width, unsigned &height);
 
     Display *m_display;
-    std::mutex m_mutex;
+    std::mutex m_mutex; // guards what is below
     std::map<std::pair<Window, VisualID>, Child> m_children;
     std::map<VisualID, Colormap> m_colormaps;
 };

@@ -75,7 +75,8 @@ Connection *Connection::find(uint64_t displayWord) {
 }
 
 Connection::Connection(Display *display)
-    : m_display(display), m_screen(DefaultScreen(display)), m_configs(display, m_screen), m_children(display) {
+    : m_display(display), m_screen(DefaultScreen(display)), m_configs(display, m_screen), m_children(display),
+      m_windows(display, m_screen, m_children) {
     keepErrorsFromProcess(display, m_isLost);
     if (!glXQueryExtension(display, nullptr, nullptr)) return;
     if (const char *extensions = glXQueryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
@@ -83,25 +84,30 @@ Connection::Connection(Display *display)
     m_isSoftware = isSoftwareRenderer(display, m_screen, hasGlxExtension("GLX_MESA_query_renderer"));
 }
 
-bool Connection::hasWindow(Window window) const {
-    Window root = 0;
-    int x = 0, y = 0;
-    unsigned width = 0, height = 0, border = 0, depth = 0;
-    return !isLost() && XGetGeometry(m_display, window, &root, &x, &y, &width, &height, &border, &depth);
-}
-
 bool Connection::hasGlxExtension(std::string_view name) const {
     return m_glxExtensions.find(" " + std::string(name) + " ") != std::string::npos;
 }
 
-bool Connection::windowAttributes(const View &view, XWindowAttributes &attributes) {
-    if (isLost() || find(view.display) != this) return false;
-    if (XGetWindowAttributes(m_display, view.window, &attributes)) return true;
+void Connection::flush() {
+    // Xlib's own call asks the system for events, too.
+    if (hasRequestsToSend(m_display)) XFlush(m_display);
+}
+
+std::optional<WindowFacts> Connection::windowFacts(const View &view) {
+    if (isLost() || find(view.display) != this) return std::nullopt;
+    m_windows.readEvents();
+    if (const auto known = m_windows.find(view.window)) return known;
+    return askWindow(view);
+}
+
+std::optional<WindowFacts> Connection::askWindow(const View &view) {
+    if (isLost() || find(view.display) != this) return std::nullopt;
+    if (const auto found = m_windows.watch(view.window)) return found;
     m_children.forget(view.window);
     Display *application = applicationDisplay(view.display);
-    if (!application) return false;
+    if (!application) return std::nullopt;
     XSync(application, False);
-    return XGetWindowAttributes(m_display, view.window, &attributes) != 0;
+    return m_windows.watch(view.window);
 }
 
 } // namespace host::platform::x11

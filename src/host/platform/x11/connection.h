@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,7 @@
 #include "host/platform/operations.h"
 #include "host/platform/x11/child_windows.h"
 #include "host/platform/x11/fb_configs.h"
+#include "host/platform/x11/window_watch.h"
 
 namespace host::platform::x11 {
 
@@ -36,14 +38,17 @@ public:
 
     // A software renderer, which asks the server for the size of its drawable and does not look at the answer.
     [[nodiscard]] bool isSoftware() const { return m_isSoftware; }
-    // Costs one round trip.
-    [[nodiscard]] bool hasWindow(Window window) const;
-    // False when the view is gone or is on another server. Waits for the application's own connection when the window
+    // Sends what waits in the buffer, if anything does.
+    void flush();
+    // Nothing when the view is gone or is on another server. Waits for the application's own connection when the window
     // is not known yet: it may still sit in the output buffer there.
-    [[nodiscard]] bool windowAttributes(const View &view, XWindowAttributes &attributes);
+    [[nodiscard]] std::optional<WindowFacts> windowFacts(const View &view);
+    // The same, asked of the server at each call: other clients hear of a change when we do, or a moment before.
+    [[nodiscard]] std::optional<WindowFacts> askWindow(const View &view);
 
     FbConfigs &configs() { return m_configs; }
     ChildWindows &children() { return m_children; }
+    WindowWatch &windows() { return m_windows; }
 
 private:
     Display *m_display;
@@ -53,6 +58,7 @@ private:
     bool m_isSoftware = false;
     FbConfigs m_configs;
     ChildWindows m_children;
+    WindowWatch m_windows;
 };
 
 } // namespace host::platform::x11

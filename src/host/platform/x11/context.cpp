@@ -37,7 +37,6 @@ ContextContainer *createContext(const PixelFormat *format, ContextContainer *sha
     return new ContextContainer{.connection = format->connection,
                                 .config = format->config,
                                 .context = context,
-                                .mutex = {},
                                 .attachment = {},
                                 .swapInterval = {}};
 }
@@ -60,9 +59,14 @@ void dropReference(ContextContainer *container) {
     delete container;
 }
 
-Attachment attachmentOf(const ContextContainer &container) {
-    const std::lock_guard lock(container.mutex);
-    return container.attachment;
+const void *threadWord() {
+    static thread_local const char word = 0;
+    return &word;
+}
+
+bool canHold(const ContextContainer &container) {
+    const void *const holder = container.holder.load(std::memory_order_acquire);
+    return !holder || holder == threadWord();
 }
 
 } // namespace host::platform::x11

@@ -1,11 +1,10 @@
 // Contexts on X11 and what is attached to them. GLX binds a context and its drawable in one call, so what is attached
-// waits in the container until the context is bound.
+// waits in the container until the context is bound. One thread at a time holds a context: the one that has it current.
 #pragma once
 
 #include <atomic>
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <optional>
 
 #include "host/platform/operations.h"
@@ -29,9 +28,11 @@ struct ContextContainer {
     x11::Connection &connection;
     const x11::FbConfig &config;
     const GLXContext context;
-    std::atomic<int> references = 1; // the owner's, one for each thread that has it current, one for each saved binding
+    std::atomic<int> references = 1; // the owner's, the holder's, one for each saved binding
+    // A word of the thread that has it current; null for none.
+    std::atomic<const void *> holder = nullptr;
 
-    mutable std::mutex mutex; // guards the rest
+    // Of the holder; without one, of the thread that binds it, which callers let there be one of.
     x11::Attachment attachment;
     std::optional<int32_t> swapInterval;
     GLXPbuffer placeholder = 0; // stands in for no drawable on hosts that insist on one
@@ -46,7 +47,10 @@ void releaseContext(ContextContainer *container);
 void addReference(ContextContainer *container);
 void dropReference(ContextContainer *container);
 
-[[nodiscard]] Attachment attachmentOf(const ContextContainer &container);
+// False when another thread holds the context, which may neither be bound nor be given another drawable then.
+[[nodiscard]] bool canHold(const ContextContainer &container);
+// A word that is this thread's for as long as it lives.
+[[nodiscard]] const void *threadWord();
 
 } // namespace x11
 

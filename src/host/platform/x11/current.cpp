@@ -25,40 +25,45 @@ namespace {
 // since threads make contexts current in their exit handlers too.
 thread_local ContextContainer *threadContainer = nullptr;
 
-// Drops the reference of a thread that ends with a context current.
+void letGo(ContextContainer *container) {
+    if (!container) return;
+    container->holder.store(nullptr, std::memory_order_release);
+    dropReference(container);
+}
+
+// Lets go for a thread that ends with a context current.
 struct AtThreadEnd {
     bool isArmed = false;
-    ~AtThreadEnd() { dropReference(std::exchange(threadContainer, nullptr)); }
+    ~AtThreadEnd() { letGo(std::exchange(threadContainer, nullptr)); }
 };
 
 thread_local AtThreadEnd atThreadEnd;
 
 void setThreadContainer(ContextContainer *container) {
-    if (container) atThreadEnd.isArmed = true; // the first use in a thread is what arms it
-    addReference(container);
-    dropReference(std::exchange(threadContainer, container));
+    if (container == threadContainer) return;
+    if (container) {
+        atThreadEnd.isArmed = true; // the first use in a thread is what arms it
+        container->holder.store(threadWord(), std::memory_order_relaxed);
+        addReference(container);
+    }
+    letGo(std::exchange(threadContainer, container));
 }
 
 bool bindWithPlaceholder(ContextContainer &container) {
-    GLXPbuffer placeholder = 0;
-    {
-        const std::lock_guard lock(container.mutex);
-        if (!container.placeholder) {
-            constexpr int attributes[] = {GLX_PBUFFER_WIDTH, 1, GLX_PBUFFER_HEIGHT, 1, 0};
-            container.placeholder =
-                calls::createPbuffer(container.connection.display(), container.config.handle, attributes);
-        }
-        placeholder = container.placeholder;
+    Display *display = container.connection.display();
+    if (!container.placeholder) {
+        constexpr int attributes[] = {GLX_PBUFFER_WIDTH, 1, GLX_PBUFFER_HEIGHT, 1, 0};
+        container.placeholder = calls::createPbuffer(display, container.config.handle, attributes);
     }
-    return placeholder &&
-           glXMakeContextCurrent(container.connection.display(), placeholder, placeholder, container.context);
+    const GLXPbuffer placeholder = container.placeholder;
+    return placeholder && glXMakeContextCurrent(display, placeholder, placeholder, container.context);
 }
 
 bool bind(ContextContainer &container) {
-    if (container.connection.isLost()) return false;
-    const auto attachment = attachmentOf(container);
-    const GLXDrawable drawable = attachment.drawable;
-    if (attachment.view.window && !container.connection.hasWindow(drawable)) return false;
+    if (container.connection.isLost() || !canHold(container)) return false;
+    const GLXDrawable drawable = container.attachment.drawable;
+    const Window window = container.attachment.view.window;
+    if (window && !container.connection.windows().find(window)) return false;
     if (glXMakeContextCurrent(container.connection.display(), drawable, drawable, container.context)) return true;
     return !drawable && bindWithPlaceholder(container);
 }

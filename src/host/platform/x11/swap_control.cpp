@@ -15,22 +15,15 @@ Function lookUp(const char *name) {
 } // namespace
 
 void setSwapInterval(ContextContainer *container, int32_t interval) {
-    {
-        const std::lock_guard lock(container->mutex);
-        container->swapInterval = interval;
-    }
+    if (!canHold(*container)) return;
+    container->swapInterval = interval;
     if (currentContext() == container) applySwapInterval(*container);
 }
 
 void applySwapInterval(const ContextContainer &container) {
-    int32_t interval = 0;
-    Attachment attachment;
-    {
-        const std::lock_guard lock(container.mutex);
-        if (!container.swapInterval || !container.attachment.view.window) return;
-        interval = *container.swapInterval;
-        attachment = container.attachment;
-    }
+    const auto &attachment = container.attachment;
+    if (!container.swapInterval || !attachment.view.window) return;
+    const int32_t interval = *container.swapInterval;
     static const auto swapIntervalExt = lookUp<PFNGLXSWAPINTERVALEXTPROC>("glXSwapIntervalEXT");
     static const auto swapIntervalMesa = lookUp<PFNGLXSWAPINTERVALMESAPROC>("glXSwapIntervalMESA");
     static const auto swapIntervalSgi = lookUp<PFNGLXSWAPINTERVALSGIPROC>("glXSwapIntervalSGI");

@@ -51,9 +51,11 @@ Window parentOf(Display *display, Window window) {
 }
 
 // A view is often a child of the window that bears the title.
-std::string titleOf(Display *display, Window window) {
+std::string titleOf(Connection &connection, Window window) {
+    Display *display = connection.display();
     std::string title;
     for (; window && title.empty(); window = parentOf(display, window)) {
+        connection.windows().watchTitle(window);
         title = netTitle(display, window);
         if (title.empty()) title = plainTitle(display, window);
     }
@@ -64,23 +66,21 @@ std::string titleOf(Display *display, Window window) {
 
 void viewSize(const View &view, int32_t *width, int32_t *height) {
     auto *connection = view.window ? Connection::find(view.display) : nullptr;
-    XWindowAttributes attributes{};
-    if (!connection || !connection->windowAttributes(view, attributes)) return;
-    connection->children().resize(view.window, static_cast<unsigned>(attributes.width),
-                                  static_cast<unsigned>(attributes.height));
-    if (width) *width = attributes.width;
-    if (height) *height = attributes.height;
+    const auto facts = connection ? connection->askWindow(view) : std::nullopt;
+    if (!facts) return;
+    connection->children().resize(view.window, facts->width, facts->height);
+    if (width) *width = static_cast<int32_t>(facts->width);
+    if (height) *height = static_cast<int32_t>(facts->height);
 }
 
 std::string viewTitle(const View &view) {
     auto *connection = view.window ? Connection::find(view.display) : nullptr;
     if (!connection) return {};
-    auto title = titleOf(connection->display(), view.window);
     // A window that the server has not heard of yet gets its title with the waiting for it.
-    XWindowAttributes attributes{};
-    if (title.empty() && connection->windowAttributes(view, attributes)) {
-        title = titleOf(connection->display(), view.window);
-    }
+    if (!connection->windowFacts(view)) return {};
+    if (const auto known = connection->windows().findTitle(view.window)) return *known;
+    const auto title = titleOf(*connection, view.window);
+    connection->windows().keepTitle(view.window, title);
     return title;
 }
 

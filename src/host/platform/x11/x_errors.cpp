@@ -47,6 +47,13 @@ void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost) {
     XSetIOErrorExitHandler(display, noteServerLost, &isLost);
 }
 
+bool hasRequestsToSend(Display *display) {
+    LockDisplay(display);
+    const bool isWaiting = display->bufptr != display->buffer;
+    UnlockDisplay(display);
+    return isWaiting;
+}
+
 ErrorTrap::ErrorTrap(Display *display, int majorOpcode) : m_display(display), m_record(std::make_unique<Record>()) {
     XSync(display, False);
     m_record->majorOpcode = majorOpcode;

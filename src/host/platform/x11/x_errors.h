@@ -15,6 +15,9 @@ namespace host::platform::x11 {
 // arguments must live as long as the process.
 void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost);
 
+// Whether requests wait in the display's buffer.
+[[nodiscard]] bool hasRequestsToSend(Display *display);
+
 // Takes the errors of a display while it lives, and tells of them. Waits for the server when made, so that errors of
 // earlier requests go where they belong. One at a time on a display, since the newest takes all.
 class ErrorTrap {

@@ -1,0 +1,27 @@
+// A back-end library and the functions that it exports for us; back_end.h says what each does.
+#pragma once
+
+#include "foundation/dynamic_library.h"
+#include "zelvane/back_end.h"
+
+namespace egl {
+
+// A function that the library lacks is null, as all are when it could not be opened.
+struct EsLibrary {
+    explicit EsLibrary(DynamicLibrary opened);
+
+    const DynamicLibrary library;
+    decltype(&zvCreateEsContext) const createEsContext;
+    decltype(&zvSetEsContextAttribs) const setEsContextAttribs;
+    decltype(&zvDeleteEsContext) const deleteEsContext;
+    decltype(&zvGetExtProcAddress) const getExtProcAddress;
+    decltype(&zvSetRenderMode) const setRenderMode;
+
+private:
+    template <typename Function>
+    [[nodiscard]] Function find(const char *name) const {
+        return reinterpret_cast<Function>(library.getSymbol(name));
+    }
+};
+
+} // namespace egl
