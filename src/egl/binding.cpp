@@ -10,12 +10,12 @@ namespace egl {
 namespace {
 
 // The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
-void primeShareContext(Context &context, const std::shared_ptr<Surface> &draw, const std::shared_ptr<Surface> &read) {
-    Context *share = context.shareContext.get();
+void primeShareContext(Context &context, const SurfacePair &surfaces) {
+    const auto &share = context.shareContext;
     if (!share || share->esContext.load() || !share->hostContext()) return;
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
-    if (bindContext(*share, draw, read)) claim.keep();
+    if (bindContext(share, surfaces)) claim.keep();
     unbindCurrent(context.display);
     (void)host::makeHostContextCurrent(nullptr, nullptr);
 }
@@ -67,18 +67,19 @@ BindClaim::~BindClaim() {
 }
 
 void unbindCurrent(Display &display) {
-    const auto current = currentContext();
+    Context *const current = threadRecord.current;
     if (!current) return;
     endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
 }
 
-bool bindContext(Context &context, const std::shared_ptr<Surface> &draw, const std::shared_ptr<Surface> &read) {
-    primeShareContext(context, draw, read);
-    if (!context.esLibrary.library.isLoaded()) return false;
-    postWindowTitle(draw.get());
+bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces) {
+    primeShareContext(*context, surfaces);
+    if (!context->esLibrary.library.isLoaded()) return false;
+    const Surface *const draw = surfaces.draw.get();
+    postWindowTitle(draw);
 
-    const auto *hostContext = context.claimedHostContext();
+    const auto *hostContext = context->claimedHostContext();
     const auto binding = host::makeHostContextCurrent(hostContext, draw ? draw->hostSurface.get() : nullptr);
     if (binding == host::HostBinding::failed) return false;
     // A host that refused the context at its creation shows here first.
@@ -87,19 +88,20 @@ bool bindContext(Context &context, const std::shared_ptr<Surface> &draw, const s
     state().hostEGL(binding == host::HostBinding::current).sweepError();
 
     // Never taken back by a later bind to a linear surface: a back end sees it for good once it was set.
-    if (draw && draw->isSrgb) context.attribs.srgbFramebuffer = 1;
-    if (!bindEsContext(context, binding)) return false;
+    if (draw && draw->isSrgb) context->attribs.srgbFramebuffer = 1;
+    if (!bindEsContext(*context, binding)) return false;
 
-    if (context.surfaces.draw != draw || context.surfaces.read != read) context.surfaces = {draw, read};
-    setCurrentContext(context.shared_from_this(), &context.display);
-    context.attribs.surfaceless = 0;
+    if (context->surfaces.draw != surfaces.draw || context->surfaces.read != surfaces.read)
+        context->surfaces = surfaces;
+    setCurrentContext(context, &context->display);
+    context->attribs.surfaceless = 0;
     return true;
 }
 
-bool bindSurfaceless(Context &context) {
-    const auto surface = context.display.createPrivateSurface(context);
-    context.attribs.surfaceless = 1;
-    return bindContext(context, surface, surface);
+bool bindSurfaceless(const std::shared_ptr<Context> &context) {
+    const auto surface = context->display.createPrivateSurface(*context);
+    context->attribs.surfaceless = 1;
+    return bindContext(context, {surface, surface});
 }
 
 } // namespace egl

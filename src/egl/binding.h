@@ -37,10 +37,9 @@ void unbindCurrent(Display &display);
 
 // The caller has claimed the context and prepared the thread. False leaves the thread without a current context if it
 // had another one.
-[[nodiscard]] bool bindContext(Context &context, const std::shared_ptr<Surface> &draw,
-                               const std::shared_ptr<Surface> &read);
+[[nodiscard]] bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces);
 
 // Binds with a surface of the library's own, which stays in the display's table until eglTerminate.
-[[nodiscard]] bool bindSurfaceless(Context &context);
+[[nodiscard]] bool bindSurfaceless(const std::shared_ptr<Context> &context);
 
 } // namespace egl

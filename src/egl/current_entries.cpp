@@ -1,4 +1,5 @@
 // eglMakeCurrent and what is current.
+#include "egl/bind_memos.h"
 #include "egl/binding.h"
 #include "egl/entry_frame.h"
 
@@ -12,26 +13,35 @@ EGLBoolean releaseCurrent(Display &display) {
     return isReleased ? succeed(EGL_TRUE) : fail(EGL_BAD_ALLOC, EGL_FALSE);
 }
 
-EGLBoolean makeCurrent(Display &display, EGLSurface drawHandle, EGLSurface readHandle, EGLContext ctx) {
-    const auto context = display.findContext(ctx);
-    if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
+bool hasSurfacesOf(const Context &context, const BindMemo *memo) {
+    return memo && context.surfaces.draw.get() == memo->draw && context.surfaces.read.get() == memo->read;
+}
+
+EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
     if (!prepareThread()) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+    const uint64_t version = display.handlesVersion();
+    const BindMemo *const memo = threadRecord.hold->memos.find(request);
+    auto context = memo ? memo->context.lock() : display.findContext(request.context);
+    if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
     BindClaim claim(*context);
     if (!claim.isHeld()) return fail(EGL_BAD_ACCESS, EGL_FALSE);
     // Before anything of the new context is tried: a bind that fails has lost the old one. The handles are compared, as
     // they are everywhere: a context of another display that has the same number is not unbound.
     if (threadRecord.current && threadRecord.current->handle != context->handle) unbindCurrent(display);
 
-    bool isBound = false;
-    if (!drawHandle && !readHandle) {
-        isBound = bindSurfaceless(*context);
+    if (!request.draw && !request.read) {
+        if (!bindSurfaceless(context)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
     } else {
-        const auto draw = display.findSurface(drawHandle);
-        const auto read = display.findSurface(readHandle);
-        if (!draw || !read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        isBound = bindContext(*context, draw, read);
+        SurfacePair found;
+        const bool isKnown = hasSurfacesOf(*context, memo);
+        if (!isKnown) found = {display.findSurface(request.draw), display.findSurface(request.read)};
+        const SurfacePair &surfaces = isKnown ? context->surfaces : found;
+        if (!surfaces.draw || !surfaces.read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (!bindContext(context, surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+        if (!isKnown) {
+            threadRecord.hold->memos.note({request, version, context, surfaces.draw.get(), surfaces.read.get()});
+        }
     }
-    if (!isBound) return fail(EGL_BAD_ALLOC, EGL_FALSE);
     claim.keep();
     return succeed(EGL_TRUE);
 }
@@ -45,7 +55,7 @@ using namespace egl;
 EGLBoolean EGLAPIENTRY eglMakeCurrent(EGLDisplay dpy, EGLSurface draw, EGLSurface read, EGLContext ctx) {
     return entry(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (!ctx && !draw && !read) return releaseCurrent(display);
-        return makeCurrent(display, draw, read, ctx);
+        return makeCurrent(display, {&display, draw, read, ctx});
     });
 }
 

@@ -19,7 +19,7 @@ uint64_t number(const void *handle) {
 
 } // namespace
 
-Display::Display(uint64_t nativeDisplay) : nativeDisplay(nativeDisplay) {}
+Display::Display(uint64_t nativeDisplay, Display *older) : nativeDisplay(nativeDisplay), older(older) {}
 Display::~Display() = default;
 
 void Display::initialize(const DeviceProfile &profile) {
@@ -42,12 +42,14 @@ void Display::terminate() {
     m_syncs.clear(); // the host's fences are left behind
     contexts = m_contexts.takeAll();
     surfaces = m_surfaces.takeAll();
+    forgetMemos();
     m_initialized = false;
 }
 
-bool Display::isInitialized() const {
-    const std::lock_guard lock(m_displayMutex);
-    return m_initialized;
+void Display::forgetMemos() {
+    ++m_handlesVersion;
+    // This thread's would only keep the memory of contexts.
+    if (threadRecord.hold) threadRecord.hold->memos = {};
 }
 
 std::shared_ptr<const Config> Display::findConfig(EGLConfig handle) const {
@@ -101,6 +103,7 @@ bool Display::destroyContext(uint64_t handle) {
     context = m_contexts.find(handle);
     if (!context || !context->deleteEsContext()) return false;
     (void)m_contexts.take(handle);
+    forgetMemos();
     return true;
 }
 
@@ -152,6 +155,7 @@ bool Display::destroySurface(EGLSurface handle) {
     std::shared_ptr<Surface> surface;
     const std::lock_guard lock(m_displayMutex);
     surface = m_surfaces.take(number(handle));
+    forgetMemos();
     return surface != nullptr;
 }
 

@@ -2,6 +2,7 @@
 // handle stays valid. Every operation takes the display's lock for its own length; entries hold none between them.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -28,7 +29,8 @@ class Surface;
 
 class Display {
 public:
-    explicit Display(uint64_t nativeDisplay);
+    // older: the display that was made before this one, or null.
+    explicit Display(uint64_t nativeDisplay, Display *older = nullptr);
     Display(const Display &) = delete;
     Display &operator=(const Display &) = delete;
     ~Display();
@@ -37,7 +39,10 @@ public:
     void initialize(const DeviceProfile &profile);
     // Lets go of everything without a call into a back end or the host. Handles go on counting afterwards.
     void terminate();
-    [[nodiscard]] bool isInitialized() const;
+    // Takes no lock.
+    [[nodiscard]] bool isInitialized() const { return m_initialized.load(std::memory_order_acquire); }
+    // Changes whenever a handle that was known may have become unknown. Takes no lock.
+    [[nodiscard]] uint64_t handlesVersion() const { return m_handlesVersion.load(std::memory_order_acquire); }
 
     // The config stays good as long as the result. Null for an unknown handle.
     [[nodiscard]] std::shared_ptr<const Config> findConfig(EGLConfig handle) const;
@@ -74,14 +79,19 @@ public:
     void destroySync(const host::EGL &hostEGL, EGLSync sync);
 
     const uint64_t nativeDisplay; // the host's word for it; handed to the host layer
+    Display *const older;
 
 private:
+    // After handles have become unknown.
+    void forgetMemos();
     // The caller holds m_displayMutex.
     std::shared_ptr<Surface> insertSurface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface,
                                            const Config &config, const EGLint *attributes);
 
-    mutable std::mutex m_displayMutex; // guards all below
-    bool m_initialized = false;
+    std::atomic<bool> m_initialized = false; // written with the mutex held
+    std::atomic<uint64_t> m_handlesVersion = 0;
+
+    mutable std::mutex m_displayMutex;           // guards all below
     std::shared_ptr<const ConfigList> m_configs; // shared with contexts, whose configs point into it
     ObjectTable<Context> m_contexts;
     std::vector<std::shared_ptr<EglImage>> m_images;

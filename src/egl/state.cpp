@@ -15,11 +15,15 @@ namespace {
 
 // Exit handlers of an application that opens the library late run after the state has gone, and call entries.
 constinit std::atomic<bool> isStateOver = false;
+constinit std::atomic<bool> isStateLoaded = false;
 
 struct GlobalState {
     std::shared_ptr<State> state;
 
-    ~GlobalState() { isStateOver = true; }
+    ~GlobalState() {
+        isStateOver = true;
+        isStateLoaded = false;
+    }
 };
 
 // In this order: at exit the mutex goes first and the state after it.
@@ -64,10 +68,11 @@ bool State::load() {
     return true;
 }
 
-Display *State::findDisplay(EGLDisplay handle) {
-    const std::lock_guard lock(m_displaysMutex);
-    const auto found = m_displays.find(static_cast<Display *>(handle));
-    return found == m_displays.end() ? nullptr : found->first;
+Display *State::findDisplay(EGLDisplay handle) const {
+    Display *display = m_newestDisplay.load(std::memory_order_acquire);
+    while (display && display != handle)
+        display = display->older;
+    return display;
 }
 
 Display *State::findDisplayByNativeId(uint64_t nativeId) {
@@ -83,8 +88,9 @@ Display &State::createDisplay(uint64_t nativeId, uint64_t hostDisplay) {
     for (const auto &[display, id] : m_displays) {
         if (id == nativeId) return *display;
     }
-    auto display = std::make_unique<Display>(hostDisplay);
+    auto display = std::make_unique<Display>(hostDisplay, m_newestDisplay.load(std::memory_order_relaxed));
     m_displays.emplace(display.get(), nativeId);
+    m_newestDisplay.store(display.get(), std::memory_order_release);
     return *display.release();
 }
 
@@ -115,10 +121,14 @@ bool State::isStrictContextMode() const {
 }
 
 bool ensureLoaded() {
+    // There is no way back from here but the end of the process.
+    if (isStateLoaded.load(std::memory_order_acquire)) return true;
     const std::lock_guard lock(globalStateMutex);
     if (isStateOver) return false;
     if (!globalState.state) globalState.state = std::make_shared<State>();
-    return globalState.state->load();
+    if (!globalState.state->load()) return false;
+    isStateLoaded.store(true, std::memory_order_release);
+    return true;
 }
 
 std::mutex &stateMutex() {

@@ -35,8 +35,8 @@ public:
     // The caller holds stateMutex.
     [[nodiscard]] bool load();
 
-    // Null for an unknown handle, which is compared and never followed.
-    [[nodiscard]] Display *findDisplay(EGLDisplay handle);
+    // Null for an unknown handle, which is compared and never followed. Takes no lock.
+    [[nodiscard]] Display *findDisplay(EGLDisplay handle) const;
     [[nodiscard]] Display *findDisplayByNativeId(uint64_t nativeId);
     // The display of that native id, made now if there is none. hostDisplay is what the host layer is given.
     [[nodiscard]] Display &createDisplay(uint64_t nativeId, uint64_t hostDisplay);
@@ -73,6 +73,7 @@ public:
 private:
     std::map<Display *, uint64_t> m_displays; // to native id; guarded by m_displaysMutex; never shrinks
     std::mutex m_displaysMutex;
+    std::atomic<Display *> m_newestDisplay = nullptr; // the same, for looking a handle up without the lock
     Settings m_settings; // this, the profile, its text and the report are written during the load, only read after it
     DeviceProfile m_profile;
     std::string m_profileText;

@@ -34,7 +34,7 @@ void endThread(void *value) {
     const auto round = reinterpret_cast<uintptr_t>(value);
     if (round < PTHREAD_DESTRUCTOR_ITERATIONS) return setRound(round + 1);
     // Binding, flags and deferred destruction stay as they are.
-    const std::unique_ptr<std::shared_ptr<Context>> dropped(threadRecord.owner);
+    const std::unique_ptr<ThreadHold> dropped(threadRecord.hold);
     threadRecord = {.error = threadRecord.error, .ended = true};
     gl::currentFunctions = &gl::functionsWithoutContext;
 }
@@ -49,13 +49,13 @@ zvThread backEndView(const Context *context) {
 } // namespace
 
 std::shared_ptr<Context> currentContext() {
-    return threadRecord.current ? *threadRecord.owner : nullptr;
+    return threadRecord.current ? threadRecord.hold->current : nullptr;
 }
 
 bool prepareThread() {
-    if (threadRecord.owner) return true;
+    if (threadRecord.hold) return true;
     if (threadRecord.ended) return false;
-    threadRecord.owner = new std::shared_ptr<Context>;
+    threadRecord.hold = new ThreadHold;
     setRound(1);
     return true;
 }
@@ -66,7 +66,7 @@ void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
     threadRecord.backEnd = backEndView(context.get());
     gl::currentFunctions = context ? &context->functions : &gl::functionsWithoutContext;
     // Swapped, so that the old context goes only after the record names the new one.
-    if (threadRecord.owner) threadRecord.owner->swap(context);
+    if (threadRecord.hold) threadRecord.hold->current.swap(context);
 }
 
 void setError(EGLint code) {

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "egl/bind_memos.h"
 #include "egl/egl_api.h"
 #include "zelvane/back_end.h"
 
@@ -10,6 +11,7 @@ namespace egl {
 
 class Context;
 class Display;
+struct ThreadHold;
 
 // Trivially destructible and statically initialised, so that reading it is one plain thread-local load.
 struct ThreadRecord {
@@ -18,11 +20,16 @@ struct ThreadRecord {
     Context *current = nullptr;        // null when nothing is current
     Display *currentDisplay = nullptr; // of the current context
     zvThread backEnd = {};             // what back ends read of it
-    // The strong reference to the current context, made at the first bind and dropped at the thread's exit.
-    std::shared_ptr<Context> *owner = nullptr;
+    ThreadHold *hold = nullptr;        // made at the first bind, and gone with the thread
 };
 
 extern constinit thread_local ThreadRecord threadRecord __attribute__((tls_model("initial-exec")));
+
+// What a thread keeps alive, and what it remembers.
+struct ThreadHold {
+    std::shared_ptr<Context> current;
+    BindMemos memos;
+};
 
 // A strong reference to the current context, or null.
 [[nodiscard]] std::shared_ptr<Context> currentContext();

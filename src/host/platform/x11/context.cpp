@@ -26,6 +26,24 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
                          isLegacy ? legacyAttributes : coreAttributes);
 }
 
+constexpr uintptr_t released = 1;
+
+// Its address tells threads apart.
+thread_local const int threadWord = 0;
+
+uintptr_t ownWord() {
+    return reinterpret_cast<uintptr_t>(&threadWord);
+}
+
+void destroy(ContextContainer &container) {
+    if (!container.connection.isLost()) {
+        Display *display = container.connection.display();
+        glXDestroyContext(display, container.context);
+        if (container.placeholder) glXDestroyPbuffer(display, container.placeholder);
+    }
+    delete &container;
+}
+
 } // namespace
 
 ContextContainer *createContext(const PixelFormat *format, ContextContainer *share) {
@@ -42,31 +60,21 @@ ContextContainer *createContext(const PixelFormat *format, ContextContainer *sha
 }
 
 void releaseContext(ContextContainer *container) {
-    dropReference(container);
-}
-
-void addReference(ContextContainer *container) {
-    if (container) ++container->references;
-}
-
-void dropReference(ContextContainer *container) {
-    if (!container || --container->references > 0) return;
-    if (!container->connection.isLost()) {
-        Display *display = container->connection.display();
-        glXDestroyContext(display, container->context);
-        if (container->placeholder) glXDestroyPbuffer(display, container->placeholder);
-    }
-    delete container;
-}
-
-const void *threadWord() {
-    static thread_local const char word = 0;
-    return &word;
+    if (container->holder.fetch_or(released) == 0) destroy(*container);
 }
 
 bool canHold(const ContextContainer &container) {
-    const void *const holder = container.holder.load(std::memory_order_acquire);
-    return !holder || holder == threadWord();
+    const uintptr_t holder = container.holder.load(std::memory_order_acquire) & ~released;
+    return holder == 0 || holder == ownWord();
+}
+
+void hold(ContextContainer &container) {
+    // Held already after a binding was saved; the owner may have released it since.
+    if (!container.holder.load(std::memory_order_relaxed)) container.holder.store(ownWord(), std::memory_order_relaxed);
+}
+
+void letGo(ContextContainer &container) {
+    if (container.holder.fetch_and(released) & released) destroy(container);
 }
 
 } // namespace host::platform::x11

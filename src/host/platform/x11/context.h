@@ -28,9 +28,9 @@ struct ContextContainer {
     x11::Connection &connection;
     const x11::FbConfig &config;
     const GLXContext context;
-    std::atomic<int> references = 1; // the owner's, the holder's, one for each saved binding
-    // A word of the thread that has it current; null for none.
-    std::atomic<const void *> holder = nullptr;
+    // An even word of the thread that has it current, or has saved it as what was; 0 for none. With 1 added once its
+    // owner has released it, so that it goes with its holder.
+    std::atomic<uintptr_t> holder = 0;
 
     // Of the holder; without one, of the thread that binds it, which callers let there be one of.
     x11::Attachment attachment;
@@ -43,14 +43,11 @@ namespace x11 {
 ContextContainer *createContext(const PixelFormat *format, ContextContainer *share);
 void releaseContext(ContextContainer *container);
 
-// Null is allowed. The last reference destroys the context.
-void addReference(ContextContainer *container);
-void dropReference(ContextContainer *container);
-
 // False when another thread holds the context, which may neither be bound nor be given another drawable then.
 [[nodiscard]] bool canHold(const ContextContainer &container);
-// A word that is this thread's for as long as it lives.
-[[nodiscard]] const void *threadWord();
+void hold(ContextContainer &container);
+// Destroys a context that was released while it was held.
+void letGo(ContextContainer &container);
 
 } // namespace x11
 

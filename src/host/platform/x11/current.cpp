@@ -14,27 +14,22 @@ struct SavedBinding {
     GLXDrawable draw = 0;
     GLXDrawable read = 0;
     GLXContext context = nullptr;
-    ContextContainer *container = nullptr; // holds a reference; null when the context is not ours
+    ContextContainer *container = nullptr; // which stays held; null when the context is not ours
 };
 
 namespace x11 {
 
 namespace {
 
-// Holds a reference, so that a context that was released while current can still be compared and followed. Plain,
-// since threads make contexts current in their exit handlers too.
+// What the thread holds. Plain, since threads make contexts current in their exit handlers too.
 thread_local ContextContainer *threadContainer = nullptr;
 
-void letGo(ContextContainer *container) {
-    if (!container) return;
-    container->holder.store(nullptr, std::memory_order_release);
-    dropReference(container);
-}
+void setThreadContainer(ContextContainer *container);
 
 // Lets go for a thread that ends with a context current.
 struct AtThreadEnd {
     bool isArmed = false;
-    ~AtThreadEnd() { letGo(std::exchange(threadContainer, nullptr)); }
+    ~AtThreadEnd() { setThreadContainer(nullptr); }
 };
 
 thread_local AtThreadEnd atThreadEnd;
@@ -43,10 +38,9 @@ void setThreadContainer(ContextContainer *container) {
     if (container == threadContainer) return;
     if (container) {
         atThreadEnd.isArmed = true; // the first use in a thread is what arms it
-        container->holder.store(threadWord(), std::memory_order_relaxed);
-        addReference(container);
+        hold(*container);
     }
-    letGo(std::exchange(threadContainer, container));
+    if (auto *const old = std::exchange(threadContainer, container)) letGo(*old);
 }
 
 bool bindWithPlaceholder(ContextContainer &container) {
@@ -96,7 +90,7 @@ SavedBinding *saveBinding() {
     if (!glXGetCurrentContext()) return nullptr;
     auto *saved = new SavedBinding{glXGetCurrentDisplay(), glXGetCurrentDrawable(), glXGetCurrentReadDrawable(),
                                    glXGetCurrentContext(), currentContext()};
-    addReference(saved->container);
+    if (saved->container) threadContainer = nullptr;
     return saved;
 }
 
@@ -106,11 +100,10 @@ void restoreBinding(SavedBinding *binding) {
         return;
     }
     const auto makeContextCurrent = binding->container ? glXMakeContextCurrent : calls::makeContextCurrent;
-    if (makeContextCurrent(binding->display, binding->draw, binding->read, binding->context))
-        setThreadContainer(binding->container);
-    else
-        clearCurrentContext();
-    dropReference(binding->container);
+    const bool isRestored = makeContextCurrent(binding->display, binding->draw, binding->read, binding->context);
+    if (!isRestored) clearCurrentContext();
+    setThreadContainer(isRestored ? binding->container : nullptr);
+    if (!isRestored && binding->container) letGo(*binding->container);
     delete binding;
 }
 
