@@ -5,7 +5,6 @@
 #include <string>
 
 #include "capability/collect_system_report.h"
-#include "capability/host_probe.h"
 #include "host/opengl_library.h"
 #include "tools/commands.h"
 #include "tools/report_formats.h"
@@ -30,17 +29,17 @@ int runReport(const Options &options) {
     const auto library = host::openHostOpenGLLibrary();
     if (!library.isLoaded()) return refuse(std::string("the host has no OpenGL library '") + library.name() + "'");
     const auto windowSystem = std::make_shared<glove::WSAPI>();
-    if (!capability::HostProbe(windowSystem).isCurrent()) {
+    capability::SystemReport collected;
+    capability::SystemReportFiller filler(collected);
+    const auto gate = capability::collectSystemReport(library, windowSystem, filler);
+    if (!gate) {
         const char *display = getenv("DISPLAY");
         if (!display) return refuse("no context on the host: DISPLAY is not set");
         return refuse(std::string("no context on the host: the X server '") + display +
                       "' is not there or gives no OpenGL 3.2 core context");
     }
 
-    capability::SystemReport collected;
-    capability::SystemReportFiller filler(collected);
-    capability::collectSystemReport(library, windowSystem, filler);
-    const auto answers = askAboutVersions(library, windowSystem);
+    const auto answers = askAboutVersions(*gate);
     std::cout << (options.asJson ? reportAsJson : reportAsText)(collected, answers, options.withExtensions);
     return answers.carriesEs30 ? carriesEs30 : lacksEs30;
 }

@@ -1,8 +1,5 @@
 #include "tools/version_answers.h"
 
-#include "capability/es_gate.h"
-#include "capability/host_probe.h"
-
 namespace tools {
 
 using namespace capability;
@@ -27,10 +24,10 @@ ContextAttribs attribsOf(const Request &request, bool isStrict) {
 
 } // namespace
 
-VersionAnswers askAboutVersions(const DynamicLibrary &library, const std::shared_ptr<glove::WSAPI> &windowSystem) {
+VersionAnswers askAboutVersions(const EsGate &gate) {
     const auto settle = [&](const Request &request, bool isStrict) {
         auto attribs = attribsOf(request, isStrict);
-        const bool isMade = settleEsVersion(library, windowSystem, true, attribs) == HostAnswer::carries;
+        const bool isMade = settleEsVersion([&] { return &gate; }, true, attribs) == HostAnswer::carries;
         return isMade ? esVersionFromContext(attribs.esMajor, attribs.esMinor) : 0;
     };
     VersionAnswers answers;
@@ -38,13 +35,10 @@ VersionAnswers askAboutVersions(const DynamicLibrary &library, const std::shared
         const EsVersion version = esVersionFromContext(request.major, request.minor);
         answers.versions.push_back({version, settle(request, false), settle(request, true)});
 
-        const bool isCarried =
-            hostCanCarryEsVersion(library, windowSystem, attribsOf(request, true)) == HostAnswer::carries;
-        if (version == es3_0) answers.carriesEs30 = isCarried;
-        if (isCarried) continue;
-        const HostProbe probe(windowSystem);
-        if (!probe.isCurrent()) continue;
-        for (const auto feature : featuresHoldingBack(library, version))
+        const GateAnswer &answer = gate.of(version);
+        if (version == es3_0) answers.carriesEs30 = answer.isPassed();
+        if (answer.isPassed()) continue;
+        for (const auto feature : answer.missing)
             answers.heldBack[feature].push_back(version);
     }
     return answers;

@@ -2,13 +2,11 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <vector>
 
+#include "capability/es_gate.h"
 #include "capability/feature.h"
 #include "capability/versions.h"
-#include "foundation/dynamic_library.h"
-#include "host/wsapi.h"
 
 namespace tools {
 
@@ -27,7 +25,6 @@ struct VersionAnswers {
 };
 
 // For a config that does ES 3, as those of most devices do.
-[[nodiscard]] VersionAnswers askAboutVersions(const DynamicLibrary &library,
-                                              const std::shared_ptr<glove::WSAPI> &windowSystem);
+[[nodiscard]] VersionAnswers askAboutVersions(const capability::EsGate &gate);
 
 } // namespace tools

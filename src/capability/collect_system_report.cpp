@@ -48,16 +48,12 @@ void sendHost(SystemReportReceiver &receiver, const HostGlView &view) {
         receiver.receive(ExtensionRecord{id, isPresent[id]});
 }
 
-void sendAll(SystemReportReceiver &receiver, const DynamicLibrary &library) {
-    const EsBaseFeatures base(library);
-    const Es20Features es20(library);
-    const Es30Features es30(library);
-    const Es31Features es31(library);
-    const Es31Features es32(library);
-    sendHost(receiver, base.view());
+// One set has all: each level has the bindings of those below it.
+void sendAll(SystemReportReceiver &receiver, const Es31Features &set) {
+    sendHost(receiver, set.view());
 
     // Requirements go out whatever the state of the feature.
-#define REPORTED(set, feature) sendFeature(receiver, Feature::feature, set.feature);
+#define REPORTED(level, feature) sendFeature(receiver, Feature::feature, set.feature);
 #define ES_REQUIREMENT(section, feature)                                                                               \
     receiver.receive(EsRequirementRecord{section, descriptorOf(Feature::feature).name});
 #define ES_EXTENSION_REQUIREMENT(extension, feature)                                                                   \
@@ -70,11 +66,18 @@ void sendAll(SystemReportReceiver &receiver, const DynamicLibrary &library) {
 
 } // namespace
 
-void collectSystemReport(const DynamicLibrary &library, const std::shared_ptr<glove::WSAPI> &windowSystem,
-                         SystemReportReceiver &receiver) {
+std::optional<EsGate> collectSystemReport(const DynamicLibrary &library,
+                                          const std::shared_ptr<glove::WSAPI> &windowSystem,
+                                          SystemReportReceiver &receiver) {
+    std::optional<EsGate> gate;
     const HostProbe probe(windowSystem);
-    if (probe.isCurrent()) sendAll(receiver, library);
+    if (probe.isCurrent()) {
+        const Es31Features set(library);
+        sendAll(receiver, set);
+        gate.emplace(set);
+    }
     receiver.receive(EndRecord{});
+    return gate;
 }
 
 } // namespace capability

@@ -39,16 +39,17 @@ std::vector<Feature> missingEs31Features(const Es31Features &set) {
 
 #undef CHECK
 
-bool checkBaseFeatures(const EsBaseFeatures &set) {
-    return missingBaseFeatures(set).empty();
+std::vector<Feature> missingEs20Features(const Es31Features &set) {
+    std::vector<Feature> missing;
+    addIfMissing(missing, Feature::shaderPrograms, set.shaderPrograms);
+    addIfMissing(missing, Feature::uniforms, set.uniforms);
+    return joined(std::move(missing), missingBaseFeatures(set));
 }
 
-bool checkEs30Features(const Es30Features &set) {
-    return missingEs30Features(set).empty();
-}
-
-bool checkEs31Features(const Es31Features &set) {
-    return missingEs31Features(set).empty();
+std::vector<Feature> missingEs32Features(const Es31Features &set) {
+    std::vector<Feature> missing;
+    addIfMissing(missing, Feature::baseVertexOffset, set.baseVertexOffset);
+    return joined(std::move(missing), missingEs31Features(set));
 }
 
 } // namespace capability

@@ -7,14 +7,12 @@
 
 namespace capability {
 
-[[nodiscard]] bool checkBaseFeatures(const EsBaseFeatures &set);
-// Both include the checks below them.
-[[nodiscard]] bool checkEs30Features(const Es30Features &set);
-[[nodiscard]] bool checkEs31Features(const Es31Features &set);
-
-// The features that make the check fail, in its order.
+// The features that the set lacks, in the order of the check. Each includes the checks below it, of which those of ES
+// 3.0 and of ES 2.0 stand side by side on the base.
 [[nodiscard]] std::vector<Feature> missingBaseFeatures(const EsBaseFeatures &set);
+[[nodiscard]] std::vector<Feature> missingEs20Features(const Es31Features &set);
 [[nodiscard]] std::vector<Feature> missingEs30Features(const Es30Features &set);
 [[nodiscard]] std::vector<Feature> missingEs31Features(const Es31Features &set);
+[[nodiscard]] std::vector<Feature> missingEs32Features(const Es31Features &set);
 
 } // namespace capability

@@ -24,7 +24,7 @@ EGLContext refuse(EGLint error) {
 bool settleVersion(const Config &config, ContextAttribs &attribs) {
     const bool canBeEs3 = config.attributeOr0(EGL_RENDERABLE_TYPE) & EGL_OPENGL_ES3_BIT;
     attribs.strictContextMode = state().isStrictContextMode();
-    return capability::settleEsVersion(state().openGLLibrary(), state().windowSystem(), canBeEs3, attribs) ==
+    return capability::settleEsVersion([] { return state().esGate(); }, canBeEs3, attribs) ==
            capability::HostAnswer::carries;
 }
 

@@ -64,7 +64,8 @@ bool State::load() {
     m_windowSystem = std::make_shared<glove::WSAPI>();
     capability::SystemReportFiller filler(
         m_report, [this](const capability::ReportRecord &record) { m_uiLink.post(reportMessage(record)); });
-    capability::collectSystemReport(m_openGLLibrary, m_windowSystem, filler);
+    auto gate = capability::collectSystemReport(m_openGLLibrary, m_windowSystem, filler);
+    if (gate) m_esGate = std::make_unique<const capability::EsGate>(std::move(*gate));
     return true;
 }
 
@@ -114,6 +115,19 @@ const host::EGL &State::hostEGL(bool canLookUp) {
     if (!made->hasHost()) return none;
     m_hostEGL.store(made.get(), std::memory_order_release);
     return *made.release();
+}
+
+const capability::EsGate *State::esGate() {
+    {
+        const std::lock_guard lock(m_esGateMutex);
+        if (m_esGate) return m_esGate.get();
+    }
+    // Without the lock: the host may take its time.
+    auto gate = capability::probeEsGate(m_openGLLibrary, m_windowSystem);
+    if (!gate) return nullptr;
+    const std::lock_guard lock(m_esGateMutex);
+    if (!m_esGate) m_esGate = std::make_unique<const capability::EsGate>(std::move(*gate));
+    return m_esGate.get();
 }
 
 bool State::isStrictContextMode() const {

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "capability/es_gate.h"
 #include "capability/host_egl.h"
 #include "capability/system_report.h"
 #include "egl/display.h"
@@ -48,6 +49,10 @@ public:
     // All null until then. canLookUp: whether a context of ours is current on the host.
     [[nodiscard]] const host::EGL &hostEGL(bool canLookUp = true);
 
+    // What the host can carry: looked at during the load, or at the first call when it could not be then. Null when
+    // nobody can look at it. Any thread.
+    [[nodiscard]] const capability::EsGate *esGate();
+
     // False where the embedding tool forces loose contexts, whatever the settings say.
     [[nodiscard]] bool isStrictContextMode() const;
 
@@ -82,6 +87,8 @@ private:
     UiLink m_uiLink;                              // connects in the constructor
     static inline constinit std::atomic<uint64_t> m_frameNumber = 0;
     capability::SystemReport m_report;
+    std::mutex m_esGateMutex;
+    std::unique_ptr<const capability::EsGate> m_esGate; // guarded by m_esGateMutex; constant once set
     std::mutex m_hostEGLMutex; // held while the functions are looked up
     std::atomic<const host::EGL *> m_hostEGL = nullptr;
 };

@@ -17,16 +17,17 @@ const auto windowSystem = std::make_shared<glove::WSAPI>();
 } // namespace
 
 TEST(EsGate, AsksForWhatTheVersionNeeds) {
-    const auto no = HostAnswer::lacks, yes = HostAnswer::carries;
+    const bool no = false, yes = true;
     const auto without = [](const char *name) { return everyExtensionBut({name}); };
-    const auto expectGate = [&](const char *version, const std::string &extensions, HostAnswer es20, HostAnswer es30,
-                                HostAnswer es31, HostAnswer es32, const char *reason) {
+    const auto expectGate = [&](const char *version, const std::string &extensions, bool es20, bool es30, bool es31,
+                                bool es32, const char *reason) {
         const ScriptedHost host(version, extensions.c_str());
+        const auto gate = probeEsGate(host.library, windowSystem);
         const auto ask = [&](int32_t major, int32_t minor) {
             ContextAttribs attribs{};
             attribs.esMajor = major;
             attribs.esMinor = minor;
-            return hostCanCarryEsVersion(host.library, windowSystem, attribs);
+            return hostCanCarryEsVersion(*gate, attribs);
         };
         EXPECT_THAT((std::array{ask(2, 0), ask(3, 0), ask(3, 1), ask(3, 2)}), ElementsAre(es20, es30, es31, es32))
             << reason;
@@ -39,7 +40,7 @@ TEST(EsGate, AsksForWhatTheVersionNeeds) {
 
 TEST(EsGate, NamesTheMissingFeaturesInItsOrder) {
     const ScriptedHost host("3.2");
-    EXPECT_THAT(featuresHoldingBack(host.library, es3_0),
+    EXPECT_THAT(probeEsGate(host.library, windowSystem)->of(es3_0).missing,
                 ElementsAre(Feature::samplerObjects, Feature::separateShaderObjects, Feature::gpuShader5,
                             Feature::shaderImageLoadStore, Feature::bufferObjectRangeMapping,
                             Feature::multisampledFramebuffers, Feature::textureStorage));

@@ -56,8 +56,8 @@ protected:
     EGLContext context(EGLint major = 2, EGLContext share = EGL_NO_CONTEXT);
     EGLSurface window(EGLNativeWindowType id = 77);
     EGLSurface pbuffer(EGLint width = 16, EGLint height = 8);
-    // A context of this version current on a window. Its host context is context3 where it is the first of ES 2: the
-    // load has probed the host with context1, and the raising of its version with context2.
+    // A context of this version current on a window. Its host context is context2 where it is the first: the load has
+    // probed the host with context1.
     EGLContext current(EGLint major = 2);
 
     // The answer of eglQuerySurface, -77 where it stores nothing.

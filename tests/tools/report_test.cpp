@@ -22,12 +22,12 @@ capability::SystemReport collected(const ScriptedHost &host) {
 
 TEST(Report, TextTellsWhatHoldsBackWhat) {
     const ScriptedHost host("4.2", "GL_ARB_gpu_shader5 GL_ARB_sample_shading");
-    const auto answers = askAboutVersions(host.library, windowSystem);
+    const auto answers = askAboutVersions(*capability::probeEsGate(host.library, windowSystem));
     EXPECT_EQ(reportAsText(collected(host), answers, false), golden("tools/data/report.txt"));
 }
 
 TEST(Report, JsonTellsWhatStrictModeRefuses) {
     const ScriptedHost host("4.1", "GL_ARB_ES3_compatibility");
-    const auto answers = askAboutVersions(host.library, windowSystem);
+    const auto answers = askAboutVersions(*capability::probeEsGate(host.library, windowSystem));
     EXPECT_EQ(reportAsJson(collected(host), answers, true), golden("tools/data/report.json"));
 }
