@@ -62,8 +62,9 @@ bool State::load() {
     const CKZRTString name(m_settings.getCurrentProfile().c_str());
     if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) return false;
     m_windowSystem = std::make_shared<glove::WSAPI>();
-    capability::SystemReportFiller filler(
-        m_report, [this](const capability::ReportRecord &record) { m_uiLink.post(reportMessage(record)); });
+    capability::SystemReportFiller filler(m_report, [this](const capability::ReportRecord &record) {
+        if (m_uiLink.isAttached()) m_uiLink.post(reportMessage(record));
+    });
     auto gate = capability::collectSystemReport(m_openGLLibrary, m_windowSystem, filler);
     if (gate) m_esGate = std::make_unique<const capability::EsGate>(std::move(*gate));
     return true;

@@ -43,7 +43,9 @@ UiLink::UiLink(SetRenderMode setRenderMode)
 }
 
 void UiLink::post(const Message &message) const {
-    if (!m_isClosed->load(std::memory_order_relaxed)) m_queue->push(message);
+    // Nobody would read it: the sender would drop it behind the others.
+    if (!isAttached() || m_isClosed->load(std::memory_order_relaxed)) return;
+    m_queue->push(message);
 }
 
 void UiLink::senderThread(const std::shared_ptr<KZRIPC::Client> &client, const std::shared_ptr<Queue> &queue,
