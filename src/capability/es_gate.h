@@ -30,9 +30,13 @@ public:
 
     // Versions other than ES 2.0 to 3.2 have no gate and pass.
     [[nodiscard]] const GateAnswer &of(EsVersion version) const;
+    // The highest minor version of ES 3 whose shading language and limits the host promises by its own version or by a
+    // compatibility extension, as a driver of its own would offer it. Nothing when it promises no ES 3.
+    [[nodiscard]] std::optional<int32_t> promisedEs3Minor() const { return m_promisedEs3Minor; }
 
 private:
     std::array<GateAnswer, 4> m_answers; // of ES 2.0 to 3.2
+    std::optional<int32_t> m_promisedEs3Minor;
 };
 
 // Looks at the host through a probing context on the calling thread. Nothing when that cannot be made.
@@ -51,6 +55,10 @@ enum class HostAnswer {
 // Raises esMinor of an ES 3.0 or 3.1 record as far as the host carries it, and leaves any other record alone. Whether
 // the device profile or strict mode allows the higher version is not checked.
 void raiseEs3MinorVersion(const EsGate &gate, ContextAttribs &attribs);
+
+// The same as a desktop's driver does it: a context of ES 2 or 3 gets the highest version that the host promises and
+// the device has. highestMinor: the device's of ES 3; nothing when it has none. canBeEs3: as below.
+void raiseAsDriversDo(const EsGate &gate, bool canBeEs3, std::optional<int32_t> highestMinor, ContextAttribs &attribs);
 
 // Settles esMajor and esMinor of a record whose requested version the profile allows. canBeEs3: the config does ES 3,
 // so that a context of major version 2 is raised to 3. In strict mode, which the record tells, the host must carry the

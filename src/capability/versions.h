@@ -10,9 +10,11 @@ using GlVersion = int32_t;   // 1 to 19 for 1.0 to 4.6
 using GlslVersion = int32_t; // 1 to 13 for 1.10 to 4.60
 using EsVersion = int32_t;   // 1 to 5 for 1.1 to 3.2; 0 for none
 
-constexpr GlVersion noGlVersion = 0;       // no text was given; below every requirement
-constexpr GlVersion gl1_0 = 1;             // as a requirement: none
-constexpr GlVersion gl3_0 = 9;             // the first version that lists extensions one by one
+constexpr GlVersion noGlVersion = 0; // no text was given; below every requirement
+constexpr GlVersion gl1_0 = 1;       // as a requirement: none
+constexpr GlVersion gl3_0 = 9;       // the first version that lists extensions one by one
+constexpr GlVersion gl4_3 = 16;
+constexpr GlVersion gl4_5 = 18;
 constexpr GlVersion unknownGlVersion = 20; // a text that no row matches; passes every requirement
 constexpr GlslVersion noGlslVersion = 0;
 constexpr GlslVersion unknownGlslVersion = 14;

@@ -1,5 +1,6 @@
 #include "egl/binding.h"
 
+#include "egl/desktop_clients.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
@@ -80,7 +81,8 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
     postWindowTitle(draw);
 
     const auto *hostContext = context->claimedHostContext();
-    const auto binding = host::makeHostContextCurrent(hostContext, draw ? draw->hostSurface.get() : nullptr);
+    const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())
+                              : host::makeHostContextCurrentWithoutDrawable(hostContext);
     if (binding == host::HostBinding::failed) return false;
     // A host that refused the context at its creation shows here first.
     if (!hostContext || !hostContext->context->container()) return false;
@@ -99,6 +101,7 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
 }
 
 bool bindSurfaceless(const std::shared_ptr<Context> &context) {
+    if (desktop_clients::isOn()) return bindContext(context, {});
     const auto surface = context->display.createPrivateSurface(*context);
     context->attribs.surfaceless = 1;
     return bindContext(context, {surface, surface});

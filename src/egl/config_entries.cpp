@@ -1,6 +1,7 @@
-// Entries about configs. The lists are told by the device profile; the host is never asked.
+// Entries about configs. The lists are told by the device profile; for devices the host is never asked.
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "profiles/standard_choice.h"
 
 using namespace egl;
 
@@ -16,7 +17,9 @@ EGLBoolean EGLAPIENTRY eglChooseConfig(EGLDisplay dpy, const EGLint *attributes,
                                        EGLint *numConfig) {
     return entry(dpy, EGL_FALSE, [&](Display &display) {
         if (!numConfig) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        if (!validateAttributeList(attributes)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
+        const bool isValid =
+            desktop_clients::isOn() ? isValidByStandard(attributes) : validateAttributeList(attributes);
+        if (!isValid) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
         *numConfig = display.chooseConfigs(attributes, configs, configSize);
         return succeed(EGL_TRUE);
     });
@@ -27,10 +30,6 @@ EGLBoolean EGLAPIENTRY eglGetConfigAttrib(EGLDisplay dpy, EGLConfig config, EGLi
         const auto found = display.findConfig(config);
         if (!found) return fail(EGL_BAD_CONFIG, EGL_FALSE);
         if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        if (const auto visual = desktop_clients::nativeVisual(*found, attribute)) {
-            *value = *visual;
-            return succeed(EGL_TRUE);
-        }
         if (!found->getAttribute(attribute, value)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
         return succeed(EGL_TRUE);
     });

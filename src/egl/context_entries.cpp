@@ -2,6 +2,7 @@
 #include "capability/es_gate.h"
 #include "egl/context.h"
 #include "egl/context_attribs.h"
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/print_system_report.h"
 #include "foundation/log.h"
@@ -24,6 +25,11 @@ EGLContext refuse(EGLint error) {
 bool settleVersion(const Config &config, ContextAttribs &attribs) {
     const bool canBeEs3 = config.attributeOr0(EGL_RENDERABLE_TYPE) & EGL_OPENGL_ES3_BIT;
     attribs.strictContextMode = state().isStrictContextMode();
+    if (desktop_clients::isOn() && !attribs.strictContextMode) {
+        const auto *gate = attribs.requestedMajor >= 2 ? state().esGate() : nullptr;
+        if (gate) capability::raiseAsDriversDo(*gate, canBeEs3, highestEs3Minor(state().profile()), attribs);
+        return true;
+    }
     return capability::settleEsVersion([] { return state().esGate(); }, canBeEs3, attribs) ==
            capability::HostAnswer::carries;
 }

@@ -1,6 +1,7 @@
 // eglMakeCurrent and what is current.
 #include "egl/bind_memos.h"
 #include "egl/binding.h"
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 
 namespace egl {
@@ -15,6 +16,14 @@ EGLBoolean releaseCurrent(Display &display) {
 
 bool hasSurfacesOf(const Context &context, const BindMemo *memo) {
     return memo && context.surfaces.draw.get() == memo->draw && context.surfaces.read.get() == memo->read;
+}
+
+// Only desktop clients are told: for devices all configs stand on one format. A context without a config, which has the
+// id 0, goes with every surface.
+bool fitTogether(const Context &context, const SurfacePair &surfaces) {
+    if (!desktop_clients::isOn() || context.config->attributeOr0(EGL_CONFIG_ID) == 0) return true;
+    const auto sizes = drawableSizes(*context.config);
+    return surfaces.draw->sizes == sizes && surfaces.read->sizes == sizes;
 }
 
 EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
@@ -37,6 +46,7 @@ EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
         if (!isKnown) found = {display.findSurface(request.draw), display.findSurface(request.read)};
         const SurfacePair &surfaces = isKnown ? context->surfaces : found;
         if (!surfaces.draw || !surfaces.read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (!isKnown && !fitTogether(*context, surfaces)) return fail(EGL_BAD_MATCH, EGL_FALSE);
         if (!bindContext(context, surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
         if (!isKnown) {
             threadRecord.hold->memos.note({request, version, context, surfaces.draw.get(), surfaces.read.get()});

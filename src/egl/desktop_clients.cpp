@@ -11,14 +11,6 @@ namespace egl::desktop_clients {
 
 namespace {
 
-bool isOn() {
-    static const bool on = [] {
-        const char *value = getenv("ZELVANE_DESKTOP_CLIENTS");
-        return value && strcmp(value, "1") == 0;
-    }();
-    return on;
-}
-
 struct Entry {
     const char *name;
     Function function;
@@ -33,17 +25,12 @@ const Entry entries[] = {
 
 } // namespace
 
-std::optional<EGLint> nativeVisual(const Config &config, EGLint attribute) {
-    if (!isOn() || !config.hostConfig() || !config.hostConfig()->format()) return std::nullopt;
-    using namespace host::platform;
-    switch (attribute) {
-    case EGL_NATIVE_VISUAL_ID:
-        return operations.pixelFormatValue(config.hostConfig()->format(), NativeVisualId);
-    case EGL_NATIVE_VISUAL_TYPE:
-        return operations.pixelFormatValue(config.hostConfig()->format(), NativeVisualType);
-    default:
-        return std::nullopt;
-    }
+bool isOn() {
+    static const bool on = [] {
+        const char *value = getenv("ZELVANE_DESKTOP_CLIENTS");
+        return value && strcmp(value, "1") == 0;
+    }();
+    return on;
 }
 
 const char *clientExtensions() {

@@ -4,18 +4,15 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "egl/egl_api.h"
-#include "profiles/config.h"
 
 namespace egl::desktop_clients {
 
 using Function = void (*)();
 
-// EGL_NATIVE_VISUAL_ID and EGL_NATIVE_VISUAL_TYPE of the host format; windows of that visual are drawn to directly.
-// Nothing for other attributes and for a config without a host format.
-[[nodiscard]] std::optional<EGLint> nativeVisual(const Config &config, EGLint attribute);
+// Whether the process is in this mode.
+[[nodiscard]] bool isOn();
 
 // The client extension string, or null.
 [[nodiscard]] const char *clientExtensions();

@@ -3,6 +3,7 @@
 #include "capability/host_egl.h"
 #include "egl/context.h"
 #include "egl/context_allocator.h"
+#include "egl/desktop_clients.h"
 #include "egl/private_buffers.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
@@ -17,6 +18,10 @@ uint64_t number(const void *handle) {
     return reinterpret_cast<uintptr_t>(handle);
 }
 
+const host::platform::PixelFormat *surfaceFormat(const Config &config) {
+    return config.hostConfig() ? config.hostConfig()->surfaceFormat() : nullptr;
+}
+
 } // namespace
 
 Display::Display(uint64_t nativeDisplay, Display *older) : nativeDisplay(nativeDisplay), older(older) {}
@@ -25,7 +30,8 @@ Display::~Display() = default;
 void Display::initialize(const DeviceProfile &profile) {
     const std::lock_guard lock(m_displayMutex);
     if (m_initialized) return;
-    m_configs = std::make_shared<ConfigList>(profile, nativeDisplay);
+    const auto kind = desktop_clients::isOn() ? ConfigKind::ofDesktop : ConfigKind::ofDevice;
+    m_configs = std::make_shared<ConfigList>(profile, nativeDisplay, kind);
     m_initialized = true;
 }
 
@@ -130,14 +136,14 @@ std::shared_ptr<Surface> Display::insertSurface(uint64_t handle, std::shared_ptr
 std::shared_ptr<Surface> Display::createWindowSurface(const Config &config, uint64_t window, const EGLint *attributes) {
     const std::lock_guard lock(m_displayMutex);
     const uint64_t handle = m_surfaces.takeHandle();
-    auto hostSurface = host::createHostWindowSurface(nativeDisplay, window);
+    auto hostSurface = host::createHostWindowSurface(nativeDisplay, window, surfaceFormat(config));
     return hostSurface ? insertSurface(handle, std::move(hostSurface), config, attributes) : nullptr;
 }
 
 std::shared_ptr<Surface> Display::createPbufferSurface(const Config &config, const EGLint *attributes) {
     const std::lock_guard lock(m_displayMutex);
     const uint64_t handle = m_surfaces.takeHandle();
-    return insertSurface(handle, host::createHostPBufferSurface(attributes), config, attributes);
+    return insertSurface(handle, host::createHostPBufferSurface(attributes, surfaceFormat(config)), config, attributes);
 }
 
 std::shared_ptr<Surface> Display::createPrivateSurface(Context &context) {

@@ -89,7 +89,7 @@ private:
     capability::SystemReport m_report;
     std::mutex m_esGateMutex;
     std::unique_ptr<const capability::EsGate> m_esGate; // guarded by m_esGateMutex; constant once set
-    std::mutex m_hostEGLMutex; // held while the functions are looked up
+    std::mutex m_hostEGLMutex;                          // held while the functions are looked up
     std::atomic<const host::EGL *> m_hostEGL = nullptr;
 };
 

@@ -15,9 +15,17 @@ EGLint lastValue(const EGLint *attributes, EGLint name) {
 
 } // namespace
 
+DrawableSizes drawableSizes(const Config &config) {
+    return {config.attributeOr0(EGL_RED_SIZE),   config.attributeOr0(EGL_GREEN_SIZE),
+            config.attributeOr0(EGL_BLUE_SIZE),  config.attributeOr0(EGL_ALPHA_SIZE),
+            config.attributeOr0(EGL_DEPTH_SIZE), config.attributeOr0(EGL_STENCIL_SIZE),
+            config.attributeOr0(EGL_SAMPLES)};
+}
+
 Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
                  const EGLint *attributes)
     : handle(handle), isSrgb(lastValue(attributes, EGL_GL_COLORSPACE) == EGL_GL_COLORSPACE_SRGB),
+      sizes(drawableSizes(config)),
       hostSurface(std::move(hostSurface)), m_attributes{{EGL_RENDER_BUFFER, EGL_BACK_BUFFER},
                                                         {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
                                                         {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},

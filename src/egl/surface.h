@@ -1,6 +1,7 @@
 // The EGL side of a surface: a map of attributes around a host surface.
 #pragma once
 
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <map>
@@ -11,6 +12,10 @@
 #include "profiles/config.h"
 
 namespace egl {
+
+// What of a config contexts and surfaces have to have in common.
+using DrawableSizes = std::array<EGLint, 7>;
+[[nodiscard]] DrawableSizes drawableSizes(const Config &config);
 
 class Surface {
 public:
@@ -27,6 +32,7 @@ public:
 
     const uint64_t handle;
     const bool isSrgb;
+    const DrawableSizes sizes;
     const std::shared_ptr<glove::ISurface> hostSurface;
 
     // Since the last swap.

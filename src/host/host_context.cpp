@@ -92,6 +92,16 @@ HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const g
     return binding;
 }
 
+HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostContext) {
+    const auto *context = hostContext ? hostContext->context.get() : nullptr;
+    if (!context || !context->container()) return HostBinding::failed;
+    if (!operations.setView(context->container(), {}) || !makeHostContextCurrentAsIs(*context)) {
+        return HostBinding::failed;
+    }
+    setCurrentHostContext(context->number());
+    return HostBinding::current;
+}
+
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval) {
     if (!hostContext || !hostContext->context->container()) return;
     operations.setSwapInterval(hostContext->context->container(), interval);

@@ -58,6 +58,9 @@ enum class HostBinding {
 // that has no native object, is only detached.
 [[nodiscard]] HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface);
 
+// Makes it current with nothing to draw to but framebuffer objects.
+[[nodiscard]] HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostContext);
+
 // Unclamped, in frames per swap. Does nothing without a context.
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval);
 

@@ -131,14 +131,16 @@ PBufferRequest readPBufferRequest(const int32_t *attributes) {
     return request;
 }
 
-std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow) {
-    return std::make_shared<glove::WindowSurface>(platform::View{display, nativeWindow});
+std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow,
+                                                         const platform::PixelFormat *format) {
+    return std::make_shared<glove::WindowSurface>(platform::View{display, nativeWindow, format});
 }
 
-std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes) {
+std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
+                                                          const platform::PixelFormat *format) {
     const auto request = readPBufferRequest(attributes);
     return std::make_shared<glove::PBufferSurface>(operations.createPixelBuffer(
-        request.target, request.internalFormat, request.maxMipLevel, request.width, request.height));
+        request.target, request.internalFormat, request.maxMipLevel, request.width, request.height, format));
 }
 
 std::shared_ptr<glove::ISurface> createHostPixmapSurface() {

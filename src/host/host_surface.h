@@ -78,9 +78,12 @@ struct PBufferRequest {
 // Reads the five attributes that matter and passes over all others. A null list is an empty one.
 [[nodiscard]] PBufferRequest readPBufferRequest(const int32_t *attributes);
 
-[[nodiscard]] std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow);
+// format: that the surface has of its own; null for that of the context that draws to it.
+[[nodiscard]] std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow,
+                                                                       const platform::PixelFormat *format = nullptr);
 // The buffer inside may be null when the host refuses the values.
-[[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes);
+[[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
+                                                                        const platform::PixelFormat *format = nullptr);
 // Always null: there is no host kind for pixmaps.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPixmapSurface();
 

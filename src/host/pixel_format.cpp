@@ -31,6 +31,36 @@ PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request) {
     return operations.createPixelFormat(request.display, list.data());
 }
 
+PixelFormat *makeFittingPixelFormat(const PixelFormatRequest &request, bool exactly) {
+    std::vector<uint32_t> list{OpenGLProfile, profile3_2Core, DoubleBuffer, Fit, exactly ? fitExactly : fitNearest};
+    append(list, RedSize, request.redSize);
+    append(list, GreenSize, request.greenSize);
+    append(list, BlueSize, request.blueSize);
+    append(list, AlphaSize, request.alphaSize);
+    append(list, DepthSize, request.depthSize);
+    append(list, StencilSize, request.stencilSize);
+    append(list, SampleBuffers, request.sampleBuffers);
+    append(list, Samples, request.samples);
+    list.push_back(0);
+    return operations.createPixelFormat(request.display, list.data());
+}
+
+PixelFormat *makeConfiglessPixelFormat(uint64_t display) {
+    constexpr uint32_t list[] = {OpenGLProfile,
+                                 profile3_2Core,
+                                 DoubleBuffer,
+                                 Fit,
+                                 fitAnyDrawable,
+                                 ColorSize,
+                                 24,
+                                 DepthSize,
+                                 24,
+                                 StencilSize,
+                                 8,
+                                 0};
+    return operations.createPixelFormat(display, list);
+}
+
 PixelFormat *makeProbePixelFormat() {
     constexpr uint32_t list[] = {OpenGLProfile, profile3_2Core, 0};
     return operations.createPixelFormat(0, list);

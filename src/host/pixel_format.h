@@ -1,4 +1,5 @@
-// Pixel format attribute lists: which format the configs share, the probe's, and the one that a context gets.
+// Pixel format attribute lists: which format the configs share, or each has; the probe's, and the one that a context
+// gets.
 #pragma once
 
 #include <cstdint>
@@ -18,6 +19,10 @@ struct PixelFormatRequest {
 
 // Null when the host has nothing fitting.
 [[nodiscard]] platform::PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request);
+// A format for this config alone: the nearest that the host has, or one of just these sizes. Null when there is none.
+[[nodiscard]] platform::PixelFormat *makeFittingPixelFormat(const PixelFormatRequest &request, bool exactly);
+// A format for contexts that go with drawables of any config. Null when the host gives none.
+[[nodiscard]] platform::PixelFormat *makeConfiglessPixelFormat(uint64_t display);
 // A core format on the default display with nothing else asked for.
 [[nodiscard]] platform::PixelFormat *makeProbePixelFormat();
 // Reads the format's values back and asks for them again, always double-buffered, with the profile that is wanted.

@@ -1,4 +1,5 @@
-// One EGL config: a map from attribute to value, and the host format that all configs of a list share.
+// One EGL config: a map from attribute to value, and its host format, which all configs of a list share unless each has
+// one of its own.
 #pragma once
 
 #include <cstdint>
@@ -12,14 +13,18 @@ namespace egl {
 
 namespace osx {
 
-// The host pixel format behind a config list. It is never released: contexts of the process go on using it.
+// The host pixel format behind a config list, or behind one config. It is never released: contexts of the process go on
+// using it.
 class Config {
 public:
-    explicit Config(host::platform::PixelFormat *format) : m_format(format) {}
+    explicit Config(host::platform::PixelFormat *format, bool isOwn = false) : m_format(format), m_isOwn(isOwn) {}
     [[nodiscard]] host::platform::PixelFormat *format() const { return m_format; } // may be null
+    // That of surfaces, where they have one of their own; otherwise null: they are drawn to with the context's.
+    [[nodiscard]] host::platform::PixelFormat *surfaceFormat() const { return m_isOwn ? m_format : nullptr; }
 
 private:
     host::platform::PixelFormat *m_format;
+    bool m_isOwn; // of one config alone
 };
 
 } // namespace osx

@@ -5,6 +5,8 @@
 
 #include "host/pixel_format.h"
 #include "profiles/config_sort.h"
+#include "profiles/desktop_configs.h"
+#include "profiles/standard_choice.h"
 
 namespace egl {
 
@@ -38,7 +40,13 @@ void *toStored(const Config &config) {
 
 } // namespace
 
-ConfigList::ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay) {
+ConfigList::ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay, ConfigKind kind) : m_kind(kind) {
+    if (kind == ConfigKind::ofDesktop) {
+        for (const Config &config : makeDesktopConfigs(profile, nativeDisplay))
+            m_configs[toHandle(config.attributeOr0(EGL_CONFIG_ID))] = config;
+        m_noConfig = makeConfiglessConfig(m_configs.empty() ? Config() : m_configs.begin()->second, nativeDisplay);
+        return;
+    }
     for (const Config &config : makeConfigs(makeHostConfig(nativeDisplay), profile))
         m_configs[toHandle(config.attributeOr0(EGL_CONFIG_ID))] = config;
     // A profile without a config 1 gets one here that says no id and has no host format. It stays in the list, and
@@ -60,10 +68,17 @@ uint32_t ConfigList::listConfigs(void **out, int32_t size) const {
 uint32_t ConfigList::chooseConfigs(const int32_t *attributes, void **out, int32_t size) const {
     std::vector<Config> matching;
     matching.reserve(m_configs.size());
-    for (const auto &[handle, config] : m_configs)
-        if (config.matches(attributes)) matching.push_back(config);
+    const bool isOfDesktop = m_kind == ConfigKind::ofDesktop;
+    for (const auto &[handle, config] : m_configs) {
+        if (isOfDesktop ? matchesByStandard(config, attributes) : config.matches(attributes))
+            matching.push_back(config);
+    }
     if (!out) return static_cast<uint32_t>(matching.size());
-    sortConfigs(matching, ConfigSortOrder(attributes));
+    if (isOfDesktop) {
+        sortByStandard(matching, attributes);
+    } else {
+        sortConfigs(matching, ConfigSortOrder(attributes));
+    }
     int32_t stored = 0;
     for (const Config &config : matching) {
         if (stored >= size) break;
@@ -79,19 +94,22 @@ const Config *ConfigList::findConfig(uint64_t handle) const {
 
 std::shared_ptr<osx::Config> makeHostConfig(uint64_t nativeDisplay) {
     const Config probe(nullptr, hostProbeAttributes().data());
-    const host::PixelFormatRequest request = {
+    return std::make_shared<osx::Config>(host::makeHostPixelFormat(formatRequest(probe, nativeDisplay)));
+}
+
+host::PixelFormatRequest formatRequest(const Config &config, uint64_t nativeDisplay) {
+    return {
         .display = nativeDisplay,
-        .hasWindowBit = (probe.attributeOr0(EGL_SURFACE_TYPE) & EGL_WINDOW_BIT) != 0,
-        .redSize = probe.attributeOr0(EGL_RED_SIZE),
-        .greenSize = probe.attributeOr0(EGL_GREEN_SIZE),
-        .blueSize = probe.attributeOr0(EGL_BLUE_SIZE),
-        .alphaSize = probe.attributeOr0(EGL_ALPHA_SIZE),
-        .depthSize = probe.attributeOr0(EGL_DEPTH_SIZE),
-        .stencilSize = probe.attributeOr0(EGL_STENCIL_SIZE),
-        .sampleBuffers = probe.attributeOr0(EGL_SAMPLE_BUFFERS),
-        .samples = probe.attributeOr0(EGL_SAMPLES),
+        .hasWindowBit = (config.attributeOr0(EGL_SURFACE_TYPE) & EGL_WINDOW_BIT) != 0,
+        .redSize = config.attributeOr0(EGL_RED_SIZE),
+        .greenSize = config.attributeOr0(EGL_GREEN_SIZE),
+        .blueSize = config.attributeOr0(EGL_BLUE_SIZE),
+        .alphaSize = config.attributeOr0(EGL_ALPHA_SIZE),
+        .depthSize = config.attributeOr0(EGL_DEPTH_SIZE),
+        .stencilSize = config.attributeOr0(EGL_STENCIL_SIZE),
+        .sampleBuffers = config.attributeOr0(EGL_SAMPLE_BUFFERS),
+        .samples = config.attributeOr0(EGL_SAMPLES),
     };
-    return std::make_shared<osx::Config>(host::makeHostPixelFormat(request));
 }
 
 std::vector<Config> makeConfigs(const std::shared_ptr<osx::Config> &hostConfig, const DeviceProfile &profile) {

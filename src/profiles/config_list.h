@@ -6,16 +6,23 @@
 #include <memory>
 #include <vector>
 
+#include "host/pixel_format.h"
 #include "profiles/config.h"
 #include "profiles/device_profile.h"
 
 namespace egl {
 
+// What stands behind the configs on the host, and by which rules they are chosen.
+enum class ConfigKind {
+    ofDevice,  // one format for all, and the rules of the device
+    ofDesktop, // a format for each, what only the host can tell, and the rules of the EGL specification
+};
+
 class ConfigList {
 public:
-    // Asks the platform for one format on the display with this host word and shares it among all configs. A host
-    // without one gives a list all the same; the failure shows when a context is made.
-    ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay);
+    // Asks the platform for formats on the display with this host word. A host without one gives a list all the same;
+    // the failure shows when a context is made.
+    ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay, ConfigKind kind = ConfigKind::ofDevice);
     ConfigList(const ConfigList &) = delete;
     ConfigList &operator=(const ConfigList &) = delete;
 
@@ -30,12 +37,15 @@ public:
     [[nodiscard]] const Config &noConfig() const { return m_noConfig; }
 
 private:
+    const ConfigKind m_kind;
     std::map<uint64_t, Config> m_configs;
     Config m_noConfig;
 };
 
 // One format for all configs, whatever they say themselves. Never null; the format inside may be.
 [[nodiscard]] std::shared_ptr<osx::Config> makeHostConfig(uint64_t nativeDisplay);
+// What the host is to be asked for on behalf of a config.
+[[nodiscard]] host::PixelFormatRequest formatRequest(const Config &config, uint64_t nativeDisplay);
 // Empty without a host config.
 [[nodiscard]] std::vector<Config> makeConfigs(const std::shared_ptr<osx::Config> &hostConfig,
                                               const DeviceProfile &profile);

@@ -1,7 +1,5 @@
 #include "profiles/device_profile.h"
 
-#include <optional>
-
 namespace egl {
 
 namespace {
@@ -21,6 +19,13 @@ const DeviceProfile defaultProfile{};
 
 bool isDefaultProfile(const DeviceProfile &profile) {
     return profile.configs == defaultProfile.configs && profile.name == defaultProfile.name;
+}
+
+std::optional<int32_t> highestEs3Minor(const DeviceProfile &profile) {
+    for (int32_t minor = 2; minor >= 0; --minor) {
+        if (isEsVersionAllowed(profile, 3, minor)) return minor;
+    }
+    return std::nullopt;
 }
 
 bool isEsVersionAllowed(const DeviceProfile &profile, int32_t major, int32_t minor) {

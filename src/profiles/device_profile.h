@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -12,9 +13,10 @@ namespace egl {
 enum EsVersion : int32_t { ES1 = 1, ES2, ES3, ES31, ES32 }; // ES 1.x, 2.0, 3.0, 3.1, 3.2
 
 struct DeviceProfile {
-    std::set<Config> configs;     // by id; of two with one id the first stays
-    std::string name;             // the name it was asked for by; empty in defaultProfile
-    std::set<int32_t> esVersions; // EsVersion values
+    std::set<Config> configs;          // by id; of two with one id the first stays
+    std::string name;                  // the name it was asked for by; empty in defaultProfile
+    std::set<int32_t> esVersions;      // EsVersion values
+    bool hasConfigsOfHostOnly = false; // for desktop clients: configs that the host does not have are left out
 };
 
 // No device: one built-in config and every ES version.
@@ -22,6 +24,9 @@ extern const DeviceProfile defaultProfile;
 
 // Compares configs and name; versions do not count.
 [[nodiscard]] bool isDefaultProfile(const DeviceProfile &profile);
+
+// The highest version of ES 3 that contexts may have: its minor number, or nothing. Every one without a device.
+[[nodiscard]] std::optional<int32_t> highestEs3Minor(const DeviceProfile &profile);
 
 // Whether a context of this version may be made. Versions that ES never had are refused under every profile.
 [[nodiscard]] bool isEsVersionAllowed(const DeviceProfile &profile, int32_t major, int32_t minor);

@@ -59,6 +59,7 @@ bool readDeviceProfile(DeviceProfile &profile, std::string_view text, const CKZR
     const tinyxml2::XMLElement *root = document.FirstChildElement("profile");
     const tinyxml2::XMLElement *egl = root ? root->FirstChildElement("egl") : nullptr;
     if (!egl) return false;
+    profile.hasConfigsOfHostOnly = egl->BoolAttribute("host_only");
 
     for (auto *config = egl->FirstChildElement("config"); config; config = config->NextSiblingElement("config"))
         profile.configs.insert(readConfig(*config));

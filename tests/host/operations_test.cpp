@@ -45,7 +45,7 @@ struct Bench {
     OperationsHost &host;
     Context first = context(core), second = context(legacy);
     View view = host.makeView(64, 48, title);
-    Buffer buffer{operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8)};
+    Buffer buffer{operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8, nullptr)};
     const ContextContainer *const firstContext = first.get(); // also once it was released
     SavedBinding *saved = nullptr;
 

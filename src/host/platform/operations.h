@@ -17,6 +17,7 @@ struct SavedBinding;     // what a thread had current
 struct View {
     uint64_t display = 0;
     uint64_t window = 0;
+    const PixelFormat *format = nullptr; // that it is drawn to with; null for the format of the context
     bool operator==(const View &) const = default;
 };
 
@@ -40,10 +41,27 @@ enum PixelFormatAttribute : uint32_t {
     SampleBuffers = 55,
     Samples = 56,
     OpenGLProfile = 99,
-    // Of formats only, never in a list: the id and the class of the visual that windows need to be drawn to directly.
+    // Of formats only, never in a list: the id and the class of the visual that windows need to be drawn to directly,
+    // 0 where windows cannot be drawn to; the kinds of drawables, as bits of EGL_SURFACE_TYPE; limits of the host.
     NativeVisualId = 0x10000,
     NativeVisualType = 0x10001,
+    DrawableTypes = 0x10002,
+    MaxSwapInterval = 0x10003,
+    MaxPbufferWidth = 0x10004,
+    MaxPbufferHeight = 0x10005,
+    MaxPbufferPixels = 0x10006,
+
+    // A format that stands for one config alone. Fit is 1 for the nearest that the host has, 2 for one of just these
+    // sizes or none; 3 is for contexts that go with drawables of any format.
+    Fit = 0x10010,
+    RedSize = 0x10011,
+    GreenSize = 0x10012,
+    BlueSize = 0x10013,
 };
+
+constexpr uint32_t fitNearest = 1;
+constexpr uint32_t fitExactly = 2;
+constexpr uint32_t fitAnyDrawable = 3;
 
 constexpr uint32_t profileLegacy = 0x1000;
 constexpr uint32_t profile3_2Core = 0x3200;
@@ -54,7 +72,8 @@ struct PlatformOperations {
     PixelFormat *(*createPixelFormat)(uint64_t display, const uint32_t *attributes);
     // The value that the list of the format asked for or the host gave; 0 for an attribute that it does not have.
     int32_t (*pixelFormatValue)(const PixelFormat *format, uint32_t attribute);
-    // A copy of the format with another attribute list, for the same display.
+    // A copy of the format with another attribute list, for the same display. One that was made to fit a config takes
+    // nothing but the profile from the list.
     PixelFormat *(*derivePixelFormat)(const PixelFormat *format, const uint32_t *attributes);
     // Null is allowed.
     void (*releasePixelFormat)(PixelFormat *format);
@@ -92,9 +111,9 @@ struct PlatformOperations {
     // Makes it current again and frees the record. Null is allowed and clears the current context.
     void (*restoreBinding)(SavedBinding *binding);
 
-    // Null when the host refuses the values.
+    // Null when the host refuses the values. format: as of views.
     PixelBuffer *(*createPixelBuffer)(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
-                                      int32_t height);
+                                      int32_t height, const PixelFormat *format);
     // In pixels. Outputs may be null; a null buffer writes nothing.
     void (*pixelBufferSize)(const PixelBuffer *buffer, int32_t *width, int32_t *height);
     // Null is allowed.

@@ -69,14 +69,14 @@ TEST_F(Cocoa, OwnersOfEachObject) {
     EXPECT_EQ(createHostContext({.format = nullptr})->context->container(), nullptr);
     messages += "-- the format goes, a buffer comes\n";
     operations.releasePixelFormat(format);
-    const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 64, 32));
+    const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 64, 32, nullptr));
     EXPECT_EQ(retainCount(buffer.get()), 1u);
     expectMessages("owners.txt");
 }
 
 TEST_F(Cocoa, BindingInOrder) {
     const auto handle = createHostContext({.format = makeHostPixelFormat(shared)});
-    auto *buffer = operations.createPixelBuffer(0, 0, 0, 4, 4);
+    auto *buffer = operations.createPixelBuffer(0, 0, 0, 4, 4, nullptr);
     const View view = makeView(4, 4, "t"), other = makeView(4, 4, "t");
     const auto window = surfaceOf(view), late = surfaceOf(other);
     const std::pair<const char *, std::shared_ptr<glove::ISurface>> rows[] = {

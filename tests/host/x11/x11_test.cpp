@@ -68,7 +68,7 @@ TEST_F(OnX11, ChildIsSeenOnlyWhileItIsDrawnTo) {
 
 TEST_F(OnX11, PixelBuffersOutliveTheirReleaseAndLeaveTheContextCurrent) {
     const auto made = context(), other = context(legacyList);
-    Buffer buffer(operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8));
+    Buffer buffer(operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8, nullptr));
     for (const auto &context : {made.get(), other.get()})
         ASSERT_TRUE(operations.setPixelBuffer(context, buffer.get()) && operations.makeCurrent(context));
     buffer.reset();
@@ -114,7 +114,7 @@ TEST(ServerThatDies, MakesEveryOperationFail) {
 
     const Format format(operations.createPixelFormat(0, coreList));
     const Context made(operations.createContext(format.get(), nullptr));
-    const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 8, 8));
+    const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 8, 8, nullptr));
     ASSERT_NE(made, nullptr);
     const View root{0, DefaultRootWindow(x11::Connection::open(0)->display())};
     EXPECT_TRUE(operations.setView(made.get(), root));

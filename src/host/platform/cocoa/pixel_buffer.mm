@@ -5,7 +5,7 @@
 namespace host::platform::cocoa {
 
 PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
-                               int32_t height) {
+                               int32_t height, const PixelFormat *) {
     return handleOf<PixelBuffer>([[NSOpenGLPixelBuffer alloc] initWithTextureTarget:target
                                                               textureInternalFormat:internalFormat
                                                               textureMaxMipMapLevel:maxMipLevel

@@ -50,7 +50,9 @@ std::string text(const Object *object) {
 }
 
 std::string text(const View &view) {
-    return view.window ? std::to_string(view.display) + ":" + std::to_string(view.window) : "null";
+    if (!view.window) return "null";
+    const std::string window = std::to_string(view.display) + ":" + std::to_string(view.window);
+    return view.format ? window + " with " + text(view.format) : window;
 }
 
 std::string text(const SavedBinding *saved) {
@@ -234,13 +236,14 @@ void restoreBinding(SavedBinding *saved) {
 }
 
 PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
-                               int32_t height) {
+                               int32_t height, const PixelFormat *format) {
     const std::lock_guard lock(script().mutex);
     PixelBuffer *buffer = nullptr;
     if (!takeFailure("createPixelBuffer") && width > 0 && height > 0) {
         buffer = new PixelBuffer{"buffer" + std::to_string(++script().bufferCount), width, height};
     }
-    note(call("createPixelBuffer", target, internalFormat, maxMipLevel, width, height) + " = " + text(buffer));
+    note(call("createPixelBuffer", target, internalFormat, maxMipLevel, width, height) +
+         (format ? " with " + text(format) : "") + " = " + text(buffer));
     return buffer;
 }
 

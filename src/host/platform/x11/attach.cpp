@@ -4,6 +4,7 @@
 
 #include "host/platform/x11/context.h"
 #include "host/platform/x11/current.h"
+#include "host/platform/x11/pixel_format.h"
 
 namespace host::platform::x11 {
 
@@ -14,7 +15,8 @@ GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     auto &connection = container.connection;
     const auto facts = connection.windowFacts(view);
     if (!facts || !facts->canBeDrawnTo) return None;
-    const auto &visual = container.config.visual;
+    const auto &visual = (view.format ? view.format->config : container.config).visual;
+    if (!visual.visualid) return None;
     if (facts->visual == visual.visualid) return view.window;
     return connection.children().childOf(view.window, visual, facts->width, facts->height);
 }

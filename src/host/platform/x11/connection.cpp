@@ -88,6 +88,12 @@ bool Connection::hasGlxExtension(std::string_view name) const {
     return m_glxExtensions.find(" " + std::string(name) + " ") != std::string::npos;
 }
 
+int32_t Connection::maxSwapInterval() const {
+    // The extensions set no bound, and hosts give none before there is a drawable.
+    const bool takesAny = hasGlxExtension("GLX_EXT_swap_control") || hasGlxExtension("GLX_MESA_swap_control");
+    return takesAny ? INT32_MAX : 1;
+}
+
 void Connection::flush() {
     // Xlib's own call asks the system for events, too.
     if (hasRequestsToSend(m_display)) XFlush(m_display);

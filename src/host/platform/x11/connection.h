@@ -35,6 +35,8 @@ public:
     // The server went away. Nothing may be asked of GLX any more.
     [[nodiscard]] bool isLost() const { return m_isLost; }
     [[nodiscard]] bool hasGlxExtension(std::string_view name) const;
+    // The greatest that a drawable takes; 1 for a host that does not say.
+    [[nodiscard]] int32_t maxSwapInterval() const;
 
     // A software renderer, which asks the server for the size of its drawable and does not look at the answer.
     [[nodiscard]] bool isSoftware() const { return m_isSoftware; }

@@ -22,7 +22,8 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
     static const auto createAttribs = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
         glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXCreateContextAttribsARB")));
     if (!createAttribs) return nullptr;
-    return createAttribs(connection.display(), format.config.handle, share, True,
+    const bool isConfigless = format.fitsAnyDrawable && connection.hasGlxExtension("GLX_EXT_no_config_context");
+    return createAttribs(connection.display(), isConfigless ? nullptr : format.config.handle, share, True,
                          isLegacy ? legacyAttributes : coreAttributes);
 }
 

@@ -28,31 +28,47 @@ Visuals trueColorVisuals(Display *display, int screen) {
     return visuals;
 }
 
+// Bits of EGL_SURFACE_TYPE, of which windows need a visual.
+int32_t drawableTypes(int glxTypes, bool hasVisual) {
+    constexpr int32_t pbuffer = 1, pixmap = 2, window = 4;
+    return (glxTypes & GLX_PBUFFER_BIT ? pbuffer : 0) | (glxTypes & GLX_PIXMAP_BIT ? pixmap : 0) |
+           (hasVisual && glxTypes & GLX_WINDOW_BIT ? window : 0);
+}
+
 std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, const Visuals &visuals) {
     const auto value = [&](int attribute) {
         int result = 0;
         glXGetFBConfigAttrib(display, handle, attribute, &result);
         return result;
     };
-    constexpr int drawables = GLX_WINDOW_BIT | GLX_PBUFFER_BIT;
     const auto visual = visuals.find(static_cast<VisualID>(value(GLX_VISUAL_ID)));
-    if (visual == visuals.end() || !(value(GLX_RENDER_TYPE) & GLX_RGBA_BIT)) return std::nullopt;
-    if ((value(GLX_DRAWABLE_TYPE) & drawables) != drawables) return std::nullopt;
+    const bool hasVisual = visual != visuals.end();
+    // One of a visual of another class is for programs that look for just that.
+    if (!(value(GLX_RENDER_TYPE) & GLX_RGBA_BIT) || (!hasVisual && value(GLX_VISUAL_ID))) return std::nullopt;
+    const ChannelSizes channels{value(GLX_RED_SIZE), value(GLX_GREEN_SIZE), value(GLX_BLUE_SIZE)};
     return FbConfig{
         .handle = handle,
-        .visual = visual->second,
+        .visual = hasVisual ? visual->second : XVisualInfo{},
         .sizes =
             {
                 .isDoubleBuffered = value(GLX_DOUBLEBUFFER) ? 1 : 0,
-                .color = value(GLX_RED_SIZE) + value(GLX_GREEN_SIZE) + value(GLX_BLUE_SIZE),
+                .color = channels.red + channels.green + channels.blue,
                 .alpha = value(GLX_ALPHA_SIZE),
                 .depth = value(GLX_DEPTH_SIZE),
                 .stencil = value(GLX_STENCIL_SIZE),
                 .sampleBuffers = value(GLX_SAMPLE_BUFFERS),
                 .samples = value(GLX_SAMPLES),
             },
+        .channels = channels,
+        .maxPbuffer = {value(GLX_MAX_PBUFFER_WIDTH), value(GLX_MAX_PBUFFER_HEIGHT), value(GLX_MAX_PBUFFER_PIXELS)},
+        .drawableTypes = drawableTypes(value(GLX_DRAWABLE_TYPE), hasVisual),
         .hasCaveat = value(GLX_CONFIG_CAVEAT) != GLX_NONE,
     };
+}
+
+bool isForWindowsAndPbuffers(const FbConfig &config) {
+    constexpr int32_t both = 1 | 4;
+    return (config.drawableTypes & both) == both;
 }
 
 bool isLargeEnough(const FormatSizes &sizes, const FormatSizes &wanted) {
@@ -68,6 +84,25 @@ int bits(const FormatSizes &sizes) {
     return sizes.color + sizes.alpha + sizes.depth + sizes.stencil;
 }
 
+// What is missing weighs more than what is too much.
+int distance(int have, int want) {
+    return have < want ? (want - have) * 64 : have - want;
+}
+
+int distance(const FbConfig &config, const FormatSizes &wanted, const ChannelSizes &channels) {
+    return distance(config.channels.red, channels.red) + distance(config.channels.green, channels.green) +
+           distance(config.channels.blue, channels.blue) + distance(config.sizes.alpha, wanted.alpha) +
+           distance(config.sizes.depth, wanted.depth) + distance(config.sizes.stencil, wanted.stencil) +
+           distance(sampleCount(config.sizes), sampleCount(wanted)) * 16;
+}
+
+// Where two of equal sizes differ, the one that more programs can use comes first.
+auto preference(const FbConfig &config, const FormatSizes &wanted, Display *display, int screen) {
+    return std::tuple(config.sizes.isDoubleBuffered != wanted.isDoubleBuffered, config.hasCaveat,
+                      config.visual.depth != DefaultDepth(display, screen),
+                      config.visual.visualid != XVisualIDFromVisual(DefaultVisual(display, screen)));
+}
+
 } // namespace
 
 void FbConfigs::read() {
@@ -79,27 +114,42 @@ void FbConfigs::read() {
     }
 }
 
+const std::vector<FbConfig> &FbConfigs::configs() {
+    std::call_once(m_readOnce, [this] { read(); });
+    return m_configs;
+}
+
 const FbConfig *FbConfigs::choose(const FormatSizes &wanted) {
+    const auto &configs = this->configs();
     const std::lock_guard lock(m_mutex);
-    if (!m_isRead) read();
-    m_isRead = true;
     const auto [chosen, isNew] = m_chosen.try_emplace(wanted, nullptr);
     if (!isNew) return chosen->second;
 
     // What was asked for comes first: a window of another visual is drawn to through a child window.
-    const VisualID defaultVisual = XVisualIDFromVisual(DefaultVisual(m_display, m_screen));
-    const int defaultDepth = DefaultDepth(m_display, m_screen);
     const auto rank = [&](const FbConfig &config) {
-        return std::tuple(config.sizes.isDoubleBuffered != wanted.isDoubleBuffered,
-                          std::abs(sampleCount(config.sizes) - sampleCount(wanted)), config.hasCaveat,
-                          config.visual.depth != defaultDepth, config.visual.visualid != defaultVisual,
-                          bits(config.sizes));
+        const auto [isOtherBuffering, hasCaveat, isOtherDepth, isOtherVisual] =
+            preference(config, wanted, m_display, m_screen);
+        return std::tuple(isOtherBuffering, std::abs(sampleCount(config.sizes) - sampleCount(wanted)), hasCaveat,
+                          isOtherDepth, isOtherVisual, bits(config.sizes));
     };
-    for (const auto &config : m_configs) {
-        if (!isLargeEnough(config.sizes, wanted)) continue;
+    for (const auto &config : configs) {
+        if (!isForWindowsAndPbuffers(config) || !isLargeEnough(config.sizes, wanted)) continue;
         if (!chosen->second || rank(config) < rank(*chosen->second)) chosen->second = &config;
     }
     return chosen->second;
+}
+
+const FbConfig *FbConfigs::chooseFitting(const FormatSizes &wanted, const ChannelSizes &channels, bool exactly) {
+    const FbConfig *chosen = nullptr;
+    const auto rank = [&](const FbConfig &config) {
+        return std::tuple(distance(config, wanted, channels), !isForWindowsAndPbuffers(config),
+                          preference(config, wanted, m_display, m_screen));
+    };
+    for (const auto &config : configs()) {
+        if (exactly && distance(config, wanted, channels) != 0) continue;
+        if (!chosen || rank(config) < rank(*chosen)) chosen = &config;
+    }
+    return chosen;
 }
 
 } // namespace host::platform::x11

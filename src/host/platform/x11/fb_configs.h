@@ -25,10 +25,22 @@ struct FormatSizes {
     auto operator<=>(const FormatSizes &) const = default;
 };
 
+struct ChannelSizes {
+    int32_t red = 0;
+    int32_t green = 0;
+    int32_t blue = 0;
+    bool operator==(const ChannelSizes &) const = default;
+};
+
 struct FbConfig {
     GLXFBConfig handle = nullptr;
-    XVisualInfo visual{};
+    XVisualInfo visual{}; // with id 0 where windows cannot be drawn to
     FormatSizes sizes;
+    ChannelSizes channels;
+    struct {
+        int32_t width = 0, height = 0, pixels = 0;
+    } maxPbuffer;
+    int32_t drawableTypes = 0; // bits of EGL_SURFACE_TYPE
     bool hasCaveat = false;
 };
 
@@ -38,16 +50,19 @@ public:
 
     // Good for windows and pixel buffers, TrueColor, at least as large as asked. Null when there is no such config.
     [[nodiscard]] const FbConfig *choose(const FormatSizes &wanted);
+    // The config that comes nearest to these sizes; those that are good for windows win among equals. Null when exactly
+    // these are wanted and no config has them.
+    [[nodiscard]] const FbConfig *chooseFitting(const FormatSizes &wanted, const ChannelSizes &channels, bool exactly);
 
-private:
+    const std::vector<FbConfig> &configs(); // read at the first call
     void read();
 
     Display *m_display;
     int m_screen;
-    std::mutex m_mutex;
-    bool m_isRead = false;
+    std::once_flag m_readOnce;
     std::vector<FbConfig> m_configs; // constant once read
-    std::map<FormatSizes, const FbConfig *> m_chosen;
+    std::mutex m_mutex;
+    std::map<FormatSizes, const FbConfig *> m_chosen; // guarded by m_mutex
 };
 
 } // namespace host::platform::x11

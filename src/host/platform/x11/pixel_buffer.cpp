@@ -1,5 +1,6 @@
 #include "host/platform/x11/pixel_buffer.h"
 
+#include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/x_calls.h"
 
 namespace host::platform::x11 {
@@ -10,7 +11,8 @@ Pbuffers::~Pbuffers() {
     }
 }
 
-GLXPbuffer Pbuffers::bufferFor(Connection &connection, const FbConfig &config) {
+GLXPbuffer Pbuffers::bufferFor(Connection &connection, const FbConfig &contextConfig) {
+    const FbConfig &config = m_own ? *m_own : contextConfig;
     const std::lock_guard lock(m_mutex);
     const std::pair key(&connection, &config);
     if (const auto known = m_buffers.find(key); known != m_buffers.end()) return known->second;
@@ -22,10 +24,11 @@ GLXPbuffer Pbuffers::bufferFor(Connection &connection, const FbConfig &config) {
 }
 
 PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
-                               int32_t height) {
+                               int32_t height, const PixelFormat *format) {
     if (width < 1 || height < 1) return nullptr;
-    return new PixelBuffer{target, internalFormat, maxMipLevel,
-                           width,  height,         std::make_shared<Pbuffers>(width, height)};
+    return new PixelBuffer{target,      internalFormat,
+                           maxMipLevel, width,
+                           height,      std::make_shared<Pbuffers>(width, height, format ? &format->config : nullptr)};
 }
 
 void pixelBufferSize(const PixelBuffer *buffer, int32_t *width, int32_t *height) {

@@ -17,23 +17,25 @@ namespace x11 {
 
 class Pbuffers {
 public:
-    Pbuffers(int32_t width, int32_t height) : m_width(width), m_height(height) {}
+    // own: the config of every buffer; null for that of the context that attaches it.
+    Pbuffers(int32_t width, int32_t height, const FbConfig *own) : m_width(width), m_height(height), m_own(own) {}
     Pbuffers(const Pbuffers &) = delete;
     Pbuffers &operator=(const Pbuffers &) = delete;
     ~Pbuffers();
 
     // Made at the first call for the config. None when the host refuses.
-    [[nodiscard]] GLXPbuffer bufferFor(Connection &connection, const FbConfig &config);
+    [[nodiscard]] GLXPbuffer bufferFor(Connection &connection, const FbConfig &contextConfig);
 
 private:
-    int32_t m_width;
-    int32_t m_height;
+    const int32_t m_width;
+    const int32_t m_height;
+    const FbConfig *const m_own;
     std::mutex m_mutex;
     std::map<std::pair<Connection *, const FbConfig *>, GLXPbuffer> m_buffers;
 };
 
 PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
-                               int32_t height);
+                               int32_t height, const PixelFormat *format);
 void pixelBufferSize(const PixelBuffer *buffer, int32_t *width, int32_t *height);
 void releasePixelBuffer(PixelBuffer *buffer);
 

@@ -19,40 +19,80 @@ constexpr SizeRow sizeRows[] = {
     {Samples, &FormatSizes::samples},
 };
 
-PixelFormat *choose(Connection *connection, const uint32_t *attributes) {
-    if (!connection) return nullptr;
-    FormatSizes wanted;
+struct Request {
+    FormatSizes sizes;
+    ChannelSizes channels;
     uint32_t profile = profileLegacy;
+    uint32_t fit = 0;
+};
+
+Request read(const uint32_t *attributes) {
+    Request request;
     for (; *attributes; ++attributes) {
         const uint32_t attribute = *attributes;
         const uint32_t value = attribute == DoubleBuffer ? 1 : *++attributes;
-        if (attribute == OpenGLProfile) profile = value;
+        const auto size = static_cast<int32_t>(value);
+        if (attribute == OpenGLProfile) request.profile = value;
+        if (attribute == Fit) request.fit = value;
+        if (attribute == RedSize) request.channels.red = size;
+        if (attribute == GreenSize) request.channels.green = size;
+        if (attribute == BlueSize) request.channels.blue = size;
         for (const auto &row : sizeRows) {
-            if (row.attribute == attribute) wanted.*row.size = static_cast<int32_t>(value);
+            if (row.attribute == attribute) request.sizes.*row.size = size;
         }
     }
-    const auto *config = connection->configs().choose(wanted);
-    return config ? new PixelFormat{*connection, *config, profile} : nullptr;
+    return request;
+}
+
+PixelFormat *choose(Connection *connection, const Request &request) {
+    if (!connection) return nullptr;
+    const bool fitsConfig = request.fit == fitNearest || request.fit == fitExactly;
+    const auto *config =
+        fitsConfig ? connection->configs().chooseFitting(request.sizes, request.channels, request.fit == fitExactly)
+                   : connection->configs().choose(request.sizes);
+    if (!config) return nullptr;
+    return new PixelFormat{*connection, *config, request.profile, fitsConfig, request.fit == fitAnyDrawable};
 }
 
 } // namespace
 
 PixelFormat *createPixelFormat(uint64_t display, const uint32_t *attributes) {
-    return choose(Connection::open(display), attributes);
+    return choose(Connection::open(display), read(attributes));
 }
 
 int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
-    if (attribute == OpenGLProfile) return static_cast<int32_t>(format->profile);
-    if (attribute == NativeVisualId) return static_cast<int32_t>(format->config.visual.visualid);
-    if (attribute == NativeVisualType) return format->config.visual.c_class;
+    const FbConfig &config = format->config;
+    switch (attribute) {
+    case OpenGLProfile:
+        return static_cast<int32_t>(format->profile);
+    case NativeVisualId:
+        return static_cast<int32_t>(config.visual.visualid);
+    case NativeVisualType:
+        return config.visual.visualid ? config.visual.c_class : 0;
+    case DrawableTypes:
+        return config.drawableTypes;
+    case MaxSwapInterval:
+        return format->connection.maxSwapInterval();
+    case MaxPbufferWidth:
+        return config.maxPbuffer.width;
+    case MaxPbufferHeight:
+        return config.maxPbuffer.height;
+    case MaxPbufferPixels:
+        return config.maxPbuffer.pixels;
+    default:
+        break;
+    }
     for (const auto &row : sizeRows) {
-        if (row.attribute == attribute) return format->config.sizes.*row.size;
+        if (row.attribute == attribute) return config.sizes.*row.size;
     }
     return 0;
 }
 
 PixelFormat *derivePixelFormat(const PixelFormat *format, const uint32_t *attributes) {
-    return choose(&format->connection, attributes);
+    const auto request = read(attributes);
+    if (!format->fitsConfig && !format->fitsAnyDrawable) return choose(&format->connection, request);
+    return new PixelFormat{format->connection, format->config, request.profile, format->fitsConfig,
+                           format->fitsAnyDrawable};
 }
 
 void releasePixelFormat(PixelFormat *format) {

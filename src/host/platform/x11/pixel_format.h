@@ -13,6 +13,8 @@ struct PixelFormat {
     x11::Connection &connection;
     const x11::FbConfig &config;
     uint32_t profile = profileLegacy; // what a list without a profile gets
+    bool fitsConfig = false;          // made for one config, and keeps what was found for it
+    bool fitsAnyDrawable = false;     // contexts of it have no config of their own
 };
 
 namespace x11 {
