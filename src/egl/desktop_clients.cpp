@@ -4,7 +4,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "egl/es_library.h"
 #include "egl/extension_entries.h"
+#include "egl/state.h"
 #include "foundation/log.h"
 
 namespace egl::desktop_clients {
@@ -43,6 +45,12 @@ Function findEntry(const char *name) {
         if (strcmp(name, entry.name) == 0) return entry.function;
     }
     return nullptr;
+}
+
+bool isKnownToBackEnd(const char *name) {
+    if (!isOn()) return false;
+    static const EsLibrary &library = *new EsLibrary(State::loadEsLibrary(2));
+    return library.getExtProcAddress && library.getExtProcAddress(name);
 }
 
 uint64_t windowOf(void *nativeWindow) {

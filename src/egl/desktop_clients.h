@@ -21,6 +21,9 @@ using Function = void (*)();
 // take pointers. Null for all other names.
 [[nodiscard]] Function findEntry(const char *name);
 
+// Whether the back end for ES 2 and 3 has a function of that name on some host, so that it is worth an entry.
+[[nodiscard]] bool isKnownToBackEnd(const char *name);
+
 // The window behind the argument of a platform entry: a pointer to it in this mode, otherwise the window itself.
 // 0 for a null pointer.
 [[nodiscard]] uint64_t windowOf(void *nativeWindow);

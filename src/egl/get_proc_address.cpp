@@ -7,6 +7,7 @@
 #include "egl/extension_entries.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
+#include "gl/dynamic_entries.h"
 #include "gl/entry_tables.h"
 
 namespace egl {
@@ -34,7 +35,10 @@ const gl::ProcTableRow extensionEntries[] = {
 
 // Null when there is no such entry.
 gl::Function findFunction(const char *name) {
-    if (strncmp(name, "egl", 3) != 0) return gl::findEntry(name);
+    if (strncmp(name, "egl", 3) != 0) {
+        if (const auto function = gl::findEntry(name)) return function;
+        return desktop_clients::isKnownToBackEnd(name) ? gl::dynamicEntry(name) : nullptr;
+    }
     if (const auto function = desktop_clients::findEntry(name)) return function;
     for (const gl::ProcTableRow &row : extensionEntries) {
         if (strcmp(name, row.name) == 0) return row.function;

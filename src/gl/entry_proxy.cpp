@@ -23,7 +23,7 @@ Function resolveEntry(const GLEntryProxy &proxy, Function nothing) {
     }
     const Function answer = table.ask(table.context, proxy.name);
     // The back end may have called this very entry while it answered; the first answer stays.
-    Function resolver = functionsWithoutContext.slots[proxy.slot];
+    Function resolver = functionsWithoutContext.at(proxy.slot);
     const bool isKept = std::atomic_ref(table.slots[proxy.slot])
                             .compare_exchange_strong(resolver, answer ? answer : nothing, std::memory_order_relaxed);
     if (!answer && isKept)

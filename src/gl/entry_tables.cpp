@@ -33,7 +33,7 @@ namespace base {
 
 // In the order of the slots.
 #define PROXY(result, name, parameters) #name,
-constexpr NameIndex<slotCount> names({
+constexpr NameIndex<firstDynamicSlot> names({
 #include "gl/data/extension_entries.def"
 
 #include "gl/data/base_entries.def"

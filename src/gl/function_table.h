@@ -12,7 +12,9 @@ using Function = void (*)();
 
 inline constexpr size_t extensionNameCount = 226;
 inline constexpr size_t baseNameCount = 439;
-inline constexpr size_t slotCount = extensionNameCount + baseNameCount;
+inline constexpr size_t firstDynamicSlot = extensionNameCount + baseNameCount;
+inline constexpr size_t dynamicNameCount = 512; // of names that the tables lack
+inline constexpr size_t slotCount = firstDynamicSlot + dynamicNameCount;
 
 struct FunctionTable {
     // The back end's function of this name for the context, or null.
@@ -32,10 +34,14 @@ extern FunctionTable functionsWithoutContext;
 
 // The calling thread's table. Statically initialised and trivially destructible, so that entries work at any time; the
 // static model of thread-local storage makes reading it one load.
-extern constinit thread_local FunctionTable *currentFunctions __attribute__((tls_model("initial-exec")));
+extern constinit thread_local FunctionTable *currentFunctions __asm__("zelvane_current_functions")
+    __attribute__((tls_model("initial-exec")));
 
 // The table of the context at that address. It stays for good: a context that is made at the address of a dead one
 // inherits its answers. Any thread.
 [[nodiscard]] FunctionTable &functionTableAt(void *context, FunctionTable::Ask ask);
+
+// Gives a dynamic slot its resolver in every table. Before its entry is handed out. Any thread.
+void openSlot(size_t slot, Function resolver);
 
 } // namespace gl

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "foundation/log.h"
+#include "gl/dynamic_entries.h"
 #include "gl/entry_tables.h"
 
 using gl::Entry;
@@ -120,6 +121,38 @@ TEST_F(EntryProxy, ArgumentsAndResultPassUnchanged) {
     makeCurrent(0);
     for (const int call : {1, 2})
         EXPECT_EQ(std::apply(Entry<first, Mixed>::call, arguments), 1LL << 50) << "call " << call;
+}
+
+// A name that no table has, whose signature only the caller knows: every register that arguments can be in comes
+// through the first call, and the stack.
+TEST_F(EntryProxy, DynamicEntriesPassWhatTheyDoNotKnow) {
+    using Mixed = double(int, double, void *, float, int, int, double, int, double, int, double, int, double, int,
+                         double, double, double);
+    const auto entry = reinterpret_cast<Mixed *>(gl::dynamicEntry("glNobodyKnows"));
+    if (!entry) GTEST_SKIP() << "this machine has no such entries";
+    EXPECT_EQ(gl::dynamicEntry("glNobodyKnows"), reinterpret_cast<gl::Function>(entry));
+    const auto call = [&] { return entry(1, .5, contexts, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16); };
+    EXPECT_EQ(call(), 0);
+    EXPECT_THAT(std::exchange(errors, {}), SizeIs(1)) << "no current context";
+
+    backEnd = [](const void *, const std::string &name) {
+        EXPECT_EQ(name, "glNobodyKnows");
+        return address<Mixed>([](int a, double b, void *c, float d, int e, int f, double g, int h, double i, int j,
+                                 double k, int l, double m, int n, double o, double p, double q) {
+            const bool isWhole = c == contexts && a == 1 && d == 3 && e == 4 && f == 5 && g == 6 && h == 7 && i == 8;
+            return isWhole ? b + j + k + l + m + n + o + p + q : -1;
+        });
+    };
+    makeCurrent(0);
+    for (const int time : {1, 2})
+        EXPECT_EQ(call(), 100.5) << time;
+    makeCurrent(1);
+    EXPECT_NE(gl::dynamicEntry("glMadeLater"), nullptr);
+    backEnd = [](auto...) { return nullptr; };
+    EXPECT_EQ(reinterpret_cast<int (*)()>(gl::dynamicEntry("glMadeLater"))(), 0) << "in a table that was there before";
+    for (int index = 0; gl::dynamicEntry(("gl" + std::to_string(index)).c_str()); ++index)
+        ASSERT_LT(index, 1000) << "there is an end to them";
+    EXPECT_EQ(call(), 0);
 }
 
 TEST_F(EntryProxy, BackEndMayCallEntriesWhileItAnswers) {
