@@ -23,7 +23,7 @@ LiveContexts &liveContexts() {
     return *contexts;
 }
 
-thread_local uint64_t threadHostContext = 0;
+constinit thread_local uint64_t threadHostContext __attribute__((tls_model("initial-exec"))) = 0;
 
 bool attach(ContextContainer *container, const NativeObject &native) {
     if (native.isPixelBuffer()) return operations.setPixelBuffer(container, native.pixelBuffer);

@@ -30,7 +30,7 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
 constexpr uintptr_t released = 1;
 
 // Its address tells threads apart.
-thread_local const int threadWord = 0;
+constinit thread_local const int threadWord __attribute__((tls_model("initial-exec"))) = 0;
 
 uintptr_t ownWord() {
     return reinterpret_cast<uintptr_t>(&threadWord);

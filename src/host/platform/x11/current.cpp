@@ -22,7 +22,7 @@ namespace x11 {
 namespace {
 
 // What the thread holds. Plain, since threads make contexts current in their exit handlers too.
-thread_local ContextContainer *threadContainer = nullptr;
+constinit thread_local ContextContainer *threadContainer __attribute__((tls_model("initial-exec"))) = nullptr;
 
 void setThreadContainer(ContextContainer *container);
 
