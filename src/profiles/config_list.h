@@ -15,7 +15,7 @@ namespace egl {
 // What stands behind the configs on the host, and by which rules they are chosen.
 enum class ConfigKind {
     ofDevice,  // one format for all, and the rules of the device
-    ofDesktop, // a format for each, what only the host can tell, and the rules of the EGL specification
+    ofDesktop, // a format for each, what only the host can tell, and the rules of the EGL standard
 };
 
 class ConfigList {
