@@ -1,7 +1,9 @@
 #include "egl/context.h"
 
+#include "egl/desktop_clients.h"
 #include "egl/display.h"
 #include "egl/private_buffers.h"
+#include "egl/standard/context_rules.h"
 #include "egl/state.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
@@ -21,6 +23,7 @@ std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &conf
     // A config that no profile has carries no host format; the bind then finds no context.
     request.format = config.hostConfig() ? config.hostConfig()->format() : nullptr;
     request.legacy = attribs.legacyClient;
+    if (desktop_clients::isOn()) request.robustness = standard::robustnessOf(attribs);
     if (const auto shareHandle = share ? share->hostContext() : nullptr) request.share = shareHandle->context;
     return host::createHostContext(request);
 }
@@ -61,6 +64,14 @@ bool Context::deleteEsContext() {
     if (deleteClaimed()) return true;
     boundToThread = false;
     return false;
+}
+
+void Context::deleteOnceLetGo() {
+    m_deletesWhenLetGo = true;
+    if (!claim()) return;
+    m_deletesWhenLetGo = false;
+    static_cast<void>(deleteClaimed());
+    boundToThread = false;
 }
 
 bool Context::deleteClaimed() {

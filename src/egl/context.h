@@ -27,6 +27,10 @@ struct ContextGroup {
     // Held for the first bind of each: it makes the back-end contexts of those that it shares with. Recursive, since a
     // back end may call entries while it makes a context.
     std::recursive_mutex firstBinds;
+
+    // For threads that have none of the group current and ask the host for an object of the group. Made when needed.
+    std::mutex helperMutex; // held while the context is current
+    std::unique_ptr<host::HostContextHandle> helper;
 };
 
 // Held by shared pointer; the address is stable for its life and is what its table of functions goes by.
@@ -49,6 +53,8 @@ public:
     // Ends the host context and the back-end context; later, if another thread has the context current. False when the
     // back end cannot delete; the host context is gone all the same. Any thread.
     [[nodiscard]] bool deleteEsContext();
+    // The same, but not before a thread that has it current lets it go, this one too.
+    void deleteOnceLetGo();
     // Hands a render mode to the back end. False when it takes none.
     bool setRenderMode(uint8_t mode) const;
 

@@ -5,6 +5,7 @@
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/print_system_report.h"
+#include "egl/standard/context_rules.h"
 #include "foundation/log.h"
 
 namespace egl {
@@ -34,19 +35,32 @@ bool settleVersion(const Config &config, ContextAttribs &attribs) {
            capability::HostAnswer::carries;
 }
 
+EGLint readAttributes(const Config &config, const EGLint *list, ContextAttribs &attribs) {
+    if (desktop_clients::isOn()) return standard::readContextAttributes(config, state().profile(), list, attribs);
+    // An error of its own, which is pending by then, stays.
+    if (!parseContextAttribs(config, list, attribs)) return EGL_BAD_ATTRIBUTE;
+    const bool isAllowed = isEsVersionAllowed(state().profile(), attribs.requestedMajor, attribs.esMinor);
+    return isAllowed ? EGL_SUCCESS : EGL_BAD_MATCH;
+}
+
+// Devices do not look.
+bool canShare(const ContextAttribs &attribs, const ContextAttribs &share) {
+    return !desktop_clients::isOn() || attribs.resetStrategy == share.resetStrategy;
+}
+
 EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext shareHandle, const EGLint *list) {
     const auto config = configHandle ? display.findConfig(configHandle) : display.noConfig();
     if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_CONTEXT);
 
     ContextAttribs attribs = defaultContextAttribs();
-    if (!parseContextAttribs(*config, list, attribs)) return refuse(EGL_BAD_ATTRIBUTE);
-    if (!isEsVersionAllowed(state().profile(), attribs.requestedMajor, attribs.esMinor)) return refuse(EGL_BAD_MATCH);
+    if (const EGLint error = readAttributes(*config, list, attribs); error != EGL_SUCCESS) return refuse(error);
     if (attribs.requestedMajor == 1) attribs.legacyClient = 1;
 
     std::shared_ptr<Context> share;
     if (shareHandle) {
         share = display.findContext(shareHandle);
         if (!share) return refuse(EGL_BAD_CONTEXT);
+        if (!canShare(attribs, share->attribs)) return refuse(EGL_BAD_MATCH);
     }
     if (!settleVersion(*config, attribs)) {
         logMessage(LogWarning, "%s", hostFallsShort);
@@ -80,10 +94,11 @@ EGLBoolean EGLAPIENTRY eglDestroyContext(EGLDisplay dpy, EGLContext ctx) {
 }
 
 EGLBoolean EGLAPIENTRY eglQueryContext(EGLDisplay dpy, EGLContext ctx, EGLint attribute, EGLint *value) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto context = display.findContext(ctx);
         if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
         if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        if (desktop_clients::isOn()) return finish(standard::queryContext(*context, attribute, value));
         switch (attribute) {
         case EGL_CONTEXT_CLIENT_VERSION:
             // What was asked for, not what it was raised to.

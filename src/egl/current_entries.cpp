@@ -3,6 +3,7 @@
 #include "egl/binding.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/standard/binding_rules.h"
 
 namespace egl {
 
@@ -18,18 +19,17 @@ bool hasSurfacesOf(const Context &context, const BindMemo *memo) {
     return memo && context.surfaces.draw.get() == memo->draw && context.surfaces.read.get() == memo->read;
 }
 
-// Only desktop clients are told: for devices all configs stand on one format. A context without a config, which has the
-// id 0, goes with every surface.
-bool fitTogether(const Context &context, const SurfacePair &surfaces) {
-    if (!desktop_clients::isOn() || context.config->attributeOr0(EGL_CONFIG_ID) == 0) return true;
-    const auto sizes = drawableSizes(*context.config);
-    return surfaces.draw->sizes == sizes && surfaces.read->sizes == sizes;
-}
-
 EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
     if (!prepareThread()) return fail(EGL_BAD_ALLOC, EGL_FALSE);
     const uint64_t version = display.handlesVersion();
     const BindMemo *const memo = threadRecord.hold->memos.find(request);
+    // A bind that a device takes may be refused here, and the other way round: devices tell after the old context is
+    // gone, and not whether configs fit, since theirs stand on one format.
+    if (!memo && desktop_clients::isOn()) {
+        if (const EGLint error = standard::bindError(display, request); error != EGL_SUCCESS) {
+            return fail(error, EGL_FALSE);
+        }
+    }
     auto context = memo ? memo->context.lock() : display.findContext(request.context);
     if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
     BindClaim claim(*context);
@@ -46,7 +46,6 @@ EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
         if (!isKnown) found = {display.findSurface(request.draw), display.findSurface(request.read)};
         const SurfacePair &surfaces = isKnown ? context->surfaces : found;
         if (!surfaces.draw || !surfaces.read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        if (!isKnown && !fitTogether(*context, surfaces)) return fail(EGL_BAD_MATCH, EGL_FALSE);
         if (!bindContext(context, surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
         if (!isKnown) {
             threadRecord.hold->memos.note({request, version, context, surfaces.draw.get(), surfaces.read.get()});
@@ -63,6 +62,7 @@ EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
 using namespace egl;
 
 EGLBoolean EGLAPIENTRY eglMakeCurrent(EGLDisplay dpy, EGLSurface draw, EGLSurface read, EGLContext ctx) {
+    if (desktop_clients::isOn() && !ctx && !draw && !read) return standard::releaseCurrent(dpy);
     return entry(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (!ctx && !draw && !read) return releaseCurrent(display);
         return makeCurrent(display, {&display, draw, read, ctx});

@@ -6,6 +6,7 @@
 
 #include "egl/es_library.h"
 #include "egl/extension_entries.h"
+#include "egl/standard/syncs.h"
 #include "egl/state.h"
 #include "foundation/log.h"
 
@@ -23,6 +24,7 @@ const Entry entries[] = {
 #include "egl/data/core_entries.def"
 #undef CORE_ENTRY
     {"eglCreatePlatformWindowSurfaceEXT", reinterpret_cast<Function>(createPlatformWindowSurfaceEXT)},
+    {"eglSignalSyncKHR", reinterpret_cast<Function>(standard::signalSync)},
 };
 
 } // namespace
@@ -33,10 +35,6 @@ bool isOn() {
         return value && strcmp(value, "1") == 0;
     }();
     return on;
-}
-
-const char *clientExtensions() {
-    return isOn() ? "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 " : nullptr;
 }
 
 Function findEntry(const char *name) {

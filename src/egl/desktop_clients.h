@@ -14,9 +14,6 @@ using Function = void (*)();
 // Whether the process is in this mode.
 [[nodiscard]] bool isOn();
 
-// The client extension string, or null.
-[[nodiscard]] const char *clientExtensions();
-
 // What eglGetProcAddress hands out before it looks at its tables: the core EGL entries, and the platform entries that
 // take pointers. Null for all other names.
 [[nodiscard]] Function findEntry(const char *name);

@@ -46,6 +46,7 @@ void Display::terminate() {
     configs.swap(m_configs);
     images.swap(m_images);
     m_syncs.clear(); // the host's fences are left behind
+    standardSyncs.clear();
     contexts = m_contexts.takeAll();
     surfaces = m_surfaces.takeAll();
     forgetMemos();

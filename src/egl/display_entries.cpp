@@ -1,7 +1,10 @@
 // Entries that belong to a display as a whole.
 #include "egl/context.h"
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/standard/binding_rules.h"
+#include "egl/standard/platforms.h"
 #include "host/egl_version.h"
 
 namespace egl {
@@ -21,9 +24,13 @@ constexpr uint64_t hostDefaultDisplay = 0;
 
 } // namespace
 
-EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum, void *nativeDisplay, const EGLint *) {
+EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum platform, void *nativeDisplay, const EGLint *attributes) {
     const uint64_t id = hostWord(nativeDisplay);
-    return getDisplay(id, id);
+    if (!desktop_clients::isOn()) return getDisplay(id, id);
+    const EGLint error = standard::platformDisplayError(platform, nativeDisplay, attributes);
+    if (error != EGL_SUCCESS) return fail(error, EGL_NO_DISPLAY);
+    return platform == EGL_PLATFORM_SURFACELESS_MESA ? getDisplay(standard::surfacelessDisplay, hostDefaultDisplay)
+                                                     : getDisplay(id, id);
 }
 
 } // namespace egl
@@ -47,6 +54,7 @@ EGLBoolean EGLAPIENTRY eglInitialize(EGLDisplay dpy, EGLint *major, EGLint *mino
 }
 
 EGLBoolean EGLAPIENTRY eglTerminate(EGLDisplay dpy) {
+    if (desktop_clients::isOn()) return standard::terminate(dpy);
     return entry(dpy, EGL_FALSE, [](Display &display) {
         display.terminate();
         return succeed(EGL_TRUE);
@@ -58,6 +66,7 @@ EGLBoolean EGLAPIENTRY eglSwapInterval(EGLDisplay dpy, EGLint interval) {
         const auto current = currentContext();
         if (!current) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
         if (!current->surfaces.draw) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (desktop_clients::isOn()) interval = standard::clampedSwapInterval(*current->config, interval);
         host::setHostSwapInterval(current->hostContext().get(), interval);
         return succeed(EGL_TRUE);
     });

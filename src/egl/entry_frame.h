@@ -20,6 +20,11 @@ template <typename Result>
     return result;
 }
 
+// Of a call that says nothing but whether it went well.
+[[nodiscard]] inline EGLBoolean finish(EGLint error) {
+    return error == EGL_SUCCESS ? succeed<EGLBoolean>(EGL_TRUE) : fail<EGLBoolean>(error, EGL_FALSE);
+}
+
 // Runs body(display) once the process is loaded and dpy is a display that is initialised.
 template <typename Result, typename Body>
 [[nodiscard]] Result entry(EGLDisplay dpy, Result failure, Body body) {

@@ -12,7 +12,7 @@ EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint att
 // eglSwapBuffers; the rectangles are not read.
 EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface, const EGLint *rects, EGLint count);
 EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *rects, EGLint count);
-// Takes every platform and reads no attribute.
+// For devices it takes every platform and reads no attribute.
 EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum platform, void *nativeDisplay, const EGLint *attributes);
 // Handed out for desktop clients alone, and behind the core entry: eglCreateWindowSurface, with the window behind what
 // desktop_clients::windowOf is given.

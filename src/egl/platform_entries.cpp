@@ -34,8 +34,8 @@ EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig 
 
 using namespace egl;
 
-EGLDisplay EGLAPIENTRY eglGetPlatformDisplay(EGLenum platform, void *nativeDisplay, const EGLAttrib *) {
-    return getPlatformDisplayEXT(platform, nativeDisplay, nullptr);
+EGLDisplay EGLAPIENTRY eglGetPlatformDisplay(EGLenum platform, void *nativeDisplay, const EGLAttrib *attributes) {
+    return getPlatformDisplayEXT(platform, nativeDisplay, narrowed(attributes).data());
 }
 
 EGLSurface EGLAPIENTRY eglCreatePlatformWindowSurface(EGLDisplay dpy, EGLConfig config, void *nativeWindow,

@@ -1,6 +1,7 @@
 // eglQueryString. All texts are constant, so they live for the process and depend on nothing.
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/standard/extensions.h"
 #include "foundation/product.h"
 #include "host/egl_version.h"
 
@@ -49,10 +50,9 @@ using namespace egl;
 const char *EGLAPIENTRY eglQueryString(EGLDisplay dpy, EGLint name) {
     if (dpy == EGL_NO_DISPLAY && name == EGL_VERSION) return succeed(versionString());
     if (dpy == EGL_NO_DISPLAY && name == EGL_EXTENSIONS) {
-        const char *ofDesktop = desktop_clients::clientExtensions();
-        return succeed(ofDesktop ? ofDesktop : clientExtensions);
+        return succeed<const char *>(desktop_clients::isOn() ? standard::clientExtensions() : clientExtensions);
     }
-    return entry(dpy, noString, [&](Display &) {
+    return entry(dpy, noString, [&](Display &display) {
         switch (name) {
         case EGL_VENDOR:
             return succeed<const char *>("Tarnwell Graphics");
@@ -61,7 +61,7 @@ const char *EGLAPIENTRY eglQueryString(EGLDisplay dpy, EGLint name) {
         case EGL_CLIENT_APIS:
             return succeed<const char *>("OpenGL_ES");
         case EGL_EXTENSIONS:
-            return succeed<const char *>(displayExtensions);
+            return succeed(desktop_clients::isOn() ? standard::displayExtensions(display) : displayExtensions);
         default:
             return fail(EGL_BAD_PARAMETER, noString);
         }

@@ -26,6 +26,7 @@ Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, 
                  const EGLint *attributes)
     : handle(handle), isSrgb(lastValue(attributes, EGL_GL_COLORSPACE) == EGL_GL_COLORSPACE_SRGB),
       sizes(drawableSizes(config)),
+      canPreserve(config.attributeOr0(EGL_SURFACE_TYPE) & EGL_SWAP_BEHAVIOR_PRESERVED_BIT),
       hostSurface(std::move(hostSurface)), m_attributes{{EGL_RENDER_BUFFER, EGL_BACK_BUFFER},
                                                         {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
                                                         {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},
@@ -62,15 +63,32 @@ EGLint Surface::attribute(EGLint name) {
         // Always 0, so that an application repaints in full.
         bufferAgeQueried = true;
         return 0;
-    default: {
-        const auto found = m_attributes.find(name);
-        return found == m_attributes.end() ? 0 : found->second;
+    default:
+        return storedOr(name, 0);
     }
-    }
+}
+
+EGLint Surface::storedOr(EGLint name, EGLint otherwise) const {
+    const auto found = m_attributes.find(name);
+    return found == m_attributes.end() ? otherwise : found->second;
+}
+
+Surface::Size Surface::size() const {
+    return hostSurface ? Size(hostSurface->width(), hostSurface->height()) : Size();
+}
+
+EGLint Surface::age() {
+    const std::lock_guard lock(m_frameMutex);
+    m_countsFrames = true;
+    return canPreserve && m_frameSize && *m_frameSize == size() ? 1 : 0;
 }
 
 void Surface::swap() {
     if (hostSurface) hostSurface->swapBuffers();
+    {
+        const std::lock_guard lock(m_frameMutex);
+        if (m_countsFrames) m_frameSize = size();
+    }
     damageRegionSet = false;
     bufferAgeQueried = false;
 }

@@ -6,6 +6,9 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <mutex>
+#include <optional>
+#include <utility>
 
 #include "egl/egl_api.h"
 #include "host/host_surface.h"
@@ -27,20 +30,36 @@ public:
     [[nodiscard]] bool query(EGLint attribute, EGLint *value);
     // The stored value or 0; the size comes from the host at every call, and is 0 without a host surface.
     [[nodiscard]] EGLint attribute(EGLint attribute);
+    // The value of the list, or of what stands for it without one.
+    [[nodiscard]] EGLint storedOr(EGLint attribute, EGLint otherwise) const;
+    // 1 if the last frame is still in the back buffer of a surface that can preserve it, 0 if nothing is known of it.
+    [[nodiscard]] EGLint age();
     // Shows the surface and begins a new frame of it.
     void swap();
 
     const uint64_t handle;
     const bool isSrgb;
     const DrawableSizes sizes;
+    const bool canPreserve; // what is drawn stays over a swap, if the application asks for that
     const std::shared_ptr<glove::ISurface> hostSurface;
 
     // Since the last swap.
     std::atomic<bool> damageRegionSet = false;
     std::atomic<bool> bufferAgeQueried = false;
 
+    // As eglSurfaceAttrib has set them for desktop clients.
+    std::atomic<EGLint> mipmapLevel = 0;
+    std::atomic<EGLint> multisampleResolve = EGL_MULTISAMPLE_RESOLVE_DEFAULT;
+    std::atomic<EGLint> swapBehavior = EGL_BUFFER_DESTROYED;
+
 private:
+    using Size = std::pair<int32_t, int32_t>;
+    [[nodiscard]] Size size() const;
+
     std::map<EGLint, EGLint> m_attributes; // constant after construction
+    std::mutex m_frameMutex;
+    std::optional<Size> m_frameSize; // of the last frame; only for surfaces that were asked for their age
+    bool m_countsFrames = false;
 };
 
 } // namespace egl

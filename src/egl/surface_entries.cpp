@@ -1,5 +1,7 @@
 // Entries that make, destroy and ask surfaces.
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
 
 #include <algorithm>
@@ -23,6 +25,33 @@ bool areKeysIn(const EGLint *attributes, std::span<const EGLint> accepted) {
     return true;
 }
 
+bool hasSurfaceType(const Config &config, EGLint bit) {
+    return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
+}
+
+// The config's surface type is not looked at, unlike with the other kinds; applications rely on it.
+EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativeWindowType window,
+                          const EGLint *attributes) {
+    if (desktop_clients::isOn()) {
+        const EGLint error = standard::windowSurfaceError(config, attributes);
+        const host::platform::View view{display.nativeDisplay, hostWord(window)};
+        return error == EGL_SUCCESS && !host::isHostWindow(view) ? EGL_BAD_NATIVE_WINDOW : error;
+    }
+    return areKeysIn(attributes, windowAttributes) ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+}
+
+EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
+    if (desktop_clients::isOn()) return standard::pbufferSurfaceError(config, attributes);
+    if (!hasSurfaceType(config, EGL_PBUFFER_BIT)) return EGL_BAD_MATCH;
+    return areKeysIn(attributes, pbufferAttributes) ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+}
+
+EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
+    if (desktop_clients::isOn()) return standard::pixmapSurfaceError(config, attributes);
+    if (attributes && *attributes != EGL_NONE) return EGL_BAD_ATTRIBUTE;
+    return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+}
+
 EGLSurface finishSurface(const std::shared_ptr<Surface> &surface) {
     if (!surface) return fail(EGL_BAD_ALLOC, EGL_NO_SURFACE);
     return succeed(asHandle<EGLSurface>(surface->handle));
@@ -34,14 +63,15 @@ EGLSurface finishSurface(const std::shared_ptr<Surface> &surface) {
 
 using namespace egl;
 
-// The config's surface type is not looked at, unlike with the other kinds; applications rely on it.
 EGLSurface EGLAPIENTRY eglCreateWindowSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativeWindowType window,
                                               const EGLint *attributes) {
     return entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
         if (!window) return fail(EGL_BAD_NATIVE_WINDOW, EGL_NO_SURFACE);
-        if (!areKeysIn(attributes, windowAttributes)) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SURFACE);
+        if (const EGLint error = windowSurfaceError(display, *config, window, attributes); error != EGL_SUCCESS) {
+            return fail(error, EGL_NO_SURFACE);
+        }
         return finishSurface(display.createWindowSurface(*config, hostWord(window), attributes));
     });
 }
@@ -50,8 +80,8 @@ EGLSurface EGLAPIENTRY eglCreatePbufferSurface(EGLDisplay dpy, EGLConfig configH
     return entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
-        if (!(config->attributeOr0(EGL_SURFACE_TYPE) & EGL_PBUFFER_BIT)) return fail(EGL_BAD_MATCH, EGL_NO_SURFACE);
-        if (!areKeysIn(attributes, pbufferAttributes)) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SURFACE);
+        const EGLint error = pbufferSurfaceError(*config, attributes);
+        if (error != EGL_SUCCESS) return fail(error, EGL_NO_SURFACE);
         return finishSurface(display.createPbufferSurface(*config, attributes));
     });
 }
@@ -62,8 +92,8 @@ EGLSurface EGLAPIENTRY eglCreatePixmapSurface(EGLDisplay dpy, EGLConfig configHa
     return entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
-        if (attributes && *attributes != EGL_NONE) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SURFACE);
-        if (!(config->attributeOr0(EGL_SURFACE_TYPE) & EGL_PIXMAP_BIT)) return fail(EGL_BAD_MATCH, EGL_NO_SURFACE);
+        const EGLint error = pixmapSurfaceError(*config, attributes);
+        if (error != EGL_SUCCESS) return fail(error, EGL_NO_SURFACE);
         return finishSurface(display.createPixmapSurface(*config, attributes));
     });
 }
@@ -83,19 +113,22 @@ EGLBoolean EGLAPIENTRY eglDestroySurface(EGLDisplay dpy, EGLSurface surface) {
 }
 
 EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint *value) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);
         if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
         if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        if (desktop_clients::isOn()) return finish(standard::querySurface(*found, attribute, value));
         if (!found->query(attribute, value)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
         return succeed(EGL_TRUE);
     });
 }
 
 // Takes three attributes and drops their values: a later query answers as before, and callers rely on the success.
-EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
-        if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint value) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
+        const auto found = display.findSurface(surface);
+        if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (desktop_clients::isOn()) return finish(standard::setSurfaceAttribute(*found, attribute, value));
         switch (attribute) {
         case EGL_MIPMAP_LEVEL:
         case EGL_SWAP_BEHAVIOR:

@@ -1,7 +1,9 @@
 // Swapping, damage and copying.
 #include "egl/context.h"
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/standard/binding_rules.h"
 #include "egl/surface.h"
 #include "foundation/log.h"
 
@@ -12,6 +14,7 @@ namespace {
 EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     const auto found = display.findSurface(surface);
     if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+    if (desktop_clients::isOn() && !standard::isDrawnTo(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     found->swap();
     State::countFrame();
     return succeed(EGL_TRUE);
@@ -54,6 +57,7 @@ EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
 EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType) {
     return entry(dpy, EGL_FALSE, [&](Display &display) {
         if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (desktop_clients::isOn()) return fail(EGL_BAD_NATIVE_PIXMAP, EGL_FALSE);
         logMessage(LogWarning, "eglCopyBuffers is not currently supported by Zelvane.");
         return succeed(EGL_FALSE);
     });

@@ -1,7 +1,9 @@
 // Sync objects: host fences, used directly. A sync's handle is the host's.
 #include "egl/context.h"
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/standard/syncs.h"
 
 #include <vector>
 
@@ -60,10 +62,11 @@ EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) 
     return succeed(display.createSync(hostEGL));
 }
 
-// What waits and queries check: a known sync, then a current context.
-template <typename Result, typename Body>
-Result withSync(EGLDisplay dpy, EGLSync sync, Result failure, Body body) {
+// What waits and queries of devices check: a known sync, then a current context.
+template <typename Result, typename Standard, typename Body>
+Result withSync(EGLDisplay dpy, EGLSync sync, Result failure, Standard standard, Body body) {
     return entry(dpy, failure, [&](Display &display) {
+        if (desktop_clients::isOn()) return standard(display);
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, failure);
         if (!threadRecord.current) return fail(EGL_BAD_CONTEXT, failure);
         return body(state().hostEGL());
@@ -83,7 +86,7 @@ EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *at
 EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value) {
     EGLAttrib wide = 0;
     const EGLBoolean result = eglGetSyncAttrib(dpy, sync, attribute, value ? &wide : nullptr);
-    if (value) *value = static_cast<EGLint>(wide);
+    if (value && (result || !desktop_clients::isOn())) *value = static_cast<EGLint>(wide);
     return result;
 }
 
@@ -92,11 +95,15 @@ EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint att
 using namespace egl;
 
 EGLSync EGLAPIENTRY eglCreateSync(EGLDisplay dpy, EGLenum type, const EGLAttrib *attributes) {
-    return entry(dpy, EGL_NO_SYNC, [&](Display &display) { return createSync(display, type, attributes); });
+    return entry(dpy, EGL_NO_SYNC, [&](Display &display) {
+        return desktop_clients::isOn() ? standard::createSync(display, type, attributes)
+                                       : createSync(display, type, attributes);
+    });
 }
 
 EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
+        if (desktop_clients::isOn()) return standard::destroySync(display, sync);
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
         // Without a current context the sync stays known; callers rely on destroying it later.
         if (!threadRecord.current) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
@@ -106,30 +113,37 @@ EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
 }
 
 EGLint EGLAPIENTRY eglClientWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags, EGLTime timeoutNs) {
-    return withSync<EGLint>(dpy, sync, 0, [&](const host::EGL &hostEGL) -> EGLint {
-        if (!hostEGL.glClientWaitSync) return succeed(0);
-        const uint32_t result = hostEGL.glClientWaitSync(sync, hostWaitFlags(flags), timeoutNs);
-        hostEGL.sweepError();
-        return succeed(eglWaitResult(result));
-    });
+    return withSync<EGLint>(
+        dpy, sync, 0, [&](Display &display) { return standard::clientWaitSync(display, sync, flags, timeoutNs); },
+        [&](const host::EGL &hostEGL) -> EGLint {
+            if (!hostEGL.glClientWaitSync) return succeed(0);
+            const uint32_t result = hostEGL.glClientWaitSync(sync, hostWaitFlags(flags), timeoutNs);
+            hostEGL.sweepError();
+            return succeed(eglWaitResult(result));
+        });
 }
 
 EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
-    return withSync<EGLBoolean>(dpy, sync, EGL_FALSE, [&](const host::EGL &hostEGL) -> EGLBoolean {
-        // The host takes no flags here and raises an error for them, which the sweep hides.
-        if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), glTimeoutIgnored);
-        hostEGL.sweepError();
-        return succeed(EGL_TRUE);
-    });
+    return withSync<EGLBoolean>(
+        dpy, sync, EGL_FALSE, [&](Display &display) { return standard::waitSync(display, sync, flags); },
+        [&](const host::EGL &hostEGL) -> EGLBoolean {
+            // The host takes no flags here and raises an error for them, which the sweep hides.
+            if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), glTimeoutIgnored);
+            hostEGL.sweepError();
+            return succeed(EGL_TRUE);
+        });
 }
 
 // Answers with the host's numbers; nothing is translated back, and callers rely on that.
 EGLBoolean EGLAPIENTRY eglGetSyncAttrib(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLAttrib *value) {
-    return withSync<EGLBoolean>(dpy, sync, EGL_FALSE, [&](const host::EGL &hostEGL) -> EGLBoolean {
-        if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        int32_t answer = 0;
-        if (hostEGL.glGetSynciv) hostEGL.glGetSynciv(sync, hostSyncName(attribute), 1, nullptr, &answer);
-        *value = answer;
-        return succeed(EGL_TRUE);
-    });
+    return withSync<EGLBoolean>(
+        dpy, sync, EGL_FALSE,
+        [&](Display &display) { return standard::getSyncAttrib(display, sync, attribute, value); },
+        [&](const host::EGL &hostEGL) -> EGLBoolean {
+            if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+            int32_t answer = 0;
+            if (hostEGL.glGetSynciv) hostEGL.glGetSynciv(sync, hostSyncName(attribute), 1, nullptr, &answer);
+            *value = answer;
+            return succeed(EGL_TRUE);
+        });
 }

@@ -1,6 +1,8 @@
 // Entries that look at the calling thread alone. None of them loads anything.
+#include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/standard/binding_rules.h"
 
 using namespace egl;
 
@@ -21,12 +23,27 @@ EGLenum EGLAPIENTRY eglQueryAPI(void) {
     return succeed<EGLenum>(EGL_OPENGL_ES_API);
 }
 
-// The waits wait for nothing; no glFinish reaches the host, and callers rely on their speed.
-EGLBoolean EGLAPIENTRY eglWaitClient(void) {
+namespace egl {
+
+namespace {
+
+// For devices the waits wait for nothing: no glFinish reaches the host, and callers rely on their speed.
+EGLBoolean waitForClient() {
+    if (!desktop_clients::isOn() || !threadRecord.current) return succeed(EGL_TRUE);
+    const auto glFinish = reinterpret_cast<void (*)()>(threadRecord.current->getExtProcAddress("glFinish"));
+    if (glFinish) glFinish();
     return succeed(EGL_TRUE);
 }
+
+} // namespace
+
+} // namespace egl
+
+EGLBoolean EGLAPIENTRY eglWaitClient(void) {
+    return waitForClient();
+}
 EGLBoolean EGLAPIENTRY eglWaitGL(void) {
-    return succeed(EGL_TRUE);
+    return waitForClient();
 }
 
 EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
@@ -34,7 +51,8 @@ EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
     return succeed(EGL_TRUE);
 }
 
-// Releases nothing: the current context stays current, and callers rely on that.
+// For devices it releases nothing: the current context stays current, and callers rely on that.
 EGLBoolean EGLAPIENTRY eglReleaseThread(void) {
+    if (desktop_clients::isOn()) standard::releaseThread();
     return succeed(EGL_TRUE);
 }

@@ -4,6 +4,7 @@
 #include <pthread.h>
 
 #include "egl/context.h"
+#include "egl/desktop_clients.h"
 #include "gl/function_table.h"
 
 namespace egl {
@@ -70,7 +71,7 @@ void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
 }
 
 void setError(EGLint code) {
-    if (threadRecord.error == EGL_SUCCESS) threadRecord.error = code;
+    if (threadRecord.error == EGL_SUCCESS || desktop_clients::isOn()) threadRecord.error = code;
 }
 
 } // namespace egl

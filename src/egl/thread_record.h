@@ -42,7 +42,8 @@ struct ThreadHold {
 // elsewhere. Its exit handlers may still bind and release, but for those that run in the last round.
 void setCurrentContext(std::shared_ptr<Context> context, Display *display);
 
-// Keeps the first error: a pending one is never overwritten. Only success clears it.
+// Keeps the first error: a pending one is never overwritten, but for desktop clients, who read that of the last call.
+// Otherwise only success clears it.
 void setError(EGLint code);
 
 } // namespace egl

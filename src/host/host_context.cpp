@@ -78,7 +78,7 @@ std::unique_ptr<HostContextHandle> createHostContext(const HostContextRequest &r
     ContextContainer *container = nullptr;
     if (request.format) {
         // The derived format is never released: contexts may outlive whoever would know when.
-        const auto *derived = deriveContextPixelFormat(request.format, request.legacy == 1);
+        const auto *derived = deriveContextPixelFormat(request.format, request.legacy == 1, request.robustness);
         auto *share = request.share ? request.share->container() : nullptr;
         if (derived) container = operations.createContext(derived, share);
     }
@@ -102,9 +102,23 @@ HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostC
     return HostBinding::current;
 }
 
+int32_t hostBufferAge(const HostContextHandle *hostContext) {
+    auto *container = hostContext ? hostContext->context->container() : nullptr;
+    return container ? operations.bufferAge(container) : 0;
+}
+
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval) {
     if (!hostContext || !hostContext->context->container()) return;
     operations.setSwapInterval(hostContext->context->container(), interval);
+}
+
+BorrowedBinding::BorrowedBinding(const HostContextHandle &hostContext)
+    : m_previous(operations.saveBinding()), m_previousNumber(threadHostContext),
+      m_isCurrent(makeHostContextCurrentWithoutDrawable(&hostContext) == HostBinding::current) {}
+
+BorrowedBinding::~BorrowedBinding() {
+    operations.restoreBinding(m_previous);
+    setCurrentHostContext(m_previousNumber);
 }
 
 uint64_t currentHostContext() {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "host/host_surface.h"
+#include "host/pixel_format.h"
 #include "host/platform/operations.h"
 
 namespace glove {
@@ -42,6 +43,7 @@ struct HostContextHandle {
 struct HostContextRequest {
     platform::PixelFormat *format = nullptr;
     int32_t legacy = 0; // 1 for a legacy context, any other value for 3.2 core
+    Robustness robustness = {};
     std::shared_ptr<glove::GLContext> share = nullptr;
 };
 
@@ -61,8 +63,28 @@ enum class HostBinding {
 // Makes it current with nothing to draw to but framebuffer objects.
 [[nodiscard]] HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostContext);
 
+// How many frames ago the contents of the back buffer were drawn that the context has; 0 for contents that are not
+// known.
+[[nodiscard]] int32_t hostBufferAge(const HostContextHandle *hostContext);
+
 // Unclamped, in frames per swap. Does nothing without a context.
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval);
+
+// Has a context current without a drawable while it lives, and puts back what was current before.
+class BorrowedBinding {
+public:
+    explicit BorrowedBinding(const HostContextHandle &hostContext);
+    BorrowedBinding(const BorrowedBinding &) = delete;
+    BorrowedBinding &operator=(const BorrowedBinding &) = delete;
+    ~BorrowedBinding();
+
+    [[nodiscard]] bool isCurrent() const { return m_isCurrent; }
+
+private:
+    platform::SavedBinding *m_previous;
+    uint64_t m_previousNumber;
+    bool m_isCurrent;
+};
 
 // The number of the context that this layer last made current on the thread, 0 for none. After a probe it may be a dead
 // one's.

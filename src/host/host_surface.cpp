@@ -136,6 +136,12 @@ std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint6
     return std::make_shared<glove::WindowSurface>(platform::View{display, nativeWindow, format});
 }
 
+bool isHostWindow(const platform::View &view) {
+    int32_t width = -1;
+    operations.viewSize(view, &width, nullptr);
+    return width >= 0;
+}
+
 std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
                                                           const platform::PixelFormat *format) {
     const auto request = readPBufferRequest(attributes);

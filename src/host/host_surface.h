@@ -81,6 +81,8 @@ struct PBufferRequest {
 // format: that the surface has of its own; null for that of the context that draws to it.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow,
                                                                        const platform::PixelFormat *format = nullptr);
+// Whether the host tells the size of such a window.
+[[nodiscard]] bool isHostWindow(const platform::View &view);
 // The buffer inside may be null when the host refuses the values.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
                                                                         const platform::PixelFormat *format = nullptr);

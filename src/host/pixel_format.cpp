@@ -66,7 +66,7 @@ PixelFormat *makeProbePixelFormat() {
     return operations.createPixelFormat(0, list);
 }
 
-PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy) {
+PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy, const Robustness &robustness) {
     int32_t values[std::size(readBack)];
     for (size_t i = 0; i < std::size(readBack); ++i) {
         values[i] = operations.pixelFormatValue(format, readBack[i]);
@@ -75,6 +75,8 @@ PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy) {
     std::vector<uint32_t> list{OpenGLProfile, legacy ? profileLegacy : profile3_2Core, DoubleBuffer};
     for (size_t i = 1; i < std::size(readBack); ++i)
         append(list, readBack[i], values[i]);
+    if (robustness.isRobust) append(list, RobustAccess, 1);
+    if (robustness.losesContextOnReset) append(list, LosesContextOnReset, 1);
     list.push_back(0);
     return operations.derivePixelFormat(format, list.data());
 }

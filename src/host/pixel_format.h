@@ -17,6 +17,12 @@ struct PixelFormatRequest {
     int32_t sampleBuffers = 0, samples = 0;
 };
 
+// What a context promises when a program reads out of bounds, or the host is reset.
+struct Robustness {
+    bool isRobust = false;
+    bool losesContextOnReset = false;
+};
+
 // Null when the host has nothing fitting.
 [[nodiscard]] platform::PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request);
 // A format for this config alone: the nearest that the host has, or one of just these sizes. Null when there is none.
@@ -26,6 +32,7 @@ struct PixelFormatRequest {
 // A core format on the default display with nothing else asked for.
 [[nodiscard]] platform::PixelFormat *makeProbePixelFormat();
 // Reads the format's values back and asks for them again, always double-buffered, with the profile that is wanted.
-[[nodiscard]] platform::PixelFormat *deriveContextPixelFormat(const platform::PixelFormat *format, bool legacy);
+[[nodiscard]] platform::PixelFormat *deriveContextPixelFormat(const platform::PixelFormat *format, bool legacy,
+                                                              const Robustness &robustness = {});
 
 } // namespace host

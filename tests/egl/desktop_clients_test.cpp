@@ -30,13 +30,15 @@ TEST_F(PlatformEntries, DoWhatTheExtFormsDo) {
 
 TEST_F(DesktopClients, FindWhatTheyExpect) {
     recordingSetFormatValue(host::platform::NativeVisualId, 0x21);
+    recordingSetFormatValue(host::platform::DrawableTypes, EGL_WINDOW_BIT);
     for (const auto &[attribute, expected] : {std::pair(EGL_NATIVE_VISUAL_ID, 0x21), {EGL_NATIVE_RENDERABLE, 1}}) {
         EGLint value = -77;
         EXPECT_SUCCEEDS(eglGetConfigAttrib(initialised(), config(), attribute, &value));
         EXPECT_EQ(value, expected) << attribute;
     }
     EXPECT_STREQ(eglQueryString(nullptr, EGL_EXTENSIONS),
-                 "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 ");
+                 "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
+                 "EGL_MESA_platform_surfaceless EGL_KHR_client_get_all_proc_addresses ");
     EXPECT_EQ(eglGetProcAddress("eglCreateContext"), reinterpret_cast<void (*)()>(eglCreateContext));
 
     unsigned long window = 77;

@@ -50,6 +50,7 @@ enum PixelFormatAttribute : uint32_t {
     MaxPbufferWidth = 0x10004,
     MaxPbufferHeight = 0x10005,
     MaxPbufferPixels = 0x10006,
+    RobustContexts = 0x10007, // 0 where contexts cannot be robust, 1 where all are, 2 where they are on demand
 
     // A format that stands for one config alone. Fit is 1 for the nearest that the host has, 2 for one of just these
     // sizes or none; 3 is for contexts that go with drawables of any format.
@@ -57,7 +58,16 @@ enum PixelFormatAttribute : uint32_t {
     RedSize = 0x10011,
     GreenSize = 0x10012,
     BlueSize = 0x10013,
+
+    // Of the context that is made of the format, in lists alone: whether it is robust, and loses its objects at a
+    // reset.
+    RobustAccess = 0x10020,
+    LosesContextOnReset = 0x10021,
 };
+
+constexpr int32_t robustNever = 0;
+constexpr int32_t robustAlways = 1;
+constexpr int32_t robustOnDemand = 2;
 
 constexpr uint32_t fitNearest = 1;
 constexpr uint32_t fitExactly = 2;
@@ -103,6 +113,8 @@ struct PlatformOperations {
 
     // Shows what was drawn on the attached view.
     void (*flushBuffer)(ContextContainer *container);
+    // How many frames ago what is in the back buffer was drawn; 0 for contents that are not known.
+    int32_t (*bufferAge)(ContextContainer *container);
     // In frames per swap, handed to the host without a bound.
     void (*setSwapInterval)(ContextContainer *container, int32_t interval);
 

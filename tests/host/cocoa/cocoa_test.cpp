@@ -53,7 +53,7 @@ TEST_F(Cocoa, OwnersOfEachObject) {
     auto *format = makeHostPixelFormat(shared);
     auto first = createHostContext({.format = format});
     auto second = createHostContext({.format = format, .share = first->context});
-    EXPECT_TRUE(makeHostContextCurrent(second.get(), surfaceOf(makeView(4, 4, "t"))));
+    EXPECT_NE(makeHostContextCurrent(second.get(), surfaceOf(makeView(4, 4, "t")).get()), HostBinding::failed);
     setHostSwapInterval(second.get(), 7);
     const void *context = current();
     EXPECT_EQ(retainCount(second->context->container()), 1u);
@@ -62,7 +62,7 @@ TEST_F(Cocoa, OwnersOfEachObject) {
     EXPECT_EQ(retainCount(context), 2u);
     operations.restoreBinding(saved);
     EXPECT_EQ(retainCount(context), 1u);
-    EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
+    EXPECT_EQ(makeHostContextCurrent(nullptr, nullptr), HostBinding::current);
     messages += "-- the second goes, neither its format nor its share context\n";
     second.reset();
     messages += "-- no format, no context\n";
@@ -91,7 +91,7 @@ TEST_F(Cocoa, BindingInOrder) {
     messages.clear();
     for (const auto &[name, surface] : rows) {
         messages += "-- "s + name + "\n";
-        EXPECT_TRUE(makeHostContextCurrent(handle.get(), surface));
+        EXPECT_NE(makeHostContextCurrent(handle.get(), surface.get()), HostBinding::failed);
         EXPECT_EQ(current() == nullptr, surface == nullptr);
     }
     messages += "-- swap, each surface\n";
@@ -102,7 +102,7 @@ TEST_F(Cocoa, BindingInOrder) {
     setFrame(other, 5, 5);
     messages += "-- and of one that was bound three times\n";
     setFrame(view, 5, 5);
-    EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
+    EXPECT_EQ(makeHostContextCurrent(nullptr, nullptr), HostBinding::current);
     expectMessages("binding.txt");
 }
 
@@ -132,11 +132,11 @@ TEST_F(Cocoa, NoPoolIsNeeded) {
     const View view = makeView(4, 4, std::string(5000, 'x').c_str());
     std::thread([&] {
         const auto handle = createHostContext({.format = makeHostPixelFormat(shared)});
-        EXPECT_TRUE(makeHostContextCurrent(handle.get(), surfaceOf(view)));
+        EXPECT_EQ(makeHostContextCurrent(handle.get(), surfaceOf(view).get()), HostBinding::current);
         surfaceOf(view)->swapBuffers();
         EXPECT_EQ(operations.viewTitle(view).size(), 5000u);
         EXPECT_FALSE(getTemporaryDirectory().empty());
-        EXPECT_TRUE(makeHostContextCurrent(nullptr, {}));
+        EXPECT_EQ(makeHostContextCurrent(nullptr, nullptr), HostBinding::current);
     }).join();
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "the runtime tells of objects that no pool holds";
 }

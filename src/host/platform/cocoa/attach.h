@@ -10,5 +10,7 @@ View view(const ContextContainer *container);
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer);
 void observeViewFrame(ContextContainer *container, const View &view);
 void flushBuffer(ContextContainer *container);
+// Always 0: Cocoa does not tell.
+int32_t bufferAge(ContextContainer *container);
 
 } // namespace host::platform::cocoa

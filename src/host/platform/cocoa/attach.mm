@@ -64,4 +64,8 @@ void flushBuffer(ContextContainer *container) {
     }
 }
 
+int32_t bufferAge(ContextContainer *) {
+    return 0;
+}
+
 } // namespace host::platform::cocoa

@@ -25,6 +25,7 @@ constinit const PlatformOperations operations = {
     .setPixelBuffer = cocoa::setPixelBuffer,
     .observeViewFrame = cocoa::observeViewFrame,
     .flushBuffer = cocoa::flushBuffer,
+    .bufferAge = cocoa::bufferAge,
     .setSwapInterval = cocoa::setSwapInterval,
     .saveBinding = cocoa::saveBinding,
     .restoreBinding = cocoa::restoreBinding,

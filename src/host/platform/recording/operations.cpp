@@ -211,6 +211,12 @@ void flushBuffer(ContextContainer *container) {
     note(call("flushBuffer", container));
 }
 
+int32_t bufferAge(ContextContainer *container) {
+    const std::lock_guard lock(script().mutex);
+    note(call("bufferAge", container));
+    return 0;
+}
+
 void setSwapInterval(ContextContainer *container, int32_t interval) {
     const std::lock_guard lock(script().mutex);
     note(call("setSwapInterval", container, interval));
@@ -303,6 +309,7 @@ constinit const PlatformOperations operations = {
     .setPixelBuffer = recording::setPixelBuffer,
     .observeViewFrame = recording::observeViewFrame,
     .flushBuffer = recording::flushBuffer,
+    .bufferAge = recording::bufferAge,
     .setSwapInterval = recording::setSwapInterval,
     .saveBinding = recording::saveBinding,
     .restoreBinding = recording::restoreBinding,

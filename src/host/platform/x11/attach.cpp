@@ -83,4 +83,12 @@ void flushBuffer(ContextContainer *container) {
     if (isChild) connection.windows().readEvents(); // which bring a child to its parent's size
 }
 
+int32_t bufferAge(ContextContainer *container) {
+    auto &connection = container->connection;
+    if (!container->attachment.view.window || !connection.hasGlxExtension("GLX_EXT_buffer_age")) return 0;
+    unsigned age = 0;
+    glXQueryDrawable(connection.display(), container->attachment.drawable, GLX_BACK_BUFFER_AGE_EXT, &age);
+    return static_cast<int32_t>(age);
+}
+
 } // namespace host::platform::x11

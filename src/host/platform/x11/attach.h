@@ -10,5 +10,6 @@ View view(const ContextContainer *container);
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer);
 void observeViewFrame(ContextContainer *container, const View &view);
 void flushBuffer(ContextContainer *container);
+int32_t bufferAge(ContextContainer *container);
 
 } // namespace host::platform::x11

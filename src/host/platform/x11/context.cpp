@@ -1,5 +1,8 @@
 #include "host/platform/x11/context.h"
 
+#include <span>
+#include <vector>
+
 #include "host/platform/x11/pixel_format.h"
 
 namespace host::platform::x11 {
@@ -7,10 +10,24 @@ namespace host::platform::x11 {
 namespace {
 
 // Without a version the host gives its highest one that is compatible with the oldest.
-constexpr int legacyAttributes[] = {GLX_CONTEXT_PROFILE_MASK_ARB, GLX_CONTEXT_COMPATIBILITY_PROFILE_BIT_ARB, 0};
-constexpr int coreAttributes[] = {
-    GLX_CONTEXT_MAJOR_VERSION_ARB,    3, GLX_CONTEXT_MINOR_VERSION_ARB, 2, GLX_CONTEXT_PROFILE_MASK_ARB,
-    GLX_CONTEXT_CORE_PROFILE_BIT_ARB, 0};
+constexpr int legacyAttributes[] = {GLX_CONTEXT_PROFILE_MASK_ARB, GLX_CONTEXT_COMPATIBILITY_PROFILE_BIT_ARB};
+constexpr int coreAttributes[] = {GLX_CONTEXT_MAJOR_VERSION_ARB, 3,
+                                  GLX_CONTEXT_MINOR_VERSION_ARB, 2,
+                                  GLX_CONTEXT_PROFILE_MASK_ARB,  GLX_CONTEXT_CORE_PROFILE_BIT_ARB};
+
+std::vector<int> contextAttributes(const PixelFormat &format) {
+    const std::span<const int> ofProfile =
+        format.profile == profileLegacy ? std::span<const int>(legacyAttributes) : coreAttributes;
+    std::vector<int> list(ofProfile.begin(), ofProfile.end());
+    if (robustContexts(format.connection) == robustOnDemand) {
+        if (format.isRobust) list.insert(list.end(), {GLX_CONTEXT_FLAGS_ARB, GLX_CONTEXT_ROBUST_ACCESS_BIT_ARB});
+        if (format.losesContextOnReset) {
+            list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
+        }
+    }
+    list.push_back(None);
+    return list;
+}
 
 GLXContext create(const PixelFormat &format, GLXContext share) {
     auto &connection = format.connection;
@@ -24,7 +41,7 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
     if (!createAttribs) return nullptr;
     const bool isConfigless = format.fitsAnyDrawable && connection.hasGlxExtension("GLX_EXT_no_config_context");
     return createAttribs(connection.display(), isConfigless ? nullptr : format.config.handle, share, True,
-                         isLegacy ? legacyAttributes : coreAttributes);
+                         contextAttributes(format).data());
 }
 
 constexpr uintptr_t released = 1;

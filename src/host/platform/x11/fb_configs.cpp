@@ -63,6 +63,7 @@ std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, const Vis
         .maxPbuffer = {value(GLX_MAX_PBUFFER_WIDTH), value(GLX_MAX_PBUFFER_HEIGHT), value(GLX_MAX_PBUFFER_PIXELS)},
         .drawableTypes = drawableTypes(value(GLX_DRAWABLE_TYPE), hasVisual),
         .hasCaveat = value(GLX_CONFIG_CAVEAT) != GLX_NONE,
+        .copiesAtSwap = value(GLX_SWAP_METHOD_OML) == GLX_SWAP_COPY_OML,
     };
 }
 

@@ -42,6 +42,7 @@ struct FbConfig {
     } maxPbuffer;
     int32_t drawableTypes = 0; // bits of EGL_SURFACE_TYPE
     bool hasCaveat = false;
+    bool copiesAtSwap = false; // so that the back buffer keeps its contents
 };
 
 class FbConfigs {

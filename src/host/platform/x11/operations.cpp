@@ -25,6 +25,7 @@ constinit const PlatformOperations operations = {
     .setPixelBuffer = x11::setPixelBuffer,
     .observeViewFrame = x11::observeViewFrame,
     .flushBuffer = x11::flushBuffer,
+    .bufferAge = x11::bufferAge,
     .setSwapInterval = x11::setSwapInterval,
     .saveBinding = x11::saveBinding,
     .restoreBinding = x11::restoreBinding,

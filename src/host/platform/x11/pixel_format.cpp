@@ -24,6 +24,8 @@ struct Request {
     ChannelSizes channels;
     uint32_t profile = profileLegacy;
     uint32_t fit = 0;
+    bool isRobust = false;
+    bool losesContextOnReset = false;
 };
 
 Request read(const uint32_t *attributes) {
@@ -34,6 +36,8 @@ Request read(const uint32_t *attributes) {
         const auto size = static_cast<int32_t>(value);
         if (attribute == OpenGLProfile) request.profile = value;
         if (attribute == Fit) request.fit = value;
+        if (attribute == RobustAccess) request.isRobust = value;
+        if (attribute == LosesContextOnReset) request.losesContextOnReset = value;
         if (attribute == RedSize) request.channels.red = size;
         if (attribute == GreenSize) request.channels.green = size;
         if (attribute == BlueSize) request.channels.blue = size;
@@ -51,10 +55,28 @@ PixelFormat *choose(Connection *connection, const Request &request) {
         fitsConfig ? connection->configs().chooseFitting(request.sizes, request.channels, request.fit == fitExactly)
                    : connection->configs().choose(request.sizes);
     if (!config) return nullptr;
-    return new PixelFormat{*connection, *config, request.profile, fitsConfig, request.fit == fitAnyDrawable};
+    return new PixelFormat{.connection = *connection,
+                           .config = *config,
+                           .profile = request.profile,
+                           .fitsConfig = fitsConfig,
+                           .fitsAnyDrawable = request.fit == fitAnyDrawable};
+}
+
+// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server.
+int32_t drawableTypes(const PixelFormat &format) {
+    constexpr int32_t window = 4, preserved = 0x400;
+    const int32_t types = format.config.drawableTypes;
+    const bool keepsFrames = format.config.copiesAtSwap || format.connection.isSoftware();
+    return types & window && keepsFrames ? types | preserved : types;
 }
 
 } // namespace
+
+int32_t robustContexts(const Connection &connection) {
+    if (connection.hasGlxExtension("GLX_ARB_create_context_robustness")) return robustOnDemand;
+    // Bounds are always checked in software, and nothing can be reset.
+    return connection.isSoftware() ? robustAlways : robustNever;
+}
 
 PixelFormat *createPixelFormat(uint64_t display, const uint32_t *attributes) {
     return choose(Connection::open(display), read(attributes));
@@ -70,7 +92,9 @@ int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
     case NativeVisualType:
         return config.visual.visualid ? config.visual.c_class : 0;
     case DrawableTypes:
-        return config.drawableTypes;
+        return drawableTypes(*format);
+    case RobustContexts:
+        return robustContexts(format->connection);
     case MaxSwapInterval:
         return format->connection.maxSwapInterval();
     case MaxPbufferWidth:
@@ -91,8 +115,13 @@ int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
 PixelFormat *derivePixelFormat(const PixelFormat *format, const uint32_t *attributes) {
     const auto request = read(attributes);
     if (!format->fitsConfig && !format->fitsAnyDrawable) return choose(&format->connection, request);
-    return new PixelFormat{format->connection, format->config, request.profile, format->fitsConfig,
-                           format->fitsAnyDrawable};
+    return new PixelFormat{.connection = format->connection,
+                           .config = format->config,
+                           .profile = request.profile,
+                           .fitsConfig = format->fitsConfig,
+                           .fitsAnyDrawable = format->fitsAnyDrawable,
+                           .isRobust = request.isRobust,
+                           .losesContextOnReset = request.losesContextOnReset};
 }
 
 void releasePixelFormat(PixelFormat *format) {

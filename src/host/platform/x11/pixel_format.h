@@ -15,9 +15,14 @@ struct PixelFormat {
     uint32_t profile = profileLegacy; // what a list without a profile gets
     bool fitsConfig = false;          // made for one config, and keeps what was found for it
     bool fitsAnyDrawable = false;     // contexts of it have no config of their own
+    bool isRobust = false;
+    bool losesContextOnReset = false;
 };
 
 namespace x11 {
+
+// What RobustContexts says.
+int32_t robustContexts(const Connection &connection);
 
 PixelFormat *createPixelFormat(uint64_t display, const uint32_t *attributes);
 int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute);

@@ -1,0 +1,120 @@
+#include "egl/standard/context_rules.h"
+
+#include "egl/surface.h"
+
+namespace egl::standard {
+
+namespace {
+
+constexpr EGLint debugFlag = EGL_CONTEXT_OPENGL_DEBUG_BIT_KHR;
+constexpr EGLint noErrorFlag = 8;
+constexpr EGLint robustFlag = EGL_CONTEXT_OPENGL_ROBUST_ACCESS_BIT_KHR;
+
+bool isBoolean(EGLint value) {
+    return value == EGL_TRUE || value == EGL_FALSE;
+}
+
+// The error of one pair. Versions are checked together at the end.
+EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
+    switch (attribute) {
+    case EGL_CONTEXT_MAJOR_VERSION:
+        attribs.requestedMajor = value;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_MINOR_VERSION:
+        attribs.esMinor = value;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_FLAGS_KHR:
+        // The others are of desktop OpenGL.
+        if (value & ~(debugFlag | noErrorFlag)) return EGL_BAD_ATTRIBUTE;
+        attribs.contextFlags = value;
+        if (value & noErrorFlag) attribs.noError = 1;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_OPENGL_DEBUG:
+        if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
+        attribs.contextFlags = value ? attribs.contextFlags | debugFlag : attribs.contextFlags & ~debugFlag;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_OPENGL_NO_ERROR_KHR:
+        if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
+        attribs.noError = static_cast<uint8_t>(value);
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_OPENGL_ROBUST_ACCESS:
+    case EGL_CONTEXT_OPENGL_ROBUST_ACCESS_EXT:
+        if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
+        attribs.contextFlags = value ? attribs.contextFlags | robustFlag : attribs.contextFlags & ~robustFlag;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY:
+    case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY_EXT:
+        if (value != EGL_NO_RESET_NOTIFICATION && value != EGL_LOSE_CONTEXT_ON_RESET) return EGL_BAD_ATTRIBUTE;
+        attribs.resetStrategy = value == EGL_LOSE_CONTEXT_ON_RESET ? value : 0;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_PRIORITY_LEVEL_TWG:
+        attribs.priority = value;
+        return EGL_SUCCESS;
+    default:
+        return EGL_BAD_ATTRIBUTE;
+    }
+}
+
+EGLint renderBuffer(const Context &context) {
+    const auto &draw = context.surfaces.draw;
+    if (!context.boundToThread || !draw) return EGL_NONE;
+    EGLint buffer = EGL_SINGLE_BUFFER; // of pixmaps
+    if (draw->hostSurface)
+        buffer = draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
+    return buffer;
+}
+
+} // namespace
+
+bool canBeRobust(const Config &config) {
+    const auto *format = config.hostConfig() ? config.hostConfig()->format() : nullptr;
+    return format && host::platform::operations.pixelFormatValue(format, host::platform::RobustContexts) !=
+                         host::platform::robustNever;
+}
+
+host::Robustness robustnessOf(const ContextAttribs &attribs) {
+    return {.isRobust = (attribs.contextFlags & robustFlag) != 0,
+            .losesContextOnReset = attribs.resetStrategy == EGL_LOSE_CONTEXT_ON_RESET};
+}
+
+EGLint readContextAttributes(const Config &config, const DeviceProfile &profile, const EGLint *attributes,
+                             ContextAttribs &attribs) {
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        const EGLint error = readPair(attributes[0], attributes[1], attribs);
+        if (error != EGL_SUCCESS) return error;
+    }
+    attribs.esMajor = attribs.requestedMajor;
+    const bool isAnEs1 = attribs.requestedMajor == 1 && (attribs.esMinor == 0 || attribs.esMinor == 1);
+    const bool isAVersion =
+        attribs.requestedMajor == 1 ? isAnEs1 : isEsVersionAllowed(profile, attribs.requestedMajor, attribs.esMinor);
+    if (!isAVersion) return EGL_BAD_MATCH;
+    const auto robustness = robustnessOf(attribs);
+    if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config)) return EGL_BAD_MATCH;
+    // One that checks nothing cannot promise anything.
+    if (robustness.isRobust && attribs.noError) return EGL_BAD_MATCH;
+    return config.supportsClientVersion(attribs.requestedMajor) ? EGL_SUCCESS : EGL_BAD_CONFIG;
+}
+
+EGLint queryContext(const Context &context, EGLint attribute, EGLint *value) {
+    switch (attribute) {
+    case EGL_CONFIG_ID:
+        *value = context.config->attributeOr0(EGL_CONFIG_ID);
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_CLIENT_TYPE:
+        *value = EGL_OPENGL_ES_API;
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_CLIENT_VERSION:
+        *value = context.attribs.requestedMajor;
+        return EGL_SUCCESS;
+    case EGL_RENDER_BUFFER:
+        *value = renderBuffer(context);
+        return EGL_SUCCESS;
+    case EGL_CONTEXT_PRIORITY_LEVEL_TWG:
+        *value = context.attribs.priority;
+        return EGL_SUCCESS;
+    default:
+        return EGL_BAD_ATTRIBUTE;
+    }
+}
+
+} // namespace egl::standard

@@ -1,0 +1,80 @@
+#include "egl/standard/host_fence.h"
+
+#include "egl/state.h"
+#include "egl/thread_record.h"
+
+namespace egl::standard {
+
+namespace {
+
+constexpr uint32_t glCommandsComplete = 0x9117;
+constexpr uint32_t glAlreadySignaled = 0x911A;
+constexpr uint32_t glConditionSatisfied = 0x911C;
+constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
+
+void flush(const Context &context) {
+    const auto glFlush = reinterpret_cast<void (*)()>(context.getExtProcAddress("glFlush"));
+    if (glFlush) glFlush();
+}
+
+} // namespace
+
+std::unique_ptr<HostFence> HostFence::create(Context &current) {
+    const host::EGL &host = state().hostEGL();
+    if (!host.glFenceSync || !host.glClientWaitSync || !host.glDeleteSync) return nullptr;
+    const auto fence = host.glFenceSync(glCommandsComplete, 0);
+    if (!fence) return nullptr;
+    // Another context may wait for it before this one draws again.
+    flush(current);
+    return std::unique_ptr<HostFence>(new HostFence(current, fence));
+}
+
+HostFence::HostFence(Context &current, host::EGL::Sync fence)
+    : m_host(state().hostEGL()), m_group(current.group), m_config(current.config),
+      m_maker(current.claimedHostContext()->context), m_legacy(current.attribs.legacyClient), m_fence(fence) {}
+
+HostFence::~HostFence() {
+    withContext([this] { m_host.glDeleteSync(m_fence); });
+}
+
+bool HostFence::isSharedWithCurrent() const {
+    const Context *current = threadRecord.current;
+    return current && current->group == m_group;
+}
+
+template <typename Action>
+bool HostFence::withContext(Action action) {
+    if (isSharedWithCurrent()) {
+        action();
+        return true;
+    }
+    const std::lock_guard lock(m_group->helperMutex);
+    if (!m_group->helper) {
+        const auto maker = m_maker.lock();
+        if (!maker) return false;
+        m_group->helper =
+            host::createHostContext({.format = m_config->hostConfig() ? m_config->hostConfig()->format() : nullptr,
+                                     .legacy = m_legacy,
+                                     .share = maker});
+    }
+    const host::BorrowedBinding binding(*m_group->helper);
+    if (!binding.isCurrent()) return false;
+    action();
+    return true;
+}
+
+bool HostFence::wait(uint64_t timeoutNs) {
+    uint32_t result = glAlreadySignaled;
+    withContext([&] { result = m_host.glClientWaitSync(m_fence, 0, timeoutNs); });
+    return result == glAlreadySignaled || result == glConditionSatisfied;
+}
+
+void HostFence::waitOnHost() {
+    if (isSharedWithCurrent() && m_host.glWaitSync) {
+        m_host.glWaitSync(m_fence, 0, glTimeoutIgnored);
+    } else {
+        static_cast<void>(wait(glTimeoutIgnored));
+    }
+}
+
+} // namespace egl::standard

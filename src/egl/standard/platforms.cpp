@@ -1,0 +1,23 @@
+#include "egl/standard/platforms.h"
+
+namespace egl::standard {
+
+namespace {
+
+bool isAttribute(EGLenum platform, EGLint attribute) {
+    return platform == EGL_PLATFORM_X11_KHR && attribute == EGL_PLATFORM_X11_SCREEN_KHR;
+}
+
+} // namespace
+
+EGLint platformDisplayError(EGLenum platform, const void *nativeDisplay, const EGLint *attributes) {
+    const bool isSurfaceless = platform == EGL_PLATFORM_SURFACELESS_MESA;
+    if (platform != EGL_PLATFORM_X11_KHR && !isSurfaceless) return EGL_BAD_PARAMETER;
+    if (isSurfaceless && nativeDisplay) return EGL_BAD_PARAMETER;
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        if (!isAttribute(platform, attributes[0])) return EGL_BAD_ATTRIBUTE;
+    }
+    return EGL_SUCCESS;
+}
+
+} // namespace egl::standard

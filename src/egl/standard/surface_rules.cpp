@@ -1,0 +1,160 @@
+#include "egl/standard/surface_rules.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <span>
+
+#include "egl/context.h"
+#include "egl/thread_record.h"
+
+namespace egl::standard {
+
+namespace {
+
+// What an attribute may be: one of some values, or anything where there are none.
+struct AttributeRule {
+    EGLint attribute;
+    std::initializer_list<EGLint> values;
+    EGLint error = EGL_BAD_ATTRIBUTE; // of another value
+};
+
+const AttributeRule windowRules[] = {
+    {EGL_RENDER_BUFFER, {EGL_BACK_BUFFER, EGL_SINGLE_BUFFER}},
+    {EGL_GL_COLORSPACE, {EGL_GL_COLORSPACE_LINEAR, EGL_GL_COLORSPACE_SRGB}, EGL_BAD_MATCH},
+    {EGL_VG_COLORSPACE, {EGL_VG_COLORSPACE_sRGB, EGL_VG_COLORSPACE_LINEAR}, EGL_BAD_MATCH},
+    {EGL_VG_ALPHA_FORMAT, {EGL_VG_ALPHA_FORMAT_NONPRE, EGL_VG_ALPHA_FORMAT_PRE}, EGL_BAD_MATCH},
+};
+
+const AttributeRule pbufferRules[] = {
+    {EGL_WIDTH, {}},
+    {EGL_HEIGHT, {}},
+    {EGL_LARGEST_PBUFFER, {EGL_TRUE, EGL_FALSE}},
+    {EGL_TEXTURE_FORMAT, {EGL_NO_TEXTURE, EGL_TEXTURE_RGB, EGL_TEXTURE_RGBA}},
+    {EGL_TEXTURE_TARGET, {EGL_NO_TEXTURE, EGL_TEXTURE_2D}},
+    {EGL_MIPMAP_TEXTURE, {EGL_TRUE, EGL_FALSE}},
+    {EGL_GL_COLORSPACE, {EGL_GL_COLORSPACE_LINEAR, EGL_GL_COLORSPACE_SRGB}, EGL_BAD_MATCH},
+    {EGL_VG_COLORSPACE, {EGL_VG_COLORSPACE_sRGB, EGL_VG_COLORSPACE_LINEAR}, EGL_BAD_MATCH},
+    {EGL_VG_ALPHA_FORMAT, {EGL_VG_ALPHA_FORMAT_NONPRE, EGL_VG_ALPHA_FORMAT_PRE}, EGL_BAD_MATCH},
+};
+
+const AttributeRule pixmapRules[] = {
+    {EGL_GL_COLORSPACE, {EGL_GL_COLORSPACE_LINEAR, EGL_GL_COLORSPACE_SRGB}, EGL_BAD_MATCH},
+    {EGL_VG_COLORSPACE, {EGL_VG_COLORSPACE_sRGB, EGL_VG_COLORSPACE_LINEAR}, EGL_BAD_MATCH},
+    {EGL_VG_ALPHA_FORMAT, {EGL_VG_ALPHA_FORMAT_NONPRE, EGL_VG_ALPHA_FORMAT_PRE}, EGL_BAD_MATCH},
+};
+
+EGLint listError(std::span<const AttributeRule> rules, const EGLint *attributes) {
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        const auto rule = std::ranges::find(rules, attributes[0], &AttributeRule::attribute);
+        if (rule == rules.end()) return EGL_BAD_ATTRIBUTE;
+        const auto &values = rule->values;
+        const bool isTaken = values.size() == 0 || std::ranges::find(values, attributes[1]) != values.end();
+        if (!isTaken) return rule->error;
+    }
+    return EGL_SUCCESS;
+}
+
+EGLint valueOr(const EGLint *attributes, EGLint name, EGLint otherwise) {
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        if (attributes[0] == name) otherwise = attributes[1];
+    }
+    return otherwise;
+}
+
+bool hasSurfaceType(const Config &config, EGLint bit) {
+    return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
+}
+
+bool isPbuffer(const Surface &surface) {
+    return surface.hostSurface && surface.hostSurface->isPBuffer();
+}
+
+} // namespace
+
+EGLint windowSurfaceError(const Config &config, const EGLint *attributes) {
+    if (const EGLint error = listError(windowRules, attributes); error != EGL_SUCCESS) return error;
+    return hasSurfaceType(config, EGL_WINDOW_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+}
+
+EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
+    if (const EGLint error = listError(pbufferRules, attributes); error != EGL_SUCCESS) return error;
+    if (!hasSurfaceType(config, EGL_PBUFFER_BIT)) return EGL_BAD_MATCH;
+    if (valueOr(attributes, EGL_WIDTH, 0) < 0 || valueOr(attributes, EGL_HEIGHT, 0) < 0) return EGL_BAD_PARAMETER;
+    const EGLint format = valueOr(attributes, EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE);
+    const EGLint target = valueOr(attributes, EGL_TEXTURE_TARGET, EGL_NO_TEXTURE);
+    if ((format == EGL_NO_TEXTURE) != (target == EGL_NO_TEXTURE)) return EGL_BAD_MATCH;
+    const bool canBind = (format != EGL_TEXTURE_RGB || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGB)) &&
+                         (format != EGL_TEXTURE_RGBA || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGBA));
+    return canBind ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+}
+
+EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
+    if (const EGLint error = listError(pixmapRules, attributes); error != EGL_SUCCESS) return error;
+    return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+}
+
+EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
+    switch (attribute) {
+    case EGL_LARGEST_PBUFFER:
+    case EGL_MIPMAP_TEXTURE:
+    case EGL_TEXTURE_FORMAT:
+    case EGL_TEXTURE_TARGET:
+        // Of pbuffers alone.
+        if (!isPbuffer(surface)) return EGL_SUCCESS;
+        *value = surface.storedOr(attribute, attribute == EGL_TEXTURE_TARGET ? EGL_NO_TEXTURE : EGL_FALSE);
+        return EGL_SUCCESS;
+    case EGL_BUFFER_AGE_EXT: {
+        const Context *current = threadRecord.current;
+        if (!current || current->surfaces.draw.get() != &surface) return EGL_BAD_SURFACE;
+        *value = surface.canPreserve ? surface.age() : host::hostBufferAge(current->claimedHostContext());
+        return EGL_SUCCESS;
+    }
+    case EGL_MIPMAP_LEVEL:
+        if (isPbuffer(surface)) *value = surface.mipmapLevel;
+        return EGL_SUCCESS;
+    case EGL_MULTISAMPLE_RESOLVE:
+        *value = surface.multisampleResolve;
+        return EGL_SUCCESS;
+    case EGL_SWAP_BEHAVIOR:
+        *value = surface.swapBehavior;
+        return EGL_SUCCESS;
+    case EGL_HORIZONTAL_RESOLUTION:
+    case EGL_VERTICAL_RESOLUTION:
+    case EGL_PIXEL_ASPECT_RATIO:
+        *value = EGL_UNKNOWN;
+        return EGL_SUCCESS;
+    case EGL_VG_COLORSPACE:
+        *value = surface.storedOr(attribute, EGL_VG_COLORSPACE_sRGB);
+        return EGL_SUCCESS;
+    case EGL_VG_ALPHA_FORMAT:
+        *value = surface.storedOr(attribute, EGL_VG_ALPHA_FORMAT_NONPRE);
+        return EGL_SUCCESS;
+    case EGL_RENDER_BUFFER:
+        *value = surface.hostSurface ? surface.storedOr(attribute, EGL_BACK_BUFFER) : EGL_SINGLE_BUFFER;
+        return EGL_SUCCESS;
+    default:
+        return surface.query(attribute, value) ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+    }
+}
+
+EGLint setSurfaceAttribute(Surface &surface, EGLint attribute, EGLint value) {
+    switch (attribute) {
+    case EGL_MIPMAP_LEVEL:
+        surface.mipmapLevel = value;
+        return EGL_SUCCESS;
+    case EGL_MULTISAMPLE_RESOLVE:
+        if (value == EGL_MULTISAMPLE_RESOLVE_BOX) return EGL_BAD_MATCH; // no config has the bit
+        if (value != EGL_MULTISAMPLE_RESOLVE_DEFAULT) return EGL_BAD_PARAMETER;
+        return EGL_SUCCESS;
+    case EGL_SWAP_BEHAVIOR:
+        if (value == EGL_BUFFER_PRESERVED && !surface.canPreserve) return EGL_BAD_MATCH;
+        if (value != EGL_BUFFER_DESTROYED && value != EGL_BUFFER_PRESERVED) return EGL_BAD_PARAMETER;
+        surface.swapBehavior = value;
+        return EGL_SUCCESS;
+    default:
+        return EGL_BAD_ATTRIBUTE;
+    }
+}
+
+} // namespace egl::standard
