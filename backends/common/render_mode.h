@@ -21,5 +21,5 @@ void beginDraw(Wireframe &wireframe);
 // context, zvSetContextWireframe for the current one. A context draws wireframes while either asks for it.
 [[nodiscard]] void *findWireframeSwitch(std::string_view name);
 
-// Each back end defines it: that of the calling thread's context, or null without one.
+// That of the calling thread's context of this back end, or null without one.
 [[nodiscard]] Wireframe *currentWireframe();

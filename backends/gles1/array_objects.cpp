@@ -1,8 +1,8 @@
 #include "array_objects.h"
 
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 GLsizei OwnArray::elementSize() const {
     switch (type) {

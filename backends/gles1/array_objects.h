@@ -2,7 +2,7 @@
 // Each vertex array object has its own.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <map>
 

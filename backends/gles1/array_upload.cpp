@@ -1,9 +1,9 @@
 #include "array_upload.h"
 
+#include "common/per_back_end/host_gl.h"
 #include "desktop_names.h"
 #include "es_context.h"
 #include "fixed_point.h"
-#include "host_gl.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 // Makes the contexts of this back end, or says why the host carries none.
+#include "common/per_back_end/host_gl.h"
 #include "common/refusal.h"
 #include "es_context.h"
-#include "host_gl.h"
 
 #include <memory>
 

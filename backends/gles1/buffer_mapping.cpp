@@ -1,7 +1,7 @@
 // Mapping of buffers: ES 1 has write access alone.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 namespace overrides {
 

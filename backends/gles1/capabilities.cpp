@@ -1,8 +1,8 @@
 // What glEnable takes: the list of ES 1, and not whatever else the host could switch.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "desktop_names.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "parameters.h"
 
 namespace {

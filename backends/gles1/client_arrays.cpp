@@ -1,8 +1,8 @@
 // Where vertices lie. The host has neither bytes nor fixed point for most arrays: such an array is kept here and
 // uploaded as floats when it is drawn from.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "queries.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Paletted and ETC1 textures, which hosts need not have, are decoded here. The rest goes to the host.
 #include "common/etc1.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 #include "device_limits.h"
 
+#include "common/per_back_end/host_gl.h"
 #include "extensions.h"
-#include "host_gl.h"
 
 #include <algorithm>
 #include <array>

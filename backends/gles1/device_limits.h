@@ -1,7 +1,7 @@
 // The limits that an application is told: the device's, as far as the host can carry them.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include "common/es_block.h"
 #include "common/host_features.h"

@@ -1,10 +1,10 @@
 // A rectangle of the textures that are on, drawn straight in window coordinates. The host draws a quad with the
 // transformation set aside.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "desktop_names.h"
 #include "es_context.h"
 #include "fixed_point.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 #include <array>
 #include <list>

@@ -1,10 +1,10 @@
 // The draws: arrays that the host cannot hold are brought to it first, and points with sizes of their own are drawn in
 // runs of one size.
 #include "array_upload.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
 #include "index_list.h"
-#include "overrides.h"
 
 #include <limits>
 

@@ -1,11 +1,9 @@
 #include "es_context.h"
 
 #include "common/live_contexts.h"
+#include "common/per_back_end/host_gl.h"
 #include "desktop_names.h"
 #include "extensions.h"
-#include "host_gl.h"
-
-#include <utility>
 
 namespace {
 
@@ -21,13 +19,6 @@ std::optional<EsBlock> readDevice(const void *settings) {
 
 std::string told(const std::optional<EsBlock> &device, std::string EsBlock::*field, GLenum hostName) {
     return device && !((*device).*field).empty() ? (*device).*field : hostText(hostName);
-}
-
-// Applications check for errors from their first call on and must not meet ours. A lost context reports one for ever,
-// hence the limit.
-void sweepErrors() {
-    for (int count = 0; count < 16 && hostGl().getError() != GL_NO_ERROR; ++count) {
-    }
 }
 
 // The extension of cube maps has another default than desktop OpenGL, in every unit.
@@ -63,23 +54,10 @@ EsContext *EsContext::current() {
     return static_cast<EsContext *>(currentLiveContext());
 }
 
-Wireframe *currentWireframe() {
-    EsContext *const context = EsContext::current();
-    return context ? &context->wireframe : nullptr;
-}
-
 void EsContext::setAttribs(const ContextAttribs &attribs) {
     const HostGl &gl = hostGl();
     (attribs.srgbFramebuffer ? gl.enable : gl.disable)(desktop::framebufferSrgb);
-    sweepErrors();
-}
-
-void EsContext::raise(GLenum error) {
-    if (m_error == GL_NO_ERROR) m_error = error;
-}
-
-GLenum EsContext::takeError() {
-    return std::exchange(m_error, GL_NO_ERROR);
+    sweepHostErrors();
 }
 
 void raise(GLenum error) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "array_objects.h"
-#include "common/render_mode.h"
+#include "common/back_end_context.h"
 #include "device_limits.h"
 #include "texture_crops.h"
 
@@ -12,7 +12,7 @@
 #include <new>
 #include <stdexcept>
 
-class EsContext {
+class EsContext : public BackEndContext {
 public:
     // Sets the host context up so that an application finds the state that ES promises. settings and share may be null;
     // a share context of another back end is none.
@@ -27,12 +27,7 @@ public:
     // The surface may have another colour space than at the last bind.
     void setAttribs(const ContextAttribs &attribs);
 
-    // Keeps the error until it is asked for; an earlier one stays.
-    void raise(GLenum error);
-    [[nodiscard]] GLenum takeError();
-
     // Constant after construction.
-    const HostFeatures host;
     const std::optional<EsBlock> device; // nothing without a device profile
     const std::string version;
     const std::string vendor;
@@ -43,11 +38,7 @@ public:
 
     TextureCrop defaultTextureCrop = {}; // of texture 0, which no two contexts share
     ArrayObjects arrays;
-    Wireframe wireframe;
     GLuint streamBuffer = 0; // the host's name; made at the first upload
-
-private:
-    GLenum m_error = GL_NO_ERROR;
 };
 
 // The error of the current context, if there is one.

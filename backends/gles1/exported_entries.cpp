@@ -1,7 +1,7 @@
 // The plain names of OpenGL ES 1.1 and its extensions, for programs that link them. Each finds its function at its
 // first call; afterwards it costs one load and a jump. Without a host OpenGL they do nothing and give 0.
-#include "entry_lookup.h"
-#include "es1_gl.h"
+#include "common/per_back_end/entry_lookup.h"
+#include "es_gl.h"
 
 #include <zelvane/back_end.h>
 

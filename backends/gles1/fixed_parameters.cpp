@@ -1,8 +1,8 @@
 // The entries of fixed point that name a parameter by an enumerant.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
 #include "fixed_point.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "parameters.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // The entries of fixed point whose arguments are numbers alone.
 #include "fixed_point.h"
 
-#include "host_gl.h"
-#include "overrides.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 
 #include <array>
 

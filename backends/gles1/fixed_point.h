@@ -1,7 +1,7 @@
 // Numbers of 16.16 bits.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <algorithm>
 #include <cmath>

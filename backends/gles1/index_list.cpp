@@ -1,6 +1,6 @@
 #include "index_list.h"
 
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 
 #include <cstddef>
 #include <cstdint>

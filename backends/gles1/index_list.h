@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/index_size.h"
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <optional>
 #include <vector>

@@ -1,7 +1,7 @@
 // The parameters that ES 1 names are fewer than those of the host.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "parameters.h"
 
 namespace overrides {

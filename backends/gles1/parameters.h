@@ -1,7 +1,7 @@
 // What ES 1 calls by an enumerant: how many numbers each has and whether fixed point scales them.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 // Capabilities are enumerants that glEnable takes.
 enum class Kind { Value, Enumerant, Capability };

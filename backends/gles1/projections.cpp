@@ -1,7 +1,7 @@
 // What desktop OpenGL takes in double precision alone: projections, depths, clip planes.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "fixed_point.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 #include <array>
 

@@ -1,11 +1,11 @@
 // What an application asks about its context.
 #include "queries.h"
 
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "desktop_names.h"
 #include "es_context.h"
 #include "fixed_point.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "parameters.h"
 
 #include <bit>

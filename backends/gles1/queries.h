@@ -1,7 +1,7 @@
 // The answers to glGet that do not come from the host.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <optional>
 #include <vector>

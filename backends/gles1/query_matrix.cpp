@@ -1,7 +1,7 @@
 // The current matrix as mantissas of fixed point and exponents.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "fixed_point.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "texture_crops.h"
 
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
 #include "fixed_point.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "parameters.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The rectangles of textures that glDrawTex draws. Textures are shared by contexts, and their rectangles with them.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <array>
 #include <map>

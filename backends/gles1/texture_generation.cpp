@@ -1,8 +1,8 @@
 // ES sets the generation of texture coordinates for s, t and r at once, and only the modes for cube maps.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "desktop_names.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Images of textures. ES 1 takes fewer formats than the host, and wants the internal format to be the format.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
 #include "announcement.h"
 
 #include "common/es_block.h"
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
 #include <optional>

@@ -4,7 +4,7 @@
 
 #include "common/host_features.h"
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <map>
 #include <string>

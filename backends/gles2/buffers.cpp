@@ -1,7 +1,7 @@
 // Buffers by the application's names, and where they are bound.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "client_arrays.h"
 
 #include "active_attribs.h"
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 #include "vertex_format.h"
 
 #include <algorithm>

@@ -1,12 +1,10 @@
 // Compressed images. Where the host's compression has no ETC2, which holds ETC1, this library decodes ETC1 itself.
 #include "common/etc1.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "pixel_store.h"
 #include "texture_formats.h"
-
-#include <GLES2/gl2ext.h>
 
 #include <new>
 

@@ -1,8 +1,8 @@
 // Copies from the framebuffer into textures whose format a core context lacks. The host would copy red where such a
 // texture has alpha, so the pixels go through memory.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "pixel_store.h"
 #include "texture_formats.h"
 

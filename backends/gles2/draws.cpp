@@ -1,8 +1,8 @@
 // Drawing, with what has to be right before it: the render mode, and arrays and index lists in the application's
 // memory. A draw from buffers alone costs a few comparisons.
 #include "client_arrays.h"
-#include "host_gl.h"
-#include "overrides.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // EGL images. One that was made of a texture becomes the storage of another by meaning the same object of the host.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "texture_targets.h"
 
 namespace {

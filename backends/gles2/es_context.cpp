@@ -1,7 +1,7 @@
 #include "es_context.h"
 
 #include "common/live_contexts.h"
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
 
@@ -11,13 +11,6 @@ namespace {
 constexpr GLenum programPointSize = 0x8642;
 constexpr GLenum textureCubeMapSeamless = 0x884F;
 constexpr GLenum framebufferSrgb = 0x8DB9;
-
-// Applications check for errors from their first call on and must not meet ours. A lost context reports one for ever,
-// hence the limit.
-void sweepErrors(const HostGl &gl) {
-    for (int count = 0; count < 16 && gl.getError() != GL_NO_ERROR; ++count) {
-    }
-}
 
 void deleteAbandoned(ShareGroup &shared) {
     std::vector<GLuint> buffers;
@@ -63,16 +56,11 @@ EsContext *EsContext::current() {
     return static_cast<EsContext *>(currentLiveContext());
 }
 
-Wireframe *currentWireframe() {
-    EsContext *const context = EsContext::current();
-    return context ? &context->wireframe : nullptr;
-}
-
 void EsContext::setAttribs(const ContextAttribs &attribs) {
     isSurfaceSrgb = attribs.srgbFramebuffer != 0;
     setDrawFramebuffer(drawFramebuffer);
     deleteAbandoned(*shared);
-    sweepErrors(hostGl());
+    sweepHostErrors();
 }
 
 void EsContext::setDrawFramebuffer(GLuint framebuffer) {

@@ -3,13 +3,12 @@
 #pragma once
 
 #include "announcement.h"
-#include "common/host_features.h"
-#include "common/render_mode.h"
+#include "common/back_end_context.h"
 #include "share_group.h"
 #include "stream_buffer.h"
 #include "vertex_array_state.h"
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 #include <zelvane/back_end.h>
 
 #include <memory>
@@ -17,7 +16,7 @@
 #include <unordered_map>
 #include <vector>
 
-class EsContext {
+class EsContext : public BackEndContext {
 public:
     // Sets the host context up so that an application finds the state that ES promises.
     // settings: for the zvSettings functions. share: a context to share objects with, or null.
@@ -40,23 +39,15 @@ public:
     // OES_vertex_array_object; those of ES 3 do not.
     [[nodiscard]] bool takesClientMemory() const { return major < 3 || vertexArray == &vertexArrayZero; }
 
-    // An error of our own for the application, unless one is pending.
-    void raise(GLenum error) {
-        if (pendingError == GL_NO_ERROR) pendingError = error;
-    }
-
     // Constant after construction.
     const GLint major;
     const GLint minor;
-    const HostFeatures host;
     const Announcement announced;
     // Stands for object 0, which a core context lacks. The host's name.
     GLuint defaultVertexArray = 0;
     const std::shared_ptr<ShareGroup> shared;
     GLuint maxVertexAttribs = 0;
 
-    Wireframe wireframe;
-    GLenum pendingError = GL_NO_ERROR;
     GLenum generateMipmapHint = GL_DONT_CARE;
     GLuint arrayBuffer = 0; // the host's name
     VertexArrayState vertexArrayZero;

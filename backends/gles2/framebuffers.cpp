@@ -2,9 +2,9 @@
 // buffer, which ES calls GL_BACK whatever the host has.
 #include "surface_buffers.h"
 
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "texture_formats.h"
 #include "vertex_format.h"
 

@@ -1,7 +1,7 @@
 // Labels of objects, by the application's names.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 namespace {
 

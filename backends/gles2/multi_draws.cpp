@@ -1,7 +1,7 @@
 // Several draws in one call: each goes the way of a single one.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 namespace {
 

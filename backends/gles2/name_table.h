@@ -3,7 +3,7 @@
 // Any thread; the host context that the names belong to must be current where something is made.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <array>
 #include <atomic>

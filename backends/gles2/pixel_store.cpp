@@ -1,6 +1,6 @@
 #include "pixel_store.h"
 
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The rules by which pixels lie in memory.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <array>
 #include <cstddef>

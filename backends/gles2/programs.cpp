@@ -1,9 +1,9 @@
 // Programs. ES takes one shader of a stage, and a vertex and a fragment shader together; desktop OpenGL takes several,
 // and either alone.
 #include "active_attribs.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
 // What an application asks about its context. An ES context tells what it is, not what carries it.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "surface_buffers.h"
 
 #include <cmath>
@@ -101,8 +101,8 @@ namespace overrides {
 
 GLenum GL_APIENTRY getError() {
     EsContext *const context = EsContext::current();
-    if (context && context->pendingError != GL_NO_ERROR) return std::exchange(context->pendingError, GL_NO_ERROR);
-    return hostGl().getError();
+    const GLenum own = context ? context->takeError() : GL_NO_ERROR;
+    return own != GL_NO_ERROR ? own : hostGl().getError();
 }
 
 const GLubyte *GL_APIENTRY getString(GLenum name) {

@@ -1,7 +1,7 @@
 // The shading language of ES on the host's compiler, which takes it but for a few words. Pure.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <string>
 #include <string_view>

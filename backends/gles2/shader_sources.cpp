@@ -1,7 +1,7 @@
 // Sources go to the host in the form that it compiles, and come back to the application as it gave them.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "shader_language.h"
 
 #include <algorithm>

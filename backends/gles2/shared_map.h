@@ -1,7 +1,7 @@
 // Notes about the objects of a share group, by name. Any thread; looking costs no lock while there are none.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <atomic>
 #include <mutex>

@@ -1,6 +1,6 @@
 #include "stream_buffer.h"
 
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 // The colour buffer of the surface: GL_BACK in ES. The host's has a side, and a pixel buffer has no back.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 constexpr GLenum hostFrontLeft = 0x0400;
 constexpr GLenum hostBackLeft = 0x0402;

@@ -2,9 +2,6 @@
 
 #include "vertex_format.h"
 
-// gl2ext.h repeats names of gl32.h in the same words.
-#include <GLES2/gl2ext.h>
-
 #include <algorithm>
 #include <iterator>
 

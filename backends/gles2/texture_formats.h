@@ -1,7 +1,7 @@
 // The texture formats of ES on a host that has others. Pure: no context is asked.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // Images and storages of textures, in formats that a core context lacks.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "texture_formats.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // What a texture's image is made of. A format that a core context lacks answers as itself and not as its stand-in.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "texture_targets.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include "texture_swizzles.h"
 
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "texture_targets.h"
 
 namespace {

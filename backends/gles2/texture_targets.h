@@ -1,7 +1,7 @@
 // The targets of textures.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 constexpr GLenum textureExternal = 0x8D65; // GL_TEXTURE_EXTERNAL_OES
 

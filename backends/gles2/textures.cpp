@@ -1,7 +1,7 @@
 // Textures by the application's names.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "texture_targets.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // the context that owns it.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <array>
 #include <cstddef>

@@ -1,8 +1,8 @@
 // A core context draws nothing while no vertex array object is bound; ES draws from object 0. An object of our own
 // stands for it. Arrays in the application's memory are noted here and reach the host when they are drawn.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
 #include "es_context.h"
-#include "host_gl.h"
-#include "overrides.h"
 #include "vertex_format.h"
 
 namespace {

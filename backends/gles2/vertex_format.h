@@ -1,7 +1,7 @@
 // The formats of vertex arrays.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <cstddef>
 

@@ -2,7 +2,7 @@
 // the fixture does: it binds the context, tells which back-end context is current and which device profile is in force.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <gtest/gtest.h>
 #include <zelvane/back_end.h>

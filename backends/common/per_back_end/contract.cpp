@@ -1,6 +1,6 @@
 // What libEGL.so.1 asks of a context that is there; making one is each back end's own.
+#include "common/per_back_end/entry_lookup.h"
 #include "common/render_mode.h"
-#include "entry_lookup.h"
 #include "es_context.h"
 
 void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
@@ -17,4 +17,9 @@ void *zvGetExtProcAddress(const char *name) {
 
 void zvSetRenderMode(const uint8_t *mode, size_t length) {
     if (mode && length > 0) setRenderMode(*mode);
+}
+
+Wireframe *currentWireframe() {
+    EsContext *const context = EsContext::current();
+    return context ? &context->wireframe : nullptr;
 }

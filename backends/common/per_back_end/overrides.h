@@ -1,8 +1,8 @@
-// The entries that ES 1 means otherwise than the host. Each forwards as far as it can where no context of this back end
-// is current.
+// The entries that ES means otherwise than the host: the rows of the back end's data/overrides.def. Each forwards as
+// far as it can where no context of this back end is current.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <string_view>
 

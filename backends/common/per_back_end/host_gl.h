@@ -1,7 +1,7 @@
-// What this library itself calls on the host. Any thread.
+// What this library itself calls on the host: the rows of the back end's data/host_calls.def. Any thread.
 #pragma once
 
-#include <GLES3/gl32.h>
+#include "es_gl.h"
 
 #include <type_traits>
 
@@ -18,3 +18,6 @@ struct HostGl {
 
 // For code that runs only once findHostGl() has answered: overrides and contexts.
 [[nodiscard]] const HostGl &hostGl();
+
+// Applications check for errors from their first call on and must not meet ours. With the host context current.
+void sweepHostErrors();

@@ -1,4 +1,4 @@
-#include "host_gl.h"
+#include "common/per_back_end/host_gl.h"
 
 #include "common/host_library.h"
 
@@ -27,4 +27,10 @@ const HostGl *findHostGl() {
 
 const HostGl &hostGl() {
     return *findHostGl();
+}
+
+void sweepHostErrors() {
+    // A lost context reports an error for ever.
+    for (int count = 0; count < 16 && hostGl().getError() != GL_NO_ERROR; ++count) {
+    }
 }
