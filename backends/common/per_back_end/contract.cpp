@@ -1,7 +1,7 @@
 // What libEGL.so.1 asks of a context that is there; making one is each back end's own.
 #include "common/per_back_end/entry_lookup.h"
 #include "common/render_mode.h"
-#include "es_context.h"
+#include "context/es_context.h"
 
 void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
     if (esContext && attribs) static_cast<EsContext *>(esContext)->setAttribs(*attribs);
