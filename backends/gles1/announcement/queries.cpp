@@ -28,11 +28,11 @@ Numbers matrixBits(GLenum matrix) {
 Numbers ownAnswer(GLenum pname) {
     const EsContext *const context = EsContext::current();
     if (!context) return {};
-    if (const auto *const limit = context->limits.find(pname)) return *limit;
+    if (const auto *const limit = context->announced.limits.find(pname)) return *limit;
     if (const auto state = ownArrayState(*context, pname)) return {static_cast<double>(*state)};
     switch (pname) {
     case GL_POINT_SIZE_ARRAY_OES:
-        return {context->arrays.bound().isPointSizeOn ? 1.0 : 0.0};
+        return {context->vertices.arrays.bound().isPointSizeOn ? 1.0 : 0.0};
     case GL_TEXTURE_GEN_STR_OES:
         return {hostGl().isEnabled(desktop::textureGenS) ? 1.0 : 0.0};
     case GL_MODELVIEW_MATRIX_FLOAT_AS_INT_BITS_OES:
@@ -55,7 +55,7 @@ void get(GLenum pname, Number *data, AskHost askHost, Convert convert) {
     reportingMemory(*context, [&] {
         const Numbers answer = ownAnswer(pname);
         // A list of formats may be empty without being the host's.
-        if (answer.empty() && !context->limits.find(pname)) return askHost();
+        if (answer.empty() && !context->announced.limits.find(pname)) return askHost();
         std::ranges::transform(answer, data, convert);
     });
 }
@@ -85,13 +85,13 @@ const GLubyte *GL_APIENTRY getString(GLenum name) {
     if (!context) return hostGl().getString(name);
     switch (name) {
     case GL_VERSION:
-        return asBytes(context->version);
+        return asBytes(context->announced.version);
     case GL_VENDOR:
-        return asBytes(context->vendor);
+        return asBytes(context->announced.vendor);
     case GL_RENDERER:
-        return asBytes(context->renderer);
+        return asBytes(context->announced.renderer);
     case GL_EXTENSIONS:
-        return asBytes(context->extensions);
+        return asBytes(context->announced.extensions);
     default:
         context->raise(GL_INVALID_ENUM);
         return nullptr;

@@ -7,20 +7,6 @@
 
 namespace {
 
-std::string hostText(GLenum name) {
-    const GLubyte *const text = hostGl().getString(name);
-    return text ? reinterpret_cast<const char *>(text) : "";
-}
-
-std::optional<EsBlock> readDevice(const void *settings) {
-    const char *const profile = settings ? zvSettingsProfileText(settings) : nullptr;
-    return profile ? readEsBlock(profile, 1, 1) : std::nullopt;
-}
-
-std::string told(const std::optional<EsBlock> &device, std::string EsBlock::*field, GLenum hostName) {
-    return device && !((*device).*field).empty() ? (*device).*field : hostText(hostName);
-}
-
 // The extension of cube maps has another default than desktop OpenGL, in every unit.
 void setTextureGenerationModes() {
     const HostGl &gl = hostGl();
@@ -37,9 +23,7 @@ void setTextureGenerationModes() {
 } // namespace
 
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, const void *share)
-    : device(readDevice(settings)), version("OpenGL ES-CM 1.1 Zelvane (" + hostText(GL_VERSION) + ')'),
-      vendor(told(device, &EsBlock::vendor, GL_VENDOR)), renderer(told(device, &EsBlock::renderer, GL_RENDERER)),
-      extensions(announcedExtensions(host, device)), limits(host, device), textureCrops(joinTextureCrops(this, share)) {
+    : announced(host, settings), shared(this, share) {
     if (carriesExtension(host, "GL_OES_texture_cube_map")) setTextureGenerationModes();
     setAttribs(attribs);
     contextBegins(this);
@@ -47,7 +31,6 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, const 
 
 EsContext::~EsContext() {
     contextEnds(this);
-    leaveTextureCrops(this);
 }
 
 EsContext *EsContext::current() {

@@ -1,11 +1,12 @@
-// One context of this back end: what ES 1 has and the host's context does not. Made and changed on the thread that has
-// the host context current; used there.
+// One context of this back end: the rooms, each with what ES 1 has and the host's context does not. Made and changed on
+// the thread that has the host context current; used there.
 #pragma once
 
-#include "announcement/device_limits.h"
+#include "announcement/announcement.h"
 #include "common/back_end_context.h"
-#include "textures/texture_crops.h"
-#include "vertices/array_objects.h"
+#include "common/share_group_member.h"
+#include "context/share_group.h"
+#include "vertices/vertices.h"
 
 #include <zelvane/back_end.h>
 
@@ -28,17 +29,11 @@ public:
     void setAttribs(const ContextAttribs &attribs);
 
     // Constant after construction.
-    const std::optional<EsBlock> device; // nothing without a device profile
-    const std::string version;
-    const std::string vendor;
-    const std::string renderer;
-    const std::string extensions; // with a blank between
-    const Limits limits;
-    const std::shared_ptr<TextureCrops> textureCrops; // of every context that shares textures
+    const Announcement announced;
+    const ShareGroupMember<ShareGroup> shared;
 
-    TextureCrop defaultTextureCrop = {}; // of texture 0, which no two contexts share
-    ArrayObjects arrays;
-    GLuint streamBuffer = 0; // the host's name; made at the first upload
+    Vertices vertices;
+    TextureCrop cropOfTextureZero = {}; // which no two contexts share
 };
 
 // The error of the current context, if there is one.

@@ -37,7 +37,7 @@ GLboolean GL_APIENTRY isEnabled(GLenum cap) {
     const EsContext *const context = EsContext::current();
     switch (cap) {
     case GL_POINT_SIZE_ARRAY_OES:
-        return context && context->arrays.bound().isPointSizeOn;
+        return context && context->vertices.arrays.bound().isPointSizeOn;
     case GL_TEXTURE_GEN_STR_OES:
         return hostGl().isEnabled(desktop::textureGenS);
     case GL_VERTEX_ARRAY:

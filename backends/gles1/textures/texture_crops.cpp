@@ -11,17 +11,6 @@
 
 namespace {
 
-// Which context has which record. A share context may be of another back end and be known nowhere.
-struct Records {
-    std::mutex mutex;
-    std::map<const void *, std::shared_ptr<TextureCrops>> ofContext; // guarded by mutex
-};
-
-Records &records() {
-    static Records all;
-    return all;
-}
-
 GLuint boundTexture() {
     GLint bound = 0;
     hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
@@ -37,9 +26,9 @@ bool setCrop(GLenum target, GLenum pname, const Number *params) {
     std::transform(params, params + 4, crop.begin(), [](Number number) { return toInteger(number); });
     const GLuint texture = boundTexture();
     if (texture == 0) {
-        context->defaultTextureCrop = crop;
+        context->cropOfTextureZero = crop;
     } else {
-        reportingMemory(*context, [&] { context->textureCrops->set(texture, crop); });
+        reportingMemory(*context, [&] { context->shared->textureCrops.set(texture, crop); });
     }
     return true;
 }
@@ -71,24 +60,9 @@ void TextureCrops::forget(GLuint texture) {
     m_crops.erase(texture);
 }
 
-std::shared_ptr<TextureCrops> joinTextureCrops(const void *context, const void *share) {
-    Records &all = records();
-    const std::lock_guard lock(all.mutex);
-    const auto found = share ? all.ofContext.find(share) : all.ofContext.end();
-    auto record = found == all.ofContext.end() ? std::make_shared<TextureCrops>() : found->second;
-    all.ofContext[context] = record;
-    return record;
-}
-
-void leaveTextureCrops(const void *context) {
-    Records &all = records();
-    const std::lock_guard lock(all.mutex);
-    all.ofContext.erase(context);
-}
-
 TextureCrop boundTextureCrop(EsContext &context) {
     const GLuint texture = boundTexture();
-    return texture == 0 ? context.defaultTextureCrop : context.textureCrops->get(texture);
+    return texture == 0 ? context.cropOfTextureZero : context.shared->textureCrops.get(texture);
 }
 
 namespace overrides {
@@ -114,7 +88,7 @@ void GL_APIENTRY getTexParameteriv(GLenum target, GLenum pname, GLint *params) {
 void GL_APIENTRY deleteTextures(GLsizei n, const GLuint *textures) {
     EsContext *const context = EsContext::current();
     for (GLsizei index = 0; context && textures && index < n; ++index)
-        context->textureCrops->forget(textures[index]);
+        context->shared->textureCrops.forget(textures[index]);
     hostGl().deleteTextures(n, textures);
 }
 

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <map>
-#include <memory>
 #include <mutex>
 
 using TextureCrop = std::array<GLint, 4>; // left, bottom, width, height in texels; the sizes may be negative
@@ -22,10 +21,6 @@ private:
     std::mutex m_mutex;
     std::map<GLuint, TextureCrop> m_crops; // guarded by m_mutex
 };
-
-// The record that the context shares with share, or a new one when share is null or unknown. Any thread.
-[[nodiscard]] std::shared_ptr<TextureCrops> joinTextureCrops(const void *context, const void *share);
-void leaveTextureCrops(const void *context);
 
 class EsContext;
 

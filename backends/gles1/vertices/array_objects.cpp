@@ -36,14 +36,14 @@ void GL_APIENTRY bindVertexArrayOES(GLuint array) {
     // The host may have refused the name.
     GLint bound = 0;
     hostGl().getIntegerv(GL_VERTEX_ARRAY_BINDING_OES, &bound);
-    if (static_cast<GLuint>(bound) == array) reportingMemory(*context, [&] { context->arrays.bind(array); });
+    if (static_cast<GLuint>(bound) == array) reportingMemory(*context, [&] { context->vertices.arrays.bind(array); });
 }
 
 void GL_APIENTRY deleteVertexArraysOES(GLsizei n, const GLuint *arrays) {
     hostGl().deleteVertexArrays(n, arrays);
     EsContext *const context = EsContext::current();
     for (GLsizei index = 0; context && arrays && index < n; ++index)
-        context->arrays.erase(arrays[index]);
+        context->vertices.arrays.erase(arrays[index]);
 }
 
 } // namespace overrides

@@ -178,7 +178,7 @@ bool uploadOwnArrays(EsContext &context, const VerticesRead &vertices) {
     const size_t bytesOfOne = (size_t{vertices.last} + 1) * sizeof(GLfloat);
     std::vector<std::pair<unsigned, const OwnArray *>> wanted;
     size_t total = 0;
-    for (const auto &[slot, array] : context.arrays.bound().own) {
+    for (const auto &[slot, array] : context.vertices.arrays.bound().own) {
         if (!isOn(slot)) continue;
         wanted.emplace_back(slot, &array);
         total += bytesOfOne * static_cast<size_t>(array.size);
@@ -186,8 +186,8 @@ bool uploadOwnArrays(EsContext &context, const VerticesRead &vertices) {
     if (wanted.empty()) return true;
     if (total > maxUpload) return false;
 
-    if (context.streamBuffer == 0) gl.genBuffers(1, &context.streamBuffer);
-    const BoundArrayBuffer bound(context.streamBuffer);
+    if (context.vertices.streamBuffer == 0) gl.genBuffers(1, &context.vertices.streamBuffer);
+    const BoundArrayBuffer bound(context.vertices.streamBuffer);
     gl.bufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(total), nullptr, desktop::streamDraw);
     size_t offset = 0;
     for (const auto &[slot, array] : wanted) {

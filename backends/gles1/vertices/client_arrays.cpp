@@ -32,7 +32,7 @@ bool isAllowed(EsContext &context, const OwnArray &array, const Allowed &allowed
         context.raise(GL_INVALID_VALUE);
     } else if (std::ranges::find(allowed.types, array.type) == allowed.types.end()) {
         context.raise(GL_INVALID_ENUM);
-    } else if (array.buffer == 0 && array.pointer && !context.arrays.isDefaultBound()) {
+    } else if (array.buffer == 0 && array.pointer && !context.vertices.arrays.isDefaultBound()) {
         // As the host does with the types that it has: an object holds arrays in buffers alone.
         context.raise(GL_INVALID_OPERATION);
     } else {
@@ -47,7 +47,7 @@ bool goesToHost(unsigned slot, OwnArray array, const Allowed &allowed, bool isHo
     if (!context) return true;
     array.buffer = boundArrayBuffer();
     if (!isAllowed(*context, array, allowed)) return false;
-    auto &own = context->arrays.bound().own;
+    auto &own = context->vertices.arrays.bound().own;
     if (isHosts) {
         own.erase(slot);
     } else {
@@ -74,7 +74,7 @@ constexpr GLenum pointerNames[] = {GL_VERTEX_ARRAY_POINTER, GL_NORMAL_ARRAY_POIN
 
 // The array of that row of the tables, if it is not the host's.
 const OwnArray *ownArray(const EsContext &context, size_t row) {
-    const ArrayObject &object = context.arrays.bound();
+    const ArrayObject &object = context.vertices.arrays.bound();
     if (row > TexCoordSlot) return &object.pointSizes;
     const auto found = object.own.find(row == TexCoordSlot ? texCoordSlot() : static_cast<unsigned>(row));
     return found == object.own.end() ? nullptr : &found->second;
@@ -83,7 +83,7 @@ const OwnArray *ownArray(const EsContext &context, size_t row) {
 void switchArray(GLenum array, bool isOn) {
     EsContext *const context = EsContext::current();
     if (context && array == GL_POINT_SIZE_ARRAY_OES) {
-        context->arrays.bound().isPointSizeOn = isOn;
+        context->vertices.arrays.bound().isPointSizeOn = isOn;
         return;
     }
     const auto names = {GL_VERTEX_ARRAY, GL_NORMAL_ARRAY, GL_COLOR_ARRAY, GL_TEXTURE_COORD_ARRAY};
@@ -137,7 +137,7 @@ void GL_APIENTRY pointSizePointerOES(GLenum type, GLsizei stride, const void *po
     EsContext *const context = EsContext::current();
     if (!context) return;
     const OwnArray array = {1, type, stride, pointer, boundArrayBuffer()};
-    if (isAllowed(*context, array, {1, 1, {GL_FIXED, GL_FLOAT}})) context->arrays.bound().pointSizes = array;
+    if (isAllowed(*context, array, {1, 1, {GL_FIXED, GL_FLOAT}})) context->vertices.arrays.bound().pointSizes = array;
 }
 
 void GL_APIENTRY enableClientState(GLenum array) {
@@ -159,7 +159,7 @@ void GL_APIENTRY getPointerv(GLenum pname, void **params) {
 // A buffer that goes leaves the arrays of the object that is bound; nothing lies at their offsets then.
 void GL_APIENTRY deleteBuffers(GLsizei n, const GLuint *buffers) {
     if (EsContext *const context = EsContext::current(); context && buffers && n > 0) {
-        ArrayObject &object = context->arrays.bound();
+        ArrayObject &object = context->vertices.arrays.bound();
         const auto leave = [&](OwnArray &array) {
             if (array.buffer == 0 || std::find(buffers, buffers + n, array.buffer) == buffers + n) return;
             array.buffer = 0;

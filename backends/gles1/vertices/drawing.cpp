@@ -11,11 +11,11 @@
 namespace {
 
 bool hasPointSizes(const EsContext &context, GLenum mode) {
-    return mode == GL_POINTS && context.arrays.bound().isPointSizeOn;
+    return mode == GL_POINTS && context.vertices.arrays.bound().isPointSizeOn;
 }
 
 bool isPlain(const EsContext &context, GLenum mode) {
-    return !hasPointSizes(context, mode) && !drawsFromOwnArrays(context.arrays.bound());
+    return !hasPointSizes(context, mode) && !drawsFromOwnArrays(context.vertices.arrays.bound());
 }
 
 // False after an error. Desktop OpenGL has modes that ES 1 lacks.
@@ -32,7 +32,7 @@ bool beginDraw(EsContext &context, GLenum mode) {
 template <typename VertexOf, typename Draw>
 void drawPoints(const EsContext &context, const VerticesRead &vertices, GLsizei count, VertexOf vertexOf, Draw draw) {
     const HostGl &gl = hostGl();
-    const std::vector<GLfloat> sizes = readNumbers(context.arrays.bound().pointSizes, vertices);
+    const std::vector<GLfloat> sizes = readNumbers(context.vertices.arrays.bound().pointSizes, vertices);
     const auto sizeAt = [&](GLsizei place) { return sizes[vertexOf(place) - vertices.first]; };
     GLfloat before = 1;
     gl.getFloatv(GL_POINT_SIZE, &before);

@@ -36,7 +36,7 @@ std::optional<GLuint> objectName(const EsContext &context, GLenum pname) {
 #undef NAME_QUERY
     case GL_VERTEX_ARRAY_BINDING: {
         const auto bound = static_cast<GLuint>(askHost(pname));
-        return bound == context.defaultVertexArray ? 0 : bound;
+        return bound == context.vertices.defaultObject ? 0 : bound;
     }
     default:
         return std::nullopt;
@@ -59,7 +59,7 @@ std::optional<Numbers> ownAnswer(const EsContext &context, GLenum pname) {
     case GL_COMPRESSED_TEXTURE_FORMATS:
         return announced.compressedFormats;
     case GL_GENERATE_MIPMAP_HINT:
-        return Numbers{double(context.generateMipmapHint)};
+        return Numbers{double(context.textures.mipmapHint)};
     case fragmentShaderDiscardsSamples:
         return Numbers{1};
     default:
@@ -161,22 +161,14 @@ void GL_APIENTRY getIntegeri_v(GLenum target, GLuint index, GLint *data) {
     case GL_TRANSFORM_FEEDBACK_BUFFER_BINDING:
     case GL_UNIFORM_BUFFER_BINDING:
     case GL_VERTEX_BINDING_BUFFER:
-        *data = static_cast<GLint>(context->shared->buffers.nameOf(static_cast<GLuint>(*data)));
+        *data = static_cast<GLint>(context->shared->buffers.names.nameOf(static_cast<GLuint>(*data)));
         break;
     case GL_IMAGE_BINDING_NAME:
-        *data = static_cast<GLint>(context->shared->textures.nameOf(static_cast<GLuint>(*data)));
+        *data = static_cast<GLint>(context->shared->textures.names.nameOf(static_cast<GLuint>(*data)));
         break;
     default:
         break;
     }
-}
-
-// A core context has lost this hint; it never meant anything.
-void GL_APIENTRY hint(GLenum target, GLenum mode) {
-    EsContext *const context = EsContext::current();
-    if (!context || target != GL_GENERATE_MIPMAP_HINT) return hostGl().hint(target, mode);
-    if (mode != GL_FASTEST && mode != GL_NICEST && mode != GL_DONT_CARE) return context->raise(GL_INVALID_ENUM);
-    context->generateMipmapHint = mode;
 }
 
 } // namespace overrides

@@ -10,13 +10,13 @@ GLuint hostName(GLenum identifier, GLuint name) {
     if (!context) return name;
     switch (identifier) {
     case GL_BUFFER:
-        return context->shared->buffers.find(name);
+        return context->shared->buffers.names.find(name);
     case GL_FRAMEBUFFER:
-        return context->framebuffers.find(name);
+        return context->framebuffers.names.find(name);
     case GL_RENDERBUFFER:
         return context->shared->renderbuffers.find(name);
     case GL_TEXTURE:
-        return context->shared->textures.find(name);
+        return context->shared->textures.names.find(name);
     default:
         return name;
     }

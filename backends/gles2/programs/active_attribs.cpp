@@ -56,12 +56,12 @@ uint32_t activeAttribs(EsContext &context) {
     // A pipeline, or nothing.
     if (current == 0) return ~0u;
     const auto program = static_cast<GLuint>(current);
-    if (const auto known = context.shared->activeAttribs.find(program)) return *known;
+    if (const auto known = context.shared->programs.activeAttribs.find(program)) return *known;
     const uint32_t mask = askHost(program);
-    context.shared->activeAttribs.set(program, mask);
+    context.shared->programs.activeAttribs.set(program, mask);
     return mask;
 }
 
 void forgetActiveAttribs(GLuint program) {
-    if (EsContext *const context = EsContext::current()) context->shared->activeAttribs.remove(program);
+    if (EsContext *const context = EsContext::current()) context->shared->programs.activeAttribs.remove(program);
 }

@@ -23,7 +23,7 @@ std::string joined(std::span<const GLchar *const> strings, const GLint *lengths)
 // Nothing where the host has the application's.
 std::optional<std::string> ownSource(GLuint shader) {
     EsContext *const context = EsContext::current();
-    return context ? context->shared->shaderSources.find(shader) : std::nullopt;
+    return context ? context->shared->programs.shaderSources.find(shader) : std::nullopt;
 }
 
 } // namespace
@@ -33,7 +33,7 @@ namespace overrides {
 GLuint GL_APIENTRY createShader(GLenum type) {
     const GLuint shader = hostGl().createShader(type);
     // The name may have been another shader's.
-    if (EsContext *const context = EsContext::current()) context->shared->shaderSources.remove(shader);
+    if (EsContext *const context = EsContext::current()) context->shared->programs.shaderSources.remove(shader);
     return shader;
 }
 
@@ -47,8 +47,8 @@ void GL_APIENTRY shaderSource(GLuint shader, GLsizei count, const GLchar *const 
 
     const std::string source = joined({string, static_cast<size_t>(count)}, length);
     const std::string whole = hostShaderSource(source, context->major, context->minor);
-    context->shared->shaderSources.remove(shader);
-    if (whole != source) context->shared->shaderSources.set(shader, source);
+    context->shared->programs.shaderSources.remove(shader);
+    if (whole != source) context->shared->programs.shaderSources.set(shader, source);
     const GLchar *const text = whole.c_str();
     const GLint size = static_cast<GLint>(whole.size());
     gl.shaderSource(shader, 1, &text, &size);

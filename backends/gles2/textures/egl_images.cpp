@@ -22,7 +22,7 @@ const EglImage *imageOf(const void *handle) {
 // The host's name of the texture that the image was made of, or 0.
 GLuint sourceTexture(const EsContext &context, const EglImage &image) {
     if (image.target != eglGlTexture2D) return 0;
-    return context.shared->textures.find(static_cast<GLuint>(image.buffer));
+    return context.shared->textures.names.find(static_cast<GLuint>(image.buffer));
 }
 
 } // namespace
@@ -36,21 +36,21 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     const EglImage *const image = imageOf(handle);
     if (!image) return context->raise(GL_INVALID_VALUE);
     const HostGl &gl = hostGl();
-    NameTable &names = context->shared->textures;
+    NameTable &names = context->shared->textures.names;
     const GLuint source = sourceTexture(*context, *image);
     GLint bound = 0;
     gl.getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
     const auto old = static_cast<GLuint>(bound);
-    const auto last = context->lastTextureNames.find(old);
-    const GLuint name = last == context->lastTextureNames.end() ? names.nameOf(old) : last->second;
+    const auto last = context->textures.lastNames.find(old);
+    const GLuint name = last == context->textures.lastNames.end() ? names.nameOf(old) : last->second;
     if (source == 0 || name == 0) return context->raise(GL_INVALID_OPERATION);
     if (source == old) return;
     const bool isUnused = names.remove(name) != 0;
     names.alias(name, source);
     gl.bindTexture(GL_TEXTURE_2D, source);
-    context->lastTextureNames[source] = name;
+    context->textures.lastNames[source] = name;
     if (!isUnused) return;
-    context->shared->swizzles.remove(old);
+    context->shared->textures.swizzles.remove(old);
     gl.deleteTextures(1, &old);
 }
 

@@ -18,8 +18,8 @@ struct Place {
 Place placeOf(EsContext &context, GLenum target) {
     GLint bound = 0;
     hostGl().getIntegerv(bindingOf(target), &bound);
-    if (bound == 0) return {&context.swizzlesOfZero, target};
-    return {&context.shared->swizzles, static_cast<GLuint>(bound)};
+    if (bound == 0) return {&context.textures.swizzlesOfZero, target};
+    return {&context.shared->textures.swizzles, static_cast<GLuint>(bound)};
 }
 
 bool isSwizzle(GLenum pname) {
@@ -27,7 +27,7 @@ bool isSwizzle(GLenum pname) {
 }
 
 bool hasNone(const EsContext &context) {
-    return context.shared->swizzles.isEmpty() && context.swizzlesOfZero.isEmpty();
+    return context.shared->textures.swizzles.isEmpty() && context.textures.swizzlesOfZero.isEmpty();
 }
 
 void tellHost(GLenum target, const TextureSwizzle &entry) {

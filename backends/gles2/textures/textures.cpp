@@ -1,16 +1,17 @@
 // Textures by the application's names.
+#include "textures/textures.h"
+
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "names/named_objects.h"
 #include "textures/texture_targets.h"
 
 namespace {
 
-GLuint hostTexture(GLuint name) {
+NameTable *textureNames() {
     EsContext *const context = EsContext::current();
-    if (!context || name == 0) return name;
-    const HostGl &gl = hostGl();
-    return context->shared->textures.findOrMake(name, gl.genTextures, gl.isTexture);
+    return context ? &context->shared->textures.names : nullptr;
 }
 
 // An external texture has no mipmaps and does not repeat.
@@ -25,29 +26,27 @@ void setExternalDefaults(GLuint texture) {
 
 } // namespace
 
+GLuint hostTexture(GLuint name) {
+    NameTable *const names = textureNames();
+    const HostGl &gl = hostGl();
+    return names ? names->findOrMake(name, gl.genTextures, gl.isTexture) : name;
+}
+
 namespace overrides {
 
 void GL_APIENTRY genTextures(GLsizei n, GLuint *textures) {
-    EsContext *const context = EsContext::current();
-    if (!context || n < 0 || !textures) return hostGl().genTextures(n, textures);
-    context->shared->textures.generate(n, textures, hostGl().genTextures);
+    generateNames(textureNames(), n, textures, hostGl().genTextures);
 }
 
 void GL_APIENTRY deleteTextures(GLsizei n, const GLuint *textures) {
-    const HostGl &gl = hostGl();
     EsContext *const context = EsContext::current();
-    if (!context || n < 0 || !textures) return gl.deleteTextures(n, textures);
-    for (GLsizei index = 0; index < n; ++index) {
-        const GLuint host = context->shared->textures.remove(textures[index]);
-        if (host == 0) continue;
-        context->shared->swizzles.remove(host);
-        gl.deleteTextures(1, &host);
-    }
+    deleteNames(textureNames(), n, textures, hostGl().deleteTextures,
+                [&](GLuint host) { context->shared->textures.swizzles.remove(host); });
 }
 
 GLboolean GL_APIENTRY isTexture(GLuint texture) {
-    const EsContext *const context = EsContext::current();
-    return hostGl().isTexture(context ? context->shared->textures.find(texture) : texture);
+    const NameTable *const names = textureNames();
+    return hostGl().isTexture(names ? names->find(texture) : texture);
 }
 
 void GL_APIENTRY bindTexture(GLenum target, GLuint texture) {
@@ -57,22 +56,10 @@ void GL_APIENTRY bindTexture(GLenum target, GLuint texture) {
     EsContext *const context = EsContext::current();
     if (!context) return;
     if (texture != host) {
-        context->lastTextureNames[host] = texture;
-    } else if (!context->lastTextureNames.empty()) {
-        context->lastTextureNames.erase(host);
+        context->textures.lastNames[host] = texture;
+    } else if (!context->textures.lastNames.empty()) {
+        context->textures.lastNames.erase(host);
     }
-}
-
-void GL_APIENTRY framebufferTexture2D(GLenum target, GLenum attachment, GLenum textarget, GLuint texture, GLint level) {
-    hostGl().framebufferTexture2D(target, attachment, textarget, hostTexture(texture), level);
-}
-
-void GL_APIENTRY framebufferTextureLayer(GLenum target, GLenum attachment, GLuint texture, GLint level, GLint layer) {
-    hostGl().framebufferTextureLayer(target, attachment, hostTexture(texture), level, layer);
-}
-
-void GL_APIENTRY framebufferTexture(GLenum target, GLenum attachment, GLuint texture, GLint level) {
-    hostGl().framebufferTexture(target, attachment, hostTexture(texture), level);
 }
 
 void GL_APIENTRY bindImageTexture(GLuint unit, GLuint texture, GLint level, GLboolean layered, GLint layer,
@@ -87,7 +74,7 @@ void GL_APIENTRY copyImageSubData(GLuint srcName, GLenum srcTarget, GLint srcLev
     const auto host = [&](GLuint name, GLenum target) {
         if (!context) return name;
         const ShareGroup &shared = *context->shared;
-        return target == GL_RENDERBUFFER ? shared.renderbuffers.find(name) : shared.textures.find(name);
+        return target == GL_RENDERBUFFER ? shared.renderbuffers.find(name) : shared.textures.names.find(name);
     };
     hostGl().copyImageSubData(host(srcName, srcTarget), hostTarget(srcTarget), srcLevel, srcX, srcY, srcZ,
                               host(dstName, dstTarget), hostTarget(dstTarget), dstLevel, dstX, dstY, dstZ, srcWidth,

@@ -2,14 +2,19 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "names/named_objects.h"
 
 namespace {
 
-GLuint hostBuffer(GLuint name) {
+NameTable *bufferNames() {
     EsContext *const context = EsContext::current();
-    if (!context || name == 0) return name;
+    return context ? &context->shared->buffers.names : nullptr;
+}
+
+GLuint hostBuffer(GLuint name) {
+    NameTable *const names = bufferNames();
     const HostGl &gl = hostGl();
-    return context->shared->buffers.findOrMake(name, gl.genBuffers, gl.isBuffer);
+    return names ? names->findOrMake(name, gl.genBuffers, gl.isBuffer) : name;
 }
 
 } // namespace
@@ -17,27 +22,20 @@ GLuint hostBuffer(GLuint name) {
 namespace overrides {
 
 void GL_APIENTRY genBuffers(GLsizei n, GLuint *buffers) {
-    EsContext *const context = EsContext::current();
-    if (!context || n < 0 || !buffers) return hostGl().genBuffers(n, buffers);
-    context->shared->buffers.generate(n, buffers, hostGl().genBuffers);
+    generateNames(bufferNames(), n, buffers, hostGl().genBuffers);
 }
 
 void GL_APIENTRY deleteBuffers(GLsizei n, const GLuint *buffers) {
-    const HostGl &gl = hostGl();
     EsContext *const context = EsContext::current();
-    if (!context || n < 0 || !buffers) return gl.deleteBuffers(n, buffers);
-    for (GLsizei index = 0; index < n; ++index) {
-        const GLuint host = context->shared->buffers.remove(buffers[index]);
-        if (host == 0) continue;
-        if (context->arrayBuffer == host) context->arrayBuffer = 0;
-        context->vertexArray->forgetBuffer(host);
-        gl.deleteBuffers(1, &host);
-    }
+    deleteNames(bufferNames(), n, buffers, hostGl().deleteBuffers, [&](GLuint host) {
+        if (context->vertices.arrayBuffer == host) context->vertices.arrayBuffer = 0;
+        context->vertices.bound->forgetBuffer(host);
+    });
 }
 
 GLboolean GL_APIENTRY isBuffer(GLuint buffer) {
-    const EsContext *const context = EsContext::current();
-    return hostGl().isBuffer(context ? context->shared->buffers.find(buffer) : buffer);
+    const NameTable *const names = bufferNames();
+    return hostGl().isBuffer(names ? names->find(buffer) : buffer);
 }
 
 void GL_APIENTRY bindBuffer(GLenum target, GLuint buffer) {
@@ -45,8 +43,8 @@ void GL_APIENTRY bindBuffer(GLenum target, GLuint buffer) {
     hostGl().bindBuffer(target, host);
     EsContext *const context = EsContext::current();
     if (!context) return;
-    if (target == GL_ARRAY_BUFFER) context->arrayBuffer = host;
-    if (target == GL_ELEMENT_ARRAY_BUFFER) context->vertexArray->elementBuffer = host;
+    if (target == GL_ARRAY_BUFFER) context->vertices.arrayBuffer = host;
+    if (target == GL_ELEMENT_ARRAY_BUFFER) context->vertices.bound->elementBuffer = host;
 }
 
 void GL_APIENTRY bindBufferBase(GLenum target, GLuint index, GLuint buffer) {
@@ -61,8 +59,8 @@ void GL_APIENTRY bindVertexBuffer(GLuint binding, GLuint buffer, GLintptr offset
     const GLuint host = hostBuffer(buffer);
     hostGl().bindVertexBuffer(binding, host, offset, stride);
     EsContext *const context = EsContext::current();
-    if (!context || binding >= context->maxVertexAttribs || offset < 0 || stride < 0) return;
-    VertexArrayState &state = *context->vertexArray;
+    if (!context || binding >= context->vertices.maxAttribs || offset < 0 || stride < 0) return;
+    VertexArrayState &state = *context->vertices.bound;
     state.setBuffer(binding, host);
     if (host == 0) state.attribs[binding].pointer = nullptr;
 }

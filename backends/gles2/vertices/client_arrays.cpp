@@ -103,7 +103,7 @@ std::optional<IndexRange> rangeOf(const void *indices, GLsizei count, bool hasRe
 } // namespace
 
 FedVertices::FedVertices(EsContext &context, const DrawnVertices &drawn) {
-    const VertexArrayState &state = *context.vertexArray;
+    const VertexArrayState &state = *context.vertices.bound;
     const uint32_t mask = state.enabledClientAttribs() & activeAttribs(context);
     if (mask == 0) return;
     if (drawn.first < 0) {
@@ -118,12 +118,12 @@ FedVertices::FedVertices(EsContext &context, const DrawnVertices &drawn) {
         m_switchedOff |= 1u << attrib;
     });
     if (read.arrayCount == 0) return;
-    context.vertexStream.bind(context.shared->buffers);
-    m_isComplete = context.vertexStream.put({read.blocks.data(), read.blockCount});
+    context.vertices.stream.bind(context.shared->buffers.names);
+    m_isComplete = context.vertices.stream.put({read.blocks.data(), read.blockCount});
     if (m_isComplete) pointHostAt(state, read);
     // Another context may have deleted it; the host binds no name that is gone.
-    if (context.arrayBuffer && !gl.isBuffer(context.arrayBuffer)) context.arrayBuffer = 0;
-    gl.bindBuffer(GL_ARRAY_BUFFER, context.arrayBuffer);
+    if (context.vertices.arrayBuffer && !gl.isBuffer(context.vertices.arrayBuffer)) context.vertices.arrayBuffer = 0;
+    gl.bindBuffer(GL_ARRAY_BUFFER, context.vertices.arrayBuffer);
 }
 
 FedVertices::~FedVertices() {
@@ -134,16 +134,16 @@ std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &li
     const HostGl &gl = hostGl();
     const size_t size = static_cast<size_t>(list.count) * static_cast<size_t>(indexSize(list.type));
     const void *indices = list.indices;
-    if (context.vertexArray->elementBuffer) {
+    if (context.vertices.bound->elementBuffer) {
         GLint64 bufferSize = 0;
         gl.getBufferParameteri64v(GL_ELEMENT_ARRAY_BUFFER, GL_BUFFER_SIZE, &bufferSize);
         const auto offset = reinterpret_cast<uintptr_t>(indices);
         const auto available = static_cast<uintptr_t>(bufferSize);
         if (offset > available || size > available - offset) return std::nullopt;
-        context.readBackIndices.resize(size);
+        context.vertices.readBackIndices.resize(size);
         gl.getBufferSubData(GL_ELEMENT_ARRAY_BUFFER, static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(size),
-                            context.readBackIndices.data());
-        indices = context.readBackIndices.data();
+                            context.vertices.readBackIndices.data());
+        indices = context.vertices.readBackIndices.data();
     }
     const bool hasRestart = context.major >= 3 && gl.isEnabled(GL_PRIMITIVE_RESTART_FIXED_INDEX);
     switch (list.type) {
@@ -157,12 +157,12 @@ std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &li
 }
 
 FedIndices::FedIndices(EsContext &context, const IndexList &list) : m_indices(list.indices) {
-    if (context.vertexArray->elementBuffer) return;
+    if (context.vertices.bound->elementBuffer) return;
     m_isFed = true;
-    context.indexStream.bind(context.shared->buffers);
+    context.vertices.indexStream.bind(context.shared->buffers.names);
     const size_t size = static_cast<size_t>(list.count) * static_cast<size_t>(indexSize(list.type));
     StreamBlock block = {{static_cast<const std::byte *>(list.indices), size}};
-    m_isComplete = context.indexStream.put({&block, 1});
+    m_isComplete = context.vertices.indexStream.put({&block, 1});
     m_indices = reinterpret_cast<const void *>(block.offset);
 }
 

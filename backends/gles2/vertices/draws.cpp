@@ -15,7 +15,7 @@ EsContext *prepare() {
 template <typename Draw>
 void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) {
     EsContext *const context = prepare();
-    const bool isFed = !context || !context->vertexArray->enabledClientAttribs();
+    const bool isFed = !context || !context->vertices.bound->enabledClientAttribs();
     // What is malformed goes on as it is, and the host raises the error.
     if (isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw();
     const FedVertices vertices(*context, {first, int64_t(first) + count - 1, instanceCount});
@@ -26,7 +26,7 @@ void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) 
 template <typename Draw>
 void feedAndDraw(EsContext &context, const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
     std::optional<FedVertices> vertices;
-    if (context.vertexArray->enabledClientAttribs()) {
+    if (context.vertices.bound->enabledClientAttribs()) {
         const auto range = findIndexRange(context, list);
         if (!range) return;
         vertices.emplace(context, DrawnVertices{int64_t(range->lowest) + baseVertex,
@@ -41,13 +41,13 @@ template <typename Draw>
 void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
     EsContext *const context = prepare();
     if (!context) return draw(list.indices);
-    const VertexArrayState &state = *context->vertexArray;
+    const VertexArrayState &state = *context->vertices.bound;
     if (state.elementBuffer && !state.enabledClientAttribs()) return draw(list.indices);
     // The host raises the error: for what is malformed, and for the objects of ES 3, which take no list of the
     // application's memory.
     const bool isWellFormed = list.count > 0 && instanceCount > 0 && indexSize(list.type) > 0;
     if (state.elementBuffer && !isWellFormed) return draw(list.indices);
-    if (!context->takesClientMemory()) return draw(list.indices);
+    if (!context->vertices.takesClientMemory()) return draw(list.indices);
     // Without a buffer it would take them all for one and the same error.
     if (indexSize(list.type) == 0) return context->raise(GL_INVALID_ENUM);
     if (list.count < 0 || instanceCount < 0) return context->raise(GL_INVALID_VALUE);

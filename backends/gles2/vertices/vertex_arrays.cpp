@@ -12,10 +12,10 @@ using Attrib = VertexArrayState::Attrib;
 // Notes the array if the host has no fault to find.
 void note(EsContext &context, GLuint index, Attrib attrib) {
     if (index >= VertexArrayState::maxAttribs) return;
-    VertexArrayState &state = *context.vertexArray;
+    VertexArrayState &state = *context.vertices.bound;
     attrib.binding = index;
     state.attribs[index] = attrib;
-    state.setBuffer(index, context.arrayBuffer);
+    state.setBuffer(index, context.vertices.arrayBuffer);
     state.setBinding(index, index);
 }
 
@@ -25,11 +25,11 @@ void setPointer(GLuint index, const Attrib &attrib, Set set) {
     EsContext *const context = EsContext::current();
     const void *const pointer = attrib.pointer;
     if (!context) return set(pointer);
-    const bool isClient = context->arrayBuffer == 0 && context->takesClientMemory();
+    const bool isClient = context->vertices.arrayBuffer == 0 && context->vertices.takesClientMemory();
     const bool isGood =
-        index < context->maxVertexAttribs && attrib.stride >= 0 && vertexSize(attrib.size, attrib.type) > 0;
+        index < context->vertices.maxAttribs && attrib.stride >= 0 && vertexSize(attrib.size, attrib.type) > 0;
     set(isClient ? nullptr : pointer);
-    if (isGood && (isClient || context->arrayBuffer || !pointer)) note(*context, index, attrib);
+    if (isGood && (isClient || context->vertices.arrayBuffer || !pointer)) note(*context, index, attrib);
 }
 
 GLenum hostType(GLenum type) {
@@ -42,9 +42,10 @@ void getAttrib(GLuint index, GLenum pname, Value *params, Ask ask) {
     const EsContext *const context = EsContext::current();
     ask(index, pname, params);
     if (!context || pname != GL_VERTEX_ATTRIB_ARRAY_BUFFER_BINDING || !params) return;
-    if (index >= context->maxVertexAttribs) return;
-    const VertexArrayState &state = *context->vertexArray;
-    *params = static_cast<Value>(context->shared->buffers.nameOf(state.bindings[state.attribs[index].binding].buffer));
+    if (index >= context->vertices.maxAttribs) return;
+    const VertexArrayState &state = *context->vertices.bound;
+    *params =
+        static_cast<Value>(context->shared->buffers.names.nameOf(state.bindings[state.attribs[index].binding].buffer));
 }
 
 } // namespace
@@ -55,18 +56,18 @@ void GL_APIENTRY bindVertexArray(GLuint array) {
     EsContext *const context = EsContext::current();
     const HostGl &gl = hostGl();
     if (!context) return gl.bindVertexArray(array);
-    gl.bindVertexArray(array == 0 ? context->defaultVertexArray : array);
+    gl.bindVertexArray(array == 0 ? context->vertices.defaultObject : array);
     if (array == 0) {
-        context->vertexArray = &context->vertexArrayZero;
+        context->vertices.bound = &context->vertices.objectZero;
         return;
     }
-    auto found = context->vertexArrays.find(array);
-    if (found == context->vertexArrays.end()) {
+    auto found = context->vertices.objects.find(array);
+    if (found == context->vertices.objects.end()) {
         // The host refuses names that it did not make.
         if (!gl.isVertexArray(array)) return;
-        found = context->vertexArrays.try_emplace(array).first;
+        found = context->vertices.objects.try_emplace(array).first;
     }
-    context->vertexArray = &found->second;
+    context->vertices.bound = &found->second;
 }
 
 void GL_APIENTRY deleteVertexArrays(GLsizei n, const GLuint *arrays) {
@@ -74,11 +75,11 @@ void GL_APIENTRY deleteVertexArrays(GLsizei n, const GLuint *arrays) {
     EsContext *const context = EsContext::current();
     if (!context || !arrays) return gl.deleteVertexArrays(n, arrays);
     for (GLsizei index = 0; index < n; ++index) {
-        const auto found = context->vertexArrays.find(arrays[index]);
-        if (found == context->vertexArrays.end()) continue;
+        const auto found = context->vertices.objects.find(arrays[index]);
+        if (found == context->vertices.objects.end()) continue;
         // Deleting what is bound binds object 0.
-        if (context->vertexArray == &found->second) bindVertexArray(0);
-        context->vertexArrays.erase(found);
+        if (context->vertices.bound == &found->second) bindVertexArray(0);
+        context->vertices.objects.erase(found);
     }
     gl.deleteVertexArrays(n, arrays);
 }
@@ -86,13 +87,13 @@ void GL_APIENTRY deleteVertexArrays(GLsizei n, const GLuint *arrays) {
 void GL_APIENTRY enableVertexAttribArray(GLuint index) {
     hostGl().enableVertexAttribArray(index);
     EsContext *const context = EsContext::current();
-    if (context && index < context->maxVertexAttribs) context->vertexArray->enabledAttribs |= 1u << index;
+    if (context && index < context->vertices.maxAttribs) context->vertices.bound->enabledAttribs |= 1u << index;
 }
 
 void GL_APIENTRY disableVertexAttribArray(GLuint index) {
     hostGl().disableVertexAttribArray(index);
     EsContext *const context = EsContext::current();
-    if (context && index < context->maxVertexAttribs) context->vertexArray->enabledAttribs &= ~(1u << index);
+    if (context && index < context->vertices.maxAttribs) context->vertices.bound->enabledAttribs &= ~(1u << index);
 }
 
 void GL_APIENTRY vertexAttribPointer(GLuint index, GLint size, GLenum type, GLboolean normalized, GLsizei stride,
@@ -110,8 +111,8 @@ void GL_APIENTRY vertexAttribIPointer(GLuint index, GLint size, GLenum type, GLs
 void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
     hostGl().vertexAttribDivisor(index, divisor);
     EsContext *const context = EsContext::current();
-    if (!context || index >= context->maxVertexAttribs) return;
-    VertexArrayState &state = *context->vertexArray;
+    if (!context || index >= context->vertices.maxAttribs) return;
+    VertexArrayState &state = *context->vertices.bound;
     state.bindings[index].divisor = divisor;
     if (state.attribs[index].binding != index) {
         state.attribs[index].pointer = nullptr;
@@ -122,8 +123,8 @@ void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
 void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
     hostGl().vertexAttribBinding(index, binding);
     EsContext *const context = EsContext::current();
-    if (!context || index >= context->maxVertexAttribs || binding >= context->maxVertexAttribs) return;
-    VertexArrayState &state = *context->vertexArray;
+    if (!context || index >= context->vertices.maxAttribs || binding >= context->vertices.maxAttribs) return;
+    VertexArrayState &state = *context->vertices.bound;
     if (state.attribs[index].binding != binding) state.attribs[index].pointer = nullptr;
     state.setBinding(index, binding);
 }
@@ -131,14 +132,15 @@ void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
 void GL_APIENTRY vertexBindingDivisor(GLuint binding, GLuint divisor) {
     hostGl().vertexBindingDivisor(binding, divisor);
     EsContext *const context = EsContext::current();
-    if (context && binding < context->maxVertexAttribs) context->vertexArray->bindings[binding].divisor = divisor;
+    if (context && binding < context->vertices.maxAttribs) context->vertices.bound->bindings[binding].divisor = divisor;
 }
 
 void GL_APIENTRY getVertexAttribPointerv(GLuint index, GLenum pname, void **pointer) {
     hostGl().getVertexAttribPointerv(index, pname, pointer);
     const EsContext *const context = EsContext::current();
-    if (!context || pname != GL_VERTEX_ATTRIB_ARRAY_POINTER || !pointer || index >= context->maxVertexAttribs) return;
-    const VertexArrayState &state = *context->vertexArray;
+    if (!context || pname != GL_VERTEX_ATTRIB_ARRAY_POINTER || !pointer || index >= context->vertices.maxAttribs)
+        return;
+    const VertexArrayState &state = *context->vertices.bound;
     if (state.isClient(index)) *pointer = const_cast<std::byte *>(state.attribs[index].pointer);
 }
 
