@@ -28,6 +28,8 @@ protected:
     // current ones. Null when the back end refuses.
     zvEsContext start(const std::string &profile = "", bool isCore = false, zvEsContext share = nullptr);
 
+    static zvEsContext current();
+
     template <typename Function>
     Function *es(const char *name) {
         return reinterpret_cast<Function *>(getExtProcAddress(name));

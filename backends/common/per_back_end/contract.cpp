@@ -1,9 +1,30 @@
-// What libEGL.so.1 asks of a context that is there; making one is each back end's own.
+// What libEGL.so.1 asks of a back end.
+#include "common/current_thread.h"
 #include "common/per_back_end/entry_lookup.h"
+#include "common/refusal.h"
 #include "common/render_mode.h"
 #include "context/es_context.h"
 
+#include <memory>
+#include <new>
+#include <string>
+
+zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *settings, zvEsContext share) {
+    noteCurrentThread();
+    if (!attribs) return nullptr;
+    try {
+        if (const std::string reason = reasonToRefuse(*attribs); !reason.empty()) {
+            reportRefusal("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
+            return nullptr;
+        }
+        return std::make_unique<EsContext>(*attribs, settings, share).release();
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+}
+
 void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
+    noteCurrentThread();
     if (esContext && attribs) static_cast<EsContext *>(esContext)->setAttribs(*attribs);
 }
 

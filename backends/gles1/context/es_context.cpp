@@ -1,7 +1,6 @@
 #include "context/es_context.h"
 
 #include "announcement/extensions.h"
-#include "common/live_contexts.h"
 #include "common/per_back_end/host_gl.h"
 #include "desktop_names.h"
 
@@ -26,15 +25,6 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, const 
     : announced(host, settings), shared(this, share) {
     if (carriesExtension(host, "GL_OES_texture_cube_map")) setTextureGenerationModes();
     setAttribs(attribs);
-    contextBegins(this);
-}
-
-EsContext::~EsContext() {
-    contextEnds(this);
-}
-
-EsContext *EsContext::current() {
-    return static_cast<EsContext *>(currentLiveContext());
 }
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {

@@ -4,6 +4,7 @@
 
 #include "announcement/announcement.h"
 #include "common/back_end_context.h"
+#include "common/current_thread.h"
 #include "common/share_group_member.h"
 #include "context/share_group.h"
 #include "vertices/vertices.h"
@@ -18,12 +19,11 @@ public:
     // Sets the host context up so that an application finds the state that ES promises. settings and share may be null;
     // a share context of another back end is none.
     EsContext(const ContextAttribs &attribs, const void *settings, const void *share);
-    ~EsContext();
     EsContext(const EsContext &) = delete;
     EsContext &operator=(const EsContext &) = delete;
 
     // The calling thread's, or null: without a context, or when the context is another back end's.
-    [[nodiscard]] static EsContext *current();
+    [[nodiscard]] static EsContext *current() { return static_cast<EsContext *>(currentThread->es1Context); }
 
     // The surface may have another colour space than at the last bind.
     void setAttribs(const ContextAttribs &attribs);

@@ -1,6 +1,5 @@
 #include "context/es_context.h"
 
-#include "common/live_contexts.h"
 #include "common/per_back_end/host_gl.h"
 
 namespace {
@@ -17,17 +16,11 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsCo
     hostGl().enable(programPointSize);
     if (major >= 3) hostGl().enable(textureCubeMapSeamless);
     setAttribs(attribs);
-    contextBegins(this);
 }
 
 EsContext::~EsContext() {
-    contextEnds(this);
     for (const GLuint ring : {vertices.stream.name(), vertices.indexStream.name()})
         if (ring) shared->buffers.abandon({&ring, 1});
-}
-
-EsContext *EsContext::current() {
-    return static_cast<EsContext *>(currentLiveContext());
 }
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {

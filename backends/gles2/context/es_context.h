@@ -4,6 +4,7 @@
 
 #include "announcement/announcement.h"
 #include "common/back_end_context.h"
+#include "common/current_thread.h"
 #include "common/share_group_member.h"
 #include "context/share_group.h"
 #include "framebuffers/framebuffers.h"
@@ -22,7 +23,7 @@ public:
     EsContext &operator=(const EsContext &) = delete;
 
     // The calling thread's, or null: without a context, or when the context is another back end's.
-    [[nodiscard]] static EsContext *current();
+    [[nodiscard]] static EsContext *current() { return static_cast<EsContext *>(currentThread->esContext); }
 
     // Called at every bind.
     void setAttribs(const ContextAttribs &attribs);
