@@ -2,31 +2,26 @@
 
 #include "common/host_library.h"
 
-#include <optional>
+HostGl hostGlTable;
 
 namespace {
 
-std::optional<HostGl> loadHostGl() {
-    HostGl gl;
+bool loadHostGl(HostGl &gl) {
 #define HOST_CALL(field, name)                                                                                         \
     gl.field = reinterpret_cast<decltype(gl.field)>(hostFunction(#name));                                              \
-    if (!gl.field) return std::nullopt;
+    if (!gl.field) return false;
 #define DESKTOP_CALL(field, name, type) HOST_CALL(field, name)
 #include "data/host_calls.def"
 #undef DESKTOP_CALL
 #undef HOST_CALL
-    return gl;
+    return true;
 }
 
 } // namespace
 
 const HostGl *findHostGl() {
-    static const std::optional<HostGl> gl = loadHostGl();
-    return gl ? &*gl : nullptr;
-}
-
-const HostGl &hostGl() {
-    return *findHostGl();
+    static const bool isLoaded = loadHostGl(hostGlTable);
+    return isLoaded ? &hostGlTable : nullptr;
 }
 
 void sweepHostErrors() {

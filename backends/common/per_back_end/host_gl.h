@@ -16,8 +16,13 @@ struct HostGl {
 // Null when the host has no OpenGL library or the library lacks one of the functions; nothing works then.
 [[nodiscard]] const HostGl *findHostGl();
 
-// For code that runs only once findHostGl() has answered: overrides and contexts.
-[[nodiscard]] const HostGl &hostGl();
+// Filled by the first findHostGl(); read through hostGl().
+extern HostGl hostGlTable;
+
+// For code that runs only once findHostGl() has answered: overrides, which are handed out after it, and contexts.
+[[nodiscard]] inline const HostGl &hostGl() {
+    return hostGlTable;
+}
 
 // Applications check for errors from their first call on and must not meet ours. With the host context current.
 void sweepHostErrors();

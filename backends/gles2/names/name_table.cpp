@@ -8,24 +8,19 @@ NameTable::~NameTable() {
 }
 
 GLuint NameTable::findLocked(GLuint name) const {
-    const GLuint index = name / chunkSize;
-    if (index < m_chunks.size()) {
-        const Chunk *const chunk = m_chunks[index].load(std::memory_order_acquire);
-        return chunk ? (*chunk)[name % chunkSize].load(std::memory_order_relaxed) : 0;
-    }
+    if (isLow(name)) return findLow(name);
     const auto found = m_highNames.find(name);
     return found == m_highNames.end() ? 0 : found->second;
 }
 
-GLuint NameTable::find(GLuint name) const {
-    if (name / chunkSize < m_chunks.size()) return findLocked(name);
+GLuint NameTable::findHigh(GLuint name) const {
     const std::lock_guard lock(m_mutex);
     return findLocked(name);
 }
 
 void NameTable::set(GLuint name, GLuint hostName) {
     const GLuint index = name / chunkSize;
-    if (index >= m_chunks.size()) {
+    if (!isLow(name)) {
         if (hostName) {
             m_highNames[name] = hostName;
         } else {
@@ -51,9 +46,7 @@ GLuint NameTable::generateUnknown(Generate *generate) {
     }
 }
 
-GLuint NameTable::findOrMake(GLuint name, Generate *generate, IsObject *isObject) {
-    if (name == 0) return 0;
-    if (const GLuint known = find(name)) return known;
+GLuint NameTable::make(GLuint name, Generate *generate, IsObject *isObject) {
     const std::lock_guard lock(m_mutex);
     if (const GLuint known = findLocked(name)) return known;
     if (!m_otherNames.contains(name) && isObject(name)) {

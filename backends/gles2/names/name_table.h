@@ -23,10 +23,14 @@ public:
     ~NameTable();
 
     // The host's name, or 0. Takes no lock for names below a million.
-    [[nodiscard]] GLuint find(GLuint name) const;
+    [[nodiscard]] GLuint find(GLuint name) const { return isLow(name) ? findLow(name) : findHigh(name); }
     // As find(); a name that is not known is one that the application made up, and gets an object. 0 stays 0.
     // isObject: how to tell an object that a context of another back end in the share group made.
-    GLuint findOrMake(GLuint name, Generate *generate, IsObject *isObject);
+    GLuint findOrMake(GLuint name, Generate *generate, IsObject *isObject) {
+        if (name == 0) return 0;
+        const GLuint known = find(name);
+        return known ? known : make(name, generate, isObject);
+    }
     // New names for the application.
     void generate(GLsizei count, GLuint *names, Generate *generate);
     // A host object for this library's own use. Applications never meet it.
@@ -44,13 +48,22 @@ public:
 
 private:
     static constexpr GLuint chunkSize = 1024;
+    static constexpr GLuint chunkCount = 1024;
     using Chunk = std::array<std::atomic<GLuint>, chunkSize>;
+
+    static bool isLow(GLuint name) { return name < chunkSize * chunkCount; }
+    GLuint findLow(GLuint name) const {
+        const Chunk *const chunk = m_chunks[name / chunkSize].load(std::memory_order_acquire);
+        return chunk ? (*chunk)[name % chunkSize].load(std::memory_order_relaxed) : 0;
+    }
+    GLuint findHigh(GLuint name) const;
+    GLuint make(GLuint name, Generate *generate, IsObject *isObject);
 
     void set(GLuint name, GLuint hostName);
     GLuint findLocked(GLuint name) const;
     GLuint generateUnknown(Generate *generate);
 
-    std::array<std::atomic<Chunk *>, 1024> m_chunks = {};
+    std::array<std::atomic<Chunk *>, chunkCount> m_chunks = {};
     mutable std::mutex m_mutex;                     // guards changes and what is below
     std::unordered_map<GLuint, GLuint> m_highNames; // those past the chunks
     // Names by host name, where the two differ: 0 for hidden objects. An object may have several.
