@@ -16,7 +16,7 @@ public:
     [[nodiscard]] unsigned takeError() { return std::exchange(m_error, 0u); }
 
     const HostFeatures host;
-    Wireframe wireframe;
+    RenderMode renderMode;
 
 private:
     unsigned m_error = 0;

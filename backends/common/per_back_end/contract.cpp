@@ -17,7 +17,9 @@ zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], 
             reportRefusal("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
             return nullptr;
         }
-        return std::make_unique<EsContext>(*attribs, settings, share).release();
+        auto context = std::make_unique<EsContext>(*attribs, settings, share);
+        lookForGui(context->renderMode);
+        return context.release();
     } catch (const std::bad_alloc &) {
         return nullptr;
     }
@@ -25,7 +27,10 @@ zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], 
 
 void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
     noteCurrentThread();
-    if (esContext && attribs) static_cast<EsContext *>(esContext)->setAttribs(*attribs);
+    if (!esContext || !attribs) return;
+    EsContext &context = *static_cast<EsContext *>(esContext);
+    lookForGui(context.renderMode);
+    context.setAttribs(*attribs);
 }
 
 void zvDeleteEsContext(zvEsContext esContext) {
@@ -40,7 +45,7 @@ void zvSetRenderMode(const uint8_t *mode, size_t length) {
     if (mode && length > 0) setRenderMode(*mode);
 }
 
-Wireframe *currentWireframe() {
+RenderMode *currentRenderMode() {
     EsContext *const context = EsContext::current();
-    return context ? &context->wireframe : nullptr;
+    return context ? &context->renderMode : nullptr;
 }

@@ -127,7 +127,7 @@ void drawRectangle(EsContext &context, double x, double y, double z, double widt
     const HostGl &gl = hostGl();
     GLint unit = GL_TEXTURE0;
     gl.getIntegerv(GL_ACTIVE_TEXTURE, &unit);
-    beginDraw(context.wireframe);
+    beginDraw(context.renderMode);
     const SavedState state;
     {
         std::list<SavedTextureMatrix> textureMatrices;

@@ -24,7 +24,7 @@ bool beginDraw(EsContext &context, GLenum mode) {
         context.raise(GL_INVALID_ENUM);
         return false;
     }
-    ::beginDraw(context.wireframe);
+    ::beginDraw(context.renderMode);
     return true;
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 EsContext *prepare() {
     EsContext *const context = EsContext::current();
-    if (context) beginDraw(context->wireframe);
+    if (context) beginDraw(context->renderMode);
     return context;
 }
 
