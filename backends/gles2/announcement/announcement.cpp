@@ -1,6 +1,5 @@
 #include "announcement/announcement.h"
 
-#include "common/es_block.h"
 #include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
@@ -29,12 +28,12 @@ constexpr Carried carriedExtensions[] = {
 };
 
 enum class Rule { least, most, range };
-struct Limit {
+struct LimitRow {
     GLenum pname;
     std::string_view element;
     Rule rule;
 };
-constexpr Limit limitRows[] = {
+constexpr LimitRow limitRows[] = {
 #define LIMIT(pname, element, rule) {pname, #element, Rule::rule},
 #include "announcement/limits.def"
 #undef LIMIT
@@ -126,17 +125,6 @@ std::vector<double> meet(Rule rule, std::vector<double> host, std::span<const do
     return host;
 }
 
-std::map<GLenum, std::vector<double>> limitsOf(const EsBlock &device) {
-    std::map<GLenum, std::vector<double>> limits;
-    for (const Limit &row : limitRows) {
-        const auto found = device.limits.find(row.element);
-        const size_t count = row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
-        if (found == device.limits.end() || found->second.size() < count) continue;
-        limits[row.pname] = meet(row.rule, hostNumbers(row.pname, count), found->second);
-    }
-    return limits;
-}
-
 } // namespace
 
 Announcement::Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor) {
@@ -149,7 +137,24 @@ Announcement::Announcement(const HostFeatures &host, const char *profileText, GL
     extensionNames = extensionsOf(host, device);
     extensions = joined(extensionNames);
     compressedFormats = formatsOf(hostFormats(host, major, hasOneOf("GL_OES_compressed_ETC1_RGB8_texture")), device);
-    if (device) limits = limitsOf(*device);
+    if (device) m_limits = limitsOf(*device);
+}
+
+std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
+    std::vector<Limit> limits;
+    for (const LimitRow &row : limitRows) {
+        const auto found = device.limits.find(row.element);
+        const size_t count = row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
+        if (found == device.limits.end() || found->second.size() < count) continue;
+        limits.push_back({row.pname, meet(row.rule, hostNumbers(row.pname, count), found->second)});
+    }
+    std::ranges::sort(limits, {}, &Limit::pname);
+    return limits;
+}
+
+const std::vector<double> *Announcement::limit(GLenum pname) const {
+    const auto row = std::ranges::lower_bound(m_limits, pname, {}, &Limit::pname);
+    return row == m_limits.end() || row->pname != pname ? nullptr : &row->numbers;
 }
 
 bool Announcement::hasOneOf(std::string_view names) const {

@@ -2,11 +2,11 @@
 // alone. Constant once made, with the host context current.
 #pragma once
 
+#include "common/es_block.h"
 #include "common/host_features.h"
 
 #include "es_gl.h"
 
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,5 +25,16 @@ struct Announcement {
     std::vector<std::string> extensionNames;
     std::string extensions; // with a blank between
     std::vector<double> compressedFormats;
-    std::map<GLenum, std::vector<double>> limits; // where the profile says anything
+
+    // Where the profile says anything of the limit; null where the host's own answer holds.
+    [[nodiscard]] const std::vector<double> *limit(GLenum pname) const;
+
+private:
+    struct Limit {
+        GLenum pname;
+        std::vector<double> numbers;
+    };
+    static std::vector<Limit> limitsOf(const EsBlock &device);
+
+    std::vector<Limit> m_limits; // sorted by pname
 };

@@ -4,72 +4,93 @@
 #include "context/es_context.h"
 #include "framebuffers/surface_buffers.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 #include <limits>
-#include <optional>
 #include <type_traits>
-#include <utility>
 
 namespace {
 
-using Numbers = std::vector<double>;
+constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_framebuffer_fetch
 
-GLint askHost(GLenum pname) {
+// Who answers a query.
+enum class Answer : uint64_t {
+    Host,
+    OneNumber,
+    ObjectName,
+    List, // or the host, where the device profile says nothing
+};
+
+// Two bits a name, so that a query that the host answers needs no more than a look here.
+constexpr auto answers = [] {
+    std::array<uint64_t, 0x10000 / 32> bits = {};
+    const auto set = [&](GLenum pname, Answer answer) { bits[pname / 32] |= uint64_t(answer) << pname % 32 * 2; };
+    for (const auto pname : {GL_MAJOR_VERSION, GL_MINOR_VERSION, GL_NUM_EXTENSIONS, GL_NUM_COMPRESSED_TEXTURE_FORMATS,
+                             GL_GENERATE_MIPMAP_HINT, GL_VERTEX_ARRAY_BINDING, GL_READ_BUFFER})
+        set(static_cast<GLenum>(pname), Answer::OneNumber);
+    set(fragmentShaderDiscardsSamples, Answer::OneNumber);
+    for (GLenum pname = GL_DRAW_BUFFER0; pname <= GL_DRAW_BUFFER15; ++pname)
+        set(pname, Answer::OneNumber);
+#define NAME_QUERY(pname, hostName, table) set(pname, Answer::ObjectName);
+#include "announcement/name_queries.def"
+#undef NAME_QUERY
+    set(GL_COMPRESSED_TEXTURE_FORMATS, Answer::List);
+#define LIMIT(pname, element, rule) set(pname, Answer::List);
+#include "announcement/limits.def"
+#undef LIMIT
+    return bits;
+}();
+
+Answer answerTo(GLenum pname) {
+    return pname < 0x10000 ? Answer(answers[pname / 32] >> pname % 32 * 2 & 3) : Answer::Host;
+}
+
+GLuint askHost(GLenum pname) {
     GLint value = 0;
     hostGl().getIntegerv(pname, &value);
-    return value;
+    return static_cast<GLuint>(value);
 }
 
-bool isBufferQuery(GLenum pname) {
-    return pname == GL_READ_BUFFER || (pname >= GL_DRAW_BUFFER0 && pname <= GL_DRAW_BUFFER15);
+double oneNumber(const EsContext &context, GLenum pname) {
+    switch (pname) {
+    case GL_MAJOR_VERSION:
+        return context.major;
+    case GL_MINOR_VERSION:
+        return context.minor;
+    case GL_NUM_EXTENSIONS:
+        return static_cast<double>(context.announced.extensionNames.size());
+    case GL_NUM_COMPRESSED_TEXTURE_FORMATS:
+        return static_cast<double>(context.announced.compressedFormats.size());
+    case GL_GENERATE_MIPMAP_HINT:
+        return context.textures.mipmapHint;
+    case GL_VERTEX_ARRAY_BINDING: {
+        const GLuint bound = askHost(pname);
+        return bound == context.vertices.defaultObject ? 0 : bound;
+    }
+    case fragmentShaderDiscardsSamples:
+        return 1;
+    default:
+        return esBuffer(askHost(pname));
+    }
 }
 
-std::optional<GLuint> objectName(const EsContext &context, GLenum pname) {
-    const auto name = [](GLenum hostName, const NameTable &table) {
-        return table.nameOf(static_cast<GLuint>(askHost(hostName)));
-    };
+GLuint objectName(const EsContext &context, GLenum pname) {
     switch (pname) {
 #define NAME_QUERY(pname, hostName, table)                                                                             \
     case pname:                                                                                                        \
-        return name(hostName, context.table);
+        return context.table.nameOf(askHost(hostName));
 #include "announcement/name_queries.def"
 #undef NAME_QUERY
-    case GL_VERTEX_ARRAY_BINDING: {
-        const auto bound = static_cast<GLuint>(askHost(pname));
-        return bound == context.vertices.defaultObject ? 0 : bound;
-    }
     default:
-        return std::nullopt;
+        return 0;
     }
 }
 
-// Nothing where the host's answer is right.
-std::optional<Numbers> ownAnswer(const EsContext &context, GLenum pname) {
-    constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_framebuffer_fetch
-    const Announcement &announced = context.announced;
-    switch (pname) {
-    case GL_MAJOR_VERSION:
-        return Numbers{double(context.major)};
-    case GL_MINOR_VERSION:
-        return Numbers{double(context.minor)};
-    case GL_NUM_EXTENSIONS:
-        return Numbers{double(announced.extensionNames.size())};
-    case GL_NUM_COMPRESSED_TEXTURE_FORMATS:
-        return Numbers{double(announced.compressedFormats.size())};
-    case GL_COMPRESSED_TEXTURE_FORMATS:
-        return announced.compressedFormats;
-    case GL_GENERATE_MIPMAP_HINT:
-        return Numbers{double(context.textures.mipmapHint)};
-    case fragmentShaderDiscardsSamples:
-        return Numbers{1};
-    default:
-        break;
-    }
-    if (isBufferQuery(pname)) return Numbers{double(esBuffer(static_cast<GLenum>(askHost(pname))))};
-    if (const auto name = objectName(context, pname)) return Numbers{double(*name)};
-    const auto limit = announced.limits.find(pname);
-    if (limit != announced.limits.end()) return limit->second;
-    return std::nullopt;
+// Null where the host's answer is right.
+const std::vector<double> *list(const Announcement &announced, GLenum pname) {
+    return pname == GL_COMPRESSED_TEXTURE_FORMATS ? &announced.compressedFormats : announced.limit(pname);
 }
 
 template <typename Value>
@@ -84,11 +105,19 @@ Value converted(double number) {
 
 template <typename Value>
 void get(GLenum pname, Value *data, void(GL_APIENTRY *host)(GLenum, Value *)) {
-    const EsContext *const context = data ? EsContext::current() : nullptr;
-    const auto answer = context ? ownAnswer(*context, pname) : std::nullopt;
-    if (!answer) return host(pname, data);
-    for (const double number : *answer)
-        *data++ = converted<Value>(number);
+    const Answer answer = answerTo(pname);
+    const EsContext *const context = EsContext::current();
+    if (answer == Answer::Host || !context || !data) return host(pname, data);
+    if (answer == Answer::OneNumber) {
+        *data = converted<Value>(oneNumber(*context, pname));
+    } else if (answer == Answer::ObjectName) {
+        const GLuint name = objectName(*context, pname);
+        *data = static_cast<Value>(std::is_same_v<Value, GLboolean> ? name != 0 : name);
+    } else if (const std::vector<double> *const numbers = list(context->announced, pname)) {
+        std::ranges::transform(*numbers, data, converted<Value>);
+    } else {
+        host(pname, data);
+    }
 }
 
 const GLubyte *asBytes(const std::string &text) {
