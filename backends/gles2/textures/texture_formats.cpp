@@ -1,6 +1,6 @@
 #include "textures/texture_formats.h"
 
-#include "vertices/vertex_format.h"
+#include "host_types.h"
 
 #include <algorithm>
 #include <iterator>
@@ -53,11 +53,6 @@ constexpr Client clientFormats[] = {
 #undef SIZED
 #undef UNSIZED
 
-GLenum hostClientFormat(GLenum format) {
-    const auto row = std::ranges::find(clientFormats, format, &Client::format);
-    return row == std::end(clientFormats) ? format : row->hostFormat;
-}
-
 } // namespace
 
 Swizzle composed(const Swizzle &outer, const Swizzle &inner) {
@@ -69,14 +64,19 @@ Swizzle composed(const Swizzle &outer, const Swizzle &inner) {
 }
 
 HostTextureFormat hostTextureFormat(GLenum internal, GLenum format, GLenum type) {
-    if (type == halfFloatOes) type = GL_HALF_FLOAT;
+    type = hostType(type);
     for (const Unsized &row : unsizedFormats) {
         if (row.format == internal && row.format == format && row.type == type) {
             return {row.hostInternal, row.hostFormat, type, row.swizzle};
         }
     }
     const HostTextureFormat sized = hostTextureFormat(internal);
-    return {sized.internal, hostClientFormat(format), type, sized.swizzle};
+    return {sized.internal, hostPixelFormat(format), type, sized.swizzle};
+}
+
+GLenum hostPixelFormat(GLenum format) {
+    const auto row = std::ranges::find(clientFormats, format, &Client::format);
+    return row == std::end(clientFormats) ? format : row->hostFormat;
 }
 
 HostTextureFormat hostTextureFormat(GLenum internal) {
@@ -86,7 +86,7 @@ HostTextureFormat hostTextureFormat(GLenum internal) {
 }
 
 GLenum es2ImageError(GLenum internal, GLenum format, GLenum type) {
-    if (type == halfFloatOes) type = GL_HALF_FLOAT;
+    type = hostType(type);
     const auto isKnown = [](GLenum name, GLenum Unsized::*column) {
         return std::ranges::find(unsizedFormats, name, column) != std::end(unsizedFormats);
     };

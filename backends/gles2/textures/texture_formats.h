@@ -26,6 +26,9 @@ struct HostTextureFormat {
 // For a storage or a copy, where no pixels come with it.
 [[nodiscard]] HostTextureFormat hostTextureFormat(GLenum internal);
 
+// The host's name for the format of the application's pixels.
+[[nodiscard]] GLenum hostPixelFormat(GLenum format);
+
 // The error of ES for the formats of an image that the host would take, or GL_NO_ERROR. In ES 2 the two formats are one
 // of a few and the same; in ES 3 only those that desktop OpenGL lacks need be.
 [[nodiscard]] GLenum es2ImageError(GLenum internal, GLenum format, GLenum type);

@@ -2,6 +2,7 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "host_types.h"
 #include "textures/texture_formats.h"
 
 namespace {
@@ -49,15 +50,14 @@ void GL_APIENTRY texImage3D(GLenum target, GLint level, GLint internalformat, GL
 
 void GL_APIENTRY texSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLsizei width, GLsizei height,
                                GLenum format, GLenum type, const void *pixels) {
-    const HostTextureFormat host = hostTextureFormat(GL_NONE, format, type);
-    hostGl().texSubImage2D(target, level, xoffset, yoffset, width, height, host.format, host.type, pixels);
+    hostGl().texSubImage2D(target, level, xoffset, yoffset, width, height, hostPixelFormat(format), hostType(type),
+                           pixels);
 }
 
 void GL_APIENTRY texSubImage3D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLint zoffset, GLsizei width,
                                GLsizei height, GLsizei depth, GLenum format, GLenum type, const void *pixels) {
-    const HostTextureFormat host = hostTextureFormat(GL_NONE, format, type);
-    hostGl().texSubImage3D(target, level, xoffset, yoffset, zoffset, width, height, depth, host.format, host.type,
-                           pixels);
+    hostGl().texSubImage3D(target, level, xoffset, yoffset, zoffset, width, height, depth, hostPixelFormat(format),
+                           hostType(type), pixels);
 }
 
 void GL_APIENTRY texStorage2D(GLenum target, GLsizei levels, GLenum internalformat, GLsizei width, GLsizei height) {

@@ -3,6 +3,7 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "host_types.h"
 #include "vertices/vertex_format.h"
 
 namespace {
@@ -30,10 +31,6 @@ void setPointer(GLuint index, const Attrib &attrib, Set set) {
         index < context->vertices.maxAttribs && attrib.stride >= 0 && vertexSize(attrib.size, attrib.type) > 0;
     set(isClient ? nullptr : pointer);
     if (isGood && (isClient || context->vertices.arrayBuffer || !pointer)) note(*context, index, attrib);
-}
-
-GLenum hostType(GLenum type) {
-    return type == halfFloatOes ? GLenum(GL_HALF_FLOAT) : type;
 }
 
 // What the host would tell is the ring's.

@@ -5,9 +5,6 @@
 
 #include <cstddef>
 
-// OES_vertex_half_float has a number of its own.
-constexpr GLenum halfFloatOes = 0x8D61;
-
 // Bytes of an array's element; 0 for a format that ES does not have.
 [[nodiscard]] constexpr size_t vertexSize(GLint size, GLenum type) {
     if (size < 1 || size > 4) return 0;
