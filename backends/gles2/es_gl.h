@@ -7,3 +7,7 @@
 
 // gl2ext.h repeats names of gl32.h in the same words.
 #include <GLES2/gl2ext.h>
+
+// Functions of desktop OpenGL that extensions of ES have under another name.
+extern "C" void GL_APIENTRY glBufferStorage(GLenum target, GLsizeiptr size, const void *data, GLbitfield flags);
+extern "C" void *GL_APIENTRY glMapBuffer(GLenum target, GLenum access);

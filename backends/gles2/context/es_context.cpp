@@ -12,15 +12,15 @@ constexpr GLenum textureCubeMapSeamless = 0x884F;
 
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
     : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
-      shared(this, share), vertices(major) {
+      shared(this, share), vertices(major, host) {
     hostGl().enable(programPointSize);
     if (major >= 3) hostGl().enable(textureCubeMapSeamless);
     setAttribs(attribs);
 }
 
 EsContext::~EsContext() {
-    for (const GLuint ring : {vertices.stream.name(), vertices.indexStream.name()})
-        if (ring) shared->buffers.abandon({&ring, 1});
+    shared->buffers.abandon(vertices.stream.release());
+    shared->buffers.abandon(vertices.indexStream.release());
 }
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {

@@ -8,6 +8,7 @@
 #include "common/share_group_member.h"
 #include "context/share_group.h"
 #include "framebuffers/framebuffers.h"
+#include "programs/programs.h"
 #include "textures/textures.h"
 #include "vertices/vertices.h"
 
@@ -35,6 +36,7 @@ public:
     const ShareGroupMember<ShareGroup> shared;
 
     Vertices vertices;
+    Programs programs;
     Textures textures;
     Framebuffers framebuffers;
 };

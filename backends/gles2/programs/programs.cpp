@@ -1,9 +1,9 @@
 // Programs. ES takes one shader of a stage, and a vertex and a fragment shader together; desktop OpenGL takes several,
 // and either alone.
+#include "programs/programs.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
-#include "programs/active_attribs.h"
 
 #include <algorithm>
 #include <vector>
@@ -49,9 +49,32 @@ void linkInVain(GLuint program) {
     gl.deleteShader(shader);
 }
 
+// Whoever draws with it in the group has to look again.
+void forgetInputs(GLuint program) {
+    if (EsContext *const context = EsContext::current()) context->shared->programs.forgetInputs(program);
+}
+
 } // namespace
 
+ProgramInputs Programs::look(SharedPrograms &shared) {
+    m_changes = shared.changes.load(std::memory_order_relaxed);
+    m_isKnown = true;
+    GLint current = 0;
+    hostGl().getIntegerv(GL_CURRENT_PROGRAM, &current);
+    const auto program = static_cast<GLuint>(current);
+    if (program == 0) return m_inputs = {};
+    if (const auto known = shared.inputs.find(program)) return m_inputs = *known;
+    m_inputs = askProgramInputs(program);
+    shared.inputs.set(program, m_inputs);
+    return m_inputs;
+}
+
 namespace overrides {
+
+void GL_APIENTRY useProgram(GLuint program) {
+    hostGl().useProgram(program);
+    if (EsContext *const context = EsContext::current()) context->programs.forgetCurrent();
+}
 
 void GL_APIENTRY attachShader(GLuint program, GLuint shader) {
     const HostGl &gl = hostGl();
@@ -70,18 +93,18 @@ void GL_APIENTRY linkProgram(GLuint program) {
     } else {
         hostGl().linkProgram(program);
     }
-    forgetActiveAttribs(program);
+    forgetInputs(program);
 }
 
 void GL_APIENTRY programBinary(GLuint program, GLenum format, const void *binary, GLsizei length) {
     hostGl().programBinary(program, format, binary, length);
-    forgetActiveAttribs(program);
+    forgetInputs(program);
 }
 
 GLuint GL_APIENTRY createProgram() {
     const GLuint program = hostGl().createProgram();
     // The name may have been another program's.
-    forgetActiveAttribs(program);
+    forgetInputs(program);
     return program;
 }
 

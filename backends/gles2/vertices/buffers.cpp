@@ -44,7 +44,7 @@ void GL_APIENTRY bindBuffer(GLenum target, GLuint buffer) {
     EsContext *const context = EsContext::current();
     if (!context) return;
     if (target == GL_ARRAY_BUFFER) context->vertices.arrayBuffer = host;
-    if (target == GL_ELEMENT_ARRAY_BUFFER) context->vertices.bound->elementBuffer = host;
+    if (target == GL_ELEMENT_ARRAY_BUFFER) context->vertices.bound->setElementBuffer(host);
 }
 
 void GL_APIENTRY bindBufferBase(GLenum target, GLuint index, GLuint buffer) {

@@ -1,21 +1,13 @@
 // Vertex arrays and index lists in the application's memory: a core context draws from buffers only, so what a draw
-// reads is copied into a ring before it, and no more than that.
+// reads is copied into the stream before it, and no more than that.
 #pragma once
 
 #include "common/index_size.h"
 #include "context/es_context.h"
+#include "vertices/index_range.h"
 
-#include <cstdint>
-#include <optional>
-
-struct DrawnVertices {
-    int64_t first;
-    int64_t last;
-    GLsizei instanceCount;
-};
-
-// Makes the arrays of the application's memory that the current program reads lie in the ring. One without memory is
-// switched off for the draw. The object gets its own state back where an application can see it.
+// Makes the arrays of the application's memory that the current program reads lie in the stream. One without memory is
+// switched off while this lives. The object gets its own state back where an application can see it.
 class FedVertices {
 public:
     FedVertices(EsContext &context, const DrawnVertices &drawn);
@@ -25,11 +17,26 @@ public:
 
     // False where the vertices do not exist or the host has no memory: there is nothing to draw then.
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
+    // What the draw has to add to the number of each vertex.
+    [[nodiscard]] GLint shift() const { return m_shift; }
 
 private:
     uint32_t m_switchedOff = 0;
+    GLint m_shift = 0;
     bool m_isComplete = true;
 };
+
+// The usual case of the above, in line: the arrays go on in the slots that are there. The slot of the first vertex.
+[[nodiscard]] inline std::optional<int64_t> putIntoNextSlots(EsContext &context, int64_t first, int64_t count) {
+    Vertices &vertices = context.vertices;
+    VertexArrayState &state = *vertices.bound;
+    const ProgramInputs inputs = context.programs.inputs(context.shared->programs);
+    const bool isShiftable = !(state.enabledAttribs & ~state.clientAttribs & inputs.attribs) && !inputs.readsVertexId;
+    const bool isUsual =
+        isShiftable && first >= 0 && vertices.stream.staysMapped() &&
+        state.layout.fits(state, state.enabledClientAttribs() & inputs.attribs, count, vertices.stream);
+    return isUsual ? state.layout.put(first, count, vertices.stream) : std::nullopt;
+}
 
 struct IndexList {
     GLsizei count;
@@ -37,27 +44,23 @@ struct IndexList {
     const void *indices; // an offset where the object has an element buffer
 };
 
-// Lowest and highest index that the draw reads. Nothing when it reads none.
-struct IndexRange {
-    GLuint lowest;
-    GLuint highest;
-};
+// Of what the draw reads. Nothing when it reads none.
 [[nodiscard]] std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list);
 
-// Makes an index list of the application's memory lie in the ring while it lives.
+// Makes an index list of the application's memory lie in the stream.
 class FedIndices {
 public:
     FedIndices(EsContext &context, const IndexList &list);
-    ~FedIndices();
-    FedIndices(const FedIndices &) = delete;
-    FedIndices &operator=(const FedIndices &) = delete;
 
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
     // For the host's draw.
     [[nodiscard]] const void *indices() const { return m_indices; }
 
 private:
-    bool m_isFed = false;
     bool m_isComplete = true;
     const void *m_indices;
 };
+
+// The host has a buffer of ours bound for indices while the application has none. Takes it away, for a call that the
+// application could see it by.
+void hideStreamedIndices(EsContext &context);

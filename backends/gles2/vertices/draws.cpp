@@ -12,47 +12,56 @@ EsContext *prepare() {
     return context;
 }
 
+// draw: takes the number of the first vertex.
 template <typename Draw>
 void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) {
     EsContext *const context = prepare();
-    const bool isFed = !context || !context->vertices.bound->enabledClientAttribs();
-    // What is malformed goes on as it is, and the host raises the error.
-    if (isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw();
-    const FedVertices vertices(*context, {first, int64_t(first) + count - 1, instanceCount});
-    if (vertices.isComplete()) draw();
+    const bool isFed = context && context->vertices.bound->enabledClientAttribs();
+    // Malformed calls are passed on, so the host raises the error.
+    if (!isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw(first);
+    if (const auto slot = putIntoNextSlots(*context, first, count)) return draw(static_cast<GLint>(*slot));
+    const FedVertices vertices(*context, {first, count, instanceCount});
+    if (vertices.isComplete()) draw(first + vertices.shift());
 }
 
 // Arrays in the application's memory are fed for the vertices that the list names.
+// draw: takes the indices and what is added to each.
 template <typename Draw>
 void feedAndDraw(EsContext &context, const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
-    std::optional<FedVertices> vertices;
-    if (context.vertices.bound->enabledClientAttribs()) {
-        const auto range = findIndexRange(context, list);
-        if (!range) return;
-        vertices.emplace(context, DrawnVertices{int64_t(range->lowest) + baseVertex,
-                                                int64_t(range->highest) + baseVertex, instanceCount});
-        if (!vertices->isComplete()) return;
+    const auto drawList = [&](GLint base) {
+        const FedIndices indices(context, list);
+        if (indices.isComplete()) draw(indices.indices(), base);
+    };
+    if (!context.vertices.bound->enabledClientAttribs()) return drawList(baseVertex);
+    const auto range = findIndexRange(context, list);
+    if (!range) return;
+    const int64_t first = int64_t(range->lowest) + baseVertex;
+    const int64_t count = int64_t(range->highest) - range->lowest + 1;
+    // The host adds indices up modulo 2^32.
+    if (const auto slot = putIntoNextSlots(context, first, count)) {
+        return drawList(static_cast<GLint>(*slot - range->lowest));
     }
-    const FedIndices indices(context, list);
-    if (indices.isComplete()) draw(indices.indices());
+    const FedVertices vertices(context, {first, count, instanceCount});
+    if (vertices.isComplete()) drawList(baseVertex + vertices.shift());
 }
 
-template <typename Draw>
-void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
+// draw: the host's function of the call. drawAt: the one that adds a number to each index.
+template <typename Draw, typename DrawAt>
+void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw, DrawAt drawAt) {
     EsContext *const context = prepare();
-    if (!context) return draw(list.indices);
+    if (!context) return draw();
     const VertexArrayState &state = *context->vertices.bound;
-    if (state.elementBuffer && !state.enabledClientAttribs()) return draw(list.indices);
+    if (state.elementBuffer && !state.enabledClientAttribs()) return draw();
     // The host raises the error: for what is malformed, and for the objects of ES 3, which take no list of the
     // application's memory.
     const bool isWellFormed = list.count > 0 && instanceCount > 0 && indexSize(list.type) > 0;
-    if (state.elementBuffer && !isWellFormed) return draw(list.indices);
-    if (!context->vertices.takesClientMemory()) return draw(list.indices);
+    if (state.elementBuffer && !isWellFormed) return draw();
+    if (!context->vertices.takesClientMemory()) return draw();
     // Without a buffer it would take them all for one and the same error.
     if (indexSize(list.type) == 0) return context->raise(GL_INVALID_ENUM);
     if (list.count < 0 || instanceCount < 0) return context->raise(GL_INVALID_VALUE);
     if (!isWellFormed || (!state.elementBuffer && !list.indices)) return;
-    feedAndDraw(*context, list, instanceCount, baseVertex, draw);
+    feedAndDraw(*context, list, instanceCount, baseVertex, drawAt);
 }
 
 } // namespace
@@ -60,7 +69,7 @@ void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex,
 namespace overrides {
 
 void GL_APIENTRY drawArrays(GLenum mode, GLint first, GLsizei count) {
-    drawVertices(first, count, 1, [&] { hostGl().drawArrays(mode, first, count); });
+    drawVertices(first, count, 1, [&](GLint from) { hostGl().drawArrays(mode, from, count); });
 }
 
 void GL_APIENTRY drawArraysIndirect(GLenum mode, const void *indirect) {
@@ -69,49 +78,67 @@ void GL_APIENTRY drawArraysIndirect(GLenum mode, const void *indirect) {
 }
 
 void GL_APIENTRY drawArraysInstanced(GLenum mode, GLint first, GLsizei count, GLsizei instanceCount) {
-    drawVertices(first, count, instanceCount, [&] { hostGl().drawArraysInstanced(mode, first, count, instanceCount); });
+    drawVertices(first, count, instanceCount,
+                 [&](GLint from) { hostGl().drawArraysInstanced(mode, from, count, instanceCount); });
 }
 
 void GL_APIENTRY drawElements(GLenum mode, GLsizei count, GLenum type, const void *indices) {
-    drawIndexed({count, type, indices}, 1, 0,
-                [&](const void *list) { hostGl().drawElements(mode, count, type, list); });
+    drawIndexed(
+        {count, type, indices}, 1, 0, [&] { hostGl().drawElements(mode, count, type, indices); },
+        [&](const void *list, GLint base) { hostGl().drawElementsBaseVertex(mode, count, type, list, base); });
 }
 
 void GL_APIENTRY drawElementsBaseVertex(GLenum mode, GLsizei count, GLenum type, const void *indices,
                                         GLint baseVertex) {
-    drawIndexed({count, type, indices}, 1, baseVertex,
-                [&](const void *list) { hostGl().drawElementsBaseVertex(mode, count, type, list, baseVertex); });
+    const auto draw = [&](const void *list, GLint base) {
+        hostGl().drawElementsBaseVertex(mode, count, type, list, base);
+    };
+    drawIndexed(
+        {count, type, indices}, 1, baseVertex, [&] { draw(indices, baseVertex); }, draw);
 }
 
 void GL_APIENTRY drawElementsIndirect(GLenum mode, GLenum type, const void *indirect) {
-    prepare();
+    if (EsContext *const context = prepare()) hideStreamedIndices(*context);
     hostGl().drawElementsIndirect(mode, type, indirect);
 }
 
 void GL_APIENTRY drawElementsInstanced(GLenum mode, GLsizei count, GLenum type, const void *indices,
                                        GLsizei instanceCount) {
-    drawIndexed({count, type, indices}, instanceCount, 0,
-                [&](const void *list) { hostGl().drawElementsInstanced(mode, count, type, list, instanceCount); });
+    const HostGl &gl = hostGl();
+    drawIndexed(
+        {count, type, indices}, instanceCount, 0,
+        [&] { gl.drawElementsInstanced(mode, count, type, indices, instanceCount); },
+        [&](const void *list, GLint base) {
+            gl.drawElementsInstancedBaseVertex(mode, count, type, list, instanceCount, base);
+        });
 }
 
 void GL_APIENTRY drawElementsInstancedBaseVertex(GLenum mode, GLsizei count, GLenum type, const void *indices,
                                                  GLsizei instanceCount, GLint baseVertex) {
-    drawIndexed({count, type, indices}, instanceCount, baseVertex, [&](const void *list) {
-        hostGl().drawElementsInstancedBaseVertex(mode, count, type, list, instanceCount, baseVertex);
-    });
+    const auto draw = [&](const void *list, GLint base) {
+        hostGl().drawElementsInstancedBaseVertex(mode, count, type, list, instanceCount, base);
+    };
+    drawIndexed(
+        {count, type, indices}, instanceCount, baseVertex, [&] { draw(indices, baseVertex); }, draw);
 }
 
 void GL_APIENTRY drawRangeElements(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type,
                                    const void *indices) {
-    drawIndexed({count, type, indices}, 1, 0,
-                [&](const void *list) { hostGl().drawRangeElements(mode, start, end, count, type, list); });
+    const HostGl &gl = hostGl();
+    drawIndexed(
+        {count, type, indices}, 1, 0, [&] { gl.drawRangeElements(mode, start, end, count, type, indices); },
+        [&](const void *list, GLint base) {
+            gl.drawRangeElementsBaseVertex(mode, start, end, count, type, list, base);
+        });
 }
 
 void GL_APIENTRY drawRangeElementsBaseVertex(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type,
                                              const void *indices, GLint baseVertex) {
-    drawIndexed({count, type, indices}, 1, baseVertex, [&](const void *list) {
-        hostGl().drawRangeElementsBaseVertex(mode, start, end, count, type, list, baseVertex);
-    });
+    const auto draw = [&](const void *list, GLint base) {
+        hostGl().drawRangeElementsBaseVertex(mode, start, end, count, type, list, base);
+    };
+    drawIndexed(
+        {count, type, indices}, 1, baseVertex, [&] { draw(indices, baseVertex); }, draw);
 }
 
 } // namespace overrides

@@ -2,18 +2,20 @@
 
 #include "common/per_back_end/host_gl.h"
 
-void SharedBuffers::abandon(std::span<const GLuint> buffers) {
+void SharedBuffers::abandon(std::vector<StreamBuffer::Chunk> chunks) {
     const std::lock_guard lock(m_mutex);
-    m_abandoned.insert(m_abandoned.end(), buffers.begin(), buffers.end());
+    m_abandoned.insert(m_abandoned.end(), chunks.begin(), chunks.end());
 }
 
 void SharedBuffers::deleteAbandoned() {
-    std::vector<GLuint> buffers;
+    std::vector<StreamBuffer::Chunk> chunks;
     {
         const std::lock_guard lock(m_mutex);
-        buffers.swap(m_abandoned);
+        chunks.swap(m_abandoned);
     }
-    for (const GLuint buffer : buffers)
-        names.forgetHidden(buffer);
-    if (!buffers.empty()) hostGl().deleteBuffers(static_cast<GLsizei>(buffers.size()), buffers.data());
+    for (const StreamBuffer::Chunk &chunk : chunks) {
+        names.forgetHidden(chunk.name);
+        hostGl().deleteSync(chunk.fence);
+        hostGl().deleteBuffers(1, &chunk.name);
+    }
 }

@@ -2,21 +2,20 @@
 #pragma once
 
 #include "names/name_table.h"
+#include "vertices/stream_buffer.h"
 
 #include <mutex>
-#include <span>
-#include <vector>
 
 class SharedBuffers {
 public:
     NameTable names;
 
-    // Buffers of a context that has ended, by the host's names: one that still lives has to delete them.
-    void abandon(std::span<const GLuint> buffers);
+    // Chunks of a context that has ended: one that still lives has to delete them.
+    void abandon(std::vector<StreamBuffer::Chunk> chunks);
     // With the host context current.
     void deleteAbandoned();
 
 private:
     std::mutex m_mutex;
-    std::vector<GLuint> m_abandoned; // guarded by m_mutex
+    std::vector<StreamBuffer::Chunk> m_abandoned; // guarded by m_mutex
 };

@@ -1,11 +1,11 @@
-// What this library notes of a vertex array object: which arrays lie in the application's memory. Used on the thread of
-// the context that owns it.
+// What this library notes of a vertex array object: which arrays lie in the application's memory, and where they lie in
+// the stream. Used on the thread of the context that owns it.
 #pragma once
 
-#include "es_gl.h"
+#include "vertices/stream_layout.h"
+#include "vertices/vertex_format.h"
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 
 struct VertexArrayState {
@@ -13,32 +13,40 @@ struct VertexArrayState {
 
     struct Attrib {
         const std::byte *pointer = nullptr; // where there is no buffer
-        GLint size = 4;
-        GLenum type = GL_FLOAT;
-        GLboolean isNormalized = GL_FALSE;
-        bool isInteger = false;
-        GLsizei stride = 0; // as given; 0 means that elements lie one behind the other
+        VertexFormat format;
         GLuint binding = 0;
     };
     struct Binding {
-        GLuint buffer = 0; // the host's name
+        GLuint buffer = 0; // the host's name; 0 for the application's memory
         GLuint divisor = 0;
+        uint32_t attribs = 0; // bits of those that read it
     };
 
     VertexArrayState();
 
-    // Sets the buffer of a binding; 0 means the application's memory.
+    // Sets an attrib up as glVertexAttribPointer does: by the binding of its own.
+    void setArray(GLuint index, const VertexFormat &format, const void *pointer, GLuint buffer);
     void setBuffer(GLuint binding, GLuint buffer);
     void setBinding(GLuint attrib, GLuint binding);
+    void setDivisor(GLuint binding, GLuint divisor);
+    // The host has it bound.
+    void setElementBuffer(GLuint buffer) {
+        elementBuffer = buffer;
+        streamedElementBuffer = 0;
+    }
     // What deleting a buffer does to the array that is bound.
     void forgetBuffer(GLuint buffer);
 
     [[nodiscard]] bool isClient(GLuint attrib) const { return attrib < maxAttribs && (clientAttribs >> attrib & 1); }
     [[nodiscard]] uint32_t enabledClientAttribs() const { return enabledAttribs & clientAttribs; }
 
-    std::array<Attrib, maxAttribs> attribs;
-    std::array<Binding, maxAttribs> bindings;
+    // What every draw reads comes first.
     uint32_t enabledAttribs = 0;
     uint32_t clientAttribs = ~0u; // bits of the attribs whose binding has no buffer
     GLuint elementBuffer = 0;     // the host's name
+    // Ours, which the host has bound while the application has none.
+    GLuint streamedElementBuffer = 0;
+    StreamLayout layout;
+    std::array<Attrib, maxAttribs> attribs;
+    std::array<Binding, maxAttribs> bindings;
 };

@@ -4,45 +4,58 @@
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
 #include "host_types.h"
-#include "vertices/vertex_format.h"
 
 namespace {
 
-using Attrib = VertexArrayState::Attrib;
-
-// Notes the array if the host has no fault to find.
-void note(EsContext &context, GLuint index, Attrib attrib) {
-    if (index >= VertexArrayState::maxAttribs) return;
-    VertexArrayState &state = *context.vertices.bound;
-    attrib.binding = index;
-    state.attribs[index] = attrib;
-    state.setBuffer(index, context.vertices.arrayBuffer);
-    state.setBinding(index, index);
-}
-
-// The host sees an empty ring until the draw: it has to judge the format, and a null pointer passes without a buffer.
+// An array of the application's memory is noted, and the host is told at the draw.
+// set: the host's function of the call, which takes the pointer.
 template <typename Set>
-void setPointer(GLuint index, const Attrib &attrib, Set set) {
+void setPointer(GLuint index, const VertexFormat &format, const void *pointer, Set set) {
     EsContext *const context = EsContext::current();
-    const void *const pointer = attrib.pointer;
     if (!context) return set(pointer);
-    const bool isClient = context->vertices.arrayBuffer == 0 && context->vertices.takesClientMemory();
-    const bool isGood =
-        index < context->vertices.maxAttribs && attrib.stride >= 0 && vertexSize(attrib.size, attrib.type) > 0;
-    set(isClient ? nullptr : pointer);
-    if (isGood && (isClient || context->vertices.arrayBuffer || !pointer)) note(*context, index, attrib);
+    Vertices &vertices = context->vertices;
+    const bool isClient = vertices.arrayBuffer == 0 && vertices.takesClientMemory();
+    const bool isGood = vertices.takesFormat(index, format);
+    if (!isClient || !isGood) set(isClient ? nullptr : pointer);
+    // An array of a malformed call stays as it was, for the host raises an error.
+    if (!isGood) return vertices.bound->layout.invalidate();
+    if (isClient || vertices.arrayBuffer || !pointer) {
+        vertices.bound->setArray(index, format, pointer, vertices.arrayBuffer);
+    }
 }
 
-// What the host would tell is the ring's.
+// What the host would tell of an array in the application's memory is the stream's. Nothing where its answer is right.
+std::optional<GLint> ownAnswer(const EsContext &context, GLuint index, GLenum pname) {
+    if (index >= context.vertices.maxAttribs) return std::nullopt;
+    const VertexArrayState &state = *context.vertices.bound;
+    const VertexArrayState::Attrib &attrib = state.attribs[index];
+    if (pname == GL_VERTEX_ATTRIB_ARRAY_BUFFER_BINDING) {
+        const GLuint buffer = state.bindings[attrib.binding].buffer;
+        return static_cast<GLint>(context.shared->buffers.names.nameOf(buffer));
+    }
+    if (!state.isClient(index)) return std::nullopt;
+    switch (pname) {
+    case GL_VERTEX_ATTRIB_ARRAY_SIZE:
+        return attrib.format.size;
+    case GL_VERTEX_ATTRIB_ARRAY_TYPE:
+        return static_cast<GLint>(attrib.format.type);
+    case GL_VERTEX_ATTRIB_ARRAY_NORMALIZED:
+        return attrib.format.isNormalized;
+    case GL_VERTEX_ATTRIB_ARRAY_INTEGER:
+        return attrib.format.isInteger;
+    case GL_VERTEX_ATTRIB_ARRAY_STRIDE:
+        return attrib.format.stride;
+    default:
+        return std::nullopt;
+    }
+}
+
 template <typename Value, typename Ask>
 void getAttrib(GLuint index, GLenum pname, Value *params, Ask ask) {
     const EsContext *const context = EsContext::current();
-    ask(index, pname, params);
-    if (!context || pname != GL_VERTEX_ATTRIB_ARRAY_BUFFER_BINDING || !params) return;
-    if (index >= context->vertices.maxAttribs) return;
-    const VertexArrayState &state = *context->vertices.bound;
-    *params =
-        static_cast<Value>(context->shared->buffers.names.nameOf(state.bindings[state.attribs[index].binding].buffer));
+    const auto answer = context && params ? ownAnswer(*context, index, pname) : std::nullopt;
+    if (!answer) return ask(index, pname, params);
+    *params = static_cast<Value>(*answer);
 }
 
 } // namespace
@@ -96,12 +109,12 @@ void GL_APIENTRY disableVertexAttribArray(GLuint index) {
 void GL_APIENTRY vertexAttribPointer(GLuint index, GLint size, GLenum type, GLboolean normalized, GLsizei stride,
                                      const void *pointer) {
     type = hostType(type);
-    setPointer(index, {static_cast<const std::byte *>(pointer), size, type, normalized, false, stride},
+    setPointer(index, {size, type, normalized, false, stride}, pointer,
                [&](const void *seen) { hostGl().vertexAttribPointer(index, size, type, normalized, stride, seen); });
 }
 
 void GL_APIENTRY vertexAttribIPointer(GLuint index, GLint size, GLenum type, GLsizei stride, const void *pointer) {
-    setPointer(index, {static_cast<const std::byte *>(pointer), size, type, GL_FALSE, true, stride},
+    setPointer(index, {size, type, GL_FALSE, true, stride}, pointer,
                [&](const void *seen) { hostGl().vertexAttribIPointer(index, size, type, stride, seen); });
 }
 
@@ -110,7 +123,7 @@ void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
     EsContext *const context = EsContext::current();
     if (!context || index >= context->vertices.maxAttribs) return;
     VertexArrayState &state = *context->vertices.bound;
-    state.bindings[index].divisor = divisor;
+    state.setDivisor(index, divisor);
     if (state.attribs[index].binding != index) {
         state.attribs[index].pointer = nullptr;
         state.setBinding(index, index);

@@ -1,10 +1,11 @@
-#include "programs/active_attribs.h"
+#include "programs/program_inputs.h"
 
 #include "common/per_back_end/host_gl.h"
+#include "vertices/vertex_array_state.h"
 
 #include <algorithm>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace {
 
@@ -27,41 +28,32 @@ GLuint columns(GLenum type) {
     }
 }
 
-uint32_t askHost(GLuint program) {
+} // namespace
+
+ProgramInputs askProgramInputs(GLuint program) {
     const HostGl &gl = hostGl();
+    GLint isLinked = GL_FALSE;
     GLint count = 0;
     GLint longest = 0;
+    gl.getProgramiv(program, GL_LINK_STATUS, &isLinked);
+    // What was linked before is still in use.
+    if (!isLinked) return {};
     gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTES, &count);
     gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTE_MAX_LENGTH, &longest);
     std::string name(static_cast<size_t>(std::max(longest, 1)), '\0');
-    uint32_t mask = 0;
+    ProgramInputs inputs = {0, false};
     for (GLint index = 0; index < count; ++index) {
         GLint size = 0;
         GLenum type = 0;
         gl.getActiveAttrib(program, static_cast<GLuint>(index), longest, nullptr, &size, &type, name.data());
         const GLint location = gl.getAttribLocation(program, name.c_str());
-        // Those that the system fills in have none.
-        if (location < 0) continue;
+        // The system fills it in.
+        if (location < 0) {
+            if (name.c_str() == std::string_view("gl_VertexID")) inputs.readsVertexId = true;
+            continue;
+        }
         for (GLuint column = 0; column < columns(type) * static_cast<GLuint>(size); ++column)
-            mask |= 1u << ((static_cast<GLuint>(location) + column) % VertexArrayState::maxAttribs);
+            inputs.attribs |= 1u << ((static_cast<GLuint>(location) + column) % VertexArrayState::maxAttribs);
     }
-    return mask;
-}
-
-} // namespace
-
-uint32_t activeAttribs(EsContext &context) {
-    GLint current = 0;
-    hostGl().getIntegerv(GL_CURRENT_PROGRAM, &current);
-    // A pipeline, or nothing.
-    if (current == 0) return ~0u;
-    const auto program = static_cast<GLuint>(current);
-    if (const auto known = context.shared->programs.activeAttribs.find(program)) return *known;
-    const uint32_t mask = askHost(program);
-    context.shared->programs.activeAttribs.set(program, mask);
-    return mask;
-}
-
-void forgetActiveAttribs(GLuint program) {
-    if (EsContext *const context = EsContext::current()) context->shared->programs.activeAttribs.remove(program);
+    return inputs;
 }
