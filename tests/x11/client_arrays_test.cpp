@@ -1,6 +1,7 @@
 #include "x11/back_end_fixture.h"
 
 #include <functional>
+#include <memory>
 #include <numeric>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -201,7 +202,19 @@ TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
         EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_BYTE, indices); }), "456");
         EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 4, 3); }), "456");
     }
-    // The ring takes more draws than it holds at a time, and a draw that is larger than it.
+    // One that is gone, and a draw that reads none.
+    auto gone = std::make_unique<std::vector<GLfloat>>(8, 3.0F);
+    for (int draw = 0; draw < 4; ++draw) {
+        setColumns(gone->data());
+        EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 1); }), "3");
+    }
+    setColumns(columns.data(), 8);
+    gone.reset();
+    ES(glDisableVertexAttribArray)(0);
+    ES(glVertexAttrib1f)(0, 12);
+    EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 1); }), "c");
+    ES(glEnableVertexAttribArray)(0);
+    // The stream takes more draws than a chunk of it holds, and a draw that is larger than a chunk.
     std::vector<GLfloat> many(300000, 20);
     many.back() = 11;
     setColumns(many.data());

@@ -62,9 +62,9 @@ FedVertices::~FedVertices() {
 
 std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list) {
     const HostGl &gl = hostGl();
-    const size_t size = static_cast<size_t>(list.count) * static_cast<size_t>(indexSize(list.type));
     const void *indices = list.indices;
     if (context.vertices.bound->elementBuffer) {
+        const size_t size = list.size();
         std::vector<std::byte> &copy = context.vertices.readBackIndices;
         GLint64 bufferSize = 0;
         gl.getBufferParameteri64v(GL_ELEMENT_ARRAY_BUFFER, GL_BUFFER_SIZE, &bufferSize);
@@ -82,21 +82,21 @@ std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &li
     return rangeWithoutRestarts(indices, list.count, list.type);
 }
 
-FedIndices::FedIndices(EsContext &context, const IndexList &list) : m_indices(list.indices) {
+std::optional<const void *> putIndices(EsContext &context, const IndexList &list) {
     Vertices &vertices = context.vertices;
     VertexArrayState &state = *vertices.bound;
-    if (state.elementBuffer) return;
+    if (state.elementBuffer) return list.indices;
     StreamBuffer &stream = vertices.indexStream;
-    const size_t size = static_cast<size_t>(list.count) * static_cast<size_t>(indexSize(list.type));
-    const uint32_t generation = stream.generation();
-    const auto offset = stream.reserve(context.shared->buffers.names, size);
-    m_isComplete = offset && stream.write(*offset, {static_cast<const std::byte *>(list.indices), size});
-    if (generation != stream.generation() || !stream.staysMapped()) vertices.restoreArrayBuffer();
-    if (!m_isComplete) return;
-    m_indices = reinterpret_cast<const void *>(*offset);
-    if (state.streamedElementBuffer == stream.name()) return;
-    hostGl().bindBuffer(GL_ELEMENT_ARRAY_BUFFER, stream.name());
-    state.streamedElementBuffer = stream.name();
+    const auto offset = stream.reserve(context.shared->buffers.names, list.size());
+    const bool isPut = offset && stream.write(*offset, {static_cast<const std::byte *>(list.indices), list.size()});
+    const bool isNewChunk = state.streamedElementBuffer != stream.name();
+    if (isNewChunk || !stream.staysMapped()) vertices.restoreArrayBuffer();
+    if (!isPut) return std::nullopt;
+    if (isNewChunk) {
+        hostGl().bindBuffer(GL_ELEMENT_ARRAY_BUFFER, stream.name());
+        state.streamedElementBuffer = stream.name();
+    }
+    return reinterpret_cast<const void *>(*offset);
 }
 
 void hideStreamedIndices(EsContext &context) {

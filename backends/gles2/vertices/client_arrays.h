@@ -42,24 +42,16 @@ struct IndexList {
     GLsizei count;
     GLenum type;
     const void *indices; // an offset where the object has an element buffer
+
+    [[nodiscard]] size_t size() const { return static_cast<size_t>(count) * static_cast<size_t>(indexSize(type)); }
 };
 
 // Of what the draw reads. Nothing when it reads none.
 [[nodiscard]] std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list);
 
-// Makes an index list of the application's memory lie in the stream.
-class FedIndices {
-public:
-    FedIndices(EsContext &context, const IndexList &list);
-
-    [[nodiscard]] bool isComplete() const { return m_isComplete; }
-    // For the host's draw.
-    [[nodiscard]] const void *indices() const { return m_indices; }
-
-private:
-    bool m_isComplete = true;
-    const void *m_indices;
-};
+// Makes an index list of the application's memory lie in the stream: what the host's draw takes as indices. Nothing
+// when the host has no memory.
+[[nodiscard]] std::optional<const void *> putIndices(EsContext &context, const IndexList &list);
 
 // The host has a buffer of ours bound for indices while the application has none. Takes it away, for a call that the
 // application could see it by.

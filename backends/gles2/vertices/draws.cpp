@@ -29,8 +29,7 @@ void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) 
 template <typename Draw>
 void feedAndDraw(EsContext &context, const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
     const auto drawList = [&](GLint base) {
-        const FedIndices indices(context, list);
-        if (indices.isComplete()) draw(indices.indices(), base);
+        if (const auto indices = putIndices(context, list)) draw(*indices, base);
     };
     if (!context.vertices.bound->enabledClientAttribs()) return drawList(baseVertex);
     const auto range = findIndexRange(context, list);

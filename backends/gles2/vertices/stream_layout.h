@@ -23,8 +23,8 @@ public:
 
     // Whether the arrays of mask can go on in the slots that are there.
     [[nodiscard]] bool fits(const VertexArrayState &state, uint32_t mask, int64_t count, const StreamBuffer &stream) {
-        return mask == m_mask && m_generation == stream.generation() && count <= m_slotCount - m_nextSlot &&
-               (!m_arePointersOld || findArrays(state));
+        return mask == m_mask && mask != 0 && m_generation == stream.generation() &&
+               count <= m_slotCount - m_nextSlot && (!m_arePointersOld || findArrays(state));
     }
     // Makes room for the arrays of mask, none of which is null or has a divisor, and points the host at it. False when
     // the host has no memory. Leaves another buffer bound to GL_ARRAY_BUFFER.
