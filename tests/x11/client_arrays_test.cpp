@@ -97,6 +97,15 @@ TEST_P(BackEndClientArrays, DrawsFollowWhatChangesBetweenThem) {
     EXPECT_EQ(draw(1, 2), "9a") << "another pointer";
     setColumns(columns.data(), 8);
     EXPECT_EQ(draw(1, 2), "24") << "another stride";
+    const GLubyte list[] = {5, 3, 7};
+    const auto drawList = [&](GLint base, GLsizei instances) {
+        return drawn([=, this] {
+            for (int time = 0; time < 8; ++time)
+                ES(glDrawElementsInstancedBaseVertex)(GL_POINTS, 3, GL_UNSIGNED_BYTE, list, instances, base);
+        });
+    };
+    setColumns(columns.data());
+    EXPECT_EQ(drawList(0, 1) + ' ' + drawList(-2, 2), "357 135") << "by a short list";
     const GLubyte bytes[] = {7, 5, 3, 1};
     ES(glVertexAttribPointer)(0, 1, GL_UNSIGNED_BYTE, GL_FALSE, 0, bytes);
     EXPECT_EQ(draw(1, 2), "35") << "another type";
@@ -171,10 +180,10 @@ TEST_P(BackEndClientArrays, ObjectsKeepTheirArrays) {
 TEST_P(BackEndClientArrays, TheBufferOfAnIndexListIsNotSeen) {
     startColumns(3, 1);
     setColumns(columns.data());
-    const GLubyte list[] = {1, 7};
+    GLubyte list[40] = {1, 7}; // more than are drawn without a list
     const GLuint command[5] = {};
     const auto expectNone = [&](const std::function<void()> &call) {
-        EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 2, GL_UNSIGNED_BYTE, list); }), "17");
+        EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 40, GL_UNSIGNED_BYTE, list); }), "017");
         call();
         EXPECT_EQ(error(), GL_INVALID_OPERATION);
     };

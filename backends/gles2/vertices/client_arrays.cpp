@@ -44,12 +44,13 @@ FedVertices::FedVertices(EsContext &context, const DrawnVertices &drawn) {
     // Every array of the draw has to begin at the same slot, and the program must not see which.
     const bool hasOthers = state.enabledAttribs & ~state.clientAttribs & inputs.attribs;
     if (!hasOthers && !inputs.readsVertexId && !m_switchedOff && !hasDivisor(state, mask)) {
-        m_isComplete = state.layout.fits(state, mask, drawn.count, vertices.stream) ||
-                       state.layout.make(state, mask, drawn.count, vertices.stream, names);
+        const bool isThere = state.layout.fits(state, mask, drawn.count, vertices.stream);
+        m_isComplete = isThere || state.layout.make(state, mask, drawn.count, vertices.stream, names);
         const auto slot = m_isComplete ? state.layout.put(drawn.first, drawn.count, vertices.stream) : std::nullopt;
         m_isComplete = slot.has_value();
         // The host adds them up modulo 2^32.
         if (slot) m_shift = static_cast<GLint>(*slot - drawn.first);
+        if (isThere && vertices.stream.staysMapped()) return;
     } else {
         m_isComplete = state.layout.putExactly(state, mask, drawn, vertices.stream, names);
     }
@@ -80,6 +81,30 @@ std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &li
     const bool mayRestart = context.major >= 3 && range.highest == greatestIndex(list.type);
     if (!mayRestart || !gl.isEnabled(GL_PRIMITIVE_RESTART_FIXED_INDEX)) return range;
     return rangeWithoutRestarts(indices, list.count, list.type);
+}
+
+std::optional<int64_t> gatherVertices(EsContext &context, const IndexList &list, GLint baseVertex) {
+    constexpr GLsizei mostGathered = 32;
+    if (list.count > mostGathered || context.vertices.bound->elementBuffer) return std::nullopt;
+    const auto gather = [&](const auto *indices) -> std::optional<int64_t> {
+        std::array<int64_t, mostGathered> numbers;
+        for (GLsizei place = 0; place < list.count; ++place) {
+            numbers[static_cast<size_t>(place)] = int64_t(indices[place]) + baseVertex;
+            // It may restart a primitive.
+            if (indices[place] == greatestIndex(list.type)) return std::nullopt;
+        }
+        StreamLayout *const layout = usualLayout(context, list.count);
+        if (!layout || *std::min_element(numbers.begin(), numbers.begin() + list.count) < 0) return std::nullopt;
+        return layout->gather({numbers.data(), static_cast<size_t>(list.count)}, context.vertices.stream);
+    };
+    switch (list.type) {
+    case GL_UNSIGNED_BYTE:
+        return gather(static_cast<const GLubyte *>(list.indices));
+    case GL_UNSIGNED_SHORT:
+        return gather(static_cast<const GLushort *>(list.indices));
+    default:
+        return gather(static_cast<const GLuint *>(list.indices));
+    }
 }
 
 std::optional<const void *> putIndices(EsContext &context, const IndexList &list) {

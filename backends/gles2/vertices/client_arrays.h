@@ -26,18 +26,6 @@ private:
     bool m_isComplete = true;
 };
 
-// The usual case of the above, in line: the arrays go on in the slots that are there. The slot of the first vertex.
-[[nodiscard]] inline std::optional<int64_t> putIntoNextSlots(EsContext &context, int64_t first, int64_t count) {
-    Vertices &vertices = context.vertices;
-    VertexArrayState &state = *vertices.bound;
-    const ProgramInputs inputs = context.programs.inputs(context.shared->programs);
-    const bool isShiftable = !(state.enabledAttribs & ~state.clientAttribs & inputs.attribs) && !inputs.readsVertexId;
-    const bool isUsual =
-        isShiftable && first >= 0 && vertices.stream.staysMapped() &&
-        state.layout.fits(state, state.enabledClientAttribs() & inputs.attribs, count, vertices.stream);
-    return isUsual ? state.layout.put(first, count, vertices.stream) : std::nullopt;
-}
-
 struct IndexList {
     GLsizei count;
     GLenum type;
@@ -48,6 +36,23 @@ struct IndexList {
 
 // Of what the draw reads. Nothing when it reads none.
 [[nodiscard]] std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list);
+
+// The usual case of FedVertices, in line: the layout whose next slots take that many vertices of the draw. Null where
+// the draw needs more than to be copied there.
+[[nodiscard]] inline StreamLayout *usualLayout(EsContext &context, int64_t count) {
+    Vertices &vertices = context.vertices;
+    VertexArrayState &state = *vertices.bound;
+    const ProgramInputs inputs = context.programs.inputs(context.shared->programs);
+    const uint32_t others = state.enabledAttribs & ~state.clientAttribs & inputs.attribs;
+    const bool isUsual =
+        others == 0 && !inputs.readsVertexId && vertices.stream.staysMapped() &&
+        state.layout.fits(state, state.enabledClientAttribs() & inputs.attribs, count, vertices.stream);
+    return isUsual ? &state.layout : nullptr;
+}
+
+// Copies the vertices of a short list one behind the other, as a draw without a list reads them, which costs the host
+// less. The slot of the first; nothing where the draw has to go the other way.
+[[nodiscard]] std::optional<int64_t> gatherVertices(EsContext &context, const IndexList &list, GLint baseVertex);
 
 // Makes an index list of the application's memory lie in the stream: what the host's draw takes as indices. Nothing
 // when the host has no memory.

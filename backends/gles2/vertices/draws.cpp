@@ -19,34 +19,48 @@ void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) 
     const bool isFed = context && context->vertices.bound->enabledClientAttribs();
     // Malformed calls are passed on, so the host raises the error.
     if (!isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw(first);
-    if (const auto slot = putIntoNextSlots(*context, first, count)) return draw(static_cast<GLint>(*slot));
+    if (StreamLayout *const layout = usualLayout(*context, count)) {
+        const auto slot = layout->put(first, count, context->vertices.stream);
+        return draw(static_cast<GLint>(*slot));
+    }
     const FedVertices vertices(*context, {first, count, instanceCount});
     if (vertices.isComplete()) draw(first + vertices.shift());
 }
 
+// An indexed draw. baseVertex is added to each index.
+struct IndexedDraw {
+    GLenum mode;
+    IndexList list;
+    GLsizei instanceCount = 1;
+    GLint baseVertex = 0;
+};
+
 // Arrays in the application's memory are fed for the vertices that the list names.
 // draw: takes the indices and what is added to each.
 template <typename Draw>
-void feedAndDraw(EsContext &context, const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw) {
+void feedAndDraw(EsContext &context, const IndexedDraw &call, Draw draw) {
+    const auto &[mode, list, instanceCount, baseVertex] = call;
     const auto drawList = [&](GLint base) {
         if (const auto indices = putIndices(context, list)) draw(*indices, base);
     };
     if (!context.vertices.bound->enabledClientAttribs()) return drawList(baseVertex);
+    if (const auto slot = gatherVertices(context, list, baseVertex)) {
+        const auto first = static_cast<GLint>(*slot);
+        if (instanceCount == 1) return hostGl().drawArrays(mode, first, list.count);
+        return hostGl().drawArraysInstanced(mode, first, list.count, instanceCount);
+    }
     const auto range = findIndexRange(context, list);
     if (!range) return;
     const int64_t first = int64_t(range->lowest) + baseVertex;
     const int64_t count = int64_t(range->highest) - range->lowest + 1;
-    // The host adds indices up modulo 2^32.
-    if (const auto slot = putIntoNextSlots(context, first, count)) {
-        return drawList(static_cast<GLint>(*slot - range->lowest));
-    }
     const FedVertices vertices(context, {first, count, instanceCount});
     if (vertices.isComplete()) drawList(baseVertex + vertices.shift());
 }
 
 // draw: the host's function of the call. drawAt: the one that adds a number to each index.
 template <typename Draw, typename DrawAt>
-void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex, Draw draw, DrawAt drawAt) {
+void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
+    const auto &[mode, list, instanceCount, baseVertex] = call;
     EsContext *const context = prepare();
     if (!context) return draw();
     const VertexArrayState &state = *context->vertices.bound;
@@ -60,7 +74,7 @@ void drawIndexed(const IndexList &list, GLsizei instanceCount, GLint baseVertex,
     if (indexSize(list.type) == 0) return context->raise(GL_INVALID_ENUM);
     if (list.count < 0 || instanceCount < 0) return context->raise(GL_INVALID_VALUE);
     if (!isWellFormed || (!state.elementBuffer && !list.indices)) return;
-    feedAndDraw(*context, list, instanceCount, baseVertex, drawAt);
+    feedAndDraw(*context, call, drawAt);
 }
 
 } // namespace
@@ -83,7 +97,7 @@ void GL_APIENTRY drawArraysInstanced(GLenum mode, GLint first, GLsizei count, GL
 
 void GL_APIENTRY drawElements(GLenum mode, GLsizei count, GLenum type, const void *indices) {
     drawIndexed(
-        {count, type, indices}, 1, 0, [&] { hostGl().drawElements(mode, count, type, indices); },
+        {mode, {count, type, indices}}, [&] { hostGl().drawElements(mode, count, type, indices); },
         [&](const void *list, GLint base) { hostGl().drawElementsBaseVertex(mode, count, type, list, base); });
 }
 
@@ -93,7 +107,7 @@ void GL_APIENTRY drawElementsBaseVertex(GLenum mode, GLsizei count, GLenum type,
         hostGl().drawElementsBaseVertex(mode, count, type, list, base);
     };
     drawIndexed(
-        {count, type, indices}, 1, baseVertex, [&] { draw(indices, baseVertex); }, draw);
+        {mode, {count, type, indices}, 1, baseVertex}, [&] { draw(indices, baseVertex); }, draw);
 }
 
 void GL_APIENTRY drawElementsIndirect(GLenum mode, GLenum type, const void *indirect) {
@@ -105,7 +119,7 @@ void GL_APIENTRY drawElementsInstanced(GLenum mode, GLsizei count, GLenum type, 
                                        GLsizei instanceCount) {
     const HostGl &gl = hostGl();
     drawIndexed(
-        {count, type, indices}, instanceCount, 0,
+        {mode, {count, type, indices}, instanceCount},
         [&] { gl.drawElementsInstanced(mode, count, type, indices, instanceCount); },
         [&](const void *list, GLint base) {
             gl.drawElementsInstancedBaseVertex(mode, count, type, list, instanceCount, base);
@@ -118,14 +132,14 @@ void GL_APIENTRY drawElementsInstancedBaseVertex(GLenum mode, GLsizei count, GLe
         hostGl().drawElementsInstancedBaseVertex(mode, count, type, list, instanceCount, base);
     };
     drawIndexed(
-        {count, type, indices}, instanceCount, baseVertex, [&] { draw(indices, baseVertex); }, draw);
+        {mode, {count, type, indices}, instanceCount, baseVertex}, [&] { draw(indices, baseVertex); }, draw);
 }
 
 void GL_APIENTRY drawRangeElements(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type,
                                    const void *indices) {
     const HostGl &gl = hostGl();
     drawIndexed(
-        {count, type, indices}, 1, 0, [&] { gl.drawRangeElements(mode, start, end, count, type, indices); },
+        {mode, {count, type, indices}}, [&] { gl.drawRangeElements(mode, start, end, count, type, indices); },
         [&](const void *list, GLint base) {
             gl.drawRangeElementsBaseVertex(mode, start, end, count, type, list, base);
         });
@@ -137,7 +151,7 @@ void GL_APIENTRY drawRangeElementsBaseVertex(GLenum mode, GLuint start, GLuint e
         hostGl().drawRangeElementsBaseVertex(mode, start, end, count, type, list, base);
     };
     drawIndexed(
-        {count, type, indices}, 1, baseVertex, [&] { draw(indices, baseVertex); }, draw);
+        {mode, {count, type, indices}, 1, baseVertex}, [&] { draw(indices, baseVertex); }, draw);
 }
 
 } // namespace overrides

@@ -51,6 +51,15 @@ bool StreamLayout::make(const VertexArrayState &state, uint32_t mask, int64_t co
     return true;
 }
 
+int64_t StreamLayout::gather(std::span<const int64_t> numbers, StreamBuffer &stream) {
+    for (const Block &block : m_blocks) {
+        int64_t slot = m_nextSlot;
+        for (const int64_t number : numbers)
+            putBlock(block, number, 1, slot++, stream);
+    }
+    return std::exchange(m_nextSlot, m_nextSlot + static_cast<int64_t>(numbers.size()));
+}
+
 bool StreamLayout::putExactly(const VertexArrayState &state, uint32_t mask, const DrawnVertices &drawn,
                               StreamBuffer &stream, NameTable &names) {
     invalidate();

@@ -41,6 +41,9 @@ public:
         return std::exchange(m_nextSlot, m_nextSlot + count);
     }
 
+    // The same of vertices by their numbers, where the host keeps the stream mapped.
+    [[nodiscard]] int64_t gather(std::span<const int64_t> numbers, StreamBuffer &stream);
+
     // For one draw: vertices keep their numbers, and arrays may have divisors. Otherwise as make() and put().
     [[nodiscard]] bool putExactly(const VertexArrayState &state, uint32_t mask, const DrawnVertices &drawn,
                                   StreamBuffer &stream, NameTable &names);
