@@ -4,16 +4,11 @@
 
 #include <zelvane/back_end.h>
 
-#include <atomic>
-
 namespace {
 
 constexpr unsigned frontAndBack = 0x0408;
 constexpr unsigned polygonLine = 0x1B01;
 constexpr unsigned polygonFill = 0x1B02;
-
-// Written on the link's thread, beside running GL calls.
-std::atomic<bool> isWantedEverywhere = false;
 
 // The frames below it have their marker, or drew nothing.
 std::atomic<uint64_t> nextMarkedFrame = 0;
@@ -40,23 +35,29 @@ uint64_t toggleWireframe(unsigned isEnabled) {
 }
 
 uint64_t setContextWireframe(unsigned isEnabled) {
-    if (Wireframe *const wireframe = currentWireframe()) wireframe->isWanted = isEnabled != 0;
+    if (RenderMode *const mode = currentRenderMode()) mode->wantsWireframe = isEnabled != 0;
     return 0;
 }
 
 } // namespace
 
+constinit std::atomic<bool> isWireframeEverywhere = false;
+
 void setRenderMode(uint8_t mode) {
-    isWantedEverywhere.store(mode == 1, std::memory_order_relaxed);
+    isWireframeEverywhere.store(mode == 1, std::memory_order_relaxed);
 }
 
-void beginDraw(Wireframe &wireframe) {
-    const bool isWanted = wireframe.isWanted || isWantedEverywhere.load(std::memory_order_relaxed);
-    if (isWanted != wireframe.isOn) {
+void lookForGui(RenderMode &mode) {
+    mode.isWatched = zvGuiIsAttached() != 0;
+}
+
+void applyRenderMode(RenderMode &mode) {
+    const bool isWanted = mode.wantsWireframe || isWireframeEverywhere.load(std::memory_order_relaxed);
+    if (isWanted != mode.isWireframe) {
         setPolygonMode(isWanted ? polygonLine : polygonFill);
-        wireframe.isOn = isWanted;
+        mode.isWireframe = isWanted;
     }
-    if (zvGuiIsAttached()) postMarker();
+    if (mode.isWatched && zvGuiIsAttached()) postMarker();
 }
 
 void *findWireframeSwitch(std::string_view name) {

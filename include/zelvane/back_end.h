@@ -105,8 +105,8 @@ ZV_EXPORT uint64_t zvCurrentFrameNumber(void);
 ZV_EXPORT void zvPostFrameMessage(zvMessage message);
 
 /*
- * 1 while a GUI is attached to the process, otherwise 0. Costs a few loads, so that a back end can ask before it makes
- * a record. Must not be called before the first EGL call. Any thread.
+ * 1 while a GUI is attached to the process, otherwise 0. A GUI attaches at the first EGL call or never. Costs a few
+ * loads, so that a back end can ask before it makes a record. Must not be called before the first EGL call. Any thread.
  */
 ZV_EXPORT int zvGuiIsAttached(void);
 

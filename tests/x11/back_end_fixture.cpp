@@ -18,8 +18,8 @@ Display *connection() {
 
 } // namespace
 
-extern "C" ZV_EXPORT zvEsContext zvCurrentEsContext(void) {
-    return BackEnd::current;
+extern "C" ZV_EXPORT const zvThread *zvCurrentThread(void) {
+    return &BackEnd::thread;
 }
 
 BackEnd::BackEnd() : m_library(dlopen(ZELVANE_BACK_END, RTLD_LAZY | RTLD_GLOBAL)) {

@@ -26,8 +26,9 @@ using Pixel = std::array<GLubyte, 4>;
 
 class BackEnd : public testing::Test {
 public:
-    // What the back end is told to be the calling thread's context.
-    static inline zvEsContext current = nullptr;
+    // What the back end is told of every thread that binds a context.
+    static inline zvThread thread = {};
+    static inline zvEsContext &current = thread.esContext;
 
 protected:
     static constexpr int size = 16;

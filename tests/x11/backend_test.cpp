@@ -2,7 +2,9 @@
 
 #include <dlfcn.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 namespace {
 
@@ -13,6 +15,17 @@ std::string homeOf(void *function) {
     const std::string file = std::filesystem::path(info.dli_fname).filename();
     return file.substr(0, file.find('.'));
 }
+
+zvEsContext lateContext = nullptr;
+decltype(&zvDeleteEsContext) deleteLate = nullptr;
+
+// Runs when the back end's own objects of static storage have ended, since it is there before the back end is opened.
+struct EndsLate {
+    EndsLate() {
+        std::atexit([] { deleteLate(lateContext); });
+    }
+};
+class BackEndThatEndsLate : private EndsLate, public BackEnd {};
 
 } // namespace
 
@@ -32,12 +45,15 @@ TEST_F(BackEnd, TheLinkedNamesReachTheCurrentContext) {
     EXPECT_EQ(pixel(3, 3), green);
     EXPECT_EQ(homeOf(symbol("glClear")), "libGLESv2");
     // The current context may be one of ES 1, whose handle is not ours to read.
-    const zvEsContext own = current;
+    const zvThread own = thread;
     int foreign = 0;
-    current = &foreign;
+    thread = {&foreign, nullptr};
     const std::string version = text(GL_VERSION);
-    current = own;
+    thread = own;
     EXPECT_THAT(version, testing::MatchesRegex("[1-9].*")) << "the host's own";
+    // A thread that never bound a context has none, and a call there leaves the others alone.
+    std::thread([&] { OWN(glHint)(GL_GENERATE_MIPMAP_HINT, GL_BACK); }).join();
+    EXPECT_EQ(error(), GL_NO_ERROR);
 }
 
 TEST_F(BackEnd, TellsTheVersionsOfTheContext) {
@@ -78,4 +94,10 @@ TEST_F(BackEnd, WritesSrgbValuesWhereTheImageTakesThem) {
     ES(glBindFramebuffer)(GL_FRAMEBUFFER, 0);
     clear(0.5F, 0.5F, 0.5F);
     EXPECT_NEAR(pixel(2, 2)[0], 128, 1) << "the surface does not";
+}
+
+TEST_F(BackEndThatEndsLate, DeletesAContextWhenTheProcessIsEnding) {
+    start(2, 0);
+    deleteLate = OWN(zvDeleteEsContext);
+    lateContext = std::exchange(current, nullptr);
 }

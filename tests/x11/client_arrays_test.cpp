@@ -1,6 +1,7 @@
 #include "x11/back_end_fixture.h"
 
 #include <functional>
+#include <memory>
 #include <numeric>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -16,7 +17,17 @@ char *guardedCopy(const void *bytes, size_t size, bool isGuardedInFront) {
     return static_cast<char *>(memcpy(isGuardedInFront ? middle : middle + page - size, bytes, size));
 }
 
-class BackEndClientArrays : public BackEnd {
+// The driver reads this while it makes a context, which the fixture does first of all.
+struct ChosenHost : testing::WithParamInterface<bool> {
+    ChosenHost() {
+        if (GetParam()) return;
+        setenv("MESA_GL_VERSION_OVERRIDE", "4.3", 1);
+        setenv("MESA_EXTENSION_OVERRIDE", "-GL_ARB_buffer_storage", 1);
+    }
+};
+
+// On a host that keeps buffers mapped while it draws from them, and on one that does not.
+class BackEndClientArrays : public ChosenHost, public BackEnd {
 protected:
     void startColumns(int major, int minor) {
         startWith(major, minor, columnVertex, greenFragment);
@@ -40,9 +51,11 @@ protected:
     GLuint shift = 0;
 };
 
+INSTANTIATE_TEST_SUITE_P(Hosts, BackEndClientArrays, testing::Bool());
+
 } // namespace
 
-TEST_F(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
+TEST_P(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
     startColumns(3, 2);
     setColumns(columns.data());
     const GLubyte bytes[] = {5, 3, 9};
@@ -69,7 +82,123 @@ TEST_F(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
     EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 2); }), "37");
 }
 
-TEST_F(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
+// Draws go on in the memory of the last one, as long as nothing but vertices and pointers differs.
+TEST_P(BackEndClientArrays, DrawsFollowWhatChangesBetweenThem) {
+    startColumns(3, 0);
+    const auto draw = [&](GLint first, GLsizei count) {
+        return drawn([=, this] {
+            for (int time = 0; time < 6; ++time)
+                ES(glDrawArrays)(GL_POINTS, first, count);
+        });
+    };
+    setColumns(columns.data());
+    EXPECT_EQ(draw(0, 2) + draw(2, 3) + draw(0, 1), "012340");
+    setColumns(&columns[8]);
+    EXPECT_EQ(draw(1, 2), "9a") << "another pointer";
+    setColumns(columns.data(), 8);
+    EXPECT_EQ(draw(1, 2), "24") << "another stride";
+    const GLubyte list[] = {5, 3, 7};
+    const auto drawList = [&](GLint base, GLsizei instances) {
+        return drawn([=, this] {
+            for (int time = 0; time < 8; ++time)
+                ES(glDrawElementsInstancedBaseVertex)(GL_POINTS, 3, GL_UNSIGNED_BYTE, list, instances, base);
+        });
+    };
+    setColumns(columns.data());
+    EXPECT_EQ(drawList(0, 1) + ' ' + drawList(-2, 2), "357 135") << "by a short list";
+    const GLubyte bytes[] = {7, 5, 3, 1};
+    ES(glVertexAttribPointer)(0, 1, GL_UNSIGNED_BYTE, GL_FALSE, 0, bytes);
+    EXPECT_EQ(draw(1, 2), "35") << "another type";
+
+    const GLfloat pairs[][2] = {{1, 2}, {3, 4}, {5, 6}};
+    setColumns(pairs, sizeof pairs[0]);
+    ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, sizeof pairs[0], &pairs[0][1]);
+    ES(glEnableVertexAttribArray)(shift);
+    EXPECT_EQ(draw(0, 2) + draw(2, 1), "37b") << "a second array";
+    const GLuint readsBoth = program;
+    use(plainVertex, greenFragment);
+    draw(0, 1);
+    ES(glUseProgram)(readsBoth);
+    EXPECT_EQ(draw(1, 1), "7") << "a program that reads both again";
+    setColumns(&pairs[1], sizeof pairs[0]);
+    EXPECT_EQ(draw(0, 1), "5") << "one of two pointers";
+    const GLuint bound = buffer(GL_ARRAY_BUFFER, columns.data(), sizeof columns);
+    ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, 0, nullptr);
+    ES(glDisableVertexAttribArray)(shift);
+    EXPECT_EQ(draw(0, 1), "3");
+    ES(glEnableVertexAttribArray)(shift);
+    EXPECT_EQ(draw(1, 1), "6") << "the second one in a buffer";
+    ES(glVertexAttribDivisor)(shift, 1);
+    EXPECT_EQ(draw(1, 1), "5");
+    ES(glDisableVertexAttribArray)(shift);
+    EXPECT_EQ(draw(0, 2), "35");
+    EXPECT_EQ(integer(GL_ARRAY_BUFFER_BINDING), static_cast<GLint>(bound));
+
+    const GLfloat low[16] = {};
+    ES(glBindBuffer)(GL_ARRAY_BUFFER, 0);
+    setColumns(low);
+    EXPECT_EQ(draw(0, 3), "0");
+    use(numberVertex, greenFragment3);
+    EXPECT_EQ(draw(4, 3), "456") << "the program sees the numbers";
+    const GLushort farthest[] = {0xFFFF};
+    std::vector<GLfloat> many(0x10000, 20);
+    many.back() = 11;
+    use(columnVertex, greenFragment);
+    setColumns(many.data());
+    EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 1, GL_UNSIGNED_SHORT, farthest); }), "b") << "restart is off";
+
+    ES(glBindAttribLocation)(program, 5, "position");
+    ES(glLinkProgram)(program);
+    ES(glDisableVertexAttribArray)(0);
+    ES(glVertexAttribPointer)(5, 1, GL_FLOAT, GL_FALSE, 0, columns.data());
+    ES(glEnableVertexAttribArray)(5);
+    EXPECT_EQ(draw(4, 1), "4") << "another place in the program";
+}
+
+TEST_P(BackEndClientArrays, ObjectsKeepTheirArrays) {
+    startColumns(2, 0);
+    setColumns(columns.data());
+    const auto draw = [&](GLsizei count) { return drawn([=, this] { ES(glDrawArrays)(GL_POINTS, 0, count); }); };
+    EXPECT_EQ(draw(1) + draw(1) + draw(1) + draw(1), "0000");
+    GLuint object = 0;
+    ES(glGenVertexArraysOES)(1, &object);
+    ES(glBindVertexArrayOES)(object);
+    std::vector<GLfloat> many(300000, 20);
+    many.back() = 11;
+    setColumns(many.data());
+    ES(glEnableVertexAttribArray)(0);
+    EXPECT_EQ(draw(static_cast<GLsizei>(many.size())), "b") << "which takes other memory than object 0 has";
+    ES(glBindVertexArrayOES)(0);
+    EXPECT_EQ(draw(2), "01");
+    ES(glBindVertexArrayOES)(object);
+    many[0] = 5;
+    EXPECT_EQ(draw(1), "5");
+    ES(glDeleteVertexArraysOES)(1, &object);
+    EXPECT_EQ(draw(1), "0");
+}
+
+TEST_P(BackEndClientArrays, TheBufferOfAnIndexListIsNotSeen) {
+    startColumns(3, 1);
+    setColumns(columns.data());
+    GLubyte list[40] = {1, 7}; // more than are drawn without a list
+    const GLuint command[5] = {};
+    const auto expectNone = [&](const std::function<void()> &call) {
+        EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 40, GL_UNSIGNED_BYTE, list); }), "017");
+        call();
+        EXPECT_EQ(error(), GL_INVALID_OPERATION);
+    };
+    GLint size = 0;
+    expectNone([&] { ES(glBufferData)(GL_ELEMENT_ARRAY_BUFFER, 4, list, GL_STATIC_DRAW); });
+    expectNone([&] { ES(glBufferSubData)(GL_ELEMENT_ARRAY_BUFFER, 0, 1, list); });
+    expectNone([&] { ES(glMapBufferRange)(GL_ELEMENT_ARRAY_BUFFER, 0, 1, GL_MAP_WRITE_BIT); });
+    expectNone([&] { ES(glGetBufferParameteriv)(GL_ELEMENT_ARRAY_BUFFER, GL_BUFFER_SIZE, &size); });
+    buffer(GL_DRAW_INDIRECT_BUFFER, command, sizeof command);
+    expectNone([&] { ES(glDrawElementsIndirect)(GL_POINTS, GL_UNSIGNED_BYTE, nullptr); });
+    buffer(GL_ELEMENT_ARRAY_BUFFER, &list[1], 1);
+    EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 1, GL_UNSIGNED_BYTE, nullptr); }), "7");
+}
+
+TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
     startColumns(2, 0);
     // One that is off and one that the program does not have.
     ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, 0, reinterpret_cast<const void *>(8));
@@ -82,7 +211,19 @@ TEST_F(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
         EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_BYTE, indices); }), "456");
         EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 4, 3); }), "456");
     }
-    // The ring takes more draws than it holds at a time, and a draw that is larger than it.
+    // One that is gone, and a draw that reads none.
+    auto gone = std::make_unique<std::vector<GLfloat>>(8, 3.0F);
+    for (int draw = 0; draw < 4; ++draw) {
+        setColumns(gone->data());
+        EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 1); }), "3");
+    }
+    setColumns(columns.data(), 8);
+    gone.reset();
+    ES(glDisableVertexAttribArray)(0);
+    ES(glVertexAttrib1f)(0, 12);
+    EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 1); }), "c");
+    ES(glEnableVertexAttribArray)(0);
+    // The stream takes more draws than a chunk of it holds, and a draw that is larger than a chunk.
     std::vector<GLfloat> many(300000, 20);
     many.back() = 11;
     setColumns(many.data());
@@ -91,19 +232,29 @@ TEST_F(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
             ES(glDrawArrays)(GL_POINTS, 0, static_cast<GLsizei>(many.size()));
     };
     EXPECT_EQ(drawn(drawMany), "b");
+    // Draws of a few vertices fill more memory than the host keeps for them.
+    GLfloat column = 0;
+    setColumns(&column);
+    for (int draw = 0; draw < 150000; ++draw) {
+        column = draw == 140000 ? 3.0F : 20.0F;
+        ES(glDrawArrays)(GL_POINTS, 0, 1);
+    }
+    EXPECT_EQ(pixel(3, 0), green);
 }
 
-TEST_F(BackEndClientArrays, TheStateIsTheApplications) {
+TEST_P(BackEndClientArrays, TheStateIsTheApplications) {
     startColumns(3, 0);
     const GLuint bound = buffer(GL_ARRAY_BUFFER, columns.data(), sizeof columns);
     const auto expectArray = [&](GLuint ofBuffer, GLint stride, const void *start) {
-        GLint values[3] = {};
+        GLint values[5] = {};
         void *pointer = nullptr;
         ES(glGetVertexAttribiv)(0, GL_VERTEX_ATTRIB_ARRAY_BUFFER_BINDING, &values[0]);
         ES(glGetVertexAttribiv)(0, GL_VERTEX_ATTRIB_ARRAY_STRIDE, &values[1]);
         ES(glGetVertexAttribiv)(0, GL_VERTEX_ATTRIB_ARRAY_ENABLED, &values[2]);
+        ES(glGetVertexAttribiv)(0, GL_VERTEX_ATTRIB_ARRAY_SIZE, &values[3]);
+        ES(glGetVertexAttribiv)(0, GL_VERTEX_ATTRIB_ARRAY_TYPE, &values[4]);
         ES(glGetVertexAttribPointerv)(0, GL_VERTEX_ATTRIB_ARRAY_POINTER, &pointer);
-        EXPECT_THAT(values, testing::ElementsAre(ofBuffer, stride, GL_TRUE));
+        EXPECT_THAT(values, testing::ElementsAre(ofBuffer, stride, GL_TRUE, 1, GL_FLOAT));
         EXPECT_EQ(pointer, start);
     };
     setColumns(reinterpret_cast<const void *>(4));
@@ -124,7 +275,7 @@ TEST_F(BackEndClientArrays, TheStateIsTheApplications) {
     expectArray(0, 0, nullptr);
 }
 
-TEST_F(BackEndClientArrays, BadCallsGiveTheErrorsOfEs) {
+TEST_P(BackEndClientArrays, BadCallsGiveTheErrorsOfEs) {
     const GLubyte list[8] = {1, 2};
     const GLenum backAndNone[] = {GL_BACK, GL_NONE};
     uint64_t pixmapImage[] = {0x30B0, 1}; // EGL_NATIVE_PIXMAP_KHR in 32 bits, the pixmap in 64

@@ -11,7 +11,7 @@
 
 namespace {
 
-zvEsContext currentEsContext = nullptr;
+zvThread thread = {};
 std::string profileText;
 
 // Stays open: the driver is unloaded with the last connection, and its losses could not be told by its name any more.
@@ -22,8 +22,8 @@ Display *connection() {
 
 } // namespace
 
-extern "C" ZV_EXPORT zvEsContext zvCurrentEsContext(void) {
-    return currentEsContext;
+extern "C" ZV_EXPORT const zvThread *zvCurrentThread(void) {
+    return &thread;
 }
 
 extern "C" ZV_EXPORT const char *zvSettingsProfileText(const void *) {
@@ -52,7 +52,7 @@ Gles1::Gles1() : m_library(dlopen(ZELVANE_BACK_END, RTLD_LAZY | RTLD_GLOBAL)) {
 }
 
 Gles1::~Gles1() {
-    EXPECT_EQ(currentEsContext ? error() : GL_NO_ERROR, GL_NO_ERROR) << "at the end";
+    EXPECT_EQ(current() ? error() : GL_NO_ERROR, GL_NO_ERROR) << "at the end";
     const auto deleteEsContext = reinterpret_cast<decltype(&zvDeleteEsContext)>(symbol("zvDeleteEsContext"));
     glXMakeContextCurrent(connection(), None, None, nullptr);
     for (const Host &host : hosts) {
@@ -87,11 +87,15 @@ zvEsContext Gles1::start(const std::string &profile, bool isCore, zvEsContext sh
     attribs.requestedMajor = attribs.esMajor = attribs.legacyClient = 1;
     const uint64_t displayAndHandle[2] = {1, 1};
     const auto createEsContext = reinterpret_cast<decltype(&zvCreateEsContext)>(symbol("zvCreateEsContext"));
-    currentEsContext = host.esContext = createEsContext(&attribs, displayAndHandle, &profileText, share);
+    thread.es1Context = host.esContext = createEsContext(&attribs, displayAndHandle, &profileText, share);
     hosts.push_back(host);
     // Surfaces with and without alpha give the same pixels then.
-    if (currentEsContext) ES(glClearColor)(0, 0, 0, 1);
-    return currentEsContext;
+    if (current()) ES(glClearColor)(0, 0, 0, 1);
+    return current();
+}
+
+zvEsContext Gles1::current() {
+    return thread.es1Context;
 }
 
 void *Gles1::symbol(const char *name) const {

@@ -2,7 +2,7 @@
 // the fixture does: it binds the context, tells which back-end context is current and which device profile is in force.
 #pragma once
 
-#include "es1_gl.h"
+#include "es_gl.h"
 
 #include <gtest/gtest.h>
 #include <zelvane/back_end.h>
@@ -27,6 +27,8 @@ protected:
     // Makes a host context and a back-end context on it, which shares with the last one if asked, and makes them the
     // current ones. Null when the back end refuses.
     zvEsContext start(const std::string &profile = "", bool isCore = false, zvEsContext share = nullptr);
+
+    static zvEsContext current();
 
     template <typename Function>
     Function *es(const char *name) {

@@ -99,7 +99,7 @@ TEST_F(Gles1Textures, ContextsThatShareTexturesShareTheirCrops) {
         ES(glGetTexParameteriv)(GL_TEXTURE_2D, GL_TEXTURE_CROP_RECT_OES, numbers.data());
         return numbers;
     };
-    start("", false, zvCurrentEsContext());
+    start("", false, current());
     ES(glBindTexture)(GL_TEXTURE_2D, texture);
     EXPECT_EQ(read(), std::to_array(crop));
     ES(glDeleteTextures)(1, &texture);

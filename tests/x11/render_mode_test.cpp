@@ -47,7 +47,8 @@ TEST_F(BackEndRenderMode, AFrameThatDrawsPostsOneMarkerToAnAttachedGui) {
     startWith(2, 0, plainVertex, greenFragment);
     drawnInside();
     EXPECT_TRUE(postedTypes.empty());
-    isGuiAttached = 1;
+    isGuiAttached = 1; // as if since the start of the process
+    OWN(zvSetEsContextAttribs)(current, &attribs);
     for (frame = 5; frame < 8; ++frame) {
         drawnInside();
         drawnInside();

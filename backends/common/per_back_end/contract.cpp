@@ -1,10 +1,36 @@
-// What libEGL.so.1 asks of a context that is there; making one is each back end's own.
+// What libEGL.so.1 asks of a back end.
+#include "common/current_thread.h"
+#include "common/per_back_end/entry_lookup.h"
+#include "common/refusal.h"
 #include "common/render_mode.h"
-#include "entry_lookup.h"
-#include "es_context.h"
+#include "context/es_context.h"
+
+#include <memory>
+#include <new>
+#include <string>
+
+zvEsContext zvCreateEsContext(const ContextAttribs *attribs, const uint64_t[2], void *settings, zvEsContext share) {
+    noteCurrentThread();
+    if (!attribs) return nullptr;
+    try {
+        if (const std::string reason = reasonToRefuse(*attribs); !reason.empty()) {
+            reportRefusal("no OpenGL ES " + std::to_string(attribs->esMajor) + " context: " + reason);
+            return nullptr;
+        }
+        auto context = std::make_unique<EsContext>(*attribs, settings, share);
+        lookForGui(context->renderMode);
+        return context.release();
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+}
 
 void zvSetEsContextAttribs(zvEsContext esContext, const ContextAttribs *attribs) {
-    if (esContext && attribs) static_cast<EsContext *>(esContext)->setAttribs(*attribs);
+    noteCurrentThread();
+    if (!esContext || !attribs) return;
+    EsContext &context = *static_cast<EsContext *>(esContext);
+    lookForGui(context.renderMode);
+    context.setAttribs(*attribs);
 }
 
 void zvDeleteEsContext(zvEsContext esContext) {
@@ -17,4 +43,9 @@ void *zvGetExtProcAddress(const char *name) {
 
 void zvSetRenderMode(const uint8_t *mode, size_t length) {
     if (mode && length > 0) setRenderMode(*mode);
+}
+
+RenderMode *currentRenderMode() {
+    EsContext *const context = EsContext::current();
+    return context ? &context->renderMode : nullptr;
 }

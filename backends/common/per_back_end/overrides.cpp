@@ -1,4 +1,4 @@
-#include "overrides.h"
+#include "common/per_back_end/overrides.h"
 
 #include <algorithm>
 #include <iterator>

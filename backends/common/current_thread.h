@@ -1,0 +1,11 @@
+// What is current on the calling thread, as libEGL.so.1 writes it.
+#pragma once
+
+#include <zelvane/back_end.h>
+
+// The calling thread's record; an empty one before the thread's first bind. Two loads find the current context, since
+// drawing asks at each call.
+extern constinit thread_local const zvThread *currentThread __attribute__((tls_model("initial-exec")));
+
+// Called at each bind.
+void noteCurrentThread();

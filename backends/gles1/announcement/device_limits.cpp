@@ -1,0 +1,108 @@
+#include "announcement/device_limits.h"
+
+#include "announcement/extensions.h"
+#include "common/per_back_end/host_gl.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+struct Limit {
+    GLenum name;
+    const char *element;
+    size_t count;
+};
+
+constexpr Limit limits[] = {
+#define LIMIT(name, element, count) {name, element, count},
+#include "announcement/limits.def"
+#undef LIMIT
+};
+
+struct PixelFormat {
+    GLenum format, type;
+};
+
+constexpr PixelFormat pixelFormats[] = {
+#define PIXEL_FORMAT(format, type) {format, type},
+#include "textures/pixel_formats.def"
+#undef PIXEL_FORMAT
+};
+
+constexpr GLenum ownFormats[] = {
+#define PALETTE_FORMAT(name, ...) name,
+#include "textures/palette_formats.def"
+#undef PALETTE_FORMAT
+    GL_ETC1_RGB8_OES,
+};
+constexpr GLenum dxt1Formats[] = {GL_COMPRESSED_RGB_S3TC_DXT1_EXT, GL_COMPRESSED_RGBA_S3TC_DXT1_EXT};
+
+// The numbers of an element; null where the device does not tell them all.
+const std::vector<double> *told(const std::optional<EsBlock> &device, std::string_view element, size_t count) {
+    if (!device) return nullptr;
+    const auto found = device->limits.find(element);
+    return found == device->limits.end() || found->second.size() < count ? nullptr : &found->second;
+}
+
+// A range that shares nothing with the host's leaves the host's in force.
+void cut(std::vector<double> &host, const std::vector<double> &device) {
+    if (host.size() == 1) {
+        host[0] = std::min(host[0], device[0]);
+    } else if (device[0] <= host[1] && device[1] >= host[0]) {
+        host = {std::max(host[0], device[0]), std::min(host[1], device[1])};
+    }
+}
+
+} // namespace
+
+Limits::Limits(const HostFeatures &host, const std::optional<EsBlock> &device) {
+    cutLimits(device);
+    takeCompressedFormats(host, device);
+    takeReadFormat(device);
+}
+
+const std::vector<double> *Limits::find(GLenum pname) const {
+    const auto found = m_values.find(pname);
+    return found == m_values.end() ? nullptr : &found->second;
+}
+
+void Limits::cutLimits(const std::optional<EsBlock> &device) {
+    for (const Limit &limit : limits) {
+        const auto *const numbers = told(device, limit.element, limit.count);
+        if (!numbers) continue;
+        std::array<GLfloat, 2> hosts = {};
+        hostGl().getFloatv(limit.name, hosts.data());
+        std::vector<double> values(hosts.begin(), hosts.begin() + static_cast<ptrdiff_t>(limit.count));
+        cut(values, *numbers);
+        m_values[limit.name] = std::move(values);
+    }
+}
+
+void Limits::takeCompressedFormats(const HostFeatures &host, const std::optional<EsBlock> &device) {
+    std::vector<double> formats(std::begin(ownFormats), std::end(ownFormats));
+    if (carriesExtension(host, "GL_EXT_texture_compression_dxt1")) {
+        formats.insert(formats.end(), std::begin(dxt1Formats), std::end(dxt1Formats));
+    }
+    if (const auto *const wanted = told(device, "compressed_texture_format", 1)) {
+        std::vector<double> both;
+        for (const double format : *wanted)
+            if (std::ranges::find(formats, format) != formats.end()) both.push_back(format);
+        formats = std::move(both);
+    }
+    m_values[GL_NUM_COMPRESSED_TEXTURE_FORMATS] = {static_cast<double>(formats.size())};
+    m_values[GL_COMPRESSED_TEXTURE_FORMATS] = std::move(formats);
+}
+
+// A device may tell the type alone; the first format that goes with it is taken then.
+void Limits::takeReadFormat(const std::optional<EsBlock> &device) {
+    const auto type = device ? device->limit("implementation_color_read_type") : std::nullopt;
+    const auto format = device ? device->limit("implementation_color_read_format") : std::nullopt;
+    const auto fits = [&](const PixelFormat &row) {
+        return type && row.type == *type && (!format || row.format == *format);
+    };
+    const auto row = std::ranges::find_if(pixelFormats, fits);
+    const PixelFormat chosen = row == std::end(pixelFormats) ? pixelFormats[0] : *row;
+    m_values[GL_IMPLEMENTATION_COLOR_READ_FORMAT_OES] = {static_cast<double>(chosen.format)};
+    m_values[GL_IMPLEMENTATION_COLOR_READ_TYPE_OES] = {static_cast<double>(chosen.type)};
+}

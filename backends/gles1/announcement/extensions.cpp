@@ -1,0 +1,43 @@
+#include "announcement/extensions.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Extension {
+    std::string_view name;
+    int version;
+    std::string_view hostExtensions;
+};
+
+constexpr Extension extensions[] = {
+#define EXTENSION(name, version, hostExtensions) {name, version, hostExtensions},
+#include "announcement/extensions.def"
+#undef EXTENSION
+};
+
+bool isCarried(const HostFeatures &host, const Extension &extension) {
+    const bool isOurs = extension.version == 0 && extension.hostExtensions.empty();
+    return isOurs || host.carries(extension.version, extension.hostExtensions);
+}
+
+} // namespace
+
+bool carriesExtension(const HostFeatures &host, std::string_view name) {
+    const auto row = std::ranges::find(extensions, name, &Extension::name);
+    return row != std::end(extensions) && isCarried(host, *row);
+}
+
+std::string announcedExtensions(const HostFeatures &host, const std::optional<EsBlock> &device) {
+    std::string text;
+    const auto add = [&](std::string_view name) { (text += text.empty() ? "" : " ") += name; };
+    if (device) {
+        for (const std::string &name : device->extensionNames)
+            if (carriesExtension(host, name)) add(name);
+    } else {
+        for (const Extension &extension : extensions)
+            if (isCarried(host, extension)) add(extension.name);
+    }
+    return text;
+}

@@ -1,0 +1,139 @@
+// What an application asks about its context.
+#include "announcement/queries.h"
+
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "desktop_names.h"
+#include "fixed_function/fixed_point.h"
+#include "fixed_function/parameters.h"
+
+#include <bit>
+
+namespace {
+
+using Numbers = std::vector<double>;
+
+// The bits of each number of the host's matrix, for machines without floats.
+Numbers matrixBits(GLenum matrix) {
+    GLfloat floats[16] = {};
+    hostGl().getFloatv(matrix, floats);
+    Numbers numbers;
+    for (const GLfloat number : floats)
+        numbers.push_back(std::bit_cast<GLint>(number));
+    return numbers;
+}
+
+// Empty where the host's answer is right.
+Numbers ownAnswer(GLenum pname) {
+    const EsContext *const context = EsContext::current();
+    if (!context) return {};
+    if (const auto *const limit = context->announced.limits.find(pname)) return *limit;
+    if (const auto state = ownArrayState(*context, pname)) return {static_cast<double>(*state)};
+    switch (pname) {
+    case GL_POINT_SIZE_ARRAY_OES:
+        return {context->vertices.arrays.bound().isPointSizeOn ? 1.0 : 0.0};
+    case GL_TEXTURE_GEN_STR_OES:
+        return {hostGl().isEnabled(desktop::textureGenS) ? 1.0 : 0.0};
+    case GL_MODELVIEW_MATRIX_FLOAT_AS_INT_BITS_OES:
+        return matrixBits(GL_MODELVIEW_MATRIX);
+    case GL_PROJECTION_MATRIX_FLOAT_AS_INT_BITS_OES:
+        return matrixBits(GL_PROJECTION_MATRIX);
+    case GL_TEXTURE_MATRIX_FLOAT_AS_INT_BITS_OES:
+        return matrixBits(GL_TEXTURE_MATRIX);
+    default:
+        return {};
+    }
+}
+
+// askHost: where there is no answer of our own.
+template <typename Number, typename AskHost, typename Convert>
+void get(GLenum pname, Number *data, AskHost askHost, Convert convert) {
+    if (!data) return;
+    EsContext *const context = EsContext::current();
+    if (!context) return askHost();
+    reportingMemory(*context, [&] {
+        const Numbers answer = ownAnswer(pname);
+        // A list of formats may be empty without being the host's.
+        if (answer.empty() && !context->announced.limits.find(pname)) return askHost();
+        std::ranges::transform(answer, data, convert);
+    });
+}
+
+GLfixed inFixedPoint(const State &state, double number) {
+    return state.kind == Kind::Enumerant ? toInteger(number) : toFixed(number);
+}
+
+void getHostFixed(const State &state, GLfixed *params) {
+    GLfloat floats[16] = {};
+    floats[0] = NAN;
+    hostGl().getFloatv(state.name, floats);
+    if (std::isnan(floats[0])) return;
+    std::transform(floats, floats + state.count, params, [&](GLfloat number) { return inFixedPoint(state, number); });
+}
+
+const GLubyte *asBytes(const std::string &text) {
+    return reinterpret_cast<const GLubyte *>(text.c_str());
+}
+
+} // namespace
+
+namespace overrides {
+
+const GLubyte *GL_APIENTRY getString(GLenum name) {
+    EsContext *const context = EsContext::current();
+    if (!context) return hostGl().getString(name);
+    switch (name) {
+    case GL_VERSION:
+        return asBytes(context->announced.version);
+    case GL_VENDOR:
+        return asBytes(context->announced.vendor);
+    case GL_RENDERER:
+        return asBytes(context->announced.renderer);
+    case GL_EXTENSIONS:
+        return asBytes(context->announced.extensions);
+    default:
+        context->raise(GL_INVALID_ENUM);
+        return nullptr;
+    }
+}
+
+GLenum GL_APIENTRY getError() {
+    EsContext *const context = EsContext::current();
+    const GLenum own = context ? context->takeError() : GL_NO_ERROR;
+    if (own != GL_NO_ERROR) return own;
+    const GLenum host = hostGl().getError();
+    // What ES 1 cannot know, such as a lost context.
+    const bool isForeign = host > GL_INVALID_FRAMEBUFFER_OPERATION_OES;
+    return context && isForeign ? GL_INVALID_OPERATION : host;
+}
+
+void GL_APIENTRY getBooleanv(GLenum pname, GLboolean *data) {
+    get(
+        pname, data, [&] { hostGl().getBooleanv(pname, data); },
+        [](double number) -> GLboolean { return number != 0; });
+}
+
+void GL_APIENTRY getFloatv(GLenum pname, GLfloat *data) {
+    get(
+        pname, data, [&] { hostGl().getFloatv(pname, data); },
+        [](double number) { return static_cast<GLfloat>(number); });
+}
+
+void GL_APIENTRY getIntegerv(GLenum pname, GLint *data) {
+    get(
+        pname, data, [&] { hostGl().getIntegerv(pname, data); }, toInteger);
+}
+
+void GL_APIENTRY getFixedv(GLenum pname, GLfixed *params) {
+    const State *state = findState(pname);
+    // The one list whose length differs from host to host.
+    constexpr State formats = {GL_COMPRESSED_TEXTURE_FORMATS, 0, Kind::Enumerant};
+    if (pname == formats.name) state = &formats;
+    if (!state) return raise(GL_INVALID_ENUM);
+    get(
+        pname, params, [&] { getHostFixed(*state, params); },
+        [&](double number) { return inFixedPoint(*state, number); });
+}
+
+} // namespace overrides

@@ -1,0 +1,38 @@
+#include "context/es_context.h"
+
+#include "announcement/extensions.h"
+#include "common/per_back_end/host_gl.h"
+#include "desktop_names.h"
+
+namespace {
+
+// The extension of cube maps has another default than desktop OpenGL, in every unit.
+void setTextureGenerationModes() {
+    const HostGl &gl = hostGl();
+    GLint units = 0;
+    gl.getIntegerv(GL_MAX_TEXTURE_UNITS, &units);
+    for (GLint unit = 0; unit < units; ++unit) {
+        gl.activeTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
+        for (const GLenum coordinate : {desktop::coordinateS, desktop::coordinateT, desktop::coordinateR})
+            gl.texGenf(coordinate, desktop::textureGenMode, GL_REFLECTION_MAP_OES);
+    }
+    gl.activeTexture(GL_TEXTURE0);
+}
+
+} // namespace
+
+EsContext::EsContext(const ContextAttribs &attribs, const void *settings, const void *share)
+    : announced(host, settings), shared(this, share) {
+    if (carriesExtension(host, "GL_OES_texture_cube_map")) setTextureGenerationModes();
+    setAttribs(attribs);
+}
+
+void EsContext::setAttribs(const ContextAttribs &attribs) {
+    const HostGl &gl = hostGl();
+    (attribs.srgbFramebuffer ? gl.enable : gl.disable)(desktop::framebufferSrgb);
+    sweepHostErrors();
+}
+
+void raise(GLenum error) {
+    if (EsContext *const context = EsContext::current()) context->raise(error);
+}

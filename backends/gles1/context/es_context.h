@@ -1,0 +1,52 @@
+// One context of this back end: the rooms, each with what ES 1 has and the host's context does not. Made and changed on
+// the thread that has the host context current; used there.
+#pragma once
+
+#include "announcement/announcement.h"
+#include "common/back_end_context.h"
+#include "common/current_thread.h"
+#include "common/share_group_member.h"
+#include "context/share_group.h"
+#include "vertices/vertices.h"
+
+#include <zelvane/back_end.h>
+
+#include <new>
+#include <stdexcept>
+
+class EsContext : public BackEndContext {
+public:
+    // Sets the host context up so that an application finds the state that ES promises. settings and share may be null;
+    // a share context of another back end is none.
+    EsContext(const ContextAttribs &attribs, const void *settings, const void *share);
+    EsContext(const EsContext &) = delete;
+    EsContext &operator=(const EsContext &) = delete;
+
+    // The calling thread's, or null: without a context, or when the context is another back end's.
+    [[nodiscard]] static EsContext *current() { return static_cast<EsContext *>(currentThread->es1Context); }
+
+    // The surface may have another colour space than at the last bind.
+    void setAttribs(const ContextAttribs &attribs);
+
+    // Constant after construction.
+    const Announcement announced;
+    const ShareGroupMember<ShareGroup> shared;
+
+    Vertices vertices;
+    TextureCrop cropOfTextureZero = {}; // which no two contexts share
+};
+
+// The error of the current context, if there is one.
+void raise(GLenum error);
+
+// Runs what may need memory. Nothing may be thrown into an application.
+template <typename Work>
+void reportingMemory(EsContext &context, Work work) {
+    try {
+        work();
+    } catch (const std::bad_alloc &) {
+        context.raise(GL_OUT_OF_MEMORY);
+    } catch (const std::length_error &) {
+        context.raise(GL_OUT_OF_MEMORY);
+    }
+}

@@ -1,0 +1,18 @@
+#include "common/refusal.h"
+
+#include "common/host_features.h"
+#include "common/per_back_end/host_gl.h"
+
+std::string reasonToRefuse(const ContextAttribs &) {
+    const HostGl *const gl = findHostGl();
+    if (!gl) return "the host's OpenGL library is missing or lacks functions";
+    // A core context has no list of this form: it lacks the fixed function.
+    if (!gl->getString(GL_EXTENSIONS)) {
+        while (gl->getError() == GL_INVALID_ENUM) {
+        }
+        return "the host's context is a core one, and ES 1 needs a compatibility context";
+    }
+    // Buffer objects, texture combiners and point parameters are there from 1.5 on.
+    if (HostFeatures().version() < 15) return "the host's OpenGL is older than 1.5";
+    return "";
+}

@@ -1,0 +1,28 @@
+// The rectangles of textures that glDrawTex draws. Textures are shared by contexts, and their rectangles with them.
+#pragma once
+
+#include "es_gl.h"
+
+#include <array>
+#include <map>
+#include <mutex>
+
+using TextureCrop = std::array<GLint, 4>; // left, bottom, width, height in texels; the sizes may be negative
+
+// Any thread.
+class TextureCrops {
+public:
+    void set(GLuint texture, const TextureCrop &crop);
+    // Zeros for a texture that never got one.
+    [[nodiscard]] TextureCrop get(GLuint texture);
+    void forget(GLuint texture);
+
+private:
+    std::mutex m_mutex;
+    std::map<GLuint, TextureCrop> m_crops; // guarded by m_mutex
+};
+
+class EsContext;
+
+// Of the texture that is bound to the active unit. With the host context current.
+[[nodiscard]] TextureCrop boundTextureCrop(EsContext &context);

@@ -1,0 +1,166 @@
+#include "announcement/announcement.h"
+
+#include "common/per_back_end/host_gl.h"
+
+#include <algorithm>
+#include <optional>
+#include <span>
+
+namespace {
+
+constexpr GLint etc1 = 0x8D64; // GL_ETC1_RGB8_OES
+
+constexpr std::string_view esExtensionNames[] = {
+#define ES_EXTENSION(name) name,
+#include "data/es_extensions.def"
+#undef ES_EXTENSION
+};
+
+struct Carried {
+    std::string_view name;
+    int version;
+    std::string_view hostExtensions;
+};
+constexpr Carried carriedExtensions[] = {
+#define CARRIED(extension, version, hostExtensions) {extension, version, hostExtensions},
+#include "announcement/carried_extensions.def"
+#undef CARRIED
+};
+
+enum class Rule { least, most, range };
+struct LimitRow {
+    GLenum pname;
+    std::string_view element;
+    Rule rule;
+};
+constexpr LimitRow limitRows[] = {
+#define LIMIT(pname, element, rule) {pname, #element, Rule::rule},
+#include "announcement/limits.def"
+#undef LIMIT
+};
+
+bool isCarried(const HostFeatures &host, std::string_view name) {
+    const auto row = std::ranges::find(carriedExtensions, name, &Carried::name);
+    if (row != std::end(carriedExtensions)) return host.carries(row->version, row->hostExtensions);
+    return std::ranges::find(esExtensionNames, name) != std::end(esExtensionNames) && host.hasExtension(name);
+}
+
+// The device's in its order, otherwise all of them by name.
+std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device) {
+    std::vector<std::string> names;
+    if (device) {
+        std::ranges::copy_if(device->extensionNames, std::back_inserter(names),
+                             [&](const std::string &name) { return isCarried(host, name); });
+    } else {
+        const auto add = [&](std::string_view name) {
+            if (isCarried(host, name)) names.emplace_back(name);
+        };
+        std::ranges::for_each(esExtensionNames, add);
+        std::ranges::for_each(carriedExtensions, add, &Carried::name);
+        std::ranges::sort(names);
+        names.erase(std::unique(names.begin(), names.end()), names.end());
+    }
+    return names;
+}
+
+std::string joined(const std::vector<std::string> &names) {
+    std::string text;
+    for (const std::string &name : names)
+        text += (text.empty() ? "" : " ") + name;
+    return text;
+}
+
+std::string hostText(GLenum name) {
+    const GLubyte *const text = hostGl().getString(name);
+    return text ? reinterpret_cast<const char *>(text) : "";
+}
+
+std::string number(GLint major, GLint minor) {
+    return std::to_string(major) + '.' + std::to_string(minor);
+}
+
+std::vector<double> hostFormats(const HostFeatures &host, GLint major, bool hasEtc1) {
+    GLint count = 0;
+    hostGl().getIntegerv(GL_NUM_COMPRESSED_TEXTURE_FORMATS, &count);
+    std::vector<GLint> formats(static_cast<size_t>(std::max(count, 0)));
+    if (count > 0) hostGl().getIntegerv(GL_COMPRESSED_TEXTURE_FORMATS, formats.data());
+    const auto add = [&](GLint format) {
+        if (std::ranges::find(formats, format) == formats.end()) formats.push_back(format);
+    };
+    if (hasEtc1) add(etc1);
+    // ES 3 has these ten in every context.
+    if (major >= 3 && host.carries(43, "GL_ARB_ES3_compatibility")) {
+        for (GLint format = GL_COMPRESSED_R11_EAC; format <= GL_COMPRESSED_SRGB8_ALPHA8_ETC2_EAC; ++format)
+            add(format);
+    }
+    return {formats.begin(), formats.end()};
+}
+
+std::vector<double> formatsOf(std::vector<double> host, const std::optional<EsBlock> &device) {
+    if (!device) return host;
+    const auto found = device->limits.find("compressed_texture_format");
+    std::erase_if(host, [&](double format) {
+        return found == device->limits.end() || std::ranges::find(found->second, format) == found->second.end();
+    });
+    return host;
+}
+
+std::vector<double> hostNumbers(GLenum pname, size_t count) {
+    if (count == 1) {
+        GLint64 value = 0;
+        hostGl().getInteger64v(pname, &value);
+        return {static_cast<double>(value)};
+    }
+    // Two is the most that any has.
+    GLfloat values[2] = {};
+    hostGl().getFloatv(pname, values);
+    return {values[0], values[1]};
+}
+
+std::vector<double> meet(Rule rule, std::vector<double> host, std::span<const double> device) {
+    for (size_t index = 0; index < host.size(); ++index) {
+        const bool takesGreater = rule == Rule::most || (rule == Rule::range && index == 0);
+        host[index] = takesGreater ? std::max(host[index], device[index]) : std::min(host[index], device[index]);
+    }
+    return host;
+}
+
+} // namespace
+
+Announcement::Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor) {
+    const std::optional<EsBlock> device = readEsBlock(profileText ? profileText : "", major, minor);
+    version = "OpenGL ES " + number(major, minor) + " Zelvane (" + hostText(GL_VERSION) + ')';
+    // The language's version is 1.00 for ES 2.0 and that of the context ever since.
+    shadingLanguageVersion = "OpenGL ES GLSL ES " + (major < 3 ? "1.00" : number(major, minor) + '0');
+    vendor = device && !device->vendor.empty() ? device->vendor : hostText(GL_VENDOR);
+    renderer = device && !device->renderer.empty() ? device->renderer : "Zelvane (" + hostText(GL_RENDERER) + ')';
+    extensionNames = extensionsOf(host, device);
+    extensions = joined(extensionNames);
+    compressedFormats = formatsOf(hostFormats(host, major, hasOneOf("GL_OES_compressed_ETC1_RGB8_texture")), device);
+    if (device) m_limits = limitsOf(*device);
+}
+
+std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
+    std::vector<Limit> limits;
+    for (const LimitRow &row : limitRows) {
+        const auto found = device.limits.find(row.element);
+        const size_t count = row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
+        if (found == device.limits.end() || found->second.size() < count) continue;
+        limits.push_back({row.pname, meet(row.rule, hostNumbers(row.pname, count), found->second)});
+    }
+    std::ranges::sort(limits, {}, &Limit::pname);
+    return limits;
+}
+
+const std::vector<double> *Announcement::limit(GLenum pname) const {
+    const auto row = std::ranges::lower_bound(m_limits, pname, {}, &Limit::pname);
+    return row == m_limits.end() || row->pname != pname ? nullptr : &row->numbers;
+}
+
+bool Announcement::hasOneOf(std::string_view names) const {
+    return std::ranges::any_of(extensionNames, [&](const std::string &name) {
+        const size_t start = names.find(name);
+        const size_t end = start + name.size();
+        return start != std::string_view::npos && (end == names.size() || names[end] == ' ');
+    });
+}

@@ -1,0 +1,30 @@
+#include "context/es_context.h"
+
+#include "common/per_back_end/host_gl.h"
+
+namespace {
+
+// Names that the headers of ES lack.
+constexpr GLenum programPointSize = 0x8642;
+constexpr GLenum textureCubeMapSeamless = 0x884F;
+
+} // namespace
+
+EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
+    : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
+      shared(this, share), vertices(major, host) {
+    hostGl().enable(programPointSize);
+    if (major >= 3) hostGl().enable(textureCubeMapSeamless);
+    setAttribs(attribs);
+}
+
+EsContext::~EsContext() {
+    shared->buffers.abandon(vertices.stream.release());
+    shared->buffers.abandon(vertices.indexStream.release());
+}
+
+void EsContext::setAttribs(const ContextAttribs &attribs) {
+    framebuffers.setSurface(attribs.srgbFramebuffer != 0);
+    shared->buffers.deleteAbandoned();
+    sweepHostErrors();
+}

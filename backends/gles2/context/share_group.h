@@ -1,0 +1,13 @@
+// What the contexts of a share group have in common. They own it together. Any thread.
+#pragma once
+
+#include "programs/shared_programs.h"
+#include "textures/textures.h"
+#include "vertices/shared_buffers.h"
+
+struct ShareGroup {
+    SharedBuffers buffers;
+    NameTable renderbuffers;
+    SharedTextures textures;
+    SharedPrograms programs;
+};

@@ -1,0 +1,13 @@
+// OpenGL ES 3.2 with its extensions.
+#pragma once
+
+// The names of extensions have prototypes too.
+#define GL_GLEXT_PROTOTYPES
+#include <GLES3/gl32.h>
+
+// gl2ext.h repeats names of gl32.h in the same words.
+#include <GLES2/gl2ext.h>
+
+// Functions of desktop OpenGL that extensions of ES have under another name.
+extern "C" void GL_APIENTRY glBufferStorage(GLenum target, GLsizeiptr size, const void *data, GLbitfield flags);
+extern "C" void *GL_APIENTRY glMapBuffer(GLenum target, GLenum access);

@@ -1,0 +1,40 @@
+// What is attached to framebuffers, by the application's names.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "framebuffers/renderbuffers.h"
+#include "framebuffers/surface_buffers.h"
+
+namespace overrides {
+
+void GL_APIENTRY framebufferRenderbuffer(GLenum target, GLenum attachment, GLenum renderbuffertarget,
+                                         GLuint renderbuffer) {
+    hostGl().framebufferRenderbuffer(target, attachment, renderbuffertarget, hostRenderbuffer(renderbuffer));
+}
+
+void GL_APIENTRY framebufferTexture2D(GLenum target, GLenum attachment, GLenum textarget, GLuint texture, GLint level) {
+    hostGl().framebufferTexture2D(target, attachment, textarget, hostTexture(texture), level);
+}
+
+void GL_APIENTRY framebufferTextureLayer(GLenum target, GLenum attachment, GLuint texture, GLint level, GLint layer) {
+    hostGl().framebufferTextureLayer(target, attachment, hostTexture(texture), level, layer);
+}
+
+void GL_APIENTRY framebufferTexture(GLenum target, GLenum attachment, GLuint texture, GLint level) {
+    hostGl().framebufferTexture(target, attachment, hostTexture(texture), level);
+}
+
+void GL_APIENTRY getFramebufferAttachmentParameteriv(GLenum target, GLenum attachment, GLenum pname, GLint *params) {
+    const HostGl &gl = hostGl();
+    const EsContext *const context = EsContext::current();
+    if (!context || !params) return gl.getFramebufferAttachmentParameteriv(target, attachment, pname, params);
+    gl.getFramebufferAttachmentParameteriv(target, hostBuffer(attachment), pname, params);
+    if (pname != GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME) return;
+    GLint type = GL_NONE;
+    gl.getFramebufferAttachmentParameteriv(target, attachment, GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE, &type);
+    const ShareGroup &shared = *context->shared;
+    const NameTable &names = type == GL_RENDERBUFFER ? shared.renderbuffers : shared.textures.names;
+    *params = static_cast<GLint>(names.nameOf(static_cast<GLuint>(*params)));
+}
+
+} // namespace overrides

@@ -1,0 +1,56 @@
+#include "framebuffers/renderbuffers.h"
+
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "names/named_objects.h"
+#include "textures/texture_formats.h"
+
+namespace {
+
+NameTable *renderbufferNames() {
+    EsContext *const context = EsContext::current();
+    return context ? &context->shared->renderbuffers : nullptr;
+}
+
+GLenum hostRenderbufferFormat(GLenum format) {
+    return EsContext::current() ? hostTextureFormat(format).internal : format;
+}
+
+} // namespace
+
+GLuint hostRenderbuffer(GLuint name) {
+    NameTable *const names = renderbufferNames();
+    const HostGl &gl = hostGl();
+    return names ? names->findOrMake(name, gl.genRenderbuffers, gl.isRenderbuffer) : name;
+}
+
+namespace overrides {
+
+void GL_APIENTRY genRenderbuffers(GLsizei n, GLuint *renderbuffers) {
+    generateNames(renderbufferNames(), n, renderbuffers, hostGl().genRenderbuffers);
+}
+
+void GL_APIENTRY deleteRenderbuffers(GLsizei n, const GLuint *renderbuffers) {
+    deleteNames(renderbufferNames(), n, renderbuffers, hostGl().deleteRenderbuffers, [](GLuint) {});
+}
+
+GLboolean GL_APIENTRY isRenderbuffer(GLuint renderbuffer) {
+    const NameTable *const names = renderbufferNames();
+    return hostGl().isRenderbuffer(names ? names->find(renderbuffer) : renderbuffer);
+}
+
+void GL_APIENTRY bindRenderbuffer(GLenum target, GLuint renderbuffer) {
+    hostGl().bindRenderbuffer(target, hostRenderbuffer(renderbuffer));
+}
+
+void GL_APIENTRY renderbufferStorage(GLenum target, GLenum internalformat, GLsizei width, GLsizei height) {
+    hostGl().renderbufferStorage(target, hostRenderbufferFormat(internalformat), width, height);
+}
+
+void GL_APIENTRY renderbufferStorageMultisample(GLenum target, GLsizei samples, GLenum internalformat, GLsizei width,
+                                                GLsizei height) {
+    hostGl().renderbufferStorageMultisample(target, samples, hostRenderbufferFormat(internalformat), width, height);
+}
+
+} // namespace overrides

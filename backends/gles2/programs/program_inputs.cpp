@@ -1,0 +1,59 @@
+#include "programs/program_inputs.h"
+
+#include "common/per_back_end/host_gl.h"
+#include "vertices/vertex_array_state.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace {
+
+GLuint columns(GLenum type) {
+    switch (type) {
+    case GL_FLOAT_MAT2:
+    case GL_FLOAT_MAT2x3:
+    case GL_FLOAT_MAT2x4:
+        return 2;
+    case GL_FLOAT_MAT3:
+    case GL_FLOAT_MAT3x2:
+    case GL_FLOAT_MAT3x4:
+        return 3;
+    case GL_FLOAT_MAT4:
+    case GL_FLOAT_MAT4x2:
+    case GL_FLOAT_MAT4x3:
+        return 4;
+    default:
+        return 1;
+    }
+}
+
+} // namespace
+
+ProgramInputs askProgramInputs(GLuint program) {
+    const HostGl &gl = hostGl();
+    GLint isLinked = GL_FALSE;
+    GLint count = 0;
+    GLint longest = 0;
+    gl.getProgramiv(program, GL_LINK_STATUS, &isLinked);
+    // What was linked before is still in use.
+    if (!isLinked) return {};
+    gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTES, &count);
+    gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTE_MAX_LENGTH, &longest);
+    std::string name(static_cast<size_t>(std::max(longest, 1)), '\0');
+    ProgramInputs inputs = {0, false};
+    for (GLint index = 0; index < count; ++index) {
+        GLint size = 0;
+        GLenum type = 0;
+        gl.getActiveAttrib(program, static_cast<GLuint>(index), longest, nullptr, &size, &type, name.data());
+        const GLint location = gl.getAttribLocation(program, name.c_str());
+        // The system fills it in.
+        if (location < 0) {
+            if (name.c_str() == std::string_view("gl_VertexID")) inputs.readsVertexId = true;
+            continue;
+        }
+        for (GLuint column = 0; column < columns(type) * static_cast<GLuint>(size); ++column)
+            inputs.attribs |= 1u << ((static_cast<GLuint>(location) + column) % VertexArrayState::maxAttribs);
+    }
+    return inputs;
+}

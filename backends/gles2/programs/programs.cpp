@@ -1,0 +1,133 @@
+// Programs. ES takes one shader of a stage, and a vertex and a fragment shader together; desktop OpenGL takes several,
+// and either alone.
+#include "programs/programs.h"
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+GLint typeOf(GLuint shader) {
+    GLint type = 0;
+    hostGl().getShaderiv(shader, GL_SHADER_TYPE, &type);
+    return type;
+}
+
+// Empty for what is no program.
+std::vector<GLint> attachedTypes(GLuint program) {
+    const HostGl &gl = hostGl();
+    if (!gl.isProgram(program)) return {};
+    GLint count = 0;
+    gl.getProgramiv(program, GL_ATTACHED_SHADERS, &count);
+    std::vector<GLuint> shaders(static_cast<size_t>(std::max(count, 0)));
+    gl.getAttachedShaders(program, count, &count, shaders.data());
+    std::vector<GLint> types;
+    std::ranges::transform(shaders, std::back_inserter(types), typeOf);
+    return types;
+}
+
+bool isWhole(GLuint program) {
+    const std::vector<GLint> types = attachedTypes(program);
+    const auto has = [&](GLint type) { return std::ranges::find(types, type) != types.end(); };
+    // The host judges the others: a program without shaders, of a compute shader, or for a pipeline.
+    if (has(GL_VERTEX_SHADER) == has(GL_FRAGMENT_SHADER) || has(GL_COMPUTE_SHADER)) return true;
+    GLint isSeparable = GL_FALSE;
+    hostGl().getProgramiv(program, GL_PROGRAM_SEPARABLE, &isSeparable);
+    return isSeparable;
+}
+
+// A shader that was never compiled makes the host's link fail, with a log.
+void linkInVain(GLuint program) {
+    const HostGl &gl = hostGl();
+    const GLuint shader = gl.createShader(GL_FRAGMENT_SHADER);
+    gl.attachShader(program, shader);
+    gl.linkProgram(program);
+    gl.detachShader(program, shader);
+    gl.deleteShader(shader);
+}
+
+// Whoever draws with it in the group has to look again.
+void forgetInputs(GLuint program) {
+    if (EsContext *const context = EsContext::current()) context->shared->programs.forgetInputs(program);
+}
+
+} // namespace
+
+ProgramInputs Programs::look(SharedPrograms &shared) {
+    m_changes = shared.changes.load(std::memory_order_relaxed);
+    m_isKnown = true;
+    GLint current = 0;
+    hostGl().getIntegerv(GL_CURRENT_PROGRAM, &current);
+    const auto program = static_cast<GLuint>(current);
+    if (program == 0) return m_inputs = {};
+    if (const auto known = shared.inputs.find(program)) return m_inputs = *known;
+    m_inputs = askProgramInputs(program);
+    shared.inputs.set(program, m_inputs);
+    return m_inputs;
+}
+
+namespace overrides {
+
+void GL_APIENTRY useProgram(GLuint program) {
+    hostGl().useProgram(program);
+    if (EsContext *const context = EsContext::current()) context->programs.forgetCurrent();
+}
+
+void GL_APIENTRY attachShader(GLuint program, GLuint shader) {
+    const HostGl &gl = hostGl();
+    EsContext *const context = EsContext::current();
+    if (context && gl.isShader(shader)) {
+        const std::vector<GLint> types = attachedTypes(program);
+        const bool isTaken = std::ranges::find(types, typeOf(shader)) != types.end();
+        if (isTaken) return context->raise(GL_INVALID_OPERATION);
+    }
+    gl.attachShader(program, shader);
+}
+
+void GL_APIENTRY linkProgram(GLuint program) {
+    if (EsContext::current() && !isWhole(program)) {
+        linkInVain(program);
+    } else {
+        hostGl().linkProgram(program);
+    }
+    forgetInputs(program);
+}
+
+void GL_APIENTRY programBinary(GLuint program, GLenum format, const void *binary, GLsizei length) {
+    hostGl().programBinary(program, format, binary, length);
+    forgetInputs(program);
+}
+
+GLuint GL_APIENTRY createProgram() {
+    const GLuint program = hostGl().createProgram();
+    // The name may have been another program's.
+    forgetInputs(program);
+    return program;
+}
+
+GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar *const *strings) {
+    const EsContext *const context = EsContext::current();
+    if (!context || count < 0 || !strings) return hostGl().createShaderProgramv(type, count, strings);
+    // By the steps that the call stands for, so that the source goes the way of all sources.
+    const GLuint shader = createShader(type);
+    if (shader == 0) return 0;
+    const GLuint program = createProgram();
+    shaderSource(shader, count, strings, nullptr);
+    const HostGl &gl = hostGl();
+    gl.compileShader(shader);
+    GLint isCompiled = GL_FALSE;
+    gl.getShaderiv(shader, GL_COMPILE_STATUS, &isCompiled);
+    gl.programParameteri(program, GL_PROGRAM_SEPARABLE, GL_TRUE);
+    if (isCompiled) {
+        gl.attachShader(program, shader);
+        gl.linkProgram(program);
+        gl.detachShader(program, shader);
+    }
+    gl.deleteShader(shader);
+    return program;
+}
+
+} // namespace overrides

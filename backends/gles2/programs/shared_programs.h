@@ -1,0 +1,20 @@
+// What a share group keeps of programs and shaders. Any thread.
+#pragma once
+
+#include "names/shared_map.h"
+#include "programs/program_inputs.h"
+
+#include <atomic>
+#include <string>
+
+struct SharedPrograms {
+    SharedMap<ProgramInputs> inputs;      // of programs that drew from the application's memory
+    std::atomic<uint32_t> changes = 0;    // of inputs; tells contexts to look again
+    SharedMap<std::string> shaderSources; // of shaders: as the application gave them, where the host has another form
+
+    // The program may read others from now on.
+    void forgetInputs(GLuint program) {
+        inputs.remove(program);
+        ++changes;
+    }
+};

@@ -1,0 +1,23 @@
+// The rules by which pixels lie in memory.
+#pragma once
+
+#include "es_gl.h"
+
+#include <array>
+#include <cstddef>
+
+// While it lives, pixels go to and come from plain memory, packed; then the application's rules come back.
+class PackedPixels {
+public:
+    PackedPixels();
+    ~PackedPixels();
+    PackedPixels(const PackedPixels &) = delete;
+    PackedPixels &operator=(const PackedPixels &) = delete;
+
+    static constexpr size_t ruleCount = 10;
+
+private:
+    std::array<GLint, ruleCount> m_rules;
+    GLint m_packBuffer = 0;
+    GLint m_unpackBuffer = 0;
+};

@@ -1,0 +1,104 @@
+#include "textures/texture_formats.h"
+
+#include "host_types.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr Swizzle plain = plainSwizzle;
+constexpr Swizzle alpha = {GL_ZERO, GL_ZERO, GL_ZERO, GL_RED};
+constexpr Swizzle luminance = {GL_RED, GL_RED, GL_RED, GL_ONE};
+constexpr Swizzle luminanceAlpha = {GL_RED, GL_RED, GL_RED, GL_GREEN};
+
+struct Unsized {
+    GLenum format, type, hostInternal, hostFormat;
+    const Swizzle &swizzle;
+};
+struct Sized {
+    GLenum internal, hostInternal;
+    const Swizzle &swizzle;
+};
+struct Client {
+    GLenum format, hostFormat;
+};
+
+#define UNSIZED(...)
+#define SIZED(...)
+#define CLIENT(...)
+
+#undef UNSIZED
+#define UNSIZED(format, type, hostInternal, hostFormat, swizzle) {format, type, hostInternal, hostFormat, swizzle},
+constexpr Unsized unsizedFormats[] = {
+#include "textures/texture_formats.def"
+};
+#undef UNSIZED
+#define UNSIZED(...)
+
+#undef SIZED
+#define SIZED(internal, hostInternal, swizzle) {internal, hostInternal, swizzle},
+constexpr Sized sizedFormats[] = {
+#include "textures/texture_formats.def"
+};
+#undef SIZED
+#define SIZED(...)
+
+#undef CLIENT
+#define CLIENT(format, hostFormat) {format, hostFormat},
+constexpr Client clientFormats[] = {
+#include "textures/texture_formats.def"
+};
+#undef CLIENT
+#undef SIZED
+#undef UNSIZED
+
+} // namespace
+
+Swizzle composed(const Swizzle &outer, const Swizzle &inner) {
+    Swizzle result = outer;
+    for (GLint &channel : result) {
+        if (channel >= GL_RED && channel <= GL_ALPHA) channel = inner[static_cast<size_t>(channel - GL_RED)];
+    }
+    return result;
+}
+
+HostTextureFormat hostTextureFormat(GLenum internal, GLenum format, GLenum type) {
+    type = hostType(type);
+    for (const Unsized &row : unsizedFormats) {
+        if (row.format == internal && row.format == format && row.type == type) {
+            return {row.hostInternal, row.hostFormat, type, row.swizzle};
+        }
+    }
+    const HostTextureFormat sized = hostTextureFormat(internal);
+    return {sized.internal, hostPixelFormat(format), type, sized.swizzle};
+}
+
+GLenum hostPixelFormat(GLenum format) {
+    const auto row = std::ranges::find(clientFormats, format, &Client::format);
+    return row == std::end(clientFormats) ? format : row->hostFormat;
+}
+
+HostTextureFormat hostTextureFormat(GLenum internal) {
+    const auto row = std::ranges::find(sizedFormats, internal, &Sized::internal);
+    if (row == std::end(sizedFormats)) return {internal, internal, GL_UNSIGNED_BYTE, plain};
+    return {row->hostInternal, internal, GL_UNSIGNED_BYTE, row->swizzle};
+}
+
+GLenum es2ImageError(GLenum internal, GLenum format, GLenum type) {
+    type = hostType(type);
+    const auto isKnown = [](GLenum name, GLenum Unsized::*column) {
+        return std::ranges::find(unsizedFormats, name, column) != std::end(unsizedFormats);
+    };
+    if (!isKnown(format, &Unsized::format) || !isKnown(type, &Unsized::type)) return GL_INVALID_ENUM;
+    if (!isKnown(internal, &Unsized::format)) return GL_INVALID_VALUE;
+    const auto isRow = [&](const Unsized &row) { return row.format == format && row.type == type; };
+    const bool isTaken = internal == format && std::ranges::any_of(unsizedFormats, isRow);
+    return isTaken ? GL_NO_ERROR : GL_INVALID_OPERATION;
+}
+
+GLenum es3ImageError(GLenum internal, GLenum format) {
+    const bool isOnlyOfEs = internal == GL_ALPHA || internal == GL_LUMINANCE || internal == GL_LUMINANCE_ALPHA ||
+                            internal == GL_BGRA_EXT || internal == GL_SRGB_EXT || internal == GL_SRGB_ALPHA_EXT;
+    return isOnlyOfEs && internal != format ? GL_INVALID_OPERATION : GL_NO_ERROR;
+}

@@ -1,0 +1,50 @@
+// What a texture's image is made of. A format that a core context lacks answers as itself and not as its stand-in.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "textures/texture_targets.h"
+
+namespace {
+
+// What the host is to be asked instead: where the swizzle takes alpha from, or nothing for the other channels, which
+// such a format has not.
+GLenum hostChannel(GLenum pname, const Swizzle &swizzle) {
+    for (const GLenum red : {GL_TEXTURE_RED_SIZE, GL_TEXTURE_RED_TYPE}) {
+        if (pname < red || pname > red + 3) continue;
+        const bool isAlpha = pname == red + 3;
+        const bool isStored = swizzle[3] >= GL_RED && swizzle[3] <= GL_ALPHA;
+        return isAlpha && isStored ? red + static_cast<GLenum>(swizzle[3] - GL_RED) : GLenum(GL_NONE);
+    }
+    return pname;
+}
+
+template <typename Value>
+void get(GLenum target, GLint level, GLenum pname, Value *params,
+         void(GL_APIENTRY *host)(GLenum, GLint, GLenum, Value *)) {
+    EsContext *const context = params ? EsContext::current() : nullptr;
+    target = hostTarget(target);
+    const TextureSwizzle known = context ? formatSwizzle(*context, target) : TextureSwizzle{};
+    if (known.ofFormat == plainSwizzle) return host(target, level, pname, params);
+    const GLenum hostName = hostChannel(pname, known.ofFormat);
+    // Stays when the call is an error; a host's form for floats may write all the same.
+    constexpr GLint none = -1;
+    GLint found = none;
+    hostGl().getTexLevelParameteriv(target, level, hostName == GL_NONE ? pname : hostName, &found);
+    if (found == none) return;
+    if (hostName == GL_NONE) found = 0;
+    *params = static_cast<Value>(pname == GL_TEXTURE_INTERNAL_FORMAT ? static_cast<GLint>(known.internal) : found);
+}
+
+} // namespace
+
+namespace overrides {
+
+void GL_APIENTRY getTexLevelParameterfv(GLenum target, GLint level, GLenum pname, GLfloat *params) {
+    get(target, level, pname, params, hostGl().getTexLevelParameterfv);
+}
+
+void GL_APIENTRY getTexLevelParameteriv(GLenum target, GLint level, GLenum pname, GLint *params) {
+    get(target, level, pname, params, hostGl().getTexLevelParameteriv);
+}
+
+} // namespace overrides

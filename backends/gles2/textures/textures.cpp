@@ -1,0 +1,84 @@
+// Textures by the application's names.
+#include "textures/textures.h"
+
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "names/named_objects.h"
+#include "textures/texture_targets.h"
+
+namespace {
+
+NameTable *textureNames() {
+    EsContext *const context = EsContext::current();
+    return context ? &context->shared->textures.names : nullptr;
+}
+
+// An external texture has no mipmaps and does not repeat.
+void setExternalDefaults(GLuint texture) {
+    const HostGl &gl = hostGl();
+    if (texture == 0 || gl.isTexture(texture)) return;
+    gl.bindTexture(GL_TEXTURE_2D, texture);
+    gl.texParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    gl.texParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    gl.texParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+}
+
+} // namespace
+
+GLuint hostTexture(GLuint name) {
+    NameTable *const names = textureNames();
+    const HostGl &gl = hostGl();
+    return names ? names->findOrMake(name, gl.genTextures, gl.isTexture) : name;
+}
+
+namespace overrides {
+
+void GL_APIENTRY genTextures(GLsizei n, GLuint *textures) {
+    generateNames(textureNames(), n, textures, hostGl().genTextures);
+}
+
+void GL_APIENTRY deleteTextures(GLsizei n, const GLuint *textures) {
+    EsContext *const context = EsContext::current();
+    deleteNames(textureNames(), n, textures, hostGl().deleteTextures,
+                [&](GLuint host) { context->shared->textures.swizzles.remove(host); });
+}
+
+GLboolean GL_APIENTRY isTexture(GLuint texture) {
+    const NameTable *const names = textureNames();
+    return hostGl().isTexture(names ? names->find(texture) : texture);
+}
+
+void GL_APIENTRY bindTexture(GLenum target, GLuint texture) {
+    const GLuint host = hostTexture(texture);
+    if (target == textureExternal) setExternalDefaults(host);
+    hostGl().bindTexture(hostTarget(target), host);
+    EsContext *const context = EsContext::current();
+    if (!context) return;
+    if (texture != host) {
+        context->textures.lastNames[host] = texture;
+    } else if (!context->textures.lastNames.empty()) {
+        context->textures.lastNames.erase(host);
+    }
+}
+
+void GL_APIENTRY bindImageTexture(GLuint unit, GLuint texture, GLint level, GLboolean layered, GLint layer,
+                                  GLenum access, GLenum format) {
+    hostGl().bindImageTexture(unit, hostTexture(texture), level, layered, layer, access, format);
+}
+
+void GL_APIENTRY copyImageSubData(GLuint srcName, GLenum srcTarget, GLint srcLevel, GLint srcX, GLint srcY, GLint srcZ,
+                                  GLuint dstName, GLenum dstTarget, GLint dstLevel, GLint dstX, GLint dstY, GLint dstZ,
+                                  GLsizei srcWidth, GLsizei srcHeight, GLsizei srcDepth) {
+    const EsContext *const context = EsContext::current();
+    const auto host = [&](GLuint name, GLenum target) {
+        if (!context) return name;
+        const ShareGroup &shared = *context->shared;
+        return target == GL_RENDERBUFFER ? shared.renderbuffers.find(name) : shared.textures.names.find(name);
+    };
+    hostGl().copyImageSubData(host(srcName, srcTarget), hostTarget(srcTarget), srcLevel, srcX, srcY, srcZ,
+                              host(dstName, dstTarget), hostTarget(dstTarget), dstLevel, dstX, dstY, dstZ, srcWidth,
+                              srcHeight, srcDepth);
+}
+
+} // namespace overrides

@@ -1,0 +1,23 @@
+// What is kept of textures, by a context and by its share group.
+#pragma once
+
+#include "names/name_table.h"
+#include "textures/texture_swizzles.h"
+
+#include <unordered_map>
+
+// Used on the context's thread.
+struct Textures {
+    std::unordered_map<GLuint, GLuint> lastNames; // by the host's: what it was bound as, where the names differ
+    TextureSwizzles swizzlesOfZero;               // of the textures of name 0
+    GLenum mipmapHint = GL_DONT_CARE;
+};
+
+// Any thread.
+struct SharedTextures {
+    NameTable names;
+    TextureSwizzles swizzles;
+};
+
+// The host's name for the application's, which gets an object if it is new.
+[[nodiscard]] GLuint hostTexture(GLuint name);

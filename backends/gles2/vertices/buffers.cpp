@@ -1,0 +1,76 @@
+// Buffers by the application's names, and where they are bound.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "names/named_objects.h"
+
+namespace {
+
+NameTable *bufferNames() {
+    EsContext *const context = EsContext::current();
+    return context ? &context->shared->buffers.names : nullptr;
+}
+
+GLuint hostBuffer(GLuint name) {
+    NameTable *const names = bufferNames();
+    const HostGl &gl = hostGl();
+    return names ? names->findOrMake(name, gl.genBuffers, gl.isBuffer) : name;
+}
+
+} // namespace
+
+namespace overrides {
+
+void GL_APIENTRY genBuffers(GLsizei n, GLuint *buffers) {
+    generateNames(bufferNames(), n, buffers, hostGl().genBuffers);
+}
+
+void GL_APIENTRY deleteBuffers(GLsizei n, const GLuint *buffers) {
+    EsContext *const context = EsContext::current();
+    deleteNames(bufferNames(), n, buffers, hostGl().deleteBuffers, [&](GLuint host) {
+        if (context->vertices.arrayBuffer == host) context->vertices.arrayBuffer = 0;
+        context->vertices.bound->forgetBuffer(host);
+    });
+}
+
+GLboolean GL_APIENTRY isBuffer(GLuint buffer) {
+    const NameTable *const names = bufferNames();
+    return hostGl().isBuffer(names ? names->find(buffer) : buffer);
+}
+
+void GL_APIENTRY bindBuffer(GLenum target, GLuint buffer) {
+    const GLuint host = hostBuffer(buffer);
+    hostGl().bindBuffer(target, host);
+    EsContext *const context = EsContext::current();
+    if (!context) return;
+    if (target == GL_ARRAY_BUFFER) context->vertices.arrayBuffer = host;
+    if (target == GL_ELEMENT_ARRAY_BUFFER) context->vertices.bound->setElementBuffer(host);
+}
+
+void GL_APIENTRY bindBufferBase(GLenum target, GLuint index, GLuint buffer) {
+    hostGl().bindBufferBase(target, index, hostBuffer(buffer));
+}
+
+void GL_APIENTRY bindBufferRange(GLenum target, GLuint index, GLuint buffer, GLintptr offset, GLsizeiptr size) {
+    hostGl().bindBufferRange(target, index, hostBuffer(buffer), offset, size);
+}
+
+void GL_APIENTRY bindVertexBuffer(GLuint binding, GLuint buffer, GLintptr offset, GLsizei stride) {
+    const GLuint host = hostBuffer(buffer);
+    hostGl().bindVertexBuffer(binding, host, offset, stride);
+    EsContext *const context = EsContext::current();
+    if (!context || binding >= context->vertices.maxAttribs || offset < 0 || stride < 0) return;
+    VertexArrayState &state = *context->vertices.bound;
+    state.setBuffer(binding, host);
+    if (host == 0) state.attribs[binding].pointer = nullptr;
+}
+
+void GL_APIENTRY texBuffer(GLenum target, GLenum internalformat, GLuint buffer) {
+    hostGl().texBuffer(target, internalformat, hostBuffer(buffer));
+}
+
+void GL_APIENTRY texBufferRange(GLenum target, GLenum internalformat, GLuint buffer, GLintptr offset, GLsizeiptr size) {
+    hostGl().texBufferRange(target, internalformat, hostBuffer(buffer), offset, size);
+}
+
+} // namespace overrides

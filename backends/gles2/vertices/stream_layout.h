@@ -1,0 +1,84 @@
+// How the host's arrays of a vertex array object lie in the stream: in slots of one vertex each, which draws fill one
+// behind the other. A draw then only begins at another slot, and the host's pointers stay.
+#pragma once
+
+#include "vertices/stream_buffer.h"
+
+#include <utility>
+
+struct VertexArrayState;
+
+struct DrawnVertices {
+    int64_t first;
+    int64_t count;
+    int64_t instanceCount;
+};
+
+class StreamLayout {
+public:
+    // The object's state has changed: the next draw needs a new layout.
+    void invalidate() { m_mask = 0; }
+    // The arrays lie elsewhere in the application's memory.
+    void followPointers() { m_arePointersOld = true; }
+
+    // Whether the arrays of mask can go on in the slots that are there.
+    [[nodiscard]] bool fits(const VertexArrayState &state, uint32_t mask, int64_t count, const StreamBuffer &stream) {
+        return mask == m_mask && mask != 0 && m_generation == stream.generation() &&
+               count <= m_slotCount - m_nextSlot && (!m_arePointersOld || findArrays(state));
+    }
+    // Makes room for the arrays of mask, none of which is null or has a divisor, and points the host at it. False when
+    // the host has no memory. Leaves another buffer bound to GL_ARRAY_BUFFER.
+    [[nodiscard]] bool make(const VertexArrayState &state, uint32_t mask, int64_t count, StreamBuffer &stream,
+                            NameTable &names);
+    // Copies the vertices from first on into the next slots: the slot of the first. Nothing when the host has no
+    // memory.
+    [[nodiscard]] std::optional<int64_t> put(int64_t first, int64_t count, StreamBuffer &stream) {
+        for (const Block &block : m_blocks) {
+            if (putBlock(block, first, count, m_nextSlot, stream)) continue;
+            invalidate();
+            return std::nullopt;
+        }
+        return std::exchange(m_nextSlot, m_nextSlot + count);
+    }
+
+    // The same of vertices by their numbers, where the host keeps the stream mapped.
+    [[nodiscard]] int64_t gather(std::span<const int64_t> numbers, StreamBuffer &stream);
+
+    // For one draw: vertices keep their numbers, and arrays may have divisors. Otherwise as make() and put().
+    [[nodiscard]] bool putExactly(const VertexArrayState &state, uint32_t mask, const DrawnVertices &drawn,
+                                  StreamBuffer &stream, NameTable &names);
+
+private:
+    // Arrays that lie interleaved.
+    struct Block {
+        uintptr_t begin; // of vertex 0 in the application's memory
+        uintptr_t end;   // of what is read of it
+        size_t stride;
+        GLuint divisor;
+        size_t offset = 0; // of slot 0 in the stream
+    };
+    struct Array {
+        GLuint attrib;
+        size_t block;
+        size_t offset = 0; // in the block
+    };
+
+    [[nodiscard]] bool findArrays(const VertexArrayState &state);
+    void gatherBlocks(const VertexArrayState &state, uint32_t mask);
+    void pointHost(const VertexArrayState &state, const StreamBuffer &stream) const;
+    static bool putBlock(const Block &block, int64_t first, int64_t count, int64_t slot, StreamBuffer &stream) {
+        const uintptr_t begin = block.begin + block.stride * static_cast<size_t>(first);
+        // Nothing of the last vertex but what is read: the application's memory may end there.
+        const size_t size = block.stride * static_cast<size_t>(count - 1) + (block.end - block.begin);
+        return stream.write(block.offset + block.stride * static_cast<size_t>(slot),
+                            {reinterpret_cast<const std::byte *>(begin), size});
+    }
+
+    uint32_t m_mask = 0;       // of the attribs that have slots; 0 without a layout
+    uint32_t m_generation = 0; // of the stream
+    bool m_arePointersOld = false;
+    int64_t m_nextSlot = 0;
+    int64_t m_slotCount = 0;
+    std::vector<Block> m_blocks;
+    std::vector<Array> m_arrays;
+};

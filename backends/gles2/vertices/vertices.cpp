@@ -1,0 +1,33 @@
+#include "vertices/vertices.h"
+
+#include "common/per_back_end/host_gl.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+bool canStayMapped(const HostFeatures &host) {
+    return host.carries(44, "GL_ARB_buffer_storage");
+}
+
+} // namespace
+
+Vertices::Vertices(GLint major, const HostFeatures &host)
+    : stream(canStayMapped(host)), indexStream(canStayMapped(host)), m_major(major),
+      m_mostStride(std::numeric_limits<GLsizei>::max()) {
+    const HostGl &gl = hostGl();
+    GLint attribCount = 0;
+    gl.getIntegerv(GL_MAX_VERTEX_ATTRIBS, &attribCount);
+    maxAttribs = std::min(static_cast<GLuint>(attribCount), VertexArrayState::maxAttribs);
+    if (host.version() >= 44) gl.getIntegerv(GL_MAX_VERTEX_ATTRIB_STRIDE, &m_mostStride);
+    gl.genVertexArrays(1, &defaultObject);
+    gl.bindVertexArray(defaultObject);
+}
+
+void Vertices::restoreArrayBuffer() {
+    const HostGl &gl = hostGl();
+    // Another context may have deleted it; the host binds no name that is gone.
+    if (arrayBuffer && !gl.isBuffer(arrayBuffer)) arrayBuffer = 0;
+    gl.bindBuffer(GL_ARRAY_BUFFER, arrayBuffer);
+}

@@ -1,0 +1,39 @@
+// What a context keeps of vertex arrays and of the buffers that draws read. Used on the context's thread.
+#pragma once
+
+#include "common/host_features.h"
+#include "vertices/vertex_array_state.h"
+
+#include <unordered_map>
+
+class Vertices {
+public:
+    // Makes the object that stands for object 0 and binds it.
+    Vertices(GLint major, const HostFeatures &host);
+
+    // Object 0 takes arrays and index lists in the application's memory. So do the objects of
+    // OES_vertex_array_object; those of ES 3 do not.
+    [[nodiscard]] bool takesClientMemory() const { return m_major < 3 || bound == &objectZero; }
+    // Whether the host has no fault to find in an array of that format.
+    [[nodiscard]] bool takesFormat(GLuint index, const VertexFormat &format) const {
+        return index < maxAttribs && format.stride >= 0 && format.stride <= m_mostStride && vertexSize(format) > 0;
+    }
+    // Binds the application's buffer again.
+    void restoreArrayBuffer();
+
+    // Constant after construction.
+    GLuint maxAttribs = 0;
+    GLuint defaultObject = 0; // stands for object 0, which a core context lacks; the host's name
+
+    GLuint arrayBuffer = 0; // the host's name
+    VertexArrayState *bound = &objectZero;
+    StreamBuffer stream;
+    StreamBuffer indexStream;
+    VertexArrayState objectZero;
+    std::unordered_map<GLuint, VertexArrayState> objects; // the others
+    std::vector<std::byte> readBackIndices;               // keeps its memory from draw to draw
+
+private:
+    const GLint m_major;
+    GLsizei m_mostStride;
+};

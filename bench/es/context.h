@@ -1,0 +1,23 @@
+// What one side of es_bench measures: a current context of 64 x 64 pixels and its functions.
+#pragma once
+
+enum class Side {
+    Host,        // desktop OpenGL by GLX, core profile
+    BackEnd,     // the function that libGLESv2.so.2 hands out, past the proxy of libEGL.so.1
+    Application, // what eglGetProcAddress gives
+};
+
+// Makes a context and binds it for the rest of the process. Ends the process with a word when there is none.
+// major: of OpenGL ES.
+void openContext(Side side, int major);
+
+// The side's function of this name, or null.
+[[nodiscard]] void *function(const char *name);
+
+[[noreturn]] void fail(const char *what);
+
+// Of the two kinds of contexts.
+void openGlxContext();
+void openEglContext(bool isPastProxy, int major);
+[[nodiscard]] void *glxFunction(const char *name);
+[[nodiscard]] void *eglFunction(const char *name);
