@@ -2,7 +2,8 @@
 #include <iostream>
 
 #include "foundation/product.h"
-#include "tools/commands.h"
+#include "tools/command/failure.h"
+#include "tools/verbs.h"
 
 namespace {
 
@@ -21,11 +22,6 @@ std::vector<std::string> takeProgram(std::vector<std::string> &words) {
 
 } // namespace
 
-void failCommand(const std::string &message) {
-    std::cerr << "zelvane: " << message << '\n';
-    throw CLI::RuntimeError(1);
-}
-
 int main(int argc, char **argv) {
     CLI::App app("Looks at and steers Zelvane and the applications that run on it", "zelvane");
     app.set_version_flag("--version", std::string(productName) + " " + productVersion);
@@ -42,8 +38,8 @@ int main(int argc, char **argv) {
     try {
         std::reverse(words.begin(), words.end()); // the parser takes them from the end
         app.parse(words);
-    } catch (const CLI::RuntimeError &error) {
-        return error.get_exit_code();
+    } catch (const Failure &failure) {
+        return failure.status;
     } catch (const CLI::ParseError &error) {
         return app.exit(error) == 0 ? 0 : usageStatus;
     } catch (const std::exception &error) {

@@ -1,0 +1,97 @@
+// zelvane run: any program on this library, without installing it and without a trace in the user's preferences.
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <thread>
+#include <unistd.h>
+
+#include "tools/command/failure.h"
+#include "tools/monitor/monitor.h"
+#include "tools/run/checks.h"
+#include "tools/run/libraries.h"
+#include "tools/run/private_preferences.h"
+#include "tools/run/program.h"
+#include "tools/verbs.h"
+
+namespace {
+
+struct Options {
+    PrivatePreferences::Wishes wishes;
+    bool strict = false;
+    bool loose = false;
+    std::string backEnds;
+    bool monitor = false;
+};
+
+// Beside the program, in a thread of its own: records of the program while it runs, and what it leaves at its end.
+class WatchedRun {
+public:
+    WatchedRun() : m_monitor(makeTextOutput(), m_end.reading(), false, false) {
+        if (!m_monitor.isListening())
+            failCommand("cannot listen at /tmp/Zelvane for --monitor: another user's socket may be there");
+        m_thread = std::thread([this] { m_monitor.run(); });
+    }
+    ~WatchedRun() {
+        m_end.closeWriting();
+        m_thread.join();
+    }
+
+private:
+    struct Pipe {
+        int ends[2] = {-1, -1};
+        Pipe() {
+            if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+        }
+        ~Pipe() { close(ends[0]); }
+        int reading() const { return ends[0]; }
+        void closeWriting() { close(ends[1]); }
+    };
+
+    Pipe m_end; // readable once its other end is closed
+    Monitor m_monitor;
+    std::thread m_thread;
+};
+
+int runProgram(const Options &options, const std::vector<std::string> &words) {
+    // First: no signal may end us while there are files to take away, and all threads leave the signals to this one.
+    const SignalRelay signals;
+    const PrivatePreferences preferences(options.wishes);
+    const RunLibraries libraries(options.backEnds);
+    const char *before = getenv("LD_LIBRARY_PATH");
+    const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
+    setenv("LD_LIBRARY_PATH", path.c_str(), 1);
+    setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+    checkXServer();
+    checkProgram(words, libraries.directory());
+
+    std::optional<WatchedRun> watched;
+    if (options.monitor) watched.emplace();
+    return signals.relayTo(startProgram(words));
+}
+
+} // namespace
+
+void addRunCommand(CLI::App &app, const std::vector<std::string> &program) {
+    auto *run =
+        app.add_subcommand("run", "Run a program on this library: zelvane run [OPTIONS] -- PROGRAM [ARGUMENTS]");
+    auto options = std::make_shared<Options>();
+    run->add_option("--profile", options->wishes.profile, "the device that it finds; \"zelvane profiles\" lists them");
+    auto *strict = run->add_flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
+    run->add_flag("--loose", options->loose, "do not")->excludes(strict);
+    run->add_option("--backends", options->backEnds, "a directory whose OpenGL ES libraries go before our own");
+    run->add_flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
+    run->footer("The user's preferences stay as they are, and hold where no option says otherwise.\n"
+                "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
+                "2 when the command line is wrong.");
+    run->callback([options, &program] {
+        if (program.empty()) throw CLI::RequiredError("PROGRAM, behind --,");
+        if (options->strict || options->loose) options->wishes.strict = options->strict;
+        int status = runFailure;
+        try {
+            status = runProgram(*options, program);
+        } catch (const Failure &) {
+            // What it was has been said.
+        }
+        if (status != 0) throw Failure{status};
+    });
+}
