@@ -10,7 +10,7 @@
 void addMonitorCommand(CLI::App &app);
 void addProfilesCommand(CLI::App &app);
 void addReportCommand(CLI::App &app);
-// program: the words behind "run ... --".
-void addRunCommand(CLI::App &app, const std::vector<std::string> &program);
+// program: the program and its words, which the verb's own words do not hold. Gives the verb.
+CLI::App &addRunCommand(CLI::App &app, const std::vector<std::string> &program);
 void addUseCommand(CLI::App &app);
 void addStrictCommand(CLI::App &app);

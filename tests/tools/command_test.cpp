@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 #include "support/golden.h"
 #include "tools/run_command.h"
 
@@ -10,6 +12,7 @@ TEST(Command, ExitStatusAndWhatItSays) {
     const std::tuple<const char *, const char *, int, const char *> rows[] = {
 #include "tools/data/commands.def"
     };
+    ASSERT_EQ(mkfifo((homeDirectory() / "pipe").c_str(), 0600), 0);
     for (const auto &[name, arguments, status, part] : rows) {
         const CommandResult result = run(arguments);
         EXPECT_EQ(result.status, status) << name;

@@ -7,7 +7,7 @@
 #include "preferences/preference_file.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
-#include "tools/command/profile_name.h"
+#include "tools/command/profile_names.h"
 
 namespace fs = std::filesystem;
 

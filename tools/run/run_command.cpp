@@ -71,9 +71,9 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
 
 } // namespace
 
-void addRunCommand(CLI::App &app, const std::vector<std::string> &program) {
+CLI::App &addRunCommand(CLI::App &app, const std::vector<std::string> &program) {
     auto *run =
-        app.add_subcommand("run", "Run a program on this library: zelvane run [OPTIONS] -- PROGRAM [ARGUMENTS]");
+        app.add_subcommand("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]");
     auto options = std::make_shared<Options>();
     run->add_option("--profile", options->wishes.profile, "the device that it finds; \"zelvane profiles\" lists them");
     auto *strict = run->add_flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
@@ -84,7 +84,7 @@ void addRunCommand(CLI::App &app, const std::vector<std::string> &program) {
                 "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
                 "2 when the command line is wrong.");
     run->callback([options, &program] {
-        if (program.empty()) throw CLI::RequiredError("PROGRAM, behind --,");
+        if (program.empty()) throw CLI::RequiredError("PROGRAM");
         if (options->strict || options->loose) options->wishes.strict = options->strict;
         int status = runFailure;
         try {
@@ -94,4 +94,5 @@ void addRunCommand(CLI::App &app, const std::vector<std::string> &program) {
         }
         if (status != 0) throw Failure{status};
     });
+    return *run;
 }

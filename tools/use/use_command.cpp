@@ -4,7 +4,7 @@
 #include "foundation/paths.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
-#include "tools/command/profile_name.h"
+#include "tools/command/profile_names.h"
 #include "tools/verbs.h"
 
 namespace {
