@@ -49,7 +49,8 @@ void Descriptor::close() {
     if (m_number >= 0) shutdown(m_number, SHUT_RDWR);
 }
 
-Socket::Socket(const std::string &path) : m_descriptor(std::make_shared<Descriptor>(socket(AF_UNIX, SOCK_STREAM, 0))) {
+Socket::Socket(const std::string &path)
+    : m_descriptor(std::make_shared<Descriptor>(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))) {
     m_failed = !connectTo(path, m_descriptor->number());
 }
 

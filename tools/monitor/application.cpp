@@ -21,10 +21,6 @@ bool takesARecord(int descriptor) {
 
 } // namespace
 
-MonitoredApplication::MonitoredApplication(const KZRIPC::ServerSocket &server) : m_client(server) {
-    if (m_client.failed()) m_client.close();
-}
-
 std::optional<Message> MonitoredApplication::receive() {
     const int32_t received = m_client.receive(m_arriving.bytes + m_arrived, sizeof m_arriving - m_arrived);
     if (received <= 0) {

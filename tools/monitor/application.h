@@ -10,8 +10,8 @@
 
 class MonitoredApplication {
 public:
-    // Takes the connection of an application that waits.
-    explicit MonitoredApplication(const KZRIPC::ServerSocket &server);
+    // Takes the connection over.
+    explicit MonitoredApplication(const KZRIPC::Client &client) : m_client(client) {}
     MonitoredApplication(const MonitoredApplication &) = delete;
     MonitoredApplication &operator=(const MonitoredApplication &) = delete;
     ~MonitoredApplication() { m_client.close(); }

@@ -1,7 +1,8 @@
-// One object a record. Texts of applications are cut anywhere, so that what is no UTF-8 becomes the replacement
-// character; everything else is escaped as JSON asks.
+// One object a record, on a line of its own.
+#include <chrono>
 #include <cstdio>
 
+#include "tools/command/json.h"
 #include "tools/monitor/output.h"
 #include "tools/monitor/record_fields.h"
 
@@ -9,47 +10,10 @@ using ui::messages::Message;
 
 namespace {
 
-// Length of the character that starts here, or 0 when it is none.
-size_t characterLength(std::string_view text) {
-    const auto byte = [&](size_t index) { return static_cast<unsigned char>(text[index]); };
-    const unsigned char lead = byte(0);
-    if (lead < 0x80) return 1;
-    const size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return 0;
-    for (size_t index = 1; index < length; ++index) {
-        if ((byte(index) & 0xC0) != 0x80) return 0;
-    }
-    // Longer forms than needed, surrogates and what lies beyond the last character.
-    const bool isOutside = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xED && byte(1) > 0x9F) ||
-                           (lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) > 0x8F);
-    return isOutside ? 0 : length;
-}
-
-std::string quoted(std::string_view text) {
-    std::string result = "\"";
-    while (!text.empty()) {
-        const size_t length = characterLength(text);
-        const auto character = static_cast<unsigned char>(text[0]);
-        if (length == 0) {
-            result += "\\ufffd";
-        } else if (character < 0x20 || character == 0x7F) {
-            char escape[8];
-            snprintf(escape, sizeof escape, "\\u%04x", character);
-            result += escape;
-        } else {
-            if (character == '"' || character == '\\') result += '\\';
-            result += text.substr(0, length);
-        }
-        text.remove_prefix(length ? length : 1);
-    }
-    return result + '"';
-}
-
-std::string listText(const std::vector<uint32_t> &values) {
-    std::string text = "[";
-    for (const uint32_t value : values)
-        text += (text.size() > 1 ? "," : "") + std::to_string(value);
-    return text + "]";
+// A number that stands for nothing stays a number.
+std::string catalogueText(FieldKind kind, uint32_t value) {
+    const std::string name = valueName(kind, value);
+    return name.empty() ? std::to_string(value) : jsonText(name);
 }
 
 std::string valueText(const Message &message, const Field &field) {
@@ -62,11 +26,26 @@ std::string valueText(const Message &message, const Field &field) {
     case FieldKind::Flag:
         return numberAt(message, field) ? "true" : "false";
     case FieldKind::Text:
-        return quoted(textAt(message, field));
+        return jsonText(textAt(message, field));
     case FieldKind::List:
-        return listText(listAt(message, field));
+    case FieldKind::HostExtensionList:
+        return jsonList("[]", listAt(message, field), [&](uint32_t value) { return catalogueText(field.kind, value); });
+    default:
+        return catalogueText(field.kind, static_cast<uint32_t>(numberAt(message, field)));
     }
-    return "null";
+}
+
+// In UTC, to the millisecond: "2031-12-24T18:00:00.000Z".
+std::string timeText() {
+    using namespace std::chrono;
+    const auto now = floor<milliseconds>(system_clock::now());
+    const time_t seconds = system_clock::to_time_t(now);
+    tm parts{};
+    gmtime_r(&seconds, &parts);
+    char text[32];
+    const size_t length = strftime(text, sizeof text, "%FT%T", &parts);
+    snprintf(text + length, sizeof text - length, ".%03dZ", static_cast<int>(now.time_since_epoch().count() % 1000));
+    return text;
 }
 
 class JsonOutput final : public MonitorOutput {
@@ -74,25 +53,26 @@ public:
     void listening(const std::string &, bool) override {}
 
     void record(const MonitoredApplication &application, const Message &message) override {
-        const RecordKind *kind = recordKind(message.header.type);
-        std::string line = head(application) + (kind ? kind->name : "unknown") + '"';
+        const uint32_t type = message.header.type;
+        const RecordKind *kind = recordKind(type);
+        std::string line = head(application, recordName(type));
         if (hasFrame(message)) line += ",\"frame\":" + std::to_string(message.header.frameStamp);
-        if (!kind) line += ",\"number\":" + std::to_string(message.header.type);
+        if (!kind) line += ",\"number\":" + std::to_string(type);
         for (const Field &field : kind ? kind->fields : std::vector<Field>{})
             line += std::string(",\"") + field.name + "\":" + valueText(message, field);
         puts((line + '}').c_str());
     }
 
     // The one line that is no record: the connection has ended.
-    void ended(const MonitoredApplication &application) override { puts((head(application) + "ended\"}").c_str()); }
+    void ended(const MonitoredApplication &application) override { puts((head(application, endedName) + '}').c_str()); }
 
     // Standard output is for the objects alone.
     void notice(const std::string &text) override { fprintf(stderr, "%s\n", text.c_str()); }
 
 private:
-    static std::string head(const MonitoredApplication &application) {
-        return "{\"pid\":" + std::to_string(application.processNumber()) +
-               ",\"command\":" + quoted(application.commandName()) + ",\"type\":\"";
+    static std::string head(const MonitoredApplication &application, const std::string &type) {
+        return "{\"time\":\"" + timeText() + "\",\"pid\":" + std::to_string(application.processNumber()) +
+               ",\"command\":" + jsonText(application.commandName()) + ",\"type\":\"" + type + '"';
     }
 };
 

@@ -1,12 +1,11 @@
 #include "tools/monitor/monitor.h"
 
+#include <cerrno>
+#include <cstring>
 #include <optional>
 #include <poll.h>
 #include <sstream>
-#include <sys/stat.h>
 #include <unistd.h>
-
-#include "foundation/product.h"
 
 using namespace ui::messages;
 
@@ -17,11 +16,8 @@ constexpr char help[] = "w, wire on [PROCESS]   switch the wireframe on, for one
                         "d [PROCESS]            disconnect\n"
                         "q                      quit";
 
-// 0 when there is no such file.
-uint64_t fileNumber(const std::string &path) {
-    struct stat status {};
-    return stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
-}
+// How long applications that found no descriptor wait before the next look.
+constexpr int fullPauseMs = 1000;
 
 std::optional<Message> commandFor(const std::string &verb, const std::string &argument) {
     if (verb == "w" || (verb == "wire" && argument == "on")) return guiRenderModeOn();
@@ -32,61 +28,65 @@ std::optional<Message> commandFor(const std::string &verb, const std::string &ar
 
 } // namespace
 
-Monitor::Monitor(std::unique_ptr<MonitorOutput> output, int ending, bool takesCommands, bool endsWithTheFirst)
-    : m_output(std::move(output)), m_server(productName, 16), m_socketFile(fileNumber(m_server.path())),
-      m_ending(ending), m_takesCommands(takesCommands), m_endsWithTheFirst(endsWithTheFirst) {}
-
-Monitor::~Monitor() {
-    if (isListening() && fileNumber(m_server.path()) == m_socketFile) unlink(m_server.path().c_str());
-}
+Monitor::Monitor(std::unique_ptr<MonitorOutput> output, int ending, MonitorOptions options)
+    : m_output(std::move(output)), m_ending(ending), m_options(std::move(options)) {}
 
 void Monitor::run() {
-    m_output->listening(m_server.path(), m_takesCommands);
+    m_output->listening(m_listener.path(), m_options.takesCommands);
     while (!m_isEnding && fflush(stdout) == 0) {
         std::vector<pollfd> waiting{{m_ending, POLLIN, 0},
-                                    {m_server.descriptor(), POLLIN, 0},
-                                    {m_takesCommands ? STDIN_FILENO : -1, POLLIN, 0},
+                                    // It stays readable while nobody can be taken.
+                                    {m_isFull ? -1 : m_listener.descriptor(), POLLIN, 0},
+                                    {m_options.takesCommands ? STDIN_FILENO : -1, POLLIN, 0},
                                     // Reports only that the reader of a pipe has gone.
                                     {STDOUT_FILENO, 0, 0}};
         const size_t first = waiting.size();
         for (const auto &application : m_applications)
             waiting.push_back({application->descriptor(), POLLIN, 0});
-        if (poll(waiting.data(), waiting.size(), -1) < 0) continue;
+        if (poll(waiting.data(), waiting.size(), m_isFull ? fullPauseMs : -1) < 0) {
+            if (errno == EINTR) continue;
+            return m_output->notice(std::string("cannot wait for applications: ") + strerror(errno));
+        }
         if (waiting[3].revents) return;
         if (waiting[0].revents) return readWhatIsLeft();
         for (size_t index = first; index < waiting.size(); ++index) {
             if (waiting[index].revents) readRecord(*m_applications[index - first]);
         }
         dropEnded();
-        if (waiting[1].revents) accept();
+        m_isFull = waiting[1].revents && !accept();
         if (waiting[2].revents) readCommands();
     }
 }
 
-void Monitor::accept() {
-    m_applications.push_back(std::make_unique<MonitoredApplication>(m_server));
-    dropEnded();
+bool Monitor::accept() {
+    const Listener::Arrival arrival = m_listener.accept();
+    if (arrival.client) m_applications.push_back(std::make_unique<MonitoredApplication>(*arrival.client));
+    if (!arrival.refusal.empty()) m_output->notice("sent away: " + arrival.refusal);
+    const bool isTaken = arrival.client || !arrival.refusal.empty();
+    if (!isTaken && !m_hasTold) m_output->notice("no descriptor is left: applications wait until others end");
+    m_hasTold |= !isTaken;
+    return isTaken;
 }
 
 void Monitor::readRecord(MonitoredApplication &application) {
-    if (const auto message = application.receive()) m_output->record(application, *message);
+    const auto message = application.receive();
+    if (message && m_options.filter.shows(application, message->header.type)) m_output->record(application, *message);
 }
 
 void Monitor::dropEnded() {
     std::erase_if(m_applications, [this](const auto &application) {
         if (application->descriptor() >= 0) return false;
         // One that leaves without a hello has not been shown.
-        if (application->processNumber()) m_output->ended(*application);
-        m_isEnding |= m_endsWithTheFirst && application->processNumber();
+        if (!application->processNumber()) return true;
+        if (m_options.filter.showsEnd(*application)) m_output->ended(*application);
+        m_isEnding |= m_options.endsWithTheFirst && m_options.filter.follows(*application);
         return true;
     });
 }
 
 void Monitor::readWhatIsLeft() {
-    for (bool isNew = true; isNew;) {
-        pollfd arriving{m_server.descriptor(), POLLIN, 0};
-        isNew = poll(&arriving, 1, 0) > 0;
-        if (isNew) accept();
+    pollfd arriving{m_listener.descriptor(), POLLIN, 0};
+    while (poll(&arriving, 1, 0) > 0 && accept()) {
     }
     for (const auto &application : m_applications) {
         pollfd gone{application->descriptor(), POLLIN, 0};
@@ -103,7 +103,7 @@ void Monitor::readCommands() {
     char typed[256];
     const ssize_t count = read(STDIN_FILENO, typed, sizeof typed);
     if (count <= 0) {
-        m_takesCommands = false;
+        m_options.takesCommands = false;
         return;
     }
     m_typed.append(typed, count);

@@ -7,27 +7,31 @@
 #include <vector>
 
 #include "tools/monitor/application.h"
+#include "tools/monitor/listener.h"
 #include "tools/monitor/output.h"
-#include "ui/socket.h"
+#include "tools/monitor/record_filter.h"
+
+struct MonitorOptions {
+    bool takesCommands = false;    // reads lines of standard input as commands
+    bool endsWithTheFirst = false; // of the applications that the filter follows
+    RecordFilter filter = {};
+};
 
 class Monitor {
 public:
-    // ending: a descriptor that is readable when the monitor is to end; it stays the caller's.
-    // takesCommands: read lines of standard input as commands.
-    Monitor(std::unique_ptr<MonitorOutput> output, int ending, bool takesCommands, bool endsWithTheFirst);
+    // ending: a descriptor that is readable when the monitor is to end; it stays the caller's. Fails the command when
+    // the socket cannot be had.
+    Monitor(std::unique_ptr<MonitorOutput> output, int ending, MonitorOptions options);
     Monitor(const Monitor &) = delete;
     Monitor &operator=(const Monitor &) = delete;
-    // Removes the socket file, unless another listener has put its own there.
-    ~Monitor();
 
-    // False when the socket cannot be made.
-    [[nodiscard]] bool isListening() const { return !m_server.failed(); }
     // Until the user, the descriptor or the end of the first application ends it. What applications that are gone by
-    // then have left is still shown. SIGPIPE must be ignored: a reader of the output that goes ends the monitor.
+    // then have left is still shown. SIGPIPE must be ignored: an output that nobody takes ends the monitor.
     void run();
 
 private:
-    void accept();
+    // False when no descriptor is left for who waits.
+    bool accept();
     void readRecord(MonitoredApplication &application);
     void dropEnded();
     void readWhatIsLeft();
@@ -36,11 +40,11 @@ private:
     void obey(const std::string &line);
 
     std::unique_ptr<MonitorOutput> m_output;
-    KZRIPC::ServerSocket m_server;
-    uint64_t m_socketFile; // which file at the path is ours
+    Listener m_listener;
     int m_ending;
-    bool m_takesCommands;
-    bool m_endsWithTheFirst;
+    MonitorOptions m_options;
+    bool m_isFull = false;  // applications wait for a descriptor
+    bool m_hasTold = false; // that they did once
     bool m_isEnding = false;
     std::string m_typed; // a line that is not complete yet
     std::vector<std::unique_ptr<MonitoredApplication>> m_applications;

@@ -1,20 +1,28 @@
 // zelvane monitor: watch applications, and switch their render mode.
+#include <algorithm>
+#include <cerrno>
 #include <csignal>
-#include <cstdio>
-#include <fcntl.h>
+#include <cstring>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "tools/command/failure.h"
+#include "tools/command/nearest.h"
 #include "tools/monitor/monitor.h"
+#include "tools/monitor/record_fields.h"
 #include "tools/verbs.h"
 
 namespace {
 
+// In the order of the types of log lines.
+const std::vector<std::string> levels = {"info", "warning", "error"};
+
 struct Options {
     bool json = false;
     bool once = false;
+    std::string level = levels[0];
+    RecordFilter filter;
 };
 
 // A terminal or a pipe; what else stands there (a file, a closed input) belongs to somebody else.
@@ -32,23 +40,21 @@ int catchSignals() {
     for (const int number : {SIGINT, SIGTERM, SIGHUP})
         sigaddset(&ending, number);
     sigprocmask(SIG_BLOCK, &ending, nullptr);
-    return signalfd(-1, &ending, SFD_CLOEXEC);
+    const int descriptor = signalfd(-1, &ending, SFD_CLOEXEC);
+    if (descriptor < 0) failCommand(std::string("no descriptor for signals: ") + strerror(errno));
+    return descriptor;
 }
 
-int watch(const Options &options) {
-    // Its number would be the next one to be given away, to a socket.
-    if (fcntl(STDOUT_FILENO, F_GETFD) < 0) {
-        fprintf(stderr, "zelvane: standard output is closed\n");
-        return 1;
-    }
-    Monitor monitor(options.json ? makeJsonOutput() : makeTextOutput(), catchSignals(), takesCommands(STDIN_FILENO),
-                    options.once);
-    if (!monitor.isListening()) {
-        fprintf(stderr, "zelvane: cannot listen at /tmp/Zelvane: another user's socket may be there\n");
-        return 1;
-    }
-    monitor.run();
-    return 0;
+void watch(const Options &options) {
+    MonitorOptions monitorOptions{takesCommands(STDIN_FILENO), options.once, options.filter};
+    const auto level = std::ranges::find(levels, options.level) - levels.begin();
+    monitorOptions.filter.leastLevel = ZV_LOG_INFO + static_cast<uint32_t>(level);
+    Monitor(options.json ? makeJsonOutput() : makeTextOutput(), catchSignals(), monitorOptions).run();
+}
+
+std::string whatIsWrongWith(const std::string &recordName) {
+    if (isRecordName(recordName)) return {};
+    return "no record is called \"" + recordName + '"' + suggestion(recordName, recordNames());
 }
 
 } // namespace
@@ -56,12 +62,22 @@ int watch(const Options &options) {
 void addMonitorCommand(CLI::App &app) {
     auto *monitor = app.add_subcommand("monitor", "Show what applications that start from now on report");
     auto options = std::make_shared<Options>();
-    monitor->add_flag("--json", options->json, "One JSON object a record, for other tools");
-    monitor->add_flag("--once", options->once, "End with the first application");
+    monitor->add_flag("--json", options->json, "one JSON object a record, for other tools");
+    monitor->add_flag("--once", options->once, "end with the first application");
+    monitor->add_option("--level", options->level, "the least level of log lines that are shown: info, warning, error")
+        ->check(CLI::IsMember(levels))
+        ->type_name("LEVEL");
+    monitor->add_option("--process", options->filter.processes, "show this process alone; may be given again")
+        ->type_name("NUMBER|NAME")
+        ->allow_extra_args(false);
+    monitor->add_option("--type", options->filter.types, "show these records alone; may be given again")
+        ->check(CLI::Validator(whatIsWrongWith, "", "record"))
+        ->type_name("TYPE")
+        ->allow_extra_args(false);
     monitor->footer(
-        "Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d and q, each\n"
-        "but q with a process number for one application alone.");
-    monitor->callback([options] {
-        if (const int failure = watch(*options)) throw Failure{failure};
-    });
+        "A TYPE is a name that --json writes, such as log_error, or what several begin with: log, back_end,\n"
+        "system_report. Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d\n"
+        "and q, each but q with a process number for one application alone.\n"
+        "Exit status: 0 done, 1 somebody else listens or the socket cannot be made.");
+    monitor->callback([options] { watch(*options); });
 }

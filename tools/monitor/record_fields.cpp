@@ -3,6 +3,10 @@
 #include <cstddef>
 #include <cstring>
 
+#include "capability/extension_catalogue.h"
+#include "capability/versions.h"
+
+using namespace capability;
 using ui::messages::Message;
 
 namespace {
@@ -11,6 +15,8 @@ namespace {
     { name, FieldKind::Unsigned, offsetof(structure, field) }
 #define SIGNED(name, structure, field)                                                                                 \
     { name, FieldKind::Signed, offsetof(structure, field) }
+#define CATALOGUE(kind, name, structure, field)                                                                        \
+    { name, FieldKind::kind, offsetof(structure, field) }
 #define NUMBER64(name, structure, field)                                                                               \
     { name, FieldKind::Unsigned64, offsetof(structure, field) }
 #define FLAG(name, structure, field)                                                                                   \
@@ -19,6 +25,8 @@ namespace {
     { name, FieldKind::Text, offsetof(structure, field), sizeof(structure::field) }
 #define LIST(name, structure, field)                                                                                   \
     { name, FieldKind::List, offsetof(structure, field), sizeof(structure::field) / sizeof(uint32_t) }
+#define EXTENSIONS(name, structure, field)                                                                             \
+    { name, FieldKind::HostExtensionList, offsetof(structure, field), sizeof(structure::field) / sizeof(uint32_t) }
 
 // clang-format off
 const RecordKind kinds[] = {
@@ -45,22 +53,25 @@ const RecordKind kinds[] = {
       LIST("list1", zvBackEndLists, firstLists[0]), LIST("list2", zvBackEndLists, firstLists[1]),
       LIST("list3", zvBackEndLists, firstLists[2]), NUMBER("value3", zvBackEndLists, lastValues[0]),
       NUMBER("value4", zvBackEndLists, lastValues[1]), LIST("list4", zvBackEndLists, lastList)}},
+    {ZV_GUI_DISCONNECT, "gui_disconnect", {}},
+    {ZV_GUI_RENDER_MODE_ON, "gui_render_mode_on", {}},
+    {ZV_GUI_RENDER_MODE_OFF, "gui_render_mode_off", {}},
     {ZV_SYSTEM_REPORT_GL_VERSION, "system_report_gl_version",
-     {NUMBER("version", zvSystemReportGlVersion, glVersion)}},
+     {CATALOGUE(GlVersion, "version", zvSystemReportGlVersion, glVersion)}},
     {ZV_SYSTEM_REPORT_EXTENSION, "system_report_extension",
-     {NUMBER("extension", zvSystemReportExtension, extension),
+     {CATALOGUE(HostExtension, "extension", zvSystemReportExtension, extension),
       FLAG("available", zvSystemReportExtension, isAvailable)}},
     {ZV_SYSTEM_REPORT_FEATURE, "system_report_feature",
      {TEXT("feature", zvSystemReportFeature, name), FLAG("available", zvSystemReportFeature, isAvailable)}},
     {ZV_SYSTEM_REPORT_FEATURE_ALTERNATIVE, "system_report_feature_alternative",
      {TEXT("feature", zvSystemReportFeatureAlternative, name),
-      NUMBER("version", zvSystemReportFeatureAlternative, minVersion),
-      LIST("extensions", zvSystemReportFeatureAlternative, extensions)}},
+      CATALOGUE(GlVersion, "version", zvSystemReportFeatureAlternative, minVersion),
+      EXTENSIONS("extensions", zvSystemReportFeatureAlternative, extensions)}},
     {ZV_SYSTEM_REPORT_ES_REQUIREMENT, "system_report_es_requirement",
-     {SIGNED("section", zvSystemReportEsRequirement, section),
+     {CATALOGUE(EsSection, "section", zvSystemReportEsRequirement, section),
       TEXT("feature", zvSystemReportEsRequirement, feature)}},
     {ZV_SYSTEM_REPORT_ES_EXTENSION_REQUIREMENT, "system_report_es_extension_requirement",
-     {NUMBER("extension", zvSystemReportEsExtensionRequirement, esExtension),
+     {CATALOGUE(EsExtension, "extension", zvSystemReportEsExtensionRequirement, esExtension),
       TEXT("feature", zvSystemReportEsExtensionRequirement, feature)}},
     {ZV_SYSTEM_REPORT_END, "system_report_end", {}},
 };
@@ -82,10 +93,44 @@ const RecordKind *recordKind(uint32_t type) {
     return nullptr;
 }
 
+std::string recordName(uint32_t type) {
+    const RecordKind *kind = recordKind(type);
+    return kind ? kind->name : "unknown";
+}
+
+std::vector<std::string> recordNames() {
+    std::vector<std::string> names;
+    for (const auto &kind : kinds)
+        names.emplace_back(kind.name);
+    names.emplace_back(endedName);
+    return names;
+}
+
 bool hasFrame(const Message &message) {
     const uint32_t type = message.header.type;
     const bool isUnstamped = type >= ZV_SYSTEM_REPORT_GL_VERSION && type < ZV_SYSTEM_REPORT_END;
     return !isUnstamped && message.header.frameStamp != ZV_NO_FRAME;
+}
+
+std::string valueName(FieldKind kind, uint32_t value) {
+    const auto nameOf = [&](const auto &name) {
+        // Every catalogue has one text for all numbers that it lacks.
+        const std::string found = name(static_cast<int32_t>(value));
+        return found == name(-1) ? std::string() : found;
+    };
+    switch (kind) {
+    case FieldKind::GlVersion:
+        return nameOf(glVersionName);
+    case FieldKind::HostExtension:
+    case FieldKind::HostExtensionList:
+        return nameOf(hostExtensionName);
+    case FieldKind::EsSection:
+        return value == 0 ? "base" : nameOf(esVersionName);
+    case FieldKind::EsExtension:
+        return nameOf([](int32_t number) { return esExtensionName(number, true); });
+    default:
+        return {};
+    }
 }
 
 uint64_t numberAt(const Message &message, const Field &field) {

@@ -1,8 +1,12 @@
-// Lines for people: "1234 torus  (Error) text". The facts of the System Report are shown together when all are there.
+// Lines for people: "18:00:00.000 1234 torus  (Error) text". The facts of the System Report are shown together when all
+// are there.
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <map>
+#include <unistd.h>
 
 #include "foundation/log.h"
 #include "tools/monitor/output.h"
@@ -55,6 +59,32 @@ std::string allFields(const Message &message) {
     return text;
 }
 
+// What a terminal makes of a piece of a line.
+enum class Style { plain, faint, name, warning, error };
+
+bool isForColours(int stream) {
+    const char *refusal = getenv("NO_COLOR");
+    const char *terminal = getenv("TERM");
+    return isatty(stream) && !(refusal && *refusal) && terminal && strcmp(terminal, "dumb") != 0;
+}
+
+Style styleOf(uint32_t type) {
+    return type == ZV_LOG_ERROR ? Style::error : type == ZV_LOG_WARNING ? Style::warning : Style::plain;
+}
+
+// Local, to the millisecond.
+std::string clockText() {
+    using namespace std::chrono;
+    const auto now = floor<milliseconds>(system_clock::now());
+    const time_t seconds = system_clock::to_time_t(now);
+    tm parts{};
+    localtime_r(&seconds, &parts);
+    char text[16];
+    const size_t length = strftime(text, sizeof text, "%T", &parts);
+    snprintf(text + length, sizeof text - length, ".%03d", static_cast<int>(now.time_since_epoch().count() % 1000));
+    return text;
+}
+
 class TextOutput final : public MonitorOutput {
 public:
     void listening(const std::string &path, bool takesCommands) override {
@@ -73,7 +103,7 @@ public:
         } else if (type == ZV_BACK_END_MARKER) {
             countFrame(application, message.header.frameStamp);
         } else {
-            line(application, frame(message) + shortText(message));
+            line(application, frame(message) + shortText(message), styleOf(type));
         }
     }
 
@@ -86,8 +116,17 @@ public:
     void notice(const std::string &text) override { puts(text.c_str()); }
 
 private:
-    static void line(const MonitoredApplication &application, const std::string &text) {
-        printf("%d %s  %s\n", application.processNumber(), printable(application.commandName()).c_str(), text.c_str());
+    void line(const MonitoredApplication &application, const std::string &text, Style style = Style::plain) const {
+        const std::string name =
+            std::to_string(application.processNumber()) + ' ' + printable(application.commandName());
+        printf("%s %s  %s\n", styled(clockText(), Style::faint).c_str(), styled(name, Style::name).c_str(),
+               styled(text, style).c_str());
+    }
+
+    [[nodiscard]] std::string styled(const std::string &text, Style style) const {
+        static constexpr const char *starts[] = {"", "\033[2m", "\033[36m", "\033[33m", "\033[31m"};
+        if (!m_hasColours || style == Style::plain) return text;
+        return starts[static_cast<size_t>(style)] + text + "\033[0m";
     }
 
     // A back end marks every frame that it draws; a line for each would push everything else out of sight.
@@ -136,6 +175,7 @@ private:
         int count;
     };
 
+    const bool m_hasColours = isForColours(STDOUT_FILENO);
     std::map<const MonitoredApplication *, Frames> m_frames;          // since the last line about them
     std::map<const MonitoredApplication *, ReceivedReport> m_reports; // those that are still coming in
 };

@@ -26,11 +26,7 @@ struct Options {
 // Beside the program, in a thread of its own: records of the program while it runs, and what it leaves at its end.
 class WatchedRun {
 public:
-    WatchedRun() : m_monitor(makeTextOutput(), m_end.reading(), false, false) {
-        if (!m_monitor.isListening())
-            failCommand("cannot listen at /tmp/Zelvane for --monitor: another user's socket may be there");
-        m_thread = std::thread([this] { m_monitor.run(); });
-    }
+    WatchedRun() : m_monitor(makeTextOutput(), m_end.reading(), {}), m_thread([this] { m_monitor.run(); }) {}
     ~WatchedRun() {
         m_end.closeWriting();
         m_thread.join();
