@@ -36,10 +36,6 @@ bool listenAt(const std::string &path, int descriptor, int backlog) {
 
 } // namespace
 
-std::string socketPath(std::string_view name) {
-    return std::string("/tmp/").append(name);
-}
-
 Descriptor::~Descriptor() {
     if (m_isClosing && m_number >= 0) ::close(m_number);
 }
