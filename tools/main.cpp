@@ -17,6 +17,7 @@ int runVerb(std::vector<std::string> words) {
     app.footer("Exit status: 0 done, 1 the verb failed and said why, 2 the command line is wrong,\n"
                "3 the output cannot be written.");
     app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "VERB");
     std::vector<std::string> program;
     const CLI::App &run = addRunCommand(app, program);
     addProfilesCommand(app);

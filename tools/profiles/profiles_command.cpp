@@ -58,13 +58,13 @@ void addProfilesCommand(CLI::App &app) {
 
     auto name = std::make_shared<std::string>();
     auto *show = command->add_subcommand("show", "Print a profile: configs, extensions, limits");
-    show->add_option("name", *name, "a name that \"zelvane profiles\" lists")->required();
+    show->add_option("name", *name, "a name that \"zelvane profiles\" lists")->type_name("")->required();
     show->footer("Exit status: 0 done, 1 there is no such profile.");
     show->callback([name] { showProfile(*name); });
 
     auto path = std::make_shared<std::string>();
     auto *check = command->add_subcommand("check", "Tell what the reader makes of a profile file");
-    check->add_option("file", *path, "the file, wherever it lies")->required();
+    check->add_option("file", *path, "the file, wherever it lies")->type_name("")->required();
     check->footer("Tells every element that the reader ignores or reads differently than it looks, with line numbers.\n"
                   "Lines with \"note:\" tell what is never read, and do no harm.\n"
                   "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");

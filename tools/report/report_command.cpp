@@ -52,8 +52,8 @@ int runReport(const Options &options) {
 void addReportCommand(CLI::App &app) {
     auto *verb = app.add_subcommand("report", "Tell what this host can carry");
     const auto options = std::make_shared<tools::Options>();
-    verb->add_flag("--extensions", options->withExtensions, "List the host's OpenGL extensions too");
-    verb->add_flag("--json", options->asJson, "Print one JSON object");
+    verb->add_flag("--extensions", options->withExtensions, "list the host's OpenGL extensions too");
+    verb->add_flag("--json", options->asJson, "print one JSON object");
     verb->footer(
         "Exit status: 0 if the host carries OpenGL ES 3.0 in strict mode, 1 if not, 2 if it gives no context.");
     verb->callback([options] {

@@ -71,10 +71,12 @@ CLI::App &addRunCommand(CLI::App &app, const std::vector<std::string> &program) 
     auto *run =
         app.add_subcommand("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]");
     auto options = std::make_shared<Options>();
-    run->add_option("--profile", options->wishes.profile, "the device that it finds; \"zelvane profiles\" lists them");
+    run->add_option("--profile", options->wishes.profile, "the device that it finds; \"zelvane profiles\" lists them")
+        ->type_name("NAME");
     auto *strict = run->add_flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
-    run->add_flag("--loose", options->loose, "do not")->excludes(strict);
-    run->add_option("--backends", options->backEnds, "a directory whose OpenGL ES libraries go before our own");
+    run->add_flag("--loose", options->loose, "accept contexts that the host does not wholly carry")->excludes(strict);
+    run->add_option("--backends", options->backEnds, "a directory whose OpenGL ES libraries go before our own")
+        ->type_name("DIRECTORY");
     run->add_flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
     run->footer("The user's preferences stay as they are, and hold where no option says otherwise.\n"
                 "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"

@@ -57,9 +57,10 @@ void addUseCommand(CLI::App &app) {
     auto name = std::make_shared<std::string>();
     auto directory = std::make_shared<std::string>();
     auto none = std::make_shared<bool>(false);
-    auto *nameOption = command->add_option("name", *name, "a name that \"zelvane profiles\" lists");
+    auto *nameOption = command->add_option("name", *name, "a name that \"zelvane profiles\" lists")->type_name("");
     auto *noneOption = command->add_flag("--none", *none, "no device: the built-in config and every ES version");
-    auto *directoryOption = command->add_option("--directory", *directory, "where profile files lie; stored too");
+    auto *directoryOption =
+        command->add_option("--directory", *directory, "where profile files lie; stored too")->type_name("DIRECTORY");
     noneOption->excludes(nameOption)->excludes(directoryOption);
     command->footer("Exit status: 0 done, 1 there is no such profile or the preferences file cannot be written,\n"
                     "2 neither a name nor --none, or both.");
