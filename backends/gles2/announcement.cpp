@@ -59,7 +59,7 @@ std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optio
         std::ranges::for_each(esExtensionNames, add);
         std::ranges::for_each(carriedExtensions, add, &Carried::name);
         std::ranges::sort(names);
-        names.erase(std::ranges::unique(names).begin(), names.end());
+        names.erase(std::unique(names.begin(), names.end()), names.end());
     }
     return names;
 }

@@ -228,6 +228,7 @@ TEST(Monitor, EndsWithTheReaderOfItsOutputAndLeavesTheFileOfALaterListener) {
     }
 }
 
+#ifdef TORUS
 TEST(Monitor, RunShowsTheProgramUntilItsEnd) {
     // The program's own losses are not what is looked at here; drivers have theirs.
     const CommandResult result = run("run --monitor -- env ASAN_OPTIONS=detect_leaks=0 " TORUS " --frames 2");
@@ -236,3 +237,4 @@ TEST(Monitor, RunShowsTheProgramUntilItsEnd) {
         EXPECT_NE(result.output.find(part), std::string::npos) << part << " in " << result.output;
     EXPECT_FALSE(hasSocketFile());
 }
+#endif
