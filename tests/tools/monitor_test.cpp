@@ -10,6 +10,7 @@
 #include "foundation/product.h"
 #include "monitored.h"
 #include "run_command.h"
+#include "support/display.h"
 #include "support/golden.h"
 #include "ui/message_builders.h"
 #include "ui/socket.h"
@@ -230,6 +231,7 @@ TEST(Monitor, EndsWithTheReaderOfItsOutputAndLeavesTheFileOfALaterListener) {
 
 #ifdef TORUS
 TEST(Monitor, RunShowsTheProgramUntilItsEnd) {
+    SKIP_WITHOUT_DISPLAY();
     // The program's own losses are not what is looked at here; drivers have theirs.
     const CommandResult result = run("run --monitor -- env ASAN_OPTIONS=detect_leaks=0 " TORUS " --frames 2");
     EXPECT_EQ(result.status, 0);
