@@ -4,8 +4,8 @@
 #include "foundation/product.h"
 #include "tools/command/failure.h"
 #include "tools/command/standard_streams.h"
+#include "tools/command/verbs.h"
 #include "tools/command_line.h"
-#include "tools/verbs.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 
 #include "tools/command/failure.h"
 #include "tools/command/nearest.h"
+#include "tools/command/verbs.h"
 #include "tools/monitor/monitor.h"
 #include "tools/monitor/record_fields.h"
-#include "tools/verbs.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
+#include "tools/command/verbs.h"
 #include "tools/profiles/check_profile.h"
 #include "tools/profiles/print_profile.h"
 #include "tools/profiles/profile_list.h"
-#include "tools/verbs.h"
 
 namespace {
 

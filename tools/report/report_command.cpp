@@ -7,8 +7,8 @@
 #include "capability/collect_system_report.h"
 #include "host/opengl_library.h"
 #include "tools/command/failure.h"
+#include "tools/command/verbs.h"
 #include "tools/report/formats.h"
-#include "tools/verbs.h"
 
 namespace tools {
 

@@ -6,12 +6,12 @@
 #include <unistd.h>
 
 #include "tools/command/failure.h"
+#include "tools/command/verbs.h"
 #include "tools/monitor/monitor.h"
 #include "tools/run/checks.h"
 #include "tools/run/libraries.h"
 #include "tools/run/private_preferences.h"
 #include "tools/run/program.h"
-#include "tools/verbs.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <iostream>
 
 #include "tools/command/preferences.h"
-#include "tools/verbs.h"
+#include "tools/command/verbs.h"
 
 void addStrictCommand(CLI::App &app) {
     auto *command = app.add_subcommand("strict", "Refuse contexts that the host cannot fully carry, or stop that");

@@ -5,7 +5,7 @@
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
-#include "tools/verbs.h"
+#include "tools/command/verbs.h"
 
 namespace {
 
