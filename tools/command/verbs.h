@@ -1,16 +1,16 @@
-// The verbs of the zelvane command. Each adds its subcommand; a verb that fails has written a message to standard error
-// and throws a Failure with its exit status.
+// The verbs of the zelvane command. A verb that fails has written a message to standard error and throws a Failure with
+// its exit status.
 #pragma once
-
-#include <CLI/CLI.hpp>
 
 #include <string>
 #include <vector>
 
-void addMonitorCommand(CLI::App &app);
-void addProfilesCommand(CLI::App &app);
-void addReportCommand(CLI::App &app);
-// program: the program and its words, which the verb's own words do not hold. Gives the verb.
-CLI::App &addRunCommand(CLI::App &app, const std::vector<std::string> &program);
-void addUseCommand(CLI::App &app);
-void addStrictCommand(CLI::App &app);
+#include "tools/command/verb.h"
+
+void addMonitorCommand(const Verb &top);
+void addProfilesCommand(const Verb &top);
+void addReportCommand(const Verb &top);
+// program: the program and its words, which are not among those of the verb.
+void addRunCommand(const Verb &top, const std::vector<std::string> &program);
+void addStrictCommand(const Verb &top);
+void addUseCommand(const Verb &top);

@@ -59,25 +59,22 @@ std::string whatIsWrongWith(const std::string &recordName) {
 
 } // namespace
 
-void addMonitorCommand(CLI::App &app) {
-    auto *monitor = app.add_subcommand("monitor", "Show what applications that start from now on report");
-    auto options = std::make_shared<Options>();
-    monitor->add_flag("--json", options->json, "one JSON object a record, for other tools");
-    monitor->add_flag("--once", options->once, "end with the first application");
-    monitor->add_option("--level", options->level, "the least level of log lines that are shown: info, warning, error")
-        ->check(CLI::IsMember(levels))
-        ->type_name("LEVEL");
-    monitor->add_option("--process", options->filter.processes, "show this process alone; may be given again")
-        ->type_name("NUMBER|NAME")
-        ->allow_extra_args(false);
-    monitor->add_option("--type", options->filter.types, "show these records alone; may be given again")
-        ->check(CLI::Validator(whatIsWrongWith, "", "record"))
-        ->type_name("TYPE")
-        ->allow_extra_args(false);
-    monitor->footer(
+void addMonitorCommand(const Verb &top) {
+    const Verb monitor = top.verb(
+        "monitor", "Show what applications that start from now on report",
         "A TYPE is a name that --json writes, such as log_error, or what several begin with: log, back_end,\n"
         "system_report. Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d\n"
         "and q, each but q with a process number for one application alone.\n"
         "Exit status: 0 done, 1 somebody else listens or the socket cannot be made.");
-    monitor->callback([options] { watch(*options); });
+    auto options = std::make_shared<Options>();
+    monitor.flag("--json", options->json, "one JSON object a record, for other tools");
+    monitor.flag("--once", options->once, "end with the first application");
+    monitor
+        .option("--level", options->level, "LEVEL", "the least level of log lines that are shown: info, warning, error")
+        .oneOf(levels);
+    monitor.option("--process", options->filter.processes, "NUMBER|NAME",
+                   "show this process alone; may be given again");
+    monitor.option("--type", options->filter.types, "TYPE", "show these records alone; may be given again")
+        .checkedBy(whatIsWrongWith);
+    monitor.action([options] { watch(*options); });
 }

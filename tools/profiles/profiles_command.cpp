@@ -18,6 +18,8 @@ namespace {
 struct Options {
     bool asJson = false;
     bool asNames = false;
+    std::string name; // of show
+    std::string path; // of check
 };
 
 void showProfile(const std::string &name) {
@@ -48,31 +50,28 @@ void checkFile(const std::string &path) {
 
 } // namespace
 
-void addProfilesCommand(CLI::App &app) {
-    auto *command = app.add_subcommand("profiles", "List the device profiles, and tell which one is in force");
-    command->require_subcommand(0, 1);
+void addProfilesCommand(const Verb &top) {
+    const Verb profiles = top.verb("profiles", "List the device profiles, and tell which one is in force",
+                                   "Exit status: 0 done, 1 the preferences file or the profile cannot be read.");
     auto options = std::make_shared<Options>();
-    auto *json = command->add_flag("--json", options->asJson, "print one JSON object");
-    command->add_flag("--names", options->asNames, "print the names alone, one a line")->excludes(json);
-    command->footer("Exit status: 0 done, 1 the preferences file or the profile cannot be read.");
-
-    auto name = std::make_shared<std::string>();
-    auto *show = command->add_subcommand("show", "Print a profile: configs, extensions, limits");
-    show->add_option("name", *name, "a name that \"zelvane profiles\" lists")->type_name("")->required();
-    show->footer("Exit status: 0 done, 1 there is no such profile.");
-    show->callback([name] { showProfile(*name); });
-
-    auto path = std::make_shared<std::string>();
-    auto *check = command->add_subcommand("check", "Tell what the reader makes of a profile file");
-    check->add_option("file", *path, "the file, wherever it lies")->type_name("")->required();
-    check->footer("Tells every element that the reader ignores or reads differently than it looks, with line numbers.\n"
-                  "Lines with \"note:\" tell what is never read, and do no harm.\n"
-                  "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
-    check->callback([path] { checkFile(*path); });
-
-    command->callback([command, options] {
-        if (!command->get_subcommands().empty()) return;
+    const Word json = profiles.flag("--json", options->asJson, "print one JSON object");
+    profiles.flag("--names", options->asNames, "print the names alone, one a line").excludes(json);
+    profiles.action([options] {
         const ProfileList list = listProfiles();
         std::cout << (options->asJson ? listAsJson(list) : options->asNames ? listAsNames(list) : listAsText(list));
     });
+
+    const Verb show = profiles.verb("show", "Print a profile: configs, extensions, limits",
+                                    "Exit status: 0 done, 1 there is no such profile.");
+    show.word("name", options->name, "a name that \"zelvane profiles\" lists").required();
+    show.action([options] { showProfile(options->name); });
+
+    const Verb check = profiles.verb(
+        "check", "Tell what the reader makes of a profile file",
+        "Tells every element that the reader ignores or reads differently than it looks, with line numbers.\n"
+        "Lines with \"note:\" tell what is never read, and do no harm.\n"
+        "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
+    check.word("file", options->path, "the file, wherever it lies").required();
+    check.action([options] { checkFile(options->path); });
+    profiles.canStandAlone();
 }

@@ -49,14 +49,14 @@ int runReport(const Options &options) {
 
 } // namespace tools
 
-void addReportCommand(CLI::App &app) {
-    auto *verb = app.add_subcommand("report", "Tell what this host can carry");
-    const auto options = std::make_shared<tools::Options>();
-    verb->add_flag("--extensions", options->withExtensions, "list the host's OpenGL extensions too");
-    verb->add_flag("--json", options->asJson, "print one JSON object");
-    verb->footer(
+void addReportCommand(const Verb &top) {
+    const Verb report = top.verb(
+        "report", "Tell what this host can carry",
         "Exit status: 0 if the host carries OpenGL ES 3.0 in strict mode, 1 if not, 2 if it gives no context.");
-    verb->callback([options] {
+    const auto options = std::make_shared<tools::Options>();
+    report.flag("--extensions", options->withExtensions, "list the host's OpenGL extensions too");
+    report.flag("--json", options->asJson, "print one JSON object");
+    report.action([options] {
         if (const int status = tools::runReport(*options)) throw Failure{status};
     });
 }

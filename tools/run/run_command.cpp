@@ -67,22 +67,21 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
 
 } // namespace
 
-CLI::App &addRunCommand(CLI::App &app, const std::vector<std::string> &program) {
-    auto *run =
-        app.add_subcommand("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]");
+void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
+    const Verb run =
+        top.verb("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]",
+                 "The user's preferences stay as they are, and hold where no option says otherwise.\n"
+                 "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
+                 "2 when the command line is wrong.");
     auto options = std::make_shared<Options>();
-    run->add_option("--profile", options->wishes.profile, "the device that it finds; \"zelvane profiles\" lists them")
-        ->type_name("NAME");
-    auto *strict = run->add_flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
-    run->add_flag("--loose", options->loose, "accept contexts that the host does not wholly carry")->excludes(strict);
-    run->add_option("--backends", options->backEnds, "a directory whose OpenGL ES libraries go before our own")
-        ->type_name("DIRECTORY");
-    run->add_flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
-    run->footer("The user's preferences stay as they are, and hold where no option says otherwise.\n"
-                "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
-                "2 when the command line is wrong.");
-    run->callback([options, &program] {
-        if (program.empty()) throw CLI::RequiredError("PROGRAM");
+    run.option("--profile", options->wishes.profile, "NAME",
+               "the device that it finds; \"zelvane profiles\" lists them");
+    const Word strict = run.flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
+    run.flag("--loose", options->loose, "accept contexts that the host does not wholly carry").excludes(strict);
+    run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries go before our own");
+    run.flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
+    run.action([options, &program] {
+        if (program.empty()) throw UsageError{"PROGRAM is missing"};
         if (options->strict || options->loose) options->wishes.strict = options->strict;
         int status = runFailure;
         try {
@@ -92,5 +91,4 @@ CLI::App &addRunCommand(CLI::App &app, const std::vector<std::string> &program) 
         }
         if (status != 0) throw Failure{status};
     });
-    return *run;
 }

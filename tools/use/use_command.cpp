@@ -9,6 +9,12 @@
 
 namespace {
 
+struct Options {
+    std::string name;
+    std::string directory;
+    bool none = false;
+};
+
 std::string makeOwnDirectory() {
     std::string directory;
     if (!getConfigDirectory(directory)) failCommand("there is no home directory");
@@ -52,21 +58,20 @@ void useNone() {
 
 } // namespace
 
-void addUseCommand(CLI::App &app) {
-    auto *command = app.add_subcommand("use", "Choose the device that programs find from now on");
-    auto name = std::make_shared<std::string>();
-    auto directory = std::make_shared<std::string>();
-    auto none = std::make_shared<bool>(false);
-    auto *nameOption = command->add_option("name", *name, "a name that \"zelvane profiles\" lists")->type_name("");
-    auto *noneOption = command->add_flag("--none", *none, "no device: the built-in config and every ES version");
-    auto *directoryOption =
-        command->add_option("--directory", *directory, "where profile files lie; stored too")->type_name("DIRECTORY");
-    noneOption->excludes(nameOption)->excludes(directoryOption);
-    command->footer("Exit status: 0 done, 1 there is no such profile or the preferences file cannot be written,\n"
-                    "2 neither a name nor --none, or both.");
-    command->callback([=] {
-        if (*none) return useNone();
-        if (name->empty()) throw CLI::RequiredError("name or --none");
-        useProfile(*name, *directory);
+void addUseCommand(const Verb &top) {
+    const Verb use =
+        top.verb("use", "Choose the device that programs find from now on",
+                 "Exit status: 0 done, 1 there is no such profile or the preferences file cannot be written,\n"
+                 "2 neither a name nor --none, or both.");
+    auto options = std::make_shared<Options>();
+    const Word name = use.word("name", options->name, "a name that \"zelvane profiles\" lists");
+    const Word none = use.flag("--none", options->none, "no device: the built-in config and every ES version");
+    const Word directory =
+        use.option("--directory", options->directory, "DIRECTORY", "where profile files lie; stored too");
+    none.excludes(name).excludes(directory);
+    use.action([options] {
+        if (options->none) return useNone();
+        if (options->name.empty()) throw UsageError{"name or --none is missing"};
+        useProfile(options->name, options->directory);
     });
 }
