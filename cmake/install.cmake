@@ -1,14 +1,35 @@
-# cmake --install lays out a prefix: the libraries with the unversioned names beside them, the header for back ends, a
-# pkg-config file and a CMake package. The EGL and OpenGL ES headers are Khronos' own and come with the system.
+# cmake --install lays out a prefix: the libraries with the unversioned names beside them, the command, its manual pages
+# and completions, and for those who build on it the headers, a pkg-config file and a CMake package. The EGL and OpenGL
+# ES headers are Khronos' own and come with the system. Whatever has no component here is of the command.
 include(CMakePackageConfigHelpers)
+set(ZELVANE_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING "Where zsh's completion goes")
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME zelvane)
 
 install(TARGETS zelvane_egl zelvane_gles1 zelvane_gles2 EXPORT zelvane
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+foreach(page zelvane.1 libzelvane.7)
+  configure_file(${PROJECT_SOURCE_DIR}/docs/man/${page}.in ${CMAKE_BINARY_DIR}/man/${page} @ONLY)
+endforeach()
+install(FILES ${CMAKE_BINARY_DIR}/man/libzelvane.7 DESTINATION ${CMAKE_INSTALL_MANDIR}/man7)
+install(FILES README.md CHANGELOG.md docs/profiles.md docs/running.md docs/example-profile.xml
+        DESTINATION ${CMAKE_INSTALL_DOCDIR})
+if(TARGET zelvane_command)
+  set(completions ${PROJECT_SOURCE_DIR}/tools/completions)
+  install(TARGETS zelvane_command RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES ${CMAKE_BINARY_DIR}/man/zelvane.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${completions}/zelvane.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+          RENAME zelvane)
+  install(FILES ${completions}/_zelvane DESTINATION ${ZELVANE_ZSH_COMPLETIONS})
+  install(FILES ${completions}/zelvane.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+endif()
+
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME zelvane-dev)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zelvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT zelvane NAMESPACE zelvane:: FILE zelvane-config.cmake
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/zelvane)
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/zelvane-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/zelvane-config-version.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/zelvane)
-
-configure_file(${CMAKE_CURRENT_LIST_DIR}/zelvane.pc.in ${CMAKE_BINARY_DIR}/zelvane.pc @ONLY)
-install(FILES ${CMAKE_BINARY_DIR}/zelvane.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+set(OUTPUT ${CMAKE_BINARY_DIR}/zelvane.pc)
+include(cmake/pkg_config.cmake)
+install(FILES ${OUTPUT} DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
+#include <span>
 
 namespace capability {
 
@@ -68,9 +68,10 @@ static_assert(std::ranges::is_sorted(families, {}, &FamilyRow::feature) &&
                   std::ranges::is_sorted(entryPoints, {}, &EntryPointRow::feature),
               "the rows of a feature stand together, and the features in their order");
 
-template <typename Rows>
-auto rowsOf(const Rows &rows, Feature feature) {
-    return std::ranges::equal_range(rows, feature, {}, &Rows::value_type::feature);
+template <typename Row, size_t count>
+std::span<const Row> rowsOf(const std::array<Row, count> &rows, Feature feature) {
+    return {std::ranges::lower_bound(rows, feature, {}, &Row::feature),
+            std::ranges::upper_bound(rows, feature, {}, &Row::feature)};
 }
 
 // Not the alternative that was selected: a host of OpenGL 4 can have texture storage without these functions.

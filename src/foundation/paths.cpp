@@ -1,9 +1,12 @@
 #include "foundation/paths.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <filesystem>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 const std::string &getOwnDirectory() {
@@ -50,5 +53,15 @@ bool getProfilePathFromEnvironment(std::string &path) {
 }
 
 FILE *openForReading(const std::string &path) {
-    return fopen(path.c_str(), "r");
+    // O_NONBLOCK returns from a pipe at once, and changes nothing for regular files.
+    const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) return nullptr;
+    struct stat found {};
+    const bool isKnown = fstat(descriptor, &found) == 0;
+    FILE *stream = isKnown && S_ISREG(found.st_mode) ? fdopen(descriptor, "r") : nullptr;
+    if (stream) return stream;
+    const int reason = isKnown && S_ISDIR(found.st_mode) ? EISDIR : isKnown ? ENOTSUP : errno;
+    close(descriptor);
+    errno = reason;
+    return nullptr;
 }

@@ -21,5 +21,6 @@
 // the variable has none. Empty when the platform has none.
 [[nodiscard]] std::string getTemporaryDirectory();
 
-// Null when the file cannot be opened. The caller closes the stream.
+// Null, with errno set, when the file cannot be opened or is no regular one (ENOTSUP; EISDIR for a directory): a pipe
+// would wait for its writer, and a device may have no end. The caller closes the stream.
 [[nodiscard]] FILE *openForReading(const std::string &path);

@@ -36,39 +36,31 @@ bool makeDirectories(const std::string &directory) {
     return mkdir(directory.c_str(), directoryMode) == 0 || errno == EEXIST;
 }
 
-// Writes the template where there is no file. A file that holds something is left alone, though it could not be read:
-// false then, with errno telling why it could not, unless another process was just quicker than us.
-bool createFile(const std::string &path, int readError) {
-    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+// Writes the template. A file that another process has filled meanwhile is left as it is.
+bool createFile(const std::string &path) {
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
     if (descriptor < 0) return false;
     struct stat found {};
-    if (fstat(descriptor, &found) != 0 || found.st_size > 0) {
-        close(descriptor);
-        errno = readError;
-        return readError == ENOENT;
-    }
-    FILE *stream = fdopen(descriptor, "wb");
+    const bool isEmpty = fstat(descriptor, &found) == 0 && found.st_size == 0;
+    FILE *stream = isEmpty ? fdopen(descriptor, "wb") : nullptr;
     if (!stream) {
         close(descriptor);
-        return false;
+        return !isEmpty;
     }
     fwrite(fileTemplate.data(), 1, fileTemplate.size(), stream);
     fclose(stream);
     return true;
 }
 
-// Sets error and gives false when there is no file to read and none can be made.
+// Sets error and gives false when there is no file and none can be made. What is there may still not be readable.
 bool ensureFile(const std::string &directory, const std::string &path, std::string &error) {
-    if (FILE *existing = fopen(path.c_str(), "r")) {
-        fclose(existing);
-        return true;
-    }
-    const int readError = errno;
+    struct stat existing {};
+    if (stat(path.c_str(), &existing) == 0) return true;
     if (!makeDirectories(directory)) {
         error = std::string("Failed to create preference directory structure: ") + strerror(errno);
         return false;
     }
-    if (!createFile(path, readError)) {
+    if (!createFile(path)) {
         error = std::string("Failed to create preference file: ") + strerror(errno);
         return false;
     }
@@ -101,7 +93,7 @@ PreferenceFile KZRPreferencesUnix::openPreferenceFile(const std::string &name, i
     file.path = fileIn(directory, name);
     if (mode == readPreferences) {
         if (!ensureFile(directory, file.path, error)) return file;
-        file.stream = fopen(file.path.c_str(), "rb");
+        file.stream = openForReading(file.path);
     } else {
         const bool usesTemporaryName = mode == writePreferences && atomic;
         file.stream = fopen((usesTemporaryName ? file.path + ".tmp" : file.path).c_str(), "wb");

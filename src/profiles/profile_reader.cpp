@@ -4,7 +4,6 @@
 #include <tinyxml2.h>
 
 #include <cstdio>
-#include <filesystem>
 
 #include "foundation/paths.h"
 #include "profiles/config_maker.h"
@@ -22,9 +21,6 @@ constexpr struct {
 };
 
 std::optional<std::string> readFile(const std::string &path) {
-    // Opening a pipe would wait for its writer, and a device may have no end.
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return std::nullopt;
     FILE *file = openForReading(path);
     if (!file) return std::nullopt;
     std::string text;

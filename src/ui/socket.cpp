@@ -36,10 +36,6 @@ bool listenAt(const std::string &path, int descriptor, int backlog) {
 
 } // namespace
 
-std::string socketPath(std::string_view name) {
-    return std::string("/tmp/").append(name);
-}
-
 Descriptor::~Descriptor() {
     if (m_isClosing && m_number >= 0) ::close(m_number);
 }
@@ -49,7 +45,8 @@ void Descriptor::close() {
     if (m_number >= 0) shutdown(m_number, SHUT_RDWR);
 }
 
-Socket::Socket(const std::string &path) : m_descriptor(std::make_shared<Descriptor>(socket(AF_UNIX, SOCK_STREAM, 0))) {
+Socket::Socket(const std::string &path)
+    : m_descriptor(std::make_shared<Descriptor>(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))) {
     m_failed = !connectTo(path, m_descriptor->number());
 }
 

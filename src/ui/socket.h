@@ -13,7 +13,8 @@
 
 namespace KZRIPC {
 
-// "/tmp/NAME", whoever the user is: one GUI serves every process of the machine.
+// "/tmp/NAME", whoever the user is: one GUI serves every process of the machine. Whatever links this code says where
+// the socket lies: the library and the command link socket_path.cpp.
 [[nodiscard]] std::string socketPath(std::string_view name);
 
 // A descriptor that clients share. The number is given back only when the last call on it has ended, so that no thread

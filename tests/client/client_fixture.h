@@ -17,6 +17,7 @@ const Pixel green{0, 255, 0, 255};
 
 // A function as eglGetProcAddress hands it out, of the type that is wanted.
 struct Named {
+    explicit Named(const char *name) : name(name) {}
     template <typename Function>
     operator Function *() const {
         return reinterpret_cast<Function *>(eglGetProcAddress(name));

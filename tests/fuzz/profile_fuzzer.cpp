@@ -4,7 +4,7 @@
 
 #include "profiles/embedded_profiles.h"
 #include "profiles/profile_reader.h"
-#include "tools/check_profile.h"
+#include "tools/profiles/check_profile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     static const CKZRTString name("fuzzed");

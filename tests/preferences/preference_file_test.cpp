@@ -44,9 +44,13 @@ TEST_F(PreferenceFileTest, ReadingMakesDirectoriesAndTemplateOrNamesTheStepThatF
     // A file that may be written but not read was taken for a missing one, and the template took its place.
     write("old");
     fs::permissions(file, fs::perms::owner_write);
-    if (!std::ifstream(file)) expectFailure("Failed to create preference file", EACCES);
+    if (!std::ifstream(file)) expectFailure("Failed to open preference file", EACCES);
     fs::permissions(file, fs::perms::owner_all);
     EXPECT_EQ(text(), "old");
+    // A pipe was waited for as long as nobody wrote into it.
+    fs::remove(file);
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    expectFailure("Failed to open preference file", ENOTSUP);
 }
 
 TEST_F(PreferenceFileTest, WritesByModeAndCommits) {

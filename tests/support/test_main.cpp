@@ -10,8 +10,12 @@
 
 // The drivers' own losses and those that the rules require are listed, with reasons, in the suppression files.
 #define FOR_THE_SANITIZER extern "C" __attribute__((visibility("default"), used)) const char *
-FOR_THE_SANITIZER __lsan_default_options() { return ZELVANE_LEAK_OPTIONS; }
-FOR_THE_SANITIZER __tsan_default_options() { return ZELVANE_THREAD_OPTIONS; }
+FOR_THE_SANITIZER __lsan_default_options() {
+    return ZELVANE_LEAK_OPTIONS;
+}
+FOR_THE_SANITIZER __tsan_default_options() {
+    return ZELVANE_THREAD_OPTIONS;
+}
 
 // Drivers that were unloaded before the leak check could not be told by their names any more.
 static void keepLibrariesLoaded() {

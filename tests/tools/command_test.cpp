@@ -1,24 +1,47 @@
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
+#include "support/display.h"
 #include "support/golden.h"
 #include "tools/run_command.h"
 
 using testing::HasSubstr;
 
-TEST(Command, ExitStatusAndWhatItSays) {
-    // Run on the shell's words, so that a row can have quotes.
-    const std::tuple<const char *, const char *, int, const char *> rows[] = {
-#include "tools/data/commands.def"
-    };
-    for (const auto &[name, arguments, status, part] : rows) {
-        const CommandResult result = run(arguments);
-        EXPECT_EQ(result.status, status) << name;
-        EXPECT_THAT(result.output, HasSubstr(part)) << name;
+namespace {
+
+// The words of the command are the shell's, so that a row can have quotes.
+struct Row {
+    const char *what;
+    const char *words;
+    int status;
+    const char *part;
+};
+
+void expectEach(std::initializer_list<Row> rows) {
+    for (const Row &row : rows) {
+        const CommandResult result = run(row.words);
+        EXPECT_EQ(result.status, row.status) << row.what;
+        EXPECT_THAT(result.output, HasSubstr(row.part)) << row.what;
     }
+}
+
+} // namespace
+
+TEST(Command, ExitStatusAndWhatItSays) {
+    ASSERT_EQ(mkfifo((homeDirectory() / "pipe").c_str(), 0600), 0);
+    expectEach({
+#include "tools/data/commands.def"
+    });
     unsetenv("DISPLAY");
-    const CommandResult result = run("run -- true");
-    EXPECT_EQ(result.status, 125);
-    EXPECT_THAT(result.output, HasSubstr("there is no X server"));
+    expectEach({{"no server", "run -- true", 125, "there is no X server"}});
+}
+
+TEST(Command, RunEndsAsItsProgramOrSaysWhyNot) {
+    SKIP_WITHOUT_DISPLAY();
+    expectEach({
+#include "tools/data/run_commands.def"
+    });
 }
 
 TEST(Command, ProfilesCheckFindsEachFaultByItsLine) {

@@ -3,19 +3,21 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <fstream>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
-RunningMonitor::RunningMonitor(const std::string &options, Input input) {
+RunningMonitor::RunningMonitor(const std::string &options, Input input, const std::string &launcher) {
     std::string terminal = "/dev/null";
     if (input == Terminal) {
         m_input = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
         if (grantpt(m_input) != 0 || unlockpt(m_input) != 0) throw std::runtime_error("no terminal");
         terminal = ptsname(m_input);
     }
-    m_output = popen(("echo $$; exec " ZELVANE_COMMAND " monitor " + options + " <" + terminal).c_str(), "re");
+    const std::string command = launcher + " " ZELVANE_COMMAND " monitor " + options;
+    m_output = popen(("echo $$; exec " + command + " <" + terminal).c_str(), "re");
     m_process = std::stoi(lineWith(""));
 }
 
@@ -49,6 +51,16 @@ void RunningMonitor::type(const std::string &command) {
 
 void RunningMonitor::signal(int number) {
     kill(m_process, number);
+}
+
+long RunningMonitor::ticksUsed() const {
+    std::ifstream file("/proc/" + std::to_string(m_process) + "/stat");
+    std::string word;
+    for (int field = 1; field < 14; ++field)
+        file >> word;
+    long user = 0, system = 0;
+    file >> user >> system;
+    return user + system;
 }
 
 int RunningMonitor::exitCode() {

@@ -10,7 +10,8 @@ class RunningMonitor {
 public:
     enum Input { Nothing, Terminal };
 
-    explicit RunningMonitor(const std::string &options, Input input = Nothing);
+    // launcher: a command that starts it, such as prlimit with its options.
+    explicit RunningMonitor(const std::string &options, Input input = Nothing, const std::string &launcher = {});
     RunningMonitor(const RunningMonitor &) = delete;
     RunningMonitor &operator=(const RunningMonitor &) = delete;
     ~RunningMonitor();
@@ -21,6 +22,8 @@ public:
     std::string rest();
     void type(const std::string &command);
     void signal(int number);
+    // So far, of the processor; in clock ticks.
+    [[nodiscard]] long ticksUsed() const;
     // Stops reading and waits for the end; the exit code, or minus the signal.
     int exitCode();
 

@@ -3,7 +3,7 @@
 #include "capability/collect_system_report.h"
 #include "capability/scripted_host.h"
 #include "support/golden.h"
-#include "tools/report_formats.h"
+#include "tools/report/formats.h"
 
 using namespace tools;
 

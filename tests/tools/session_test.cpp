@@ -4,6 +4,7 @@
 #include <regex>
 #include <sstream>
 
+#include "support/display.h"
 #include "support/golden.h"
 #include "tools/run_command.h"
 
@@ -14,6 +15,7 @@ class Session : public testing::TestWithParam<const char *> {};
 } // namespace
 
 TEST_P(Session, GoesAsWritten) {
+    if (GetParam() == std::string("run")) SKIP_WITHOUT_DISPLAY();
     setenv("DATA", TESTS_DIRECTORY "/tools/data", 1);
     setenv("PREFERENCES", preferencesFile().c_str(), 1);
     const std::string session = golden(std::string("tools/data/") + GetParam() + ".session");

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "ui/socket.h"
+
 using namespace ui::messages;
 
 namespace {
@@ -35,6 +37,10 @@ TEST(MessageBuilders, TypesStampsAndValuesLieAtTheirOffsets) {
         for (const auto &[offset, value] : rows[type].words)
             EXPECT_EQ(word(message, offset), value) << "type " << type << " at " << offset;
     }
+}
+
+TEST(SocketPath, IsWhereGuisListen) {
+    EXPECT_EQ(KZRIPC::socketPath("Zelvane"), "/tmp/Zelvane");
 }
 
 // A build without the cut would show here as what follows the field, or as a read beyond the record.

@@ -1,0 +1,31 @@
+# Debian packages, a component each: zelvane for users, zelvane-dev for those who build on it. scripts/package makes them.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "Zelvane maintainers <maintainers@zelvane.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "EGL of a handheld device on desktop OpenGL")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL zelvane zelvane-dev)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+
+set(CPACK_COMPONENT_ZELVANE_DESCRIPTION
+    "Runs OpenGL ES programs on the desktop's OpenGL as they would run on a handheld
+device, with its configs, versions and limits, and shows what they report.
+The libraries lie in a directory of their own, and programs get them from
+zelvane run.")
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_NAME zelvane)
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+# The host's OpenGL is opened at run time.
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_DEPENDS libgl1)
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_RECOMMENDS libgl1-mesa-dri)
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_SUGGESTS "xvfb, mesa-utils")
+
+set(CPACK_COMPONENT_ZELVANE-DEV_DESCRIPTION
+    "Headers for back ends and GUIs of Zelvane, a pkg-config file and a CMake\npackage.")
+set(CPACK_DEBIAN_ZELVANE-DEV_PACKAGE_NAME zelvane-dev)
+set(CPACK_DEBIAN_ZELVANE-DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_ZELVANE-DEV_PACKAGE_DEPENDS
+    "zelvane (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), libegl-dev, libgles-dev")
+include(CPack)

@@ -1,0 +1,10 @@
+// For cases that need an X server in binaries that do without.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#define SKIP_WITHOUT_DISPLAY()                                                                                         \
+    if (const char *display = getenv("DISPLAY"); !display || !*display)                                                \
+    GTEST_SKIP() << "there is no X server: DISPLAY is not set"

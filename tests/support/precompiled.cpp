@@ -1,0 +1,2 @@
+// Nothing but a program to precompile headers for.
+int main() {}

@@ -1,0 +1,76 @@
+#include "tools/command/preferences.h"
+
+#include <tinyxml2.h>
+
+#include "foundation/paths.h"
+#include "foundation/product.h"
+#include "preferences/settings.h"
+#include "tools/command/failure.h"
+
+ToolPreferences::ToolPreferences() : m_store(productName) {
+    std::string error;
+    if (!m_store.load(error, false)) failCommand("the preferences cannot be read: " + error);
+
+    KZRPreferencesUnix files;
+    const PreferenceFile file = files.openPreferenceFile(productName, readPreferences, false, false, error);
+    if (!file.stream) failCommand("the preferences cannot be read: " + error);
+    m_path = file.path;
+    tinyxml2::XMLDocument document;
+    document.LoadFile(file.stream);
+    files.closePreferenceFile(file, false);
+    if (document.Error()) failCommand("\"" + m_path + "\" is no well-formed XML: " + document.ErrorStr());
+}
+
+std::string ToolPreferences::storedDirectory() {
+    std::string directory;
+    m_store.getString(settingKey("profiles_directory"), &directory, std::string());
+    return directory;
+}
+
+std::string ToolPreferences::profilesDirectory() {
+    std::string directory = storedDirectory();
+    if (directory.empty() && !getProfilePathFromEnvironment(directory)) return {};
+    return directory;
+}
+
+std::string ToolPreferences::currentProfile() {
+    std::string name;
+    m_store.getString(settingKey("current_profile"), &name, std::string());
+    return name;
+}
+
+bool ToolPreferences::isStrict() {
+    bool strict = false;
+    m_store.getBool(settingKey("strict_context_mode"), &strict, false);
+    return strict;
+}
+
+void ToolPreferences::setProfile(const std::string &directory, const std::string &name) {
+    storeString("profiles_directory", directory);
+    storeString("current_profile", name);
+    save();
+}
+
+void ToolPreferences::removeProfile() {
+    m_store.remove(settingKey("current_profile"));
+    save();
+}
+
+void ToolPreferences::setStrict(bool strict) {
+    m_store.setBool(settingKey("strict_context_mode"), strict);
+    if (isStrict() != strict) failCommand("strict_context_mode cannot be set in \"" + m_path + "\"");
+    save();
+}
+
+void ToolPreferences::storeString(const char *name, const std::string &value) {
+    // A value that is a dict or an array takes no text, and the store does not say so.
+    std::string stored;
+    m_store.setString(settingKey(name), value);
+    m_store.getString(settingKey(name), &stored, std::string());
+    if (stored != value) failCommand(std::string(name) + " cannot be set in \"" + m_path + "\"");
+}
+
+void ToolPreferences::save() {
+    // Forced: a removal does not count as a change.
+    if (!m_store.save(true)) failCommand("\"" + m_path + "\" cannot be written");
+}

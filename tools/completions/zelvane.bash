@@ -1,0 +1,71 @@
+# Completion of zelvane for bash.
+
+# The names that begin with the word, each quoted as the shell needs it.
+_zelvane_profiles() {
+    local word=$1 name
+    while IFS= read -r name; do
+        [[ $name == "$word"* ]] && COMPREPLY+=("$(printf %q "$name")")
+    done < <(zelvane profiles --names 2>/dev/null)
+}
+
+# Completes the program of "run" and its words, which begin at the index.
+_zelvane_program() {
+    local first=$1
+    if declare -F _command_offset >/dev/null; then
+        _command_offset "$first"
+    elif ((COMP_CWORD == first)); then
+        mapfile -t COMPREPLY < <(compgen -c -- "${COMP_WORDS[COMP_CWORD]}"; compgen -f -- "${COMP_WORDS[COMP_CWORD]}")
+    else
+        compopt -o default
+    fi
+}
+
+_zelvane() {
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]} index
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W 'run profiles use strict report monitor --help --version' -- "$word")
+        return
+    fi
+
+    # "--option=value" comes in three words.
+    [[ $word == = ]] && word=
+    [[ $before == = ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
+    case $verb:$before in
+    run:--profile) _zelvane_profiles "${word//\\/}"; return ;;
+    run:--backends | use:--directory) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+    profiles:check) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+    profiles:show) _zelvane_profiles "${word//\\/}"; return ;;
+    monitor:--level) mapfile -t COMPREPLY < <(compgen -W 'info warning error' -- "$word"); return ;;
+    monitor:--type)
+        mapfile -t COMPREPLY < <(compgen -W 'log log_info log_warning log_error process_hello link_stop window_title
+            back_end back_end_text back_end_marker back_end_record back_end_named_text back_end_lists system_report
+            ended' -- "$word")
+        return
+        ;;
+    monitor:--process) mapfile -t COMPREPLY < <(compgen -W "$(ps -u "$UID" -o pid= 2>/dev/null)" -- "$word"); return ;;
+    esac
+
+    if [[ $verb == run ]]; then
+        for ((index = 2; index <= COMP_CWORD; ++index)); do
+            case ${COMP_WORDS[index]} in
+            --) _zelvane_program $((index + 1)); return ;;
+            --profile | --backends) [[ ${COMP_WORDS[index + 1]-} == = ]] && ((++index)); ((++index)) ;;
+            -*) ;;
+            '') ((index < COMP_CWORD)) || { _zelvane_program "$index"; return; } ;;
+            *) _zelvane_program "$index"; return ;;
+            esac
+        done
+    fi
+    local words
+    case $verb in
+    run) words='--profile --strict --loose --backends --monitor --help' ;;
+    profiles) words='show check --json --names --help' ;;
+    use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
+    strict) words='on off --help' ;;
+    report) words='--extensions --json --help' ;;
+    monitor) words='--json --once --level --process --type --help' ;;
+    esac
+    mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -W "$words" -- "$word")
+}
+complete -F _zelvane zelvane

@@ -1,0 +1,84 @@
+# Completion of zelvane for fish.
+
+# Whether no verb is there yet, or the verb is this one.
+function __zelvane_has_verb
+    set -l words (commandline -opc)
+    if test (count $argv) -eq 0
+        test (count $words) -lt 2
+    else
+        test (count $words) -ge 2; and test $words[2] = $argv[1]
+    end
+end
+
+# Whether the word below "profiles" is this one, or none yet.
+function __zelvane_profiles_verb
+    set -l words (commandline -opc)
+    __zelvane_has_verb profiles; or return 1
+    test (count $words) -lt 3; and test -z "$argv[1]"; and return 0
+    test (count $words) -ge 3; and test $words[3] = "$argv[1]"
+end
+
+function __zelvane_profiles
+    zelvane profiles --names 2>/dev/null
+end
+
+# The words of the program of "run", which begins with the first word that is no option.
+function __zelvane_program
+    set -l words (commandline -opc)
+    set -e words[1..2]
+    while set -q words[1]
+        switch $words[1]
+            case --
+                set -e words[1]
+                break
+            case --profile --backends
+                set -e words[1..2]
+            case '-*'
+                set -e words[1]
+            case '*'
+                break
+        end
+    end
+    complete -C "$words "(commandline -ct)
+end
+
+complete -c zelvane -f
+complete -c zelvane -n __zelvane_has_verb -l version -d 'Print the version'
+complete -c zelvane -s h -l help -d 'List the options'
+complete -c zelvane -n __zelvane_has_verb -a run -d 'Run a program on this library'
+complete -c zelvane -n __zelvane_has_verb -a profiles -d 'List the device profiles'
+complete -c zelvane -n __zelvane_has_verb -a use -d 'Choose the device that programs find from now on'
+complete -c zelvane -n __zelvane_has_verb -a strict -d 'Refuse contexts that the host cannot fully carry'
+complete -c zelvane -n __zelvane_has_verb -a report -d 'Tell what this host can carry'
+complete -c zelvane -n __zelvane_has_verb -a monitor -d 'Show what applications report'
+
+complete -c zelvane -n '__zelvane_has_verb run' -l profile -xa '(__zelvane_profiles)' -d 'The device that the program finds'
+complete -c zelvane -n '__zelvane_has_verb run' -l strict -d 'Refuse contexts that the host does not wholly carry'
+complete -c zelvane -n '__zelvane_has_verb run' -l loose -d 'Accept contexts that the host does not wholly carry'
+complete -c zelvane -n '__zelvane_has_verb run' -l backends -xa '(__fish_complete_directories)' -d 'OpenGL ES libraries'
+complete -c zelvane -n '__zelvane_has_verb run' -l monitor -d 'Show meanwhile what the monitor would'
+complete -c zelvane -n '__zelvane_has_verb run' -a '(__zelvane_program)'
+
+complete -c zelvane -n '__zelvane_profiles_verb' -l json -d 'Print one JSON object'
+complete -c zelvane -n '__zelvane_profiles_verb' -l names -d 'Print the names alone'
+complete -c zelvane -n '__zelvane_profiles_verb' -a show -d 'Print a profile'
+complete -c zelvane -n '__zelvane_profiles_verb' -a check -d 'Tell what the reader makes of a file'
+complete -c zelvane -n '__zelvane_profiles_verb show' -a '(__zelvane_profiles)'
+complete -c zelvane -n '__zelvane_profiles_verb check' -F
+
+complete -c zelvane -n '__zelvane_has_verb use' -a '(__zelvane_profiles)'
+complete -c zelvane -n '__zelvane_has_verb use' -l none -d 'No device'
+complete -c zelvane -n '__zelvane_has_verb use' -l directory -xa '(__fish_complete_directories)' -d 'Where profile files lie'
+
+complete -c zelvane -n '__zelvane_has_verb strict' -a 'on off'
+
+complete -c zelvane -n '__zelvane_has_verb report' -l extensions -d 'List the extensions of the host too'
+complete -c zelvane -n '__zelvane_has_verb report' -l json -d 'Print one JSON object'
+
+complete -c zelvane -n '__zelvane_has_verb monitor' -l json -d 'Print one JSON object a record'
+complete -c zelvane -n '__zelvane_has_verb monitor' -l once -d 'End with the first application'
+complete -c zelvane -n '__zelvane_has_verb monitor' -l level -xa 'info warning error' -d 'The least level of log lines'
+complete -c zelvane -n '__zelvane_has_verb monitor' -l process -xa '(__fish_complete_pids)' -d 'Show this process alone'
+complete -c zelvane -n '__zelvane_has_verb monitor' -l type -x -d 'Show these records alone' -a 'log log_info log_warning
+    log_error process_hello link_stop window_title back_end back_end_text back_end_marker back_end_record
+    back_end_named_text back_end_lists system_report ended'

@@ -1,0 +1,119 @@
+#include "tools/monitor/listener.h"
+
+#include <cerrno>
+#include <cstring>
+#include <ctime>
+#include <fcntl.h>
+#include <fstream>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "foundation/product.h"
+#include "tools/command/failure.h"
+
+namespace {
+
+// Monitors look at the socket file and replace it under this lock of its directory, which leaves no file of its own.
+// Somebody who holds it for long is not waited for.
+class DirectoryLock {
+public:
+    explicit DirectoryLock(const std::string &path)
+        : m_directory(open(path.substr(0, path.rfind('/')).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        for (int attempt = 0; attempt < 100 && flock(m_directory, LOCK_EX | LOCK_NB) != 0; ++attempt)
+            usleep(10000);
+    }
+    DirectoryLock(const DirectoryLock &) = delete;
+    DirectoryLock &operator=(const DirectoryLock &) = delete;
+    ~DirectoryLock() { close(m_directory); }
+
+private:
+    int m_directory;
+};
+
+ucred peerOf(int descriptor) {
+    ucred peer{0, static_cast<uid_t>(-1), static_cast<gid_t>(-1)};
+    socklen_t size = sizeof peer;
+    (void)getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &peer, &size);
+    return peer;
+}
+
+std::string processText(pid_t number) {
+    if (number <= 0) return "a process";
+    std::ifstream file("/proc/" + std::to_string(number) + "/comm");
+    std::string name;
+    std::getline(file, name);
+    return "process " + std::to_string(number) + (name.empty() ? "" : " (" + name + ")");
+}
+
+std::string timeText(time_t seconds) {
+    tm parts{};
+    localtime_r(&seconds, &parts);
+    char text[32];
+    return {text, strftime(text, sizeof text, "%F %T", &parts)};
+}
+
+// Connects as an application would, without waiting.
+void failIfSomebodyListens(const std::string &path, const struct stat &file) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const int probe = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const bool isConnected = connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    const int error = isConnected ? 0 : errno;
+    const pid_t listener = isConnected ? peerOf(probe).pid : 0;
+    close(probe);
+    // A full queue is that of somebody who listens.
+    if (error == 0 || error == EAGAIN) {
+        failCommand(processText(listener) + " listens at \"" + path + "\" already, since " +
+                    timeText(file.st_mtim.tv_sec));
+    }
+    if (error == EACCES)
+        failCommand("\"" + path + "\" is closed to us; it belongs to user " + std::to_string(file.st_uid));
+}
+
+void failIfTaken(const std::string &path) {
+    struct stat file {};
+    if (lstat(path.c_str(), &file) != 0) return;
+    if (!S_ISSOCK(file.st_mode)) failCommand("\"" + path + "\" is in the way: it is no socket, and is left alone");
+    failIfSomebodyListens(path, file);
+}
+
+// The numbers of files are given again; their times are not.
+bool isSameFile(const struct stat &one, const struct stat &other) {
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_mtim.tv_sec == other.st_mtim.tv_sec &&
+           one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
+}
+
+} // namespace
+
+Listener::Listener() {
+    const std::string path = KZRIPC::socketPath(productName);
+    const DirectoryLock lock(path);
+    failIfTaken(path);
+    // Applications of other users get as far as accept(), and those of root's monitor further.
+    const mode_t mask = umask(0111);
+    m_server.emplace(productName, 16);
+    const int error = errno;
+    umask(mask);
+    if (m_server->failed()) failCommand("cannot listen at \"" + path + "\": " + strerror(error));
+    (void)lstat(path.c_str(), &m_file);
+}
+
+Listener::~Listener() {
+    const DirectoryLock lock(path());
+    struct stat found {};
+    if (lstat(path().c_str(), &found) == 0 && isSameFile(found, m_file)) unlink(path().c_str());
+}
+
+Listener::Arrival Listener::accept() const {
+    KZRIPC::Client client(*m_server);
+    if (client.failed()) {
+        client.close();
+        return {};
+    }
+    const ucred peer = peerOf(client.descriptor());
+    if (geteuid() == 0 || peer.uid == geteuid()) return {client, {}};
+    client.close();
+    return {{}, processText(peer.pid) + " of user " + std::to_string(peer.uid)};
+}

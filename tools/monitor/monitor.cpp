@@ -1,0 +1,145 @@
+#include "tools/monitor/monitor.h"
+
+#include <cerrno>
+#include <cstring>
+#include <optional>
+#include <poll.h>
+#include <sstream>
+#include <unistd.h>
+
+using namespace ui::messages;
+
+namespace {
+
+constexpr char help[] = "w, wire on [PROCESS]   switch the wireframe on, for one application or all\n"
+                        "W, wire off [PROCESS]  switch it off\n"
+                        "d [PROCESS]            disconnect\n"
+                        "q                      quit";
+
+// How long applications that found no descriptor wait before the next look.
+constexpr int fullPauseMs = 1000;
+
+std::optional<Message> commandFor(const std::string &verb, const std::string &argument) {
+    if (verb == "w" || (verb == "wire" && argument == "on")) return guiRenderModeOn();
+    if (verb == "W" || (verb == "wire" && argument == "off")) return guiRenderModeOff();
+    if (verb == "d") return guiDisconnect();
+    return std::nullopt;
+}
+
+} // namespace
+
+Monitor::Monitor(std::unique_ptr<MonitorOutput> output, int ending, MonitorOptions options)
+    : m_output(std::move(output)), m_ending(ending), m_options(std::move(options)) {}
+
+void Monitor::run() {
+    m_output->listening(m_listener.path(), m_options.takesCommands);
+    while (!m_isEnding && fflush(stdout) == 0) {
+        std::vector<pollfd> waiting{{m_ending, POLLIN, 0},
+                                    // It stays readable while nobody can be taken.
+                                    {m_isFull ? -1 : m_listener.descriptor(), POLLIN, 0},
+                                    {m_options.takesCommands ? STDIN_FILENO : -1, POLLIN, 0},
+                                    // Reports only that the reader of a pipe has gone.
+                                    {STDOUT_FILENO, 0, 0}};
+        const size_t first = waiting.size();
+        for (const auto &application : m_applications)
+            waiting.push_back({application->descriptor(), POLLIN, 0});
+        if (poll(waiting.data(), waiting.size(), m_isFull ? fullPauseMs : -1) < 0) {
+            if (errno == EINTR) continue;
+            return m_output->notice(std::string("cannot wait for applications: ") + strerror(errno));
+        }
+        if (waiting[3].revents) return;
+        if (waiting[0].revents) return readWhatIsLeft();
+        for (size_t index = first; index < waiting.size(); ++index) {
+            if (waiting[index].revents) readRecord(*m_applications[index - first]);
+        }
+        dropEnded();
+        m_isFull = waiting[1].revents && !accept();
+        if (waiting[2].revents) readCommands();
+    }
+}
+
+bool Monitor::accept() {
+    const Listener::Arrival arrival = m_listener.accept();
+    if (arrival.client) m_applications.push_back(std::make_unique<MonitoredApplication>(*arrival.client));
+    if (!arrival.refusal.empty()) m_output->notice("sent away: " + arrival.refusal);
+    const bool isTaken = arrival.client || !arrival.refusal.empty();
+    if (!isTaken && !m_hasTold) m_output->notice("no descriptor is left: applications wait until others end");
+    m_hasTold |= !isTaken;
+    return isTaken;
+}
+
+void Monitor::readRecord(MonitoredApplication &application) {
+    const auto message = application.receive();
+    if (message && m_options.filter.shows(application, message->header.type)) m_output->record(application, *message);
+}
+
+void Monitor::dropEnded() {
+    std::erase_if(m_applications, [this](const auto &application) {
+        if (application->descriptor() >= 0) return false;
+        // One that leaves without a hello has not been shown.
+        if (!application->processNumber()) return true;
+        if (m_options.filter.showsEnd(*application)) m_output->ended(*application);
+        m_isEnding |= m_options.endsWithTheFirst && m_options.filter.follows(*application);
+        return true;
+    });
+}
+
+void Monitor::readWhatIsLeft() {
+    pollfd arriving{m_listener.descriptor(), POLLIN, 0};
+    while (poll(&arriving, 1, 0) > 0 && accept()) {
+    }
+    for (const auto &application : m_applications) {
+        pollfd gone{application->descriptor(), POLLIN, 0};
+        while (gone.fd >= 0 && poll(&gone, 1, 0) > 0 && gone.revents & POLLHUP) {
+            readRecord(*application);
+            gone.fd = application->descriptor();
+        }
+    }
+    dropEnded();
+    fflush(stdout);
+}
+
+void Monitor::readCommands() {
+    char typed[256];
+    const ssize_t count = read(STDIN_FILENO, typed, sizeof typed);
+    if (count <= 0) {
+        m_options.takesCommands = false;
+        return;
+    }
+    m_typed.append(typed, count);
+    for (size_t end = m_typed.find('\n'); end != std::string::npos; end = m_typed.find('\n')) {
+        obey(m_typed.substr(0, end));
+        m_typed.erase(0, end + 1);
+    }
+}
+
+void Monitor::obey(const std::string &line) {
+    std::istringstream words(line);
+    std::string verb, argument;
+    words >> verb;
+    if (verb == "wire") words >> argument;
+    int32_t processNumber = 0; // all
+    const bool isForOne = static_cast<bool>(words >> processNumber);
+    const bool isWhole = isForOne || words.eof();
+
+    if (verb.empty()) return;
+    if (verb == "q") {
+        m_isEnding = true;
+        return;
+    }
+    const auto command = commandFor(verb, argument);
+    if (!command || !isWhole) {
+        m_output->notice(help);
+        return;
+    }
+    size_t reached = 0;
+    for (const auto &application : m_applications) {
+        if (isForOne && application->processNumber() != processNumber) continue;
+        if (application->send(*command)) {
+            ++reached;
+        } else {
+            m_output->notice(std::to_string(application->processNumber()) + " takes no command now");
+        }
+    }
+    m_output->notice("sent to " + std::to_string(reached) + (reached == 1 ? " application" : " applications"));
+}

@@ -1,0 +1,51 @@
+// The listening side of the GUI link in a terminal. Everything runs on one thread, in one poll loop: records of the
+// applications, commands of the user, and the descriptor that ends it.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tools/monitor/application.h"
+#include "tools/monitor/listener.h"
+#include "tools/monitor/output.h"
+#include "tools/monitor/record_filter.h"
+
+struct MonitorOptions {
+    bool takesCommands = false;    // reads lines of standard input as commands
+    bool endsWithTheFirst = false; // of the applications that the filter follows
+    RecordFilter filter = {};
+};
+
+class Monitor {
+public:
+    // ending: a descriptor that is readable when the monitor is to end; it stays the caller's. Fails the command when
+    // the socket cannot be had.
+    Monitor(std::unique_ptr<MonitorOutput> output, int ending, MonitorOptions options);
+    Monitor(const Monitor &) = delete;
+    Monitor &operator=(const Monitor &) = delete;
+
+    // Until the user, the descriptor or the end of the first application ends it. What applications that are gone by
+    // then have left is still shown. SIGPIPE must be ignored: an output that nobody takes ends the monitor.
+    void run();
+
+private:
+    // False when no descriptor is left for who waits.
+    bool accept();
+    void readRecord(MonitoredApplication &application);
+    void dropEnded();
+    void readWhatIsLeft();
+    void readCommands();
+    // A line such as "w", "W 1234", "wire off" or "d".
+    void obey(const std::string &line);
+
+    std::unique_ptr<MonitorOutput> m_output;
+    Listener m_listener;
+    int m_ending;
+    MonitorOptions m_options;
+    bool m_isFull = false;  // applications wait for a descriptor
+    bool m_hasTold = false; // that they did once
+    bool m_isEnding = false;
+    std::string m_typed; // a line that is not complete yet
+    std::vector<std::unique_ptr<MonitoredApplication>> m_applications;
+};

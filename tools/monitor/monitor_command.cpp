@@ -1,0 +1,80 @@
+// zelvane monitor: watch applications, and switch their render mode.
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <sys/signalfd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tools/command/failure.h"
+#include "tools/command/nearest.h"
+#include "tools/command/verbs.h"
+#include "tools/monitor/monitor.h"
+#include "tools/monitor/record_fields.h"
+
+namespace {
+
+// In the order of the types of log lines.
+const std::vector<std::string> levels = {"info", "warning", "error"};
+
+struct Options {
+    bool json = false;
+    bool once = false;
+    std::string level = levels[0];
+    RecordFilter filter;
+};
+
+// A terminal or a pipe; what else stands there (a file, a closed input) belongs to somebody else.
+bool takesCommands(int input) {
+    struct stat status {};
+    return isatty(input) || (fstat(input, &status) == 0 && S_ISFIFO(status.st_mode));
+}
+
+// An output that nobody reads any more and a key in the background are noticed where they happen.
+int catchSignals() {
+    signal(SIGPIPE, SIG_IGN);
+    signal(SIGTTIN, SIG_IGN);
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&ending, number);
+    sigprocmask(SIG_BLOCK, &ending, nullptr);
+    const int descriptor = signalfd(-1, &ending, SFD_CLOEXEC);
+    if (descriptor < 0) failCommand(std::string("no descriptor for signals: ") + strerror(errno));
+    return descriptor;
+}
+
+void watch(const Options &options) {
+    MonitorOptions monitorOptions{takesCommands(STDIN_FILENO), options.once, options.filter};
+    const auto level = std::ranges::find(levels, options.level) - levels.begin();
+    monitorOptions.filter.leastLevel = ZV_LOG_INFO + static_cast<uint32_t>(level);
+    Monitor(options.json ? makeJsonOutput() : makeTextOutput(), catchSignals(), monitorOptions).run();
+}
+
+std::string whatIsWrongWith(const std::string &recordName) {
+    if (isRecordName(recordName)) return {};
+    return "no record is called \"" + recordName + '"' + suggestion(recordName, recordNames());
+}
+
+} // namespace
+
+void addMonitorCommand(const Verb &top) {
+    const Verb monitor = top.verb(
+        "monitor", "Show what applications that start from now on report",
+        "A TYPE is a name that --json writes, such as log_error, or what several begin with: log, back_end,\n"
+        "system_report. Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d\n"
+        "and q, each but q with a process number for one application alone.\n"
+        "Exit status: 0 done, 1 somebody else listens or the socket cannot be made.");
+    auto options = std::make_shared<Options>();
+    monitor.flag("--json", options->json, "one JSON object a record, for other tools");
+    monitor.flag("--once", options->once, "end with the first application");
+    monitor
+        .option("--level", options->level, "LEVEL", "the least level of log lines that are shown: info, warning, error")
+        .oneOf(levels);
+    monitor.option("--process", options->filter.processes, "NUMBER|NAME",
+                   "show this process alone; may be given again");
+    monitor.option("--type", options->filter.types, "TYPE", "show these records alone; may be given again")
+        .checkedBy(whatIsWrongWith);
+    monitor.action([options] { watch(*options); });
+}

@@ -1,0 +1,21 @@
+// How the monitor shows what happens: for people, or one JSON object a line for other tools.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "tools/monitor/application.h"
+#include "ui/message_builders.h"
+
+class MonitorOutput {
+public:
+    virtual ~MonitorOutput() = default;
+    virtual void listening(const std::string &path, bool takesCommands) = 0;
+    virtual void record(const MonitoredApplication &application, const ui::messages::Message &message) = 0;
+    virtual void ended(const MonitoredApplication &application) = 0;
+    // An answer to a command.
+    virtual void notice(const std::string &text) = 0;
+};
+
+[[nodiscard]] std::unique_ptr<MonitorOutput> makeTextOutput();
+[[nodiscard]] std::unique_ptr<MonitorOutput> makeJsonOutput();

@@ -1,0 +1,216 @@
+#include "tools/profiles/check_profile.h"
+
+#include <EGL/egl.h>
+#include <tinyxml2.h>
+
+#include <algorithm>
+#include <charconv>
+#include <map>
+#include <set>
+
+#include "profiles/config_maker.h"
+#include "profiles/embedded_profiles.h"
+#include "profiles/profile_reader.h"
+
+namespace {
+
+using tinyxml2::XMLElement;
+
+std::string quoted(std::string_view text) {
+    constexpr size_t longest = 40;
+    return "\"" + std::string(text.substr(0, longest)) + (text.size() > longest ? "...\"" : "\"");
+}
+
+std::string textOf(const XMLElement &element) {
+    const char *text = element.GetText();
+    return text ? text : "";
+}
+
+// A whole number in 32 bits and nothing beside it.
+bool isNumber(const char *text) {
+    if (!text) return false;
+    int32_t value = 0;
+    const char *end = text + std::string_view(text).size();
+    const auto result = std::from_chars(text, end, value);
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+class Check {
+public:
+    Check(std::string_view text, const std::string &fileName) : m_text(text), m_fileName(fileName) {}
+
+    ProfileFindings run();
+
+private:
+    void problem(int line, const std::string &text) { add(line, text, true); }
+    void note(int line, const std::string &text) { add(line, text, false); }
+    void add(int line, const std::string &text, bool isProblem);
+
+    void checkRoot(const XMLElement &root);
+    void checkEgl(const XMLElement &egl);
+    void checkVersion(const XMLElement &es);
+    void checkConfig(const XMLElement &config);
+    // seen: for each element read so far, the place where it was last read.
+    void checkDescendants(const XMLElement &parent, const std::string &container, std::map<std::string, int> &seen);
+    void checkValue(const egl::ConfigElementRule &rule, const XMLElement &element);
+    void checkResult(const XMLElement &config);
+
+    std::string_view m_text;
+    const std::string &m_fileName;
+    std::set<int32_t> m_ids;
+    std::map<std::pair<std::string, bool>, std::vector<int>> m_lines; // of each text
+};
+
+void Check::add(int line, const std::string &text, bool isProblem) {
+    m_lines[{text, isProblem}].push_back(line);
+}
+
+ProfileFindings Check::run() {
+    tinyxml2::XMLDocument document;
+    document.Parse(m_text.data(), m_text.size());
+    const XMLElement *root = document.FirstChildElement("profile");
+    if (document.Error()) {
+        problem(std::max(document.ErrorLineNum(), 1), std::string("no well-formed XML: ") + document.ErrorStr());
+    } else if (!root) {
+        problem(1, "there is no root element profile: the file cannot be loaded");
+    } else {
+        checkRoot(*root);
+    }
+
+    std::vector<std::pair<int, ProfileFinding>> sorted;
+    for (auto &[key, lines] : m_lines) {
+        std::sort(lines.begin(), lines.end());
+        std::string list;
+        for (const int line : lines)
+            list += (list.empty() ? "" : ",") + std::to_string(line);
+        sorted.push_back({lines.front(), {list, key.first, key.second}});
+    }
+    std::stable_sort(sorted.begin(), sorted.end(), [](auto &a, auto &b) { return a.first < b.first; });
+    ProfileFindings findings;
+    for (auto &[line, finding] : sorted)
+        findings.list.push_back(std::move(finding));
+    return findings;
+}
+
+void Check::checkRoot(const XMLElement &root) {
+    if (!egl::findEmbeddedProfile(m_fileName).empty())
+        problem(root.GetLineNum(), "a built-in profile has the name " + quoted(m_fileName) + " and hides this file");
+    if (const auto *device = root.FirstChildElement("device"); device && textOf(*device) != m_fileName) {
+        note(device->GetLineNum(), "device names built-in profiles only: this file is chosen as " + quoted(m_fileName));
+    }
+    for (auto *other = root.NextSiblingElement(); other; other = other->NextSiblingElement())
+        problem(other->GetLineNum(), std::string(other->Name()) + " behind the profile is ignored");
+
+    const XMLElement *egl = root.FirstChildElement("egl");
+    if (!egl) problem(root.GetLineNum(), "profile has no egl: the file cannot be loaded");
+    for (auto *child = root.FirstChildElement(); child; child = child->NextSiblingElement()) {
+        const std::string_view name = child->Name();
+        if (name == "es") {
+            checkVersion(*child);
+        } else if (name == "egl" && child != egl) {
+            problem(child->GetLineNum(), "only the first egl is read: this one is ignored");
+        } else if (name != "egl" && name != "device" && name != "renderer" && name != "vendor") {
+            problem(child->GetLineNum(), std::string(name) + " is no element of profile: ignored");
+        }
+    }
+    if (egl) checkEgl(*egl);
+}
+
+void Check::checkVersion(const XMLElement &es) {
+    const char *version = es.Attribute("version");
+    const auto token = egl::findVersionToken(es.IntAttribute("version"));
+    if (!token) {
+        problem(es.GetLineNum(), "es has " + (version ? "the version " + quoted(version) : std::string("no version")) +
+                                     ": ignored; 1, 11, 2, 20, 3, 30, 31 and 32 are known");
+    } else if (!isNumber(version)) {
+        problem(es.GetLineNum(),
+                "version " + quoted(version) + " reads as " + std::to_string(es.IntAttribute("version")));
+    }
+}
+
+void Check::checkEgl(const XMLElement &egl) {
+    for (auto *child = egl.FirstChildElement(); child; child = child->NextSiblingElement()) {
+        if (std::string_view(child->Name()) == "config")
+            checkConfig(*child);
+        else
+            problem(child->GetLineNum(), std::string(child->Name()) + " is no element of egl: ignored");
+    }
+    if (!m_ids.contains(1))
+        problem(egl.GetLineNum(), "no config has the id 1: one of default values is offered for it");
+}
+
+void Check::checkConfig(const XMLElement &config) {
+    const int line = config.GetLineNum();
+    const char *idText = config.Attribute("id");
+    const int32_t id = config.IntAttribute("id");
+    if (!idText)
+        problem(line, "config has no id: it reads as 0");
+    else if (!isNumber(idText))
+        problem(line, "config id " + quoted(idText) + " reads as " + std::to_string(id));
+    if (!m_ids.insert(id).second)
+        problem(line, "config id " + std::to_string(id) + " is taken: this config is ignored");
+
+    std::map<std::string, int> seen;
+    checkDescendants(config, "", seen);
+    checkResult(config);
+}
+
+void Check::checkDescendants(const XMLElement &parent, const std::string &container, std::map<std::string, int> &seen) {
+    for (auto *child = parent.FirstChildElement(); child; child = child->NextSiblingElement()) {
+        const std::string name = child->Name();
+        const egl::ConfigElementRule rule = egl::findElementRule(name);
+        const egl::ConfigElementRule outer = egl::findElementRule(container);
+        const int line = child->GetLineNum();
+        if (rule.attribute != 0) {
+            if (!container.empty()) problem(line, name + " inside " + container + " counts as the config's own");
+            const auto [last, isFirst] = seen.insert({name, line});
+            if (!isFirst && rule.reader != egl::readBits) {
+                problem(last->second, name + " stands again further down, and the last one counts");
+                last->second = line;
+            }
+            checkValue(rule, *child);
+        } else if (rule.reader) {
+            note(line, name + " is never read: the library's own values stand");
+        } else if (std::none_of(outer.children, outer.children + outer.childCount,
+                                [&](const auto &known) { return known.name == name; })) {
+            problem(line, name + " is no element of " + (container.empty() ? "config" : container) + ": ignored");
+        }
+        checkDescendants(*child, name, seen);
+    }
+}
+
+void Check::checkValue(const egl::ConfigElementRule &rule, const XMLElement &element) {
+    const std::string text = textOf(element);
+    egl::Config config;
+    config.setAttribute(rule.attribute, 0);
+    egl::ConfigMaker maker(config);
+    rule.reader(rule, element, maker);
+    const int32_t value = config.attributeOr0(rule.attribute);
+
+    std::string reading;
+    if (rule.reader == egl::readInteger && !isNumber(text.c_str())) reading = "reads as " + std::to_string(value);
+    if (rule.reader == egl::readBoolean && value == 0 && text != "EGL_FALSE" && text != "0")
+        reading = "reads as EGL_FALSE: only the text EGL_TRUE is true";
+    if (rule.reader == egl::readBits && value == 0) reading = "is no bit that is known: ignored";
+    if (!reading.empty()) problem(element.GetLineNum(), std::string(rule.name) + " " + quoted(text) + " " + reading);
+}
+
+void Check::checkResult(const XMLElement &element) {
+    egl::Config config;
+    egl::ConfigMaker maker(config);
+    element.Accept(&maker);
+    if (config.attributeOr0(EGL_RENDERABLE_TYPE) == 0)
+        problem(element.GetLineNum(), "config ends up without a renderable_type: no context can be made for it");
+    if (config.attributeOr0(EGL_SURFACE_TYPE) == 0)
+        problem(element.GetLineNum(), "config ends up without a surface_type: it matches no request for a surface");
+}
+
+} // namespace
+
+bool ProfileFindings::hasProblems() const {
+    return std::any_of(list.begin(), list.end(), [](const ProfileFinding &finding) { return finding.isProblem; });
+}
+
+ProfileFindings checkProfile(std::string_view text, const std::string &fileName) {
+    return Check(text, fileName).run();
+}

@@ -1,0 +1,17 @@
+// A device profile in readable form on standard output.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "profiles/device_profile.h"
+
+// Of an EsVersion: "1.x" or "2.0".
+[[nodiscard]] const char *versionName(int32_t version);
+
+// "1.x, 2.0", or "none".
+[[nodiscard]] std::string versionsText(const egl::DeviceProfile &profile);
+
+// Identity, configs as a table in the values that programs see, then extensions and limits of each es block.
+// text is the profile's own and parses.
+void printProfile(const egl::DeviceProfile &profile, std::string_view text);

@@ -1,0 +1,107 @@
+#include "tools/run/checks.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tools/command/failure.h"
+#include "tools/run/elf_program.h"
+#include "tools/run/loader_trace.h"
+
+// Defines short macros; it has to come last.
+#include <X11/Xlib.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string quoted(const std::string &text) {
+    return "\"" + text + "\"";
+}
+
+bool isRunnable(const std::string &file) {
+    std::error_code error;
+    return fs::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0;
+}
+
+// As the shell looks it up. Empty when there is no such program.
+std::string findProgram(const std::string &name) {
+    if (name.find('/') != std::string::npos) return isRunnable(name) ? name : "";
+    const char *path = getenv("PATH");
+    std::istringstream directories(path ? path : "/bin:/usr/bin");
+    for (std::string directory; std::getline(directories, directory, ':');) {
+        const std::string file = (directory.empty() ? "." : directory) + "/" + name;
+        if (isRunnable(file)) return file;
+    }
+    return {};
+}
+
+// The loader takes no search path from us for programs that run with the rights of somebody else.
+bool runsForSomebodyElse(const std::string &file) {
+    struct stat found {};
+    if (stat(file.c_str(), &found) != 0) return false;
+    return (found.st_mode & S_ISUID && found.st_uid != getuid()) ||
+           (found.st_mode & S_ISGID && found.st_gid != getgid());
+}
+
+bool isOurs(const std::string &name) {
+    return name.starts_with("libEGL.so") || name.starts_with("libGLESv2.so") || name.starts_with("libGLESv1_CM.so");
+}
+
+void checkLibraries(const std::string &program, const LoaderTrace &trace, const std::string &libraries) {
+    for (const auto &[name, file] : trace.libraries) {
+        if (file.empty()) failCommand(name + ", which " + quoted(program) + " needs, is not there");
+        std::error_code error;
+        if (!isOurs(name) || fs::equivalent(fs::path(file).parent_path(), libraries, error)) continue;
+        if (!fs::exists(fs::path(libraries) / name, error))
+            failCommand(quoted(program) + " needs " + name + ", which is not among the libraries in " +
+                        quoted(libraries));
+        failCommand(quoted(program) + " is linked to another copy: it takes " + name + " from " + quoted(file) +
+                    ", a place that is written into it or into a library of it and goes before every search path");
+    }
+}
+
+void warnOfSymbols(const std::string &program, const std::vector<std::string> &missing) {
+    if (missing.empty()) return;
+    constexpr size_t shown = 5;
+    std::cerr << "zelvane: warning: " << quoted(program) << " is linked to functions that no library has, and ends when"
+              << " it needs one:";
+    for (size_t index = 0; index < missing.size() && index < shown; ++index)
+        std::cerr << ' ' << missing[index];
+    if (missing.size() > shown) std::cerr << " and " << missing.size() - shown << " more";
+    std::cerr << '\n';
+}
+
+} // namespace
+
+void checkXServer() {
+    const char *name = getenv("DISPLAY");
+    if (!name || !*name)
+        failCommand("there is no X server: DISPLAY is not set; \"xvfb-run\" gives a program one without a screen");
+    Display *display = XOpenDisplay(nullptr);
+    if (!display) failCommand("there is no X server at " + quoted(name) + ", where DISPLAY leads");
+    XCloseDisplay(display);
+}
+
+void checkProgram(const std::vector<std::string> &words, const std::string &libraries) {
+    const std::string program = findProgram(words[0]);
+    if (program.empty()) failCommand(quoted(words[0]) + " is no program that can be run");
+    const ElfProgram elf = readElfProgram(program);
+    if (elf.kind == ElfProgram::notElf) return;
+    if (elf.kind == ElfProgram::otherMachine)
+        failCommand(quoted(program) + " is built for another kind of machine than this library");
+    if (runsForSomebodyElse(program))
+        failCommand(quoted(program) + " runs with the rights of another user, so the loader takes no library of ours");
+    if (elf.kind == ElfProgram::fixed) {
+        std::cerr << "zelvane: warning: " << quoted(program) << " is linked statically: it loads no library of ours\n";
+        return;
+    }
+    // Other loaders would run the program instead of listing.
+    if (!fs::path(elf.interpreter).filename().string().starts_with("ld-linux")) return;
+    const LoaderTrace trace = traceLoader(program);
+    checkLibraries(program, trace, libraries);
+    warnOfSymbols(program, trace.missingSymbols);
+}

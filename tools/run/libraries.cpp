@@ -1,0 +1,50 @@
+#include "tools/run/libraries.h"
+
+#include "foundation/dynamic_library.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char ownName[] = "libEGL.so.1";
+
+// Beside the command as it was installed, or as it was built.
+fs::path ownLibraries() {
+    std::error_code error;
+    const fs::path bin = fs::read_symlink("/proc/self/exe", error).parent_path();
+    for (const char *relative : {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES}) {
+        const fs::path directory = (bin / relative).lexically_normal();
+        if (fs::exists(directory / ownName, error)) return directory;
+    }
+    failCommand(std::string(ownName) + " is not beside this command, where it was installed");
+}
+
+void linkTo(const fs::path &target, const fs::path &link) {
+    std::error_code error;
+    fs::create_symlink(target, link, error);
+    if (error) failCommand("\"" + link.string() + "\" cannot be made: " + error.message());
+}
+
+// Under its own name and the unversioned one, which some programs open first.
+void linkLibrary(const fs::path &library, const fs::path &directory) {
+    linkTo(library, directory / library.filename());
+    linkTo(library, directory / library.filename().stem());
+}
+
+} // namespace
+
+RunLibraries::RunLibraries(const std::string &backEnds) : m_directory(ownLibraries()) {
+    if (backEnds.empty()) return;
+    m_links.emplace();
+    bool hasAny = false;
+    for (const char *name : {es1LibraryName, es2LibraryName}) {
+        const fs::path given = fs::absolute(backEnds) / name;
+        const fs::path own = fs::path(m_directory) / name;
+        const bool isGiven = fs::exists(given);
+        hasAny |= isGiven;
+        if (isGiven || fs::exists(own)) linkLibrary(isGiven ? given : own, m_links->path());
+    }
+    if (!hasAny) failCommand("\"" + backEnds + "\" has neither " + es1LibraryName + " nor " + es2LibraryName);
+    linkLibrary(fs::path(m_directory) / ownName, m_links->path());
+    m_directory = m_links->path();
+}

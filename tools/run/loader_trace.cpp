@@ -1,0 +1,69 @@
+#include "tools/run/loader_trace.h"
+
+#include <fcntl.h>
+#include <filesystem>
+#include <spawn.h>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "tools/command/failure.h"
+
+namespace {
+
+// Without relocations the loader would not look for symbols; with the warning it goes on after the first.
+const std::vector<std::string> traceVariables = {"LD_TRACE_LOADED_OBJECTS=1", "LD_BIND_NOW=1", "LD_WARN=1"};
+
+std::string outputOf(const std::string &program) {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, ends[1], STDERR_FILENO);
+
+    std::vector<char *> environment;
+    for (char **variable = environ; *variable; ++variable)
+        environment.push_back(*variable);
+    for (const auto &variable : traceVariables)
+        environment.push_back(const_cast<char *>(variable.c_str()));
+    environment.push_back(nullptr);
+    char *const arguments[] = {const_cast<char *>(program.c_str()), nullptr};
+    pid_t tracer = -1;
+    const int error = posix_spawn(&tracer, program.c_str(), &actions, nullptr, arguments, environment.data());
+    posix_spawn_file_actions_destroy(&actions);
+    close(ends[1]);
+
+    std::string output;
+    char bytes[4096];
+    for (ssize_t count = 0; error == 0 && (count = read(ends[0], bytes, sizeof bytes)) > 0;)
+        output.append(bytes, static_cast<size_t>(count));
+    close(ends[0]);
+    if (error == 0) waitpid(tracer, nullptr, 0);
+    return output;
+}
+
+LoaderTrace parse(std::istream &lines) {
+    constexpr std::string_view arrow = " => ", absent = "not found", undefined = "undefined symbol: ";
+    LoaderTrace trace;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with(undefined)) {
+            trace.missingSymbols.push_back(line.substr(undefined.size(), line.find_first_of("\t,") - undefined.size()));
+        } else if (const auto at = line.find(arrow); line.starts_with('\t') && at != std::string::npos) {
+            const std::string file = line.substr(at + arrow.size());
+            trace.libraries[line.substr(1, at - 1)] = file == absent ? "" : file.substr(0, file.rfind(" ("));
+        } else if (line.starts_with("\t/")) {
+            // Asked for with its path.
+            const std::string file = line.substr(1, line.rfind(" (") - 1);
+            trace.libraries[std::filesystem::path(file).filename()] = file;
+        }
+    }
+    return trace;
+}
+
+} // namespace
+
+LoaderTrace traceLoader(const std::string &program) {
+    std::istringstream lines(outputOf(program));
+    return parse(lines);
+}

@@ -1,0 +1,22 @@
+// The preferences of one run: a copy of the user's with what the run wants changed, in a directory that goes with it.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "tools/command/temporary_directory.h"
+
+class PrivatePreferences {
+public:
+    struct Wishes {
+        std::string profile; // empty leaves the user's
+        std::optional<bool> strict;
+    };
+
+    // Points this process, and what it starts, to the copy. Fails the command when there is no such profile or the
+    // user's file cannot be read.
+    explicit PrivatePreferences(const Wishes &wishes);
+
+private:
+    TemporaryDirectory m_directory;
+};

@@ -1,0 +1,94 @@
+// zelvane run: any program on this library, without installing it and without a trace in the user's preferences.
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <thread>
+#include <unistd.h>
+
+#include "tools/command/failure.h"
+#include "tools/command/verbs.h"
+#include "tools/monitor/monitor.h"
+#include "tools/run/checks.h"
+#include "tools/run/libraries.h"
+#include "tools/run/private_preferences.h"
+#include "tools/run/program.h"
+
+namespace {
+
+struct Options {
+    PrivatePreferences::Wishes wishes;
+    bool strict = false;
+    bool loose = false;
+    std::string backEnds;
+    bool monitor = false;
+};
+
+// Beside the program, in a thread of its own: records of the program while it runs, and what it leaves at its end.
+class WatchedRun {
+public:
+    WatchedRun() : m_monitor(makeTextOutput(), m_end.reading(), {}), m_thread([this] { m_monitor.run(); }) {}
+    ~WatchedRun() {
+        m_end.closeWriting();
+        m_thread.join();
+    }
+
+private:
+    struct Pipe {
+        int ends[2] = {-1, -1};
+        Pipe() {
+            if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+        }
+        ~Pipe() { close(ends[0]); }
+        int reading() const { return ends[0]; }
+        void closeWriting() { close(ends[1]); }
+    };
+
+    Pipe m_end; // readable once its other end is closed
+    Monitor m_monitor;
+    std::thread m_thread;
+};
+
+int runProgram(const Options &options, const std::vector<std::string> &words) {
+    // First: no signal may end us while there are files to take away, and all threads leave the signals to this one.
+    const SignalRelay signals;
+    const PrivatePreferences preferences(options.wishes);
+    const RunLibraries libraries(options.backEnds);
+    const char *before = getenv("LD_LIBRARY_PATH");
+    const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
+    setenv("LD_LIBRARY_PATH", path.c_str(), 1);
+    setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+    checkXServer();
+    checkProgram(words, libraries.directory());
+
+    std::optional<WatchedRun> watched;
+    if (options.monitor) watched.emplace();
+    return signals.relayTo(startProgram(words));
+}
+
+} // namespace
+
+void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
+    const Verb run =
+        top.verb("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]",
+                 "The user's preferences stay as they are, and hold where no option says otherwise.\n"
+                 "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
+                 "2 when the command line is wrong.");
+    auto options = std::make_shared<Options>();
+    run.option("--profile", options->wishes.profile, "NAME",
+               "the device that it finds; \"zelvane profiles\" lists them");
+    const Word strict = run.flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
+    run.flag("--loose", options->loose, "accept contexts that the host does not wholly carry").excludes(strict);
+    run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries go before our own");
+    run.flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
+    run.action([options, &program] {
+        if (program.empty()) throw UsageError{"PROGRAM is missing"};
+        if (options->strict || options->loose) options->wishes.strict = options->strict;
+        int status = runFailure;
+        try {
+            status = runProgram(*options, program);
+        } catch (const Failure &) {
+            // What it was has been said.
+        }
+        if (status != 0) throw Failure{status};
+    });
+}

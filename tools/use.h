@@ -1,8 +1,0 @@
-// Choosing a profile.
-#pragma once
-
-#include <string>
-
-// Fails the command unless the name is that of a built-in profile or of a file in the directory that can be read. An
-// empty directory stands for none.
-void checkProfileName(const std::string &name, const std::string &directory);
