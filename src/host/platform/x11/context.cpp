@@ -15,6 +15,10 @@ constexpr int coreAttributes[] = {GLX_CONTEXT_MAJOR_VERSION_ARB, 3,
                                   GLX_CONTEXT_MINOR_VERSION_ARB, 2,
                                   GLX_CONTEXT_PROFILE_MASK_ARB,  GLX_CONTEXT_CORE_PROFILE_BIT_ARB};
 
+bool isConfigless(const PixelFormat &format) {
+    return format.fitsAnyDrawable && format.connection.hasGlxExtension("GLX_EXT_no_config_context");
+}
+
 std::vector<int> contextAttributes(const PixelFormat &format) {
     const std::span<const int> ofProfile =
         format.profile == profileLegacy ? std::span<const int>(legacyAttributes) : coreAttributes;
@@ -25,6 +29,8 @@ std::vector<int> contextAttributes(const PixelFormat &format) {
             list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
         }
     }
+    // Without a config this alone tells the dispatcher which vendor's context it is to be.
+    if (isConfigless(format)) list.insert(list.end(), {GLX_SCREEN, format.connection.screen()});
     list.push_back(None);
     return list;
 }
@@ -39,8 +45,7 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
     static const auto createAttribs = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
         glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXCreateContextAttribsARB")));
     if (!createAttribs) return nullptr;
-    const bool isConfigless = format.fitsAnyDrawable && connection.hasGlxExtension("GLX_EXT_no_config_context");
-    return createAttribs(connection.display(), isConfigless ? nullptr : format.config.handle, share, True,
+    return createAttribs(connection.display(), isConfigless(format) ? nullptr : format.config.handle, share, True,
                          contextAttributes(format).data());
 }
 
