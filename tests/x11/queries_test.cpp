@@ -55,6 +55,18 @@ TEST_F(BackEnd, TheProfilesDeviceAnswersAsFarAsTheHostCarriesIt) {
     EXPECT_EQ(integer(GL_COMPRESSED_TEXTURE_FORMATS), 37492);
 }
 
+TEST_F(BackEnd, WhatADesktopsProfileDoesNotSayIsTheHosts) {
+    start(3, 0);
+    const std::string extensions = text(GL_EXTENSIONS);
+    const GLint formats = integer(GL_NUM_COMPRESSED_TEXTURE_FORMATS);
+    profileText =
+        "<profile><es version='30'><max_texture_size>512</max_texture_size></es><egl host_only='true'/></profile>";
+    start(3, 0);
+    EXPECT_EQ(text(GL_EXTENSIONS), extensions);
+    EXPECT_EQ(integer(GL_NUM_COMPRESSED_TEXTURE_FORMATS), formats);
+    EXPECT_EQ(integer(GL_MAX_TEXTURE_SIZE), 512);
+}
+
 TEST_F(BackEnd, ListsTheSameExtensionsInBothForms) {
     start(3, 0);
     const auto count = static_cast<GLuint>(integer(GL_NUM_EXTENSIONS));

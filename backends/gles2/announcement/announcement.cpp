@@ -48,7 +48,7 @@ bool isCarried(const HostFeatures &host, std::string_view name) {
 // The device's in its order, otherwise all of them by name.
 std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device) {
     std::vector<std::string> names;
-    if (device) {
+    if (device && device->listsExtensions()) {
         std::ranges::copy_if(device->extensionNames, std::back_inserter(names),
                              [&](const std::string &name) { return isCarried(host, name); });
     } else {
@@ -99,6 +99,7 @@ std::vector<double> hostFormats(const HostFeatures &host, GLint major, bool hasE
 std::vector<double> formatsOf(std::vector<double> host, const std::optional<EsBlock> &device) {
     if (!device) return host;
     const auto found = device->limits.find("compressed_texture_format");
+    if (device->isDesktop && found == device->limits.end()) return host;
     std::erase_if(host, [&](double format) {
         return found == device->limits.end() || std::ranges::find(found->second, format) == found->second.end();
     });
