@@ -14,6 +14,7 @@
 namespace {
 
 constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_framebuffer_fetch
+constexpr GLenum gpuDisjoint = 0x8FBB;                   // of EXT_disjoint_timer_query
 
 // Who answers a query.
 enum class Answer : uint64_t {
@@ -31,6 +32,8 @@ constexpr auto answers = [] {
                              GL_GENERATE_MIPMAP_HINT, GL_VERTEX_ARRAY_BINDING, GL_READ_BUFFER})
         set(static_cast<GLenum>(pname), Answer::OneNumber);
     set(fragmentShaderDiscardsSamples, Answer::OneNumber);
+    set(gpuDisjoint, Answer::OneNumber);
+    set(GL_FRAMEBUFFER_SRGB_EXT, Answer::OneNumber);
     for (GLenum pname = GL_DRAW_BUFFER0; pname <= GL_DRAW_BUFFER15; ++pname)
         set(pname, Answer::OneNumber);
 #define NAME_QUERY(pname, hostName, table) set(pname, Answer::ObjectName);
@@ -71,6 +74,11 @@ double oneNumber(const EsContext &context, GLenum pname) {
     }
     case fragmentShaderDiscardsSamples:
         return 1;
+    // The host's clock never stops.
+    case gpuDisjoint:
+        return 0;
+    case GL_FRAMEBUFFER_SRGB_EXT:
+        return context.framebuffers.mayWriteSrgb();
     default:
         return esBuffer(askHost(pname));
     }
