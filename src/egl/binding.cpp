@@ -61,6 +61,10 @@ void endClaim(Context &context, Display &display) {
 BindClaim::BindClaim(Context &context) : m_context(context), m_isCurrent(threadRecord.current == &context) {
     if (!context.esContext.load()) m_firstBind = std::unique_lock(context.group->firstBinds);
     m_isTaken = !m_isCurrent && context.claim();
+    if (isHeld() || m_firstBind) return;
+    // The first bind of another context of the group may have it for a moment.
+    m_firstBind = std::unique_lock(context.group->firstBinds);
+    m_isTaken = context.claim();
 }
 
 BindClaim::~BindClaim() {

@@ -1,5 +1,7 @@
 #include "egl/desktop_clients.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
@@ -47,8 +49,11 @@ Function findEntry(const char *name) {
 
 bool isKnownToBackEnd(const char *name) {
     if (!isOn()) return false;
-    static const EsLibrary &library = *new EsLibrary(State::loadEsLibrary(2));
-    return library.getExtProcAddress && library.getExtProcAddress(name);
+    static const auto &libraries =
+        *new std::array{EsLibrary(State::loadEsLibrary(2)), EsLibrary(State::loadEsLibrary(1))};
+    return std::ranges::any_of(libraries, [&](const EsLibrary &library) {
+        return library.getExtProcAddress && library.getExtProcAddress(name);
+    });
 }
 
 uint64_t windowOf(void *nativeWindow) {

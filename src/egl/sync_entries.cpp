@@ -80,7 +80,9 @@ EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *at
     for (; attributes && *attributes != EGL_NONE; ++attributes)
         wide.push_back(*attributes);
     wide.push_back(EGL_NONE);
-    return eglCreateSync(dpy, type, wide.data());
+    if (!desktop_clients::isOn()) return eglCreateSync(dpy, type, wide.data());
+    return entry(dpy, EGL_NO_SYNC,
+                 [&](Display &display) { return standard::createSync(display, type, wide.data(), EGL_BAD_ATTRIBUTE); });
 }
 
 EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value) {
@@ -96,7 +98,7 @@ using namespace egl;
 
 EGLSync EGLAPIENTRY eglCreateSync(EGLDisplay dpy, EGLenum type, const EGLAttrib *attributes) {
     return entry(dpy, EGL_NO_SYNC, [&](Display &display) {
-        return desktop_clients::isOn() ? standard::createSync(display, type, attributes)
+        return desktop_clients::isOn() ? standard::createSync(display, type, attributes, EGL_BAD_PARAMETER)
                                        : createSync(display, type, attributes);
     });
 }
