@@ -5,6 +5,7 @@
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
+#include "foundation/paths.h"
 #include "host/opengl_library.h"
 #include "preferences/host_configuration.h"
 #include "profiles/profile_reader.h"
@@ -34,6 +35,7 @@ std::mutex globalStateMutex;
 
 State::State()
     : m_profile(defaultProfile), m_openGLLibrary(host::openHostOpenGLLibrary()), m_uiLink(setRenderModeOfAll) {
+    (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
     attachGuiLink(*this);
     threadRecord.currentDisplay = nullptr;
 }
