@@ -14,22 +14,10 @@ namespace egl {
 
 namespace {
 
-// Exit handlers of an application that opens the library late run after the state has gone, and call entries.
-constinit std::atomic<bool> isStateOver = false;
+// Never destroyed: threads are inside entries while the process ends, and exit handlers call them.
+constinit State *globalState = nullptr;
+constinit std::mutex globalStateMutex;
 constinit std::atomic<bool> isStateLoaded = false;
-
-struct GlobalState {
-    std::shared_ptr<State> state;
-
-    ~GlobalState() {
-        isStateOver = true;
-        isStateLoaded = false;
-    }
-};
-
-// In this order: at exit the mutex goes first and the state after it.
-GlobalState globalState;
-std::mutex globalStateMutex;
 
 } // namespace
 
@@ -38,13 +26,6 @@ State::State()
     (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
     attachGuiLink(*this);
     threadRecord.currentDisplay = nullptr;
-}
-
-State::~State() {
-    detachGuiLink();
-    delete m_hostEGL.load();
-    for (const auto &[display, nativeId] : m_displays)
-        delete display;
 }
 
 bool State::load() {
@@ -141,9 +122,8 @@ bool ensureLoaded() {
     // There is no way back from here but the end of the process.
     if (isStateLoaded.load(std::memory_order_acquire)) return true;
     const std::lock_guard lock(globalStateMutex);
-    if (isStateOver) return false;
-    if (!globalState.state) globalState.state = std::make_shared<State>();
-    if (!globalState.state->load()) return false;
+    if (!globalState) globalState = new State;
+    if (!globalState->load()) return false;
     isStateLoaded.store(true, std::memory_order_release);
     return true;
 }
@@ -153,7 +133,7 @@ std::mutex &stateMutex() {
 }
 
 State &state() {
-    return *globalState.state;
+    return *globalState;
 }
 
 } // namespace egl
