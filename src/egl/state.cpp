@@ -43,7 +43,13 @@ bool State::load() {
     }
     const CKZRTString directory(m_settings.getProfilesDirectory().c_str());
     const CKZRTString name(m_settings.getCurrentProfile().c_str());
-    if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) return false;
+    if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) {
+        // The load is tried anew by every entry.
+        if (!std::exchange(m_isProfileFailureTold, true))
+            logMessage(LogError, "%s",
+                       (failureText("load device profile", name.data()) + " from " + directory.data()).c_str());
+        return false;
+    }
     m_windowSystem = std::make_shared<glove::WSAPI>();
     capability::SystemReportFiller filler(m_report, [this](const capability::ReportRecord &record) {
         if (m_uiLink.isAttached()) m_uiLink.post(reportMessage(record));

@@ -81,6 +81,7 @@ private:
     Settings m_settings; // this, the profile, its text and the report are written during the load, only read after it
     DeviceProfile m_profile;
     std::string m_profileText;
+    bool m_isProfileFailureTold = false;
     DynamicLibrary m_openGLLibrary;
     std::shared_ptr<glove::WSAPI> m_windowSystem; // the state counts as loaded once this is set
     UiLink m_uiLink;                              // connects in the constructor

@@ -18,7 +18,8 @@ constexpr size_t parentLimit = 1024;
 void tellOnce(const std::string &parent, int reason) {
     static std::atomic<bool> isTold = false;
     if (isTold.exchange(true)) return;
-    logMessage(LogError, "Failed to make a link to a library below '%s': %s", parent.c_str(), strerror(reason));
+    const std::string text = "Failed to make a link to a library below '" + parent + "': " + strerror(reason);
+    logMessage(LogError, "%s", text.c_str());
 }
 
 } // namespace
