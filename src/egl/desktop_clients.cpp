@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <cstdlib>
 #include <cstring>
 
 #include "egl/es_library.h"
 #include "egl/extension_entries.h"
 #include "egl/standard/syncs.h"
 #include "egl/state.h"
+#include "foundation/environment.h"
 #include "foundation/log.h"
 
 namespace egl::desktop_clients {
@@ -33,7 +33,7 @@ const Entry entries[] = {
 
 bool isOn() {
     static const bool on = [] {
-        const char *value = getenv("ZELVANE_DESKTOP_CLIENTS");
+        const char *value = findVariable("ZELVANE_DESKTOP_CLIENTS");
         return value && strcmp(value, "1") == 0;
     }();
     return on;

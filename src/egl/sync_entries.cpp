@@ -19,9 +19,9 @@ constexpr uint32_t glTimeoutExpired = 0x911B;
 constexpr uint32_t glConditionSatisfied = 0x911C;
 constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
 
-// 0 asks for a flush too; callers rely on not waiting for commands that were never sent.
+// 0 and what is below ask for a flush too; callers rely on not waiting for commands that were never sent.
 uint32_t hostWaitFlags(EGLint flags) {
-    return static_cast<uint32_t>(flags) < 2 ? 1 : 0;
+    return flags < 2 ? 1 : 0;
 }
 
 EGLint eglWaitResult(uint32_t hostResult) {

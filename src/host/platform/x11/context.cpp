@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/platform/x11/pixel_format.h"
+#include "host/platform/x11/x_errors.h"
 
 namespace host::platform::x11 {
 
@@ -71,6 +72,7 @@ void destroy(ContextContainer &container) {
 
 ContextContainer *createContext(const PixelFormat *format, ContextContainer *share) {
     if (!format || format->connection.isLost()) return nullptr;
+    keepLossesFromProcess();
     // GLX shares within a connection only.
     if (share && &share->connection != &format->connection) return nullptr;
     const GLXContext context = create(*format, share ? share->context : nullptr);
