@@ -29,6 +29,12 @@ const Entry entries[] = {
     {"eglSignalSyncKHR", reinterpret_cast<Function>(standard::signalSync)},
 };
 
+const std::array<EsLibrary, 2> &backEnds() {
+    static const auto &libraries =
+        *new std::array{EsLibrary(State::loadEsLibrary(2)), EsLibrary(State::loadEsLibrary(1))};
+    return libraries;
+}
+
 } // namespace
 
 bool isOn() {
@@ -49,11 +55,13 @@ Function findEntry(const char *name) {
 
 bool isKnownToBackEnd(const char *name) {
     if (!isOn()) return false;
-    static const auto &libraries =
-        *new std::array{EsLibrary(State::loadEsLibrary(2)), EsLibrary(State::loadEsLibrary(1))};
-    return std::ranges::any_of(libraries, [&](const EsLibrary &library) {
+    return std::ranges::any_of(backEnds(), [&](const EsLibrary &library) {
         return library.getExtProcAddress && library.getExtProcAddress(name);
     });
+}
+
+void loadBackEnds() {
+    if (isOn()) (void)backEnds();
 }
 
 uint64_t windowOf(void *nativeWindow) {

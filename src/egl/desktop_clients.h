@@ -18,7 +18,11 @@ using Function = void (*)();
 // take pointers. Null for all other names.
 [[nodiscard]] Function findEntry(const char *name);
 
-// Whether the back end for ES 2 and 3 has a function of that name on some host, so that it is worth an entry.
+// Loads the back ends before anything of the host: tracers look functions of OpenGL ES up in the whole process, and the
+// host's drivers export the same names.
+void loadBackEnds();
+
+// Whether a back end has a function of that name on some host, so that it is worth an entry.
 [[nodiscard]] bool isKnownToBackEnd(const char *name);
 
 // The window behind the argument of a platform entry: a pointer to it in this mode, otherwise the window itself.

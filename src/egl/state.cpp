@@ -1,6 +1,7 @@
 #include "egl/state.h"
 
 #include "capability/collect_system_report.h"
+#include "egl/desktop_clients.h"
 #include "egl/gui_link.h"
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
@@ -129,6 +130,7 @@ bool ensureLoaded() {
     if (isStateLoaded.load(std::memory_order_acquire)) return true;
     const std::lock_guard lock(globalStateMutex);
     if (!globalState) globalState = new State;
+    desktop_clients::loadBackEnds();
     if (!globalState->load()) return false;
     isStateLoaded.store(true, std::memory_order_release);
     return true;

@@ -15,6 +15,8 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     const auto found = display.findSurface(surface);
     if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     if (desktop_clients::isOn() && !standard::isDrawnTo(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+    // First: a frame of a window that is not mapped yet is lost.
+    if (desktop_clients::isOn()) host::flushApplication(display.nativeDisplay);
     found->swap();
     State::countFrame();
     return succeed(EGL_TRUE);

@@ -19,10 +19,10 @@ namespace {
 class LinkNames {
 public:
     // Null when the file is not loaded by a name of ours.
-    [[nodiscard]] void *reopen(const struct stat &file) {
+    [[nodiscard]] void *reopen(const struct stat &file, int scope) {
         const std::lock_guard lock(m_mutex);
         const auto known = m_names.find({file.st_dev, file.st_ino});
-        return known == m_names.end() ? nullptr : dlopen(known->second.c_str(), RTLD_LAZY | RTLD_GLOBAL | RTLD_NOLOAD);
+        return known == m_names.end() ? nullptr : dlopen(known->second.c_str(), RTLD_LAZY | RTLD_NOLOAD | scope);
     }
     void note(const struct stat &file, const std::string &name) {
         const std::lock_guard lock(m_mutex);
@@ -39,26 +39,27 @@ LinkNames &linkNames() {
     return names;
 }
 
-void *openThroughLink(const std::string &path) {
+void *openThroughLink(const std::string &path, int scope) {
     // A relative path would count from the link's directory, where nothing else lies.
     if (!path.starts_with('/')) return nullptr;
     struct stat file {};
     if (stat(path.c_str(), &file) != 0) return nullptr;
-    if (void *const handle = linkNames().reopen(file)) return handle;
+    if (void *const handle = linkNames().reopen(file, scope)) return handle;
 
     const LibraryLink link(path);
     if (link.path().empty()) return nullptr;
-    void *const handle = dlopen(link.path().c_str(), RTLD_LAZY | RTLD_GLOBAL);
+    void *const handle = dlopen(link.path().c_str(), RTLD_LAZY | scope);
     if (handle) linkNames().note(file, link.path());
     return handle;
 }
 
 } // namespace
 
-DynamicLibrary::DynamicLibrary(std::string name) : m_useCount(new uint32_t(1)), m_name(std::move(name)) {}
+DynamicLibrary::DynamicLibrary(std::string name, Scope scope)
+    : m_useCount(new uint32_t(1)), m_name(std::move(name)), m_scope(scope) {}
 
 DynamicLibrary::DynamicLibrary(const DynamicLibrary &other)
-    : m_useCount(other.m_useCount), m_name(other.m_name), m_handle(other.m_handle) {
+    : m_useCount(other.m_useCount), m_name(other.m_name), m_scope(other.m_scope), m_handle(other.m_handle) {
     ++*m_useCount;
 }
 
@@ -68,6 +69,7 @@ DynamicLibrary &DynamicLibrary::operator=(const DynamicLibrary &other) {
     if (--*m_useCount == 0) delete m_useCount;
     m_useCount = other.m_useCount;
     m_name = other.m_name;
+    m_scope = other.m_scope;
     m_handle = other.m_handle;
     return *this;
 }
@@ -87,8 +89,9 @@ bool DynamicLibrary::open(const std::vector<std::string> &searchPaths) {
         dlclose(m_handle);
     }
     m_handle = nullptr;
+    const int scope = m_scope == Scope::everybody ? RTLD_GLOBAL : RTLD_LOCAL;
     for (const auto &directory : searchPaths) {
-        m_handle = openThroughLink(directory + "/" + m_name);
+        m_handle = openThroughLink(directory + "/" + m_name, scope);
         if (m_handle) return true;
     }
     return false;

@@ -10,8 +10,11 @@
 
 class DynamicLibrary {
 public:
+    // Who finds the library's symbols: everybody in the process, or we alone.
+    enum class Scope { everybody, owner };
+
     // name is the file name without a directory. Opens nothing.
-    explicit DynamicLibrary(std::string name);
+    explicit DynamicLibrary(std::string name, Scope scope = Scope::everybody);
     DynamicLibrary(const DynamicLibrary &other);
     // Takes over the other's handle and count and closes nothing: the old handle stays open for good.
     DynamicLibrary &operator=(const DynamicLibrary &other);
@@ -31,6 +34,7 @@ public:
 private:
     uint32_t *m_useCount;
     std::string m_name;
+    Scope m_scope;
     void *m_handle = nullptr;
 };
 

@@ -142,6 +142,10 @@ bool isHostWindow(const platform::View &view) {
     return width >= 0;
 }
 
+void flushApplication(uint64_t display) {
+    operations.flushApplication(display);
+}
+
 std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
                                                           const platform::PixelFormat *format) {
     const auto request = readPBufferRequest(attributes);

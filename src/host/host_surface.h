@@ -83,6 +83,9 @@ struct PBufferRequest {
                                                                        const platform::PixelFormat *format = nullptr);
 // Whether the host tells the size of such a window.
 [[nodiscard]] bool isHostWindow(const platform::View &view);
+// What the application has asked of its own connection goes to the host: programs map a window and count on the swap of
+// a driver that uses their connection.
+void flushApplication(uint64_t display);
 // The buffer inside may be null when the host refuses the values.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
                                                                         const platform::PixelFormat *format = nullptr);

@@ -3,7 +3,8 @@
 namespace host {
 
 DynamicLibrary openHostOpenGLLibrary() {
-    DynamicLibrary library(hostOpenGLLibraryName);
+    // The host's OpenGL has names of OpenGL ES too: who looks one up in the process must not find the host's.
+    DynamicLibrary library(hostOpenGLLibraryName, DynamicLibrary::Scope::owner);
     library.open(hostLibrarySearchPaths());
     return library;
 }

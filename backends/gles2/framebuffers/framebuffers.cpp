@@ -21,6 +21,7 @@ void Framebuffers::setDrawn(GLuint framebuffer) {
 }
 
 void Framebuffers::setSurface(bool isSrgb) {
+    m_firstSurface.take();
     m_isSurfaceSrgb = isSrgb;
     tellHost();
 }

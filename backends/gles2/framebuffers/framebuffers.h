@@ -1,6 +1,7 @@
 // What a context keeps of framebuffers. Used on the context's thread.
 #pragma once
 
+#include "framebuffers/first_surface.h"
 #include "names/name_table.h"
 
 class Framebuffers {
@@ -20,6 +21,7 @@ public:
 private:
     void tellHost();
 
+    FirstSurface m_firstSurface;
     GLuint m_drawn = 0;
     bool m_isSurfaceSrgb = false;
     bool m_mayWriteSrgb = true;

@@ -115,6 +115,8 @@ struct PlatformOperations {
     void (*flushBuffer)(ContextContainer *container);
     // How many frames ago what is in the back buffer was drawn; 0 for contents that are not known.
     int32_t (*bufferAge)(ContextContainer *container);
+    // Sends on what the application has asked of its own connection to the host; that of a View's display.
+    void (*flushApplication)(uint64_t display);
     // In frames per swap, handed to the host without a bound.
     void (*setSwapInterval)(ContextContainer *container, int32_t interval);
 

@@ -12,5 +12,7 @@ void observeViewFrame(ContextContainer *container, const View &view);
 void flushBuffer(ContextContainer *container);
 // Always 0: Cocoa does not tell.
 int32_t bufferAge(ContextContainer *container);
+// Does nothing: Cocoa has no connection that is the application's own.
+void flushApplication(uint64_t display);
 
 } // namespace host::platform::cocoa

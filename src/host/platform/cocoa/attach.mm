@@ -68,4 +68,6 @@ int32_t bufferAge(ContextContainer *) {
     return 0;
 }
 
+void flushApplication(uint64_t) {}
+
 } // namespace host::platform::cocoa

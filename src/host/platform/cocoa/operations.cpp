@@ -26,6 +26,7 @@ constinit const PlatformOperations operations = {
     .observeViewFrame = cocoa::observeViewFrame,
     .flushBuffer = cocoa::flushBuffer,
     .bufferAge = cocoa::bufferAge,
+    .flushApplication = cocoa::flushApplication,
     .setSwapInterval = cocoa::setSwapInterval,
     .saveBinding = cocoa::saveBinding,
     .restoreBinding = cocoa::restoreBinding,

@@ -217,6 +217,11 @@ int32_t bufferAge(ContextContainer *container) {
     return 0;
 }
 
+void flushApplication(uint64_t display) {
+    const std::lock_guard lock(script().mutex);
+    note(call("flushApplication", display));
+}
+
 void setSwapInterval(ContextContainer *container, int32_t interval) {
     const std::lock_guard lock(script().mutex);
     note(call("setSwapInterval", container, interval));
@@ -310,6 +315,7 @@ constinit const PlatformOperations operations = {
     .observeViewFrame = recording::observeViewFrame,
     .flushBuffer = recording::flushBuffer,
     .bufferAge = recording::bufferAge,
+    .flushApplication = recording::flushApplication,
     .setSwapInterval = recording::setSwapInterval,
     .saveBinding = recording::saveBinding,
     .restoreBinding = recording::restoreBinding,

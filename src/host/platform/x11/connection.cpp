@@ -116,4 +116,8 @@ std::optional<WindowFacts> Connection::askWindow(const View &view) {
     return m_windows.watch(view.window);
 }
 
+void flushApplication(uint64_t displayWord) {
+    if (Display *application = applicationDisplay(displayWord)) XFlush(application);
+}
+
 } // namespace host::platform::x11

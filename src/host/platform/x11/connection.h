@@ -18,6 +18,9 @@
 
 namespace host::platform::x11 {
 
+// displayWord: of an application's Display that is open still; 0 has none.
+void flushApplication(uint64_t displayWord);
+
 class Connection {
 public:
     // By a display's host word: 0 for the server of $DISPLAY, otherwise the application's Display. Where $DISPLAY leads

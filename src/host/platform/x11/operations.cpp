@@ -1,6 +1,7 @@
 #include "host/platform/operations.h"
 
 #include "host/platform/x11/attach.h"
+#include "host/platform/x11/connection.h"
 #include "host/platform/x11/context.h"
 #include "host/platform/x11/current.h"
 #include "host/platform/x11/pixel_buffer.h"
@@ -26,6 +27,7 @@ constinit const PlatformOperations operations = {
     .observeViewFrame = x11::observeViewFrame,
     .flushBuffer = x11::flushBuffer,
     .bufferAge = x11::bufferAge,
+    .flushApplication = x11::flushApplication,
     .setSwapInterval = x11::setSwapInterval,
     .saveBinding = x11::saveBinding,
     .restoreBinding = x11::restoreBinding,
