@@ -30,6 +30,8 @@ struct Announcement {
     [[nodiscard]] const std::vector<double> *limit(GLenum pname) const;
 
 private:
+    [[nodiscard]] std::vector<double> carriedFormats(const HostFeatures &host) const;
+
     struct Limit {
         GLenum pname;
         std::vector<double> numbers;

@@ -14,7 +14,8 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsCo
     : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
       shared(this, share), vertices(major, host) {
     hostGl().enable(programPointSize);
-    if (major >= 3) hostGl().enable(textureCubeMapSeamless);
+    // ES 2 leaves it open, and programs expect it as they have it everywhere.
+    hostGl().enable(textureCubeMapSeamless);
     setAttribs(attribs);
 }
 

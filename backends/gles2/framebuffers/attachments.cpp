@@ -29,6 +29,12 @@ void GL_APIENTRY getFramebufferAttachmentParameteriv(GLenum target, GLenum attac
     const EsContext *const context = EsContext::current();
     if (!context || !params) return gl.getFramebufferAttachmentParameteriv(target, attachment, pname, params);
     gl.getFramebufferAttachmentParameteriv(target, hostBuffer(attachment), pname, params);
+    const Framebuffers &framebuffers = context->framebuffers;
+    // The host's surface can do more than it is used for.
+    if (pname == GL_FRAMEBUFFER_ATTACHMENT_COLOR_ENCODING && *params == GL_SRGB && framebuffers.bound(target) == 0 &&
+        !framebuffers.isSurfaceSrgb()) {
+        *params = GL_LINEAR;
+    }
     if (pname != GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME) return;
     GLint type = GL_NONE;
     gl.getFramebufferAttachmentParameteriv(target, attachment, GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE, &type);

@@ -68,7 +68,7 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
                           pixels);
         });
     }
-    setFormatSwizzle(*context, target, internalformat, host.swizzle);
+    setFormatSwizzle(*context, target, internalformat, host);
 }
 
 void GL_APIENTRY copyTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLint x, GLint y,

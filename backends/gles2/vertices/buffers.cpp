@@ -56,9 +56,12 @@ void GL_APIENTRY bindBufferRange(GLenum target, GLuint index, GLuint buffer, GLi
 }
 
 void GL_APIENTRY bindVertexBuffer(GLuint binding, GLuint buffer, GLintptr offset, GLsizei stride) {
+    EsContext *const context = EsContext::current();
+    const bool isObjectZero = context && context->vertices.bound == &context->vertices.objectZero;
+    // It has no bindings apart from its arrays.
+    if (isObjectZero) return context->raise(GL_INVALID_OPERATION);
     const GLuint host = hostBuffer(buffer);
     hostGl().bindVertexBuffer(binding, host, offset, stride);
-    EsContext *const context = EsContext::current();
     if (!context || binding >= context->vertices.maxAttribs || offset < 0 || stride < 0) return;
     VertexArrayState &state = *context->vertices.bound;
     state.setBuffer(binding, host);

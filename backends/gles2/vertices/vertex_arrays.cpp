@@ -50,6 +50,14 @@ std::optional<GLint> ownAnswer(const EsContext &context, GLuint index, GLenum pn
     }
 }
 
+// Object 0 has no bindings apart from its arrays. True with the error raised.
+bool isRefusedOnObjectZero() {
+    EsContext *const context = EsContext::current();
+    const bool isRefused = context && context->vertices.bound == &context->vertices.objectZero;
+    if (isRefused) context->raise(GL_INVALID_OPERATION);
+    return isRefused;
+}
+
 template <typename Value, typename Ask>
 void getAttrib(GLuint index, GLenum pname, Value *params, Ask ask) {
     const EsContext *const context = EsContext::current();
@@ -130,7 +138,16 @@ void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
     }
 }
 
+void GL_APIENTRY vertexAttribFormat(GLuint index, GLint size, GLenum type, GLboolean normalized, GLuint offset) {
+    if (!isRefusedOnObjectZero()) hostGl().vertexAttribFormat(index, size, hostType(type), normalized, offset);
+}
+
+void GL_APIENTRY vertexAttribIFormat(GLuint index, GLint size, GLenum type, GLuint offset) {
+    if (!isRefusedOnObjectZero()) hostGl().vertexAttribIFormat(index, size, type, offset);
+}
+
 void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
+    if (isRefusedOnObjectZero()) return;
     hostGl().vertexAttribBinding(index, binding);
     EsContext *const context = EsContext::current();
     if (!context || index >= context->vertices.maxAttribs || binding >= context->vertices.maxAttribs) return;
@@ -140,6 +157,7 @@ void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
 }
 
 void GL_APIENTRY vertexBindingDivisor(GLuint binding, GLuint divisor) {
+    if (isRefusedOnObjectZero()) return;
     hostGl().vertexBindingDivisor(binding, divisor);
     EsContext *const context = EsContext::current();
     if (context && binding < context->vertices.maxAttribs) context->vertices.bound->bindings[binding].divisor = divisor;
