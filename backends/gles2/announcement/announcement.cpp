@@ -4,6 +4,7 @@
 #include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 #include <span>
 
@@ -210,6 +211,11 @@ std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
 const std::vector<double> *Announcement::limit(GLenum pname) const {
     const auto row = std::ranges::lower_bound(m_limits, pname, {}, &Limit::pname);
     return row == m_limits.end() || row->pname != pname ? nullptr : &row->numbers;
+}
+
+GLint Announcement::most(GLenum pname) const {
+    const std::vector<double> *const numbers = limit(pname);
+    return numbers ? static_cast<GLint>(numbers->front()) : std::numeric_limits<GLint>::max();
 }
 
 bool Announcement::hasOneOf(std::string_view names) const {

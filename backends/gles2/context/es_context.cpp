@@ -12,7 +12,10 @@ constexpr GLenum textureCubeMapSeamless = 0x884F;
 
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
     : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
-      shared(this, share), vertices(major, host) {
+      shared(this, share), vertices(major, host, announced.most(GL_MAX_VERTEX_ATTRIBS)) {
+    const GLint units = announced.most(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS);
+    if (announced.limit(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS))
+        textures.unitEnd = GL_TEXTURE0 + static_cast<GLenum>(units);
     hostGl().enable(programPointSize);
     // ES 2 leaves it open, and programs expect it as they have it everywhere.
     hostGl().enable(textureCubeMapSeamless);

@@ -16,10 +16,13 @@ NameTable *renderbufferNames() {
 
 // store: takes the host's format.
 template <typename Store>
-void storeAs(GLenum format, Store store) {
+void storeAs(GLenum format, GLsizei width, GLsizei height, GLsizei samples, Store store) {
     EsContext *const context = EsContext::current();
     if (!context) return store(format);
     if (!isRenderbufferFormat(format, context->major)) return context->raise(GL_INVALID_ENUM);
+    const GLint most = context->announced.most(GL_MAX_RENDERBUFFER_SIZE);
+    if (width > most || height > most) return context->raise(GL_INVALID_VALUE);
+    if (samples > context->announced.most(GL_MAX_SAMPLES)) return context->raise(GL_INVALID_OPERATION);
     store(hostTextureFormat(format).internal);
 }
 
@@ -51,12 +54,13 @@ void GL_APIENTRY bindRenderbuffer(GLenum target, GLuint renderbuffer) {
 }
 
 void GL_APIENTRY renderbufferStorage(GLenum target, GLenum internalformat, GLsizei width, GLsizei height) {
-    storeAs(internalformat, [&](GLenum format) { hostGl().renderbufferStorage(target, format, width, height); });
+    storeAs(internalformat, width, height, 0,
+            [&](GLenum format) { hostGl().renderbufferStorage(target, format, width, height); });
 }
 
 void GL_APIENTRY renderbufferStorageMultisample(GLenum target, GLsizei samples, GLenum internalformat, GLsizei width,
                                                 GLsizei height) {
-    storeAs(internalformat,
+    storeAs(internalformat, width, height, samples,
             [&](GLenum format) { hostGl().renderbufferStorageMultisample(target, samples, format, width, height); });
 }
 

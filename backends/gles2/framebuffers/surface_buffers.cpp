@@ -5,6 +5,7 @@
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
 
+#include <algorithm>
 #include <span>
 
 namespace {
@@ -54,7 +55,7 @@ void GL_APIENTRY drawBuffers(GLsizei n, const GLenum *bufs) {
     if (!context || n < 0 || !bufs) return gl.drawBuffers(n, bufs);
     GLint most = 0;
     gl.getIntegerv(GL_MAX_DRAW_BUFFERS, &most);
-    if (n > most) return context->raise(GL_INVALID_VALUE);
+    if (n > std::min(most, context->announced.most(GL_MAX_DRAW_BUFFERS))) return context->raise(GL_INVALID_VALUE);
     if (!isDrawBufferList(*context, {bufs, static_cast<size_t>(n)})) return context->raise(GL_INVALID_OPERATION);
     const GLenum surfaceBuffer = n == 1 ? hostBuffer(bufs[0]) : GL_NONE;
     gl.drawBuffers(n, context->framebuffers.drawn() == 0 ? &surfaceBuffer : bufs);

@@ -4,6 +4,7 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "programs/program_limits.h"
 
 #include <algorithm>
 #include <vector>
@@ -92,6 +93,7 @@ void GL_APIENTRY linkProgram(GLuint program) {
         linkInVain(program);
     } else {
         hostGl().linkProgram(program);
+        if (context && !isWithinLimits(*context, program)) linkInVain(program);
     }
     forgetInputs(program);
 }
@@ -134,7 +136,7 @@ GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar
     programParameteri(program, GL_PROGRAM_SEPARABLE, GL_TRUE);
     if (isCompiled) {
         gl.attachShader(program, shader);
-        gl.linkProgram(program);
+        linkProgram(program);
         gl.detachShader(program, shader);
     }
     gl.deleteShader(shader);

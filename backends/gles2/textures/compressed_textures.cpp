@@ -5,6 +5,7 @@
 #include "context/es_context.h"
 #include "textures/pixel_store.h"
 #include "textures/texture_formats.h"
+#include "textures/texture_limits.h"
 
 #include <new>
 
@@ -52,7 +53,8 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     const HostGl &gl = hostGl();
     EsContext *const context = EsContext::current();
     if (!context) return gl.compressedTexImage2D(target, level, internalformat, width, height, border, imageSize, data);
-    if (border != 0) return context->raise(GL_INVALID_VALUE);
+    const bool isGood = border == 0 && !isTooLarge(*context, target, level, {width, height});
+    if (!isGood) return context->raise(GL_INVALID_VALUE);
     context->shared->textures.noteFormat(internalformat);
     const HostTextureFormat host = hostTextureFormat(internalformat);
     if (internalformat == GL_ETC1_RGB8_OES && !context->host.carries(43, "GL_ARB_ES3_compatibility")) {
@@ -67,8 +69,11 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
 void GL_APIENTRY compressedTexImage3D(GLenum target, GLint level, GLenum internalformat, GLsizei width, GLsizei height,
                                       GLsizei depth, GLint border, GLsizei imageSize, const void *data) {
     EsContext *const context = EsContext::current();
-    if (context && border != 0) return context->raise(GL_INVALID_VALUE);
-    if (context) context->shared->textures.noteFormat(internalformat);
+    if (context) {
+        const bool isGood = border == 0 && !isTooLarge(*context, target, level, {width, height, depth});
+        if (!isGood) return context->raise(GL_INVALID_VALUE);
+        context->shared->textures.noteFormat(internalformat);
+    }
     hostGl().compressedTexImage3D(target, level, internalformat, width, height, depth, border, imageSize, data);
 }
 

@@ -4,6 +4,7 @@
 #include "context/es_context.h"
 #include "host_types.h"
 #include "textures/texture_formats.h"
+#include "textures/texture_limits.h"
 #include "textures/texture_targets.h"
 
 namespace {
@@ -29,13 +30,22 @@ GLenum partError(EsContext &context, GLenum target, GLint level, GLenum format, 
     return error == GL_INVALID_VALUE ? GL_NO_ERROR : error;
 }
 
+struct Image {
+    GLenum target;
+    GLint level;
+    ImageSize size;
+    GLenum internal;
+};
+
 // Calls the host with its own format and gives the texture the swizzle of the application's.
 template <typename Define>
-void define(GLenum target, GLenum internal, GLenum format, GLenum type, Define call) {
+void define(const Image &image, GLenum format, GLenum type, Define call) {
+    const auto &[target, level, size, internal] = image;
     EsContext *const context = EsContext::current();
     if (!context) return call(HostTextureFormat{internal, format, type, plainSwizzle});
     const GLenum error = imageError(*context, internal, format, type);
     if (error != GL_NO_ERROR) return context->raise(error);
+    if (isTooLarge(*context, target, level, size)) return context->raise(GL_INVALID_VALUE);
     const HostTextureFormat host = hostTextureFormat(internal, format, type);
     call(host);
     setFormatSwizzle(*context, target, internal, host);
@@ -50,9 +60,10 @@ void replacePart(GLenum target, GLint level, GLenum format, GLenum type, Replace
 }
 
 template <typename Define>
-void defineStorage(GLenum target, GLenum internal, Define call) {
+void defineStorage(GLenum target, const ImageSize &size, GLenum internal, Define call) {
     EsContext *const context = EsContext::current();
     if (!context) return call(internal);
+    if (isTooLarge(*context, target, 0, size)) return context->raise(GL_INVALID_VALUE);
     context->shared->textures.noteFormat(internal);
     const HostTextureFormat host = hostTextureFormat(internal);
     call(host.internal);
@@ -65,7 +76,8 @@ namespace overrides {
 
 void GL_APIENTRY texImage2D(GLenum target, GLint level, GLint internalformat, GLsizei width, GLsizei height,
                             GLint border, GLenum format, GLenum type, const void *pixels) {
-    define(target, static_cast<GLenum>(internalformat), format, type, [&](const HostTextureFormat &host) {
+    const Image image = {target, level, {width, height}, static_cast<GLenum>(internalformat)};
+    define(image, format, type, [&](const HostTextureFormat &host) {
         hostGl().texImage2D(target, level, static_cast<GLint>(host.internal), width, height, border, host.format,
                             host.type, pixels);
     });
@@ -73,7 +85,8 @@ void GL_APIENTRY texImage2D(GLenum target, GLint level, GLint internalformat, GL
 
 void GL_APIENTRY texImage3D(GLenum target, GLint level, GLint internalformat, GLsizei width, GLsizei height,
                             GLsizei depth, GLint border, GLenum format, GLenum type, const void *pixels) {
-    define(target, static_cast<GLenum>(internalformat), format, type, [&](const HostTextureFormat &host) {
+    const Image image = {target, level, {width, height, depth}, static_cast<GLenum>(internalformat)};
+    define(image, format, type, [&](const HostTextureFormat &host) {
         hostGl().texImage3D(target, level, static_cast<GLint>(host.internal), width, height, depth, border, host.format,
                             host.type, pixels);
     });
@@ -95,13 +108,13 @@ void GL_APIENTRY texSubImage3D(GLenum target, GLint level, GLint xoffset, GLint 
 }
 
 void GL_APIENTRY texStorage2D(GLenum target, GLsizei levels, GLenum internalformat, GLsizei width, GLsizei height) {
-    defineStorage(target, internalformat,
+    defineStorage(target, {width, height}, internalformat,
                   [&](GLenum internal) { hostGl().texStorage2D(target, levels, internal, width, height); });
 }
 
 void GL_APIENTRY texStorage3D(GLenum target, GLsizei levels, GLenum internalformat, GLsizei width, GLsizei height,
                               GLsizei depth) {
-    defineStorage(target, internalformat,
+    defineStorage(target, {width, height, depth}, internalformat,
                   [&](GLenum internal) { hostGl().texStorage3D(target, levels, internal, width, height, depth); });
 }
 

@@ -62,6 +62,13 @@ void GL_APIENTRY bindTexture(GLenum target, GLuint texture) {
     }
 }
 
+void GL_APIENTRY activeTexture(GLenum texture) {
+    EsContext *const context = EsContext::current();
+    const bool isOver = context && texture >= context->textures.unitEnd;
+    if (isOver) return context->raise(GL_INVALID_ENUM);
+    hostGl().activeTexture(texture);
+}
+
 void GL_APIENTRY bindImageTexture(GLuint unit, GLuint texture, GLint level, GLboolean layered, GLint layer,
                                   GLenum access, GLenum format) {
     hostGl().bindImageTexture(unit, hostTexture(texture), level, layered, layer, access, format);

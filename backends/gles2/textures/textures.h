@@ -13,6 +13,7 @@ struct Textures {
     std::unordered_map<GLuint, GLuint> lastNames; // by the host's: what it was bound as, where the names differ
     TextureSwizzles swizzlesOfZero;               // of the textures of name 0
     GLenum mipmapHint = GL_DONT_CARE;
+    GLenum unitEnd = ~0u; // behind the names of the device's texture units
 };
 
 // Any thread.
