@@ -94,6 +94,9 @@ TEST_F(BackEndFramebuffers, KeepTheNamesOfWhatWasDeletedWhileAttached) {
     ES(glGetFramebufferAttachmentParameteriv)
     (GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME, &name);
     EXPECT_EQ(name, 50);
+    blit(40, 0);
+    EXPECT_EQ(ES(glCheckFramebufferStatus)(GL_READ_FRAMEBUFFER), GL_FRAMEBUFFER_COMPLETE);
+    EXPECT_EQ(error(), GL_NO_ERROR);
     ES(glBindRenderbuffer)(GL_RENDERBUFFER, 51);
     ES(glGetRenderbufferParameteriv)(GL_RENDERBUFFER, GL_RENDERBUFFER_INTERNAL_FORMAT, &name);
     EXPECT_EQ(name, GL_RGBA4) << "before it holds anything";

@@ -7,6 +7,7 @@ namespace {
 
 void askTexture(const EsContext &context, AttachedImage &image) {
     const HostGl &gl = hostGl();
+    if (!gl.isTexture(image.hostName)) return;
     const auto ask = [&](GLenum pname) {
         GLint value = 0;
         gl.getTextureLevelParameteriv(image.hostName, image.level, pname, &value);
@@ -23,6 +24,7 @@ void askTexture(const EsContext &context, AttachedImage &image) {
 
 void askRenderbuffer(AttachedImage &image) {
     const HostGl &gl = hostGl();
+    if (!gl.isRenderbuffer(image.hostName)) return;
     const auto ask = [&](GLenum pname) {
         GLint value = 0;
         gl.getNamedRenderbufferParameteriv(image.hostName, pname, &value);
@@ -47,6 +49,7 @@ std::optional<AttachedImage> attachedImage(const EsContext &context, GLenum targ
     image.kind = static_cast<GLenum>(ask(GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE));
     if (image.kind == GL_NONE) return image;
     image.hostName = static_cast<GLuint>(ask(GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME));
+    image.isSrgb = ask(GL_FRAMEBUFFER_ATTACHMENT_COLOR_ENCODING) == GL_SRGB;
     if (image.kind == GL_RENDERBUFFER) {
         askRenderbuffer(image);
         return image;

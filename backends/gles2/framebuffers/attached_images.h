@@ -12,6 +12,8 @@ struct AttachedImage {
     GLuint hostName = 0;
     GLint level = 0;
     GLint layer = 0; // or the face of a cube
+    bool isSrgb = false;
+    // Nothing from here on of an object that was deleted since.
     GLenum internal = GL_NONE;
     GLenum hostInternal = GL_NONE;
     GLint width = 0;

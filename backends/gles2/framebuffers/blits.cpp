@@ -81,7 +81,7 @@ Size sizeRead(const std::optional<AttachedImage> &image, const Rectangle &from) 
     Size size = {0, 0};
     EGLDisplay const display = eglGetCurrentDisplay();
     EGLSurface const surface = eglGetCurrentSurface(EGL_READ);
-    if (surface != EGL_NO_SURFACE) {
+    if (!image && surface != EGL_NO_SURFACE) {
         eglQuerySurface(display, surface, EGL_WIDTH, &size.width);
         eglQuerySurface(display, surface, EGL_HEIGHT, &size.height);
     }
@@ -108,14 +108,11 @@ void copyThroughLinear(EsContext &context, const Blit &blit, const std::optional
     copy(blit, GL_COLOR_BUFFER_BIT);
 }
 
-bool isSrgb(const AttachedImage &image) {
-    return image.hostInternal == GL_SRGB8_ALPHA8 || image.hostInternal == GL_SRGB8;
-}
-
 // Colours between the linear surface and an image.
 void copyColors(EsContext &context, const Blit &blit) {
     const auto read = imageRead(context);
-    const bool isConverted = (read && isSrgb(*read)) || std::ranges::any_of(imagesDrawn(context), isSrgb);
+    const bool isConverted =
+        (read && read->isSrgb) || std::ranges::any_of(imagesDrawn(context), &AttachedImage::isSrgb);
     if (isConverted) return copyThroughLinear(context, blit, read);
     const Conversion conversion(context.framebuffers, false);
     copy(blit, GL_COLOR_BUFFER_BIT);

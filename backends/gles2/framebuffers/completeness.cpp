@@ -35,7 +35,8 @@ bool isDrawn(const AttachedImage &image) {
 }
 
 GLenum statusOf(const EsContext &context, GLenum target) {
-    const std::vector<AttachedImage> images = attachedImages(context, target);
+    std::vector<AttachedImage> images = attachedImages(context, target);
+    std::erase_if(images, [](const AttachedImage &image) { return image.width == 0; });
     for (const AttachedImage &image : images) {
         if (!isDrawn(image)) return GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT;
         const bool isOfOneSize = image.width == images[0].width && image.height == images[0].height;
