@@ -6,8 +6,13 @@
 
 namespace {
 
+bool isPipelineRefused(EsContext *context) {
+    return context && context->programs.isPipelineBroken(context->shared->programs);
+}
+
 // What an indirect draw reads lies in buffers, and the object is not object 0.
-bool isIndirectRefused(const EsContext &context) {
+bool isIndirectRefused(EsContext &context) {
+    if (isPipelineRefused(&context)) return true;
     const Vertices &vertices = context.vertices;
     return vertices.bound == &vertices.objectZero || vertices.bound->enabledClientAttribs();
 }
@@ -22,6 +27,7 @@ EsContext *prepare() {
 template <typename Draw>
 void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw, GLuint firstInstance = 0) {
     EsContext *const context = prepare();
+    if (isPipelineRefused(context)) return context->raise(GL_INVALID_OPERATION);
     const bool isFed = context && context->vertices.bound->enabledClientAttribs();
     // Malformed calls are passed on, so the host raises the error.
     if (!isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw(first);
@@ -71,6 +77,7 @@ void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
     const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
     EsContext *const context = prepare();
     if (!context) return draw();
+    if (isPipelineRefused(context)) return context->raise(GL_INVALID_OPERATION);
     const VertexArrayState &state = *context->vertices.bound;
     if (state.elementBuffer && !state.enabledClientAttribs()) return draw();
     // The host raises the error: for what is malformed, and for the objects of ES 3, which take no list of the
