@@ -26,7 +26,10 @@ BackEnd::BackEnd() : m_library(dlopen(ZELVANE_BACK_END, RTLD_LAZY | RTLD_GLOBAL)
     Display *const display = connection();
     if (!display || !m_library) throw std::runtime_error("no X display, or no back end");
 
-    const int format[] = {GLX_DRAWABLE_TYPE, GLX_PBUFFER_BIT, GLX_RED_SIZE, 8, GLX_DEPTH_SIZE, 24, None};
+    // A host may take any surface for one of sRGB values; the back end has to cope.
+    constexpr int srgbCapable = 0x20B2;
+    const int format[] = {
+        GLX_DRAWABLE_TYPE, GLX_PBUFFER_BIT, GLX_RED_SIZE, 8, GLX_DEPTH_SIZE, 24, srgbCapable, True, None};
     int count = 0;
     GLXFBConfig *const configs = glXChooseFBConfig(display, DefaultScreen(display), format, &count);
     if (!configs || count == 0) throw std::runtime_error("no GLX config");

@@ -278,6 +278,10 @@ TEST_P(BackEndClientArrays, TheStateIsTheApplications) {
 TEST_P(BackEndClientArrays, BadCallsGiveTheErrorsOfEs) {
     const GLubyte list[8] = {1, 2};
     const GLenum backAndNone[] = {GL_BACK, GL_NONE};
+    const GLenum color[] = {GL_COLOR_EXT};
+    const GLenum colorAttachment[] = {GL_COLOR_ATTACHMENT0};
+    constexpr GLint desktopFormat = 0x805A; // GL_RGBA12
+    GLint numbers[4] = {};
     uint64_t pixmapImage[] = {0x30B0, 1}; // EGL_NATIVE_PIXMAP_KHR in 32 bits, the pixmap in 64
     for (const int version : {20, 30}) {
         startColumns(version / 10, version % 10);

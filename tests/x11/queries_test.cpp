@@ -1,8 +1,8 @@
 #include "x11/back_end_fixture.h"
 
-namespace {
-
 std::string profileText;
+
+namespace {
 
 // What a form answers, and a sentinel behind it.
 template <typename Value>

@@ -58,6 +58,38 @@ TEST_F(BackEndShaders, AnExternalSamplerReadsTheExternalTexture) {
     EXPECT_EQ(pixel(3, 3), blue);
 }
 
+TEST_F(BackEndShaders, ProgramsOfAPipelineAgreeInWhatLiesBetweenThem) {
+    start(3, 1);
+    ES(glViewport)(0, 0, size, size);
+    const auto separate = [&](GLenum stage, const std::string &text) {
+        const std::string source = "#version 310 es\n" + text;
+        const GLchar *const string = source.c_str();
+        return ES(glCreateShaderProgramv)(stage, 1, &string);
+    };
+    const auto check = [&](bool isGood, const std::string &given, const std::string &taken) {
+        SCOPED_TRACE(given + " to " + taken);
+        GLuint pipeline = 0;
+        ES(glGenProgramPipelines)(1, &pipeline);
+        ES(glUseProgramStages)
+        (pipeline, GL_VERTEX_SHADER_BIT,
+         separate(GL_VERTEX_SHADER, given + "void main() { gl_Position = vec4(gl_VertexID); }"));
+        ES(glUseProgramStages)
+        (pipeline, GL_FRAGMENT_SHADER_BIT,
+         separate(GL_FRAGMENT_SHADER,
+                  taken + "layout(location = 0) out mediump vec4 color; void main() { color = vec4(1); }"));
+        ES(glBindProgramPipeline)(pipeline);
+        ES(glDrawArrays)(GL_POINTS, 0, 1);
+        EXPECT_EQ(error(), isGood ? GL_NO_ERROR : GL_INVALID_OPERATION);
+        GLint status = -1;
+        ES(glValidateProgramPipeline)(pipeline);
+        ES(glGetProgramPipelineiv)(pipeline, GL_VALIDATE_STATUS, &status);
+        EXPECT_EQ(status == GL_TRUE, isGood);
+    };
+#define PIPELINE(isGood, given, taken) check(isGood, given, taken);
+#include "x11/data/pipelines.def"
+#undef PIPELINE
+}
+
 TEST_F(BackEndShaders, AProgramIsAVertexAndAFragmentShader) {
     start(2, 0);
     const GLuint half = ES(glCreateProgram)();

@@ -44,6 +44,7 @@ TEST_F(BackEndTextures, FormatsThatOnlyEsHasAreWhatEsSays) {
     const GLushort halves[] = {0x3266, 0x3666, 0x38CD, 0x3A66};
     const GLushort shortDepth = 0x3333;
     const GLuint depth = 0x66666666;
+    const GLuint tenBits = 0x3FF003FF;
     const auto check = [&](GLint format, GLenum type, const void *pixels, const Pixel &expected,
                            const std::array<GLint, 3> &told) {
         SCOPED_TRACE(testing::Message() << std::hex << format << ' ' << type);
@@ -112,6 +113,35 @@ TEST_F(BackEndTextures, CopiesTakeTheChannelsThatTheFormatNames) {
 #define COPY(format, r, g, b, a) check(format, {r, g, b, a});
 #include "x11/data/copies.def"
 #undef COPY
+}
+
+TEST_F(BackEndTextures, BlocksAreCopiedToTexelsOfTheirSizeAndBack) {
+    startTextured(3, 2);
+    // Red, on a block and on one that stands over the border.
+    const std::array<GLubyte, 16> bytes = {0xFF, 0, 0, 0, 0, 0, 0, 0, 0xFF, 0, 0, 0, 0, 0, 0, 0};
+    const auto storage = [&](GLenum format, GLsizei width, GLsizei height) {
+        const GLuint texture = bindNew();
+        ES(glTexStorage2D)(GL_TEXTURE_2D, 1, format, width, height);
+        return texture;
+    };
+    const auto copy = [&](GLuint from, GLuint to, GLsizei width, GLsizei height) {
+        ES(glCopyImageSubData)
+        (from, GL_TEXTURE_2D, 0, 0, 0, 0, to, GL_TEXTURE_2D, 0, 0, 0, 0, width, height, 1);
+        EXPECT_EQ(error(), GL_NO_ERROR);
+    };
+    const GLuint blocks = storage(GL_COMPRESSED_RGB8_ETC2, 6, 4);
+    ES(glCompressedTexSubImage2D)
+    (GL_TEXTURE_2D, 0, 0, 0, 6, 4, GL_COMPRESSED_RGB8_ETC2, sizeof bytes, bytes.data());
+    const GLuint texels = storage(GL_RG32UI, 2, 1);
+    const GLuint back = storage(GL_COMPRESSED_SRGB8_ETC2, 6, 4);
+    const GLuint again = storage(GL_COMPRESSED_RGB8_ETC2, 6, 4);
+    copy(blocks, texels, 6, 4);
+    copy(texels, back, 2, 1);
+    copy(back, again, 6, 4);
+    EXPECT_EQ(sampled(), (Pixel{255, 2, 2, 255}));
+
+    ES(glGenerateMipmap)(GL_TEXTURE_2D);
+    EXPECT_EQ(error(), GL_INVALID_OPERATION) << "of blocks";
 }
 
 TEST_F(BackEndTextures, AnEglImageIsTheTextureThatItWasMadeOf) {

@@ -46,6 +46,7 @@ void *lookUpEntry(std::string_view name) {
 
 void *resolveExport(std::string_view name) {
     if (!findHostGl()) return nullptr;
+    if (void *const function = findOverride(name)) return function;
     const char *const otherName = find(hostNames, name);
     const std::string hostName = otherName ? otherName : std::string(name);
     if (void *const function = findOverride(hostName)) return function;

@@ -4,12 +4,11 @@
 #include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 #include <span>
 
 namespace {
-
-constexpr GLint etc1 = 0x8D64; // GL_ETC1_RGB8_OES
 
 struct EsExtension {
     std::string_view name;
@@ -25,6 +24,7 @@ struct Carried {
     std::string_view name;
     int version;
     std::string_view hostExtensions;
+    GLint esMajor;
 };
 struct Bundle {
     std::string_view name;
@@ -32,15 +32,20 @@ struct Bundle {
 };
 
 #define CARRIED(...)
+#define CARRIED_IN_ES3(...)
 #define BUNDLE(...)
 
 #undef CARRIED
-#define CARRIED(extension, version, hostExtensions) {extension, version, hostExtensions},
+#undef CARRIED_IN_ES3
+#define CARRIED(extension, version, hostExtensions) {extension, version, hostExtensions, 2},
+#define CARRIED_IN_ES3(extension, version, hostExtensions) {extension, version, hostExtensions, 3},
 constexpr Carried carriedExtensions[] = {
 #include "announcement/carried_extensions.def"
 };
 #undef CARRIED
+#undef CARRIED_IN_ES3
 #define CARRIED(...)
+#define CARRIED_IN_ES3(...)
 
 #undef BUNDLE
 #define BUNDLE(extension, parts) {extension, parts},
@@ -48,7 +53,18 @@ constexpr Bundle bundles[] = {
 #include "announcement/carried_extensions.def"
 };
 #undef BUNDLE
+#undef CARRIED_IN_ES3
 #undef CARRIED
+
+struct CompressedFormat {
+    GLenum format;
+    std::string_view extensions;
+};
+constexpr CompressedFormat compressedFormatRows[] = {
+#define COMPRESSED_FORMAT(format, extensions) {format, extensions},
+#include "announcement/compressed_formats.def"
+#undef COMPRESSED_FORMAT
+};
 
 enum class Rule { least, most, range };
 struct LimitRow {
@@ -62,19 +78,21 @@ constexpr LimitRow limitRows[] = {
 #undef LIMIT
 };
 
-bool isCarried(const HostFeatures &host, std::string_view name) {
+bool isCarried(const HostFeatures &host, GLint esMajor, std::string_view name) {
     const auto known = std::ranges::find(esExtensions, name, &EsExtension::name);
     const bool isKnown = known != std::end(esExtensions);
     if (isKnown && !known->isForAll && !servesDesktopClients()) return false;
     const auto row = std::ranges::find(carriedExtensions, name, &Carried::name);
-    if (row != std::end(carriedExtensions)) return host.carries(row->version, row->hostExtensions);
+    if (row != std::end(carriedExtensions)) {
+        return esMajor >= row->esMajor && host.carries(row->version, row->hostExtensions);
+    }
     return isKnown && host.hasExtension(name);
 }
 
-std::vector<std::string> carriedOf(const HostFeatures &host) {
+std::vector<std::string> carriedOf(const HostFeatures &host, GLint esMajor) {
     std::vector<std::string> names;
     const auto add = [&](std::string_view name) {
-        if (isCarried(host, name)) names.emplace_back(name);
+        if (isCarried(host, esMajor, name)) names.emplace_back(name);
     };
     std::ranges::for_each(esExtensions, add, &EsExtension::name);
     std::ranges::for_each(carriedExtensions, add, &Carried::name);
@@ -91,8 +109,10 @@ bool holdsAll(const std::vector<std::string> &names, std::string_view parts) {
 }
 
 // All of them by name, or the device's in its order.
-std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device, bool hasBundles) {
-    std::vector<std::string> names = carriedOf(host);
+std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device, GLint major,
+                                      GLint minor) {
+    std::vector<std::string> names = carriedOf(host, major);
+    const bool hasBundles = major * 10 + minor >= 31;
     for (const Bundle &bundle : bundles)
         if (hasBundles && holdsAll(names, bundle.parts)) names.emplace_back(bundle.name);
     std::ranges::sort(names);
@@ -118,23 +138,6 @@ std::string hostText(GLenum name) {
 
 std::string number(GLint major, GLint minor) {
     return std::to_string(major) + '.' + std::to_string(minor);
-}
-
-std::vector<double> hostFormats(const HostFeatures &host, GLint major, bool hasEtc1) {
-    GLint count = 0;
-    hostGl().getIntegerv(GL_NUM_COMPRESSED_TEXTURE_FORMATS, &count);
-    std::vector<GLint> formats(static_cast<size_t>(std::max(count, 0)));
-    if (count > 0) hostGl().getIntegerv(GL_COMPRESSED_TEXTURE_FORMATS, formats.data());
-    const auto add = [&](GLint format) {
-        if (std::ranges::find(formats, format) == formats.end()) formats.push_back(format);
-    };
-    if (hasEtc1) add(etc1);
-    // ES 3 has these ten in every context.
-    if (major >= 3 && host.carries(43, "GL_ARB_ES3_compatibility")) {
-        for (GLint format = GL_COMPRESSED_R11_EAC; format <= GL_COMPRESSED_SRGB8_ALPHA8_ETC2_EAC; ++format)
-            add(format);
-    }
-    return {formats.begin(), formats.end()};
 }
 
 std::vector<double> formatsOf(std::vector<double> host, const std::optional<EsBlock> &device) {
@@ -176,10 +179,21 @@ Announcement::Announcement(const HostFeatures &host, const char *profileText, GL
     shadingLanguageVersion = "OpenGL ES GLSL ES " + (major < 3 ? "1.00" : number(major, minor) + '0');
     vendor = device && !device->vendor.empty() ? device->vendor : hostText(GL_VENDOR);
     renderer = device && !device->renderer.empty() ? device->renderer : "Zelvane (" + hostText(GL_RENDERER) + ')';
-    extensionNames = extensionsOf(host, device, major * 10 + minor >= 31);
+    extensionNames = extensionsOf(host, device, major, minor);
     extensions = joined(extensionNames);
-    compressedFormats = formatsOf(hostFormats(host, major, hasOneOf("GL_OES_compressed_ETC1_RGB8_texture")), device);
+    compressedFormats = formatsOf(carriedFormats(host), device);
     if (device) m_limits = limitsOf(*device);
+}
+
+std::vector<double> Announcement::carriedFormats(const HostFeatures &host) const {
+    std::vector<double> formats;
+    if (host.carries(43, "GL_ARB_ES3_compatibility")) {
+        for (GLint format = GL_COMPRESSED_R11_EAC; format <= GL_COMPRESSED_SRGB8_ALPHA8_ETC2_EAC; ++format)
+            formats.push_back(format);
+    }
+    for (const CompressedFormat &row : compressedFormatRows)
+        if (hasOneOf(row.extensions)) formats.push_back(row.format);
+    return formats;
 }
 
 std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
@@ -197,6 +211,11 @@ std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
 const std::vector<double> *Announcement::limit(GLenum pname) const {
     const auto row = std::ranges::lower_bound(m_limits, pname, {}, &Limit::pname);
     return row == m_limits.end() || row->pname != pname ? nullptr : &row->numbers;
+}
+
+GLint Announcement::most(GLenum pname) const {
+    const std::vector<double> *const numbers = limit(pname);
+    return numbers ? static_cast<GLint>(numbers->front()) : std::numeric_limits<GLint>::max();
 }
 
 bool Announcement::hasOneOf(std::string_view names) const {

@@ -29,7 +29,13 @@ struct Announcement {
     // Where the profile says anything of the limit; null where the host's own answer holds.
     [[nodiscard]] const std::vector<double> *limit(GLenum pname) const;
 
+    // How much of it an application may use: what limit() says, or more than any host has, which holds its own.
+    [[nodiscard]] GLint most(GLenum pname) const;
+    [[nodiscard]] bool hasLimits() const { return !m_limits.empty(); }
+
 private:
+    [[nodiscard]] std::vector<double> carriedFormats(const HostFeatures &host) const;
+
     struct Limit {
         GLenum pname;
         std::vector<double> numbers;

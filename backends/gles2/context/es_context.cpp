@@ -17,9 +17,15 @@ constexpr int32_t losesContext = 0x31BF;
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
     : major(attribs.esMajor), minor(attribs.esMinor), robustAccess(attribs.contextFlags & robustFlag ? 1 : 0),
       resetStrategy(attribs.resetStrategy == losesContext ? GL_LOSE_CONTEXT_ON_RESET : GL_NO_RESET_NOTIFICATION),
-      announced(host, zvSettingsProfileText(settings), major, minor), shared(this, share), vertices(major, host) {
+      announced(host, zvSettingsProfileText(settings), major, minor), shared(this, share),
+      vertices(major, host, announced.most(GL_MAX_VERTEX_ATTRIBS)) {
+    const GLint units = announced.most(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS);
+    if (announced.limit(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS)) {
+        textures.unitEnd = GL_TEXTURE0 + static_cast<GLenum>(units);
+    }
     hostGl().enable(programPointSize);
-    if (major >= 3) hostGl().enable(textureCubeMapSeamless);
+    // ES 2 leaves it open, and programs expect it as they have it everywhere.
+    hostGl().enable(textureCubeMapSeamless);
     setAttribs(attribs);
 }
 

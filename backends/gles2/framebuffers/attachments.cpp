@@ -5,23 +5,40 @@
 #include "framebuffers/renderbuffers.h"
 #include "framebuffers/surface_buffers.h"
 
+namespace {
+
+// True with the error raised, for an attachment that the device has not.
+bool isRefused(GLenum attachment) {
+    EsContext *const context = EsContext::current();
+    if (!context || attachment < GL_COLOR_ATTACHMENT0 || attachment > GL_COLOR_ATTACHMENT31) return false;
+    const GLenum index = attachment - GL_COLOR_ATTACHMENT0;
+    const bool isOver = index >= static_cast<GLenum>(context->announced.most(GL_MAX_COLOR_ATTACHMENTS));
+    if (isOver) context->raise(GL_INVALID_OPERATION);
+    return isOver;
+}
+
+} // namespace
+
 namespace overrides {
 
 void GL_APIENTRY framebufferRenderbuffer(GLenum target, GLenum attachment, GLenum renderbuffertarget,
                                          GLuint renderbuffer) {
-    hostGl().framebufferRenderbuffer(target, attachment, renderbuffertarget, hostRenderbuffer(renderbuffer));
+    if (!isRefused(attachment))
+        hostGl().framebufferRenderbuffer(target, attachment, renderbuffertarget, hostRenderbuffer(renderbuffer));
 }
 
 void GL_APIENTRY framebufferTexture2D(GLenum target, GLenum attachment, GLenum textarget, GLuint texture, GLint level) {
-    hostGl().framebufferTexture2D(target, attachment, textarget, hostTexture(texture), level);
+    if (!isRefused(attachment))
+        hostGl().framebufferTexture2D(target, attachment, textarget, hostTexture(texture), level);
 }
 
 void GL_APIENTRY framebufferTextureLayer(GLenum target, GLenum attachment, GLuint texture, GLint level, GLint layer) {
-    hostGl().framebufferTextureLayer(target, attachment, hostTexture(texture), level, layer);
+    if (!isRefused(attachment))
+        hostGl().framebufferTextureLayer(target, attachment, hostTexture(texture), level, layer);
 }
 
 void GL_APIENTRY framebufferTexture(GLenum target, GLenum attachment, GLuint texture, GLint level) {
-    hostGl().framebufferTexture(target, attachment, hostTexture(texture), level);
+    if (!isRefused(attachment)) hostGl().framebufferTexture(target, attachment, hostTexture(texture), level);
 }
 
 void GL_APIENTRY getFramebufferAttachmentParameteriv(GLenum target, GLenum attachment, GLenum pname, GLint *params) {
@@ -29,6 +46,12 @@ void GL_APIENTRY getFramebufferAttachmentParameteriv(GLenum target, GLenum attac
     const EsContext *const context = EsContext::current();
     if (!context || !params) return gl.getFramebufferAttachmentParameteriv(target, attachment, pname, params);
     gl.getFramebufferAttachmentParameteriv(target, hostBuffer(attachment), pname, params);
+    const Framebuffers &framebuffers = context->framebuffers;
+    // The host's surface can do more than it is used for.
+    if (pname == GL_FRAMEBUFFER_ATTACHMENT_COLOR_ENCODING && *params == GL_SRGB && framebuffers.bound(target) == 0 &&
+        !framebuffers.isSurfaceSrgb()) {
+        *params = GL_LINEAR;
+    }
     if (pname != GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME) return;
     GLint type = GL_NONE;
     gl.getFramebufferAttachmentParameteriv(target, attachment, GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE, &type);

@@ -31,11 +31,10 @@ void Framebuffers::setMayWriteSrgb(bool may) {
     tellHost();
 }
 
-void Framebuffers::tellHost() {
-    const bool isWanted = m_mayWriteSrgb && (m_drawn != 0 || m_isSurfaceSrgb);
-    if (isWanted == m_writesSrgb) return;
-    m_writesSrgb = isWanted;
-    (isWanted ? hostGl().enable : hostGl().disable)(GL_FRAMEBUFFER_SRGB_EXT);
+void Framebuffers::force(bool writesSrgb) {
+    if (writesSrgb == m_writesSrgb) return;
+    m_writesSrgb = writesSrgb;
+    (writesSrgb ? hostGl().enable : hostGl().disable)(GL_FRAMEBUFFER_SRGB_EXT);
 }
 
 namespace overrides {
@@ -49,6 +48,7 @@ void GL_APIENTRY deleteFramebuffers(GLsizei n, const GLuint *framebuffers) {
     deleteNames(framebufferNames(), n, framebuffers, hostGl().deleteFramebuffers, [&](GLuint host) {
         // Deleting what is bound binds the surface.
         if (host == context->framebuffers.drawn()) context->framebuffers.setDrawn(0);
+        if (host == context->framebuffers.read()) context->framebuffers.setRead(0);
     });
 }
 
@@ -64,6 +64,7 @@ void GL_APIENTRY bindFramebuffer(GLenum target, GLuint framebuffer) {
     const GLuint host = context->framebuffers.names.findOrMake(framebuffer, gl.genFramebuffers, gl.isFramebuffer);
     gl.bindFramebuffer(target, host);
     if (target == GL_FRAMEBUFFER || target == GL_DRAW_FRAMEBUFFER) context->framebuffers.setDrawn(host);
+    if (target == GL_FRAMEBUFFER || target == GL_READ_FRAMEBUFFER) context->framebuffers.setRead(host);
 }
 
 } // namespace overrides

@@ -3,6 +3,7 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "framebuffers/drawn_formats.h"
 #include "names/named_objects.h"
 #include "textures/texture_formats.h"
 
@@ -13,8 +14,16 @@ NameTable *renderbufferNames() {
     return context ? &context->shared->renderbuffers : nullptr;
 }
 
-GLenum hostRenderbufferFormat(GLenum format) {
-    return EsContext::current() ? hostTextureFormat(format).internal : format;
+// store: takes the host's format.
+template <typename Store>
+void storeAs(GLenum format, GLsizei width, GLsizei height, GLsizei samples, Store store) {
+    EsContext *const context = EsContext::current();
+    if (!context) return store(format);
+    if (!isRenderbufferFormat(format, context->major)) return context->raise(GL_INVALID_ENUM);
+    const GLint most = context->announced.most(GL_MAX_RENDERBUFFER_SIZE);
+    if (width > most || height > most) return context->raise(GL_INVALID_VALUE);
+    if (samples > context->announced.most(GL_MAX_SAMPLES)) return context->raise(GL_INVALID_OPERATION);
+    store(hostTextureFormat(format).internal);
 }
 
 } // namespace
@@ -45,12 +54,22 @@ void GL_APIENTRY bindRenderbuffer(GLenum target, GLuint renderbuffer) {
 }
 
 void GL_APIENTRY renderbufferStorage(GLenum target, GLenum internalformat, GLsizei width, GLsizei height) {
-    hostGl().renderbufferStorage(target, hostRenderbufferFormat(internalformat), width, height);
+    storeAs(internalformat, width, height, 0,
+            [&](GLenum format) { hostGl().renderbufferStorage(target, format, width, height); });
 }
 
 void GL_APIENTRY renderbufferStorageMultisample(GLenum target, GLsizei samples, GLenum internalformat, GLsizei width,
                                                 GLsizei height) {
-    hostGl().renderbufferStorageMultisample(target, samples, hostRenderbufferFormat(internalformat), width, height);
+    storeAs(internalformat, width, height, samples,
+            [&](GLenum format) { hostGl().renderbufferStorageMultisample(target, samples, format, width, height); });
+}
+
+void GL_APIENTRY getRenderbufferParameteriv(GLenum target, GLenum pname, GLint *params) {
+    hostGl().getRenderbufferParameteriv(target, pname, params);
+    // Where nothing is stored yet.
+    if (EsContext::current() && pname == GL_RENDERBUFFER_INTERNAL_FORMAT && params && *params == GL_RGBA) {
+        *params = GL_RGBA4;
+    }
 }
 
 } // namespace overrides

@@ -5,6 +5,7 @@
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
 
+#include <algorithm>
 #include <span>
 
 namespace {
@@ -40,13 +41,21 @@ GLenum esBuffer(GLenum buffer) {
 namespace overrides {
 
 void GL_APIENTRY readBuffer(GLenum src) {
-    hostGl().readBuffer(EsContext::current() ? hostBuffer(src) : src);
+    EsContext *const context = EsContext::current();
+    if (!context) return hostGl().readBuffer(src);
+    const bool isAttachment = src >= GL_COLOR_ATTACHMENT0 && src <= GL_COLOR_ATTACHMENT31;
+    // The host has sides and a front.
+    if (!isAttachment && src != GL_BACK && src != GL_NONE) return context->raise(GL_INVALID_ENUM);
+    hostGl().readBuffer(hostBuffer(src));
 }
 
 void GL_APIENTRY drawBuffers(GLsizei n, const GLenum *bufs) {
     const HostGl &gl = hostGl();
     EsContext *const context = EsContext::current();
     if (!context || n < 0 || !bufs) return gl.drawBuffers(n, bufs);
+    GLint most = 0;
+    gl.getIntegerv(GL_MAX_DRAW_BUFFERS, &most);
+    if (n > std::min(most, context->announced.most(GL_MAX_DRAW_BUFFERS))) return context->raise(GL_INVALID_VALUE);
     if (!isDrawBufferList(*context, {bufs, static_cast<size_t>(n)})) return context->raise(GL_INVALID_OPERATION);
     const GLenum surfaceBuffer = n == 1 ? hostBuffer(bufs[0]) : GL_NONE;
     gl.drawBuffers(n, context->framebuffers.drawn() == 0 ? &surfaceBuffer : bufs);

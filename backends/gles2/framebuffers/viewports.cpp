@@ -1,10 +1,22 @@
-// Ranges of depth by viewport, which desktop OpenGL takes in double precision.
+// Viewports as large as the device has them, and their ranges of depth, which desktop OpenGL takes in double precision.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace overrides {
+
+void GL_APIENTRY viewport(GLint x, GLint y, GLsizei width, GLsizei height) {
+    const EsContext *const context = EsContext::current();
+    const auto *const most = context ? context->announced.limit(GL_MAX_VIEWPORT_DIMS) : nullptr;
+    if (most) {
+        width = std::min(width, static_cast<GLsizei>((*most)[0]));
+        height = std::min(height, static_cast<GLsizei>((*most)[1]));
+    }
+    hostGl().viewport(x, y, width, height);
+}
 
 void GL_APIENTRY depthRangeArrayfv(GLuint first, GLsizei count, const GLfloat *v) {
     std::vector<GLdouble> ranges;

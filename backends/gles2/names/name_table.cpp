@@ -103,6 +103,11 @@ GLuint NameTable::remove(GLuint name) {
     const GLuint hostName = findLocked(name);
     if (hostName == 0) return 0;
     set(name, 0);
+    if (name != hostName) {
+        m_lastNames[hostName] = name;
+    } else if (m_hasOthers) {
+        m_lastNames.erase(hostName);
+    }
     const auto [begin, end] = m_otherNames.equal_range(hostName);
     const auto other = std::find_if(begin, end, [&](const auto &row) { return row.second == name; });
     if (other != end) m_otherNames.erase(other);
@@ -114,6 +119,7 @@ GLuint NameTable::nameOf(GLuint hostName) const {
     if (hostName == 0 || !m_hasOthers.load(std::memory_order_relaxed)) return hostName;
     const std::lock_guard lock(m_mutex);
     if (findLocked(hostName) == hostName) return hostName;
-    const auto found = m_otherNames.find(hostName);
-    return found == m_otherNames.end() ? hostName : found->second;
+    if (const auto found = m_otherNames.find(hostName); found != m_otherNames.end()) return found->second;
+    const auto last = m_lastNames.find(hostName);
+    return last == m_lastNames.end() ? hostName : last->second;
 }

@@ -43,7 +43,8 @@ public:
     // Forgets a name. Gives the host's name when no other name means it any more, otherwise 0.
     GLuint remove(GLuint name);
 
-    // What the application calls the host's object; 0 for one that it does not know.
+    // What the application calls the host's object, or called it before it was deleted: it may still be attached. 0 for
+    // one that it does not know.
     [[nodiscard]] GLuint nameOf(GLuint hostName) const;
 
 private:
@@ -68,6 +69,7 @@ private:
     std::unordered_map<GLuint, GLuint> m_highNames; // those past the chunks
     // Names by host name, where the two differ: 0 for hidden objects. An object may have several.
     std::unordered_multimap<GLuint, GLuint> m_otherNames;
-    std::vector<GLuint> m_spare; // host names that an application made up for other objects
+    std::unordered_map<GLuint, GLuint> m_lastNames; // by host name: of removed objects, where the two differ
+    std::vector<GLuint> m_spare;                    // host names that an application made up for other objects
     std::atomic<bool> m_hasOthers = false;
 };

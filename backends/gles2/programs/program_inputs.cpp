@@ -1,34 +1,12 @@
 #include "programs/program_inputs.h"
 
 #include "common/per_back_end/host_gl.h"
+#include "programs/variable_types.h"
 #include "vertices/vertex_array_state.h"
 
 #include <algorithm>
 #include <string>
 #include <string_view>
-
-namespace {
-
-GLuint columns(GLenum type) {
-    switch (type) {
-    case GL_FLOAT_MAT2:
-    case GL_FLOAT_MAT2x3:
-    case GL_FLOAT_MAT2x4:
-        return 2;
-    case GL_FLOAT_MAT3:
-    case GL_FLOAT_MAT3x2:
-    case GL_FLOAT_MAT3x4:
-        return 3;
-    case GL_FLOAT_MAT4:
-    case GL_FLOAT_MAT4x2:
-    case GL_FLOAT_MAT4x3:
-        return 4;
-    default:
-        return 1;
-    }
-}
-
-} // namespace
 
 ProgramInputs askProgramInputs(GLuint program) {
     const HostGl &gl = hostGl();
@@ -52,7 +30,7 @@ ProgramInputs askProgramInputs(GLuint program) {
             if (name.c_str() == std::string_view("gl_VertexID")) inputs.readsVertexId = true;
             continue;
         }
-        for (GLuint column = 0; column < columns(type) * static_cast<GLuint>(size); ++column)
+        for (GLuint column = 0; column < static_cast<GLuint>(variableType(type).columns * size); ++column)
             inputs.attribs |= 1u << ((static_cast<GLuint>(location) + column) % VertexArrayState::maxAttribs);
     }
     return inputs;

@@ -4,6 +4,8 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "programs/pipelines.h"
+#include "programs/program_limits.h"
 
 #include <algorithm>
 #include <vector>
@@ -53,6 +55,19 @@ void forgetInputs(GLuint program) {
     if (EsContext *const context = EsContext::current()) context->shared->programs.forgetInputs(program);
 }
 
+void forgetSeparable(EsContext &context, GLuint program) {
+    context.shared->programs.separable.remove(program);
+    context.shared->programs.ends.remove(program);
+}
+
+// For the pipelines that the program may be used in.
+void noteEnd(GLuint program) {
+    EsContext *const context = EsContext::current();
+    if (!context || !context->shared->programs.separable.find(program)) return;
+    context->shared->programs.ends.set(program, declaredEnd(program));
+    context->programs.forgetPipeline();
+}
+
 } // namespace
 
 ProgramInputs Programs::look(SharedPrograms &shared) {
@@ -92,8 +107,10 @@ void GL_APIENTRY linkProgram(GLuint program) {
         linkInVain(program);
     } else {
         hostGl().linkProgram(program);
+        if (context && !isWithinLimits(*context, program)) linkInVain(program);
     }
     forgetInputs(program);
+    noteEnd(program);
 }
 
 void GL_APIENTRY programBinary(GLuint program, GLenum format, const void *binary, GLsizei length) {
@@ -105,7 +122,7 @@ GLuint GL_APIENTRY createProgram() {
     const GLuint program = hostGl().createProgram();
     // The name may have been another program's.
     forgetInputs(program);
-    if (EsContext *const context = EsContext::current()) context->shared->programs.separable.remove(program);
+    if (EsContext *const context = EsContext::current()) forgetSeparable(*context, program);
     return program;
 }
 
@@ -134,7 +151,7 @@ GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar
     programParameteri(program, GL_PROGRAM_SEPARABLE, GL_TRUE);
     if (isCompiled) {
         gl.attachShader(program, shader);
-        gl.linkProgram(program);
+        linkProgram(program);
         gl.detachShader(program, shader);
     }
     gl.deleteShader(shader);

@@ -3,6 +3,8 @@
 
 #include "programs/shared_programs.h"
 
+#include <unordered_set>
+
 class Programs {
 public:
     // What the current program reads; everything without one, as a pipeline may be bound.
@@ -11,12 +13,26 @@ public:
         return isKnown ? m_inputs : look(shared);
     }
     // Another program may be current from now on.
-    void forgetCurrent() { m_isKnown = false; }
+    void forgetCurrent() {
+        m_isKnown = false;
+        forgetPipeline();
+    }
+
+    // Whether nothing can be drawn, for the programs of the bound pipeline disagree.
+    [[nodiscard]] bool isPipelineBroken(SharedPrograms &shared) {
+        return m_isPipelineKnown ? m_isPipelineBroken : lookAtPipeline(shared);
+    }
+    void forgetPipeline() { m_isPipelineKnown = false; }
+
+    std::unordered_set<GLuint> invalidPipelines; // as they were when they were looked at
 
 private:
+    bool lookAtPipeline(SharedPrograms &shared);
     ProgramInputs look(SharedPrograms &shared);
 
     ProgramInputs m_inputs;
     uint32_t m_changes = 0; // when the inputs were asked for
     bool m_isKnown = false;
+    bool m_isPipelineKnown = true;
+    bool m_isPipelineBroken = false;
 };

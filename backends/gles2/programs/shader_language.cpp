@@ -53,14 +53,6 @@ bool isOfWord(char character) {
     return std::isalnum(static_cast<unsigned char>(character)) || character == '_';
 }
 
-void replaceWords(std::string &source, std::string_view word, std::string_view replacement) {
-    for (size_t at = source.find(word); at != std::string::npos; at = source.find(word, at + 1)) {
-        const size_t end = at + word.size();
-        const bool isWhole = (at == 0 || !isOfWord(source[at - 1])) && (end == source.size() || !isOfWord(source[end]));
-        if (isWhole) source.replace(at, word.size(), replacement);
-    }
-}
-
 // The host need not know the extension.
 void removeExtension(std::string &source, std::string_view extension) {
     constexpr std::string_view directive = "#extension";
@@ -72,6 +64,14 @@ void removeExtension(std::string &source, std::string_view extension) {
 }
 
 } // namespace
+
+void replaceWords(std::string &source, std::string_view word, std::string_view replacement) {
+    for (size_t at = source.find(word); at != std::string::npos; at = source.find(word, at + 1)) {
+        const size_t end = at + word.size();
+        const bool isWhole = (at == 0 || !isOfWord(source[at - 1])) && (end == source.size() || !isOfWord(source[end]));
+        if (isWhole) source.replace(at, word.size(), replacement);
+    }
+}
 
 std::string hostShaderSource(std::string_view source, GLint major, GLint minor) {
     const auto line = versionLine(source);

@@ -10,3 +10,6 @@
 // possible. ES takes a source without "#version" as version 100, desktop OpenGL as 1.10; a version that the context
 // does not have must not compile; an external sampler is one of two dimensions. Line numbers stay.
 [[nodiscard]] std::string hostShaderSource(std::string_view source, GLint major, GLint minor);
+
+// Puts the replacement in the place of every whole word.
+void replaceWords(std::string &source, std::string_view word, std::string_view replacement);

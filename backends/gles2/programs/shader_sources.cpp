@@ -2,6 +2,7 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "programs/shader_constants.h"
 #include "programs/shader_language.h"
 
 #include <algorithm>
@@ -46,7 +47,8 @@ void GL_APIENTRY shaderSource(GLuint shader, GLsizei count, const GLchar *const 
     if (!context || !isWellFormed || !gl.isShader(shader)) return gl.shaderSource(shader, count, string, length);
 
     const std::string source = joined({string, static_cast<size_t>(count)}, length);
-    const std::string whole = hostShaderSource(source, context->major, context->minor);
+    const std::string whole =
+        withConstantsOf(context->announced, hostShaderSource(source, context->major, context->minor));
     context->shared->programs.shaderSources.remove(shader);
     if (whole != source) context->shared->programs.shaderSources.set(shader, source);
     const GLchar *const text = whole.c_str();

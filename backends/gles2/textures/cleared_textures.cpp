@@ -18,14 +18,14 @@ GLuint knownTexture(GLuint texture) {
 namespace overrides {
 
 void GL_APIENTRY clearTexImage(GLuint texture, GLint level, GLenum format, GLenum type, const void *data) {
-    hostGl().clearTexImage(knownTexture(texture), level, hostPixelFormat(format), hostType(type), data);
+    hostGl().clearTexImage(knownTexture(texture), level, hostPixelFormat(format, type), hostType(type), data);
 }
 
 void GL_APIENTRY clearTexSubImage(GLuint texture, GLint level, GLint xoffset, GLint yoffset, GLint zoffset,
                                   GLsizei width, GLsizei height, GLsizei depth, GLenum format, GLenum type,
                                   const void *data) {
     hostGl().clearTexSubImage(knownTexture(texture), level, xoffset, yoffset, zoffset, width, height, depth,
-                              hostPixelFormat(format), hostType(type), data);
+                              hostPixelFormat(format, type), hostType(type), data);
 }
 
 } // namespace overrides

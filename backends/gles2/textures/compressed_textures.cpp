@@ -5,6 +5,7 @@
 #include "context/es_context.h"
 #include "textures/pixel_store.h"
 #include "textures/texture_formats.h"
+#include "textures/texture_limits.h"
 
 #include <new>
 
@@ -52,6 +53,9 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     const HostGl &gl = hostGl();
     EsContext *const context = EsContext::current();
     if (!context) return gl.compressedTexImage2D(target, level, internalformat, width, height, border, imageSize, data);
+    const bool isGood = border == 0 && !isTooLarge(*context, target, level, {width, height});
+    if (!isGood) return context->raise(GL_INVALID_VALUE);
+    context->shared->textures.noteFormat(internalformat);
     const HostTextureFormat host = hostTextureFormat(internalformat);
     if (internalformat == GL_ETC1_RGB8_OES && !context->host.carries(43, "GL_ARB_ES3_compatibility")) {
         const GLenum error = setDecoded({target, level, width, height}, border, imageSize, data);
@@ -59,7 +63,18 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     } else {
         gl.compressedTexImage2D(target, level, host.internal, width, height, border, imageSize, data);
     }
-    setFormatSwizzle(*context, target, internalformat, host.swizzle);
+    setFormatSwizzle(*context, target, internalformat, host);
+}
+
+void GL_APIENTRY compressedTexImage3D(GLenum target, GLint level, GLenum internalformat, GLsizei width, GLsizei height,
+                                      GLsizei depth, GLint border, GLsizei imageSize, const void *data) {
+    EsContext *const context = EsContext::current();
+    if (context) {
+        const bool isGood = border == 0 && !isTooLarge(*context, target, level, {width, height, depth});
+        if (!isGood) return context->raise(GL_INVALID_VALUE);
+        context->shared->textures.noteFormat(internalformat);
+    }
+    hostGl().compressedTexImage3D(target, level, internalformat, width, height, depth, border, imageSize, data);
 }
 
 // A part of an ETC1 image can be replaced where the host keeps it compressed.

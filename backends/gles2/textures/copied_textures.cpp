@@ -5,6 +5,7 @@
 #include "context/es_context.h"
 #include "textures/pixel_store.h"
 #include "textures/texture_formats.h"
+#include "textures/texture_limits.h"
 
 #include <algorithm>
 #include <vector>
@@ -59,6 +60,7 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
     EsContext *const context = EsContext::current();
     const HostTextureFormat host = hostTextureFormat(internalformat, internalformat, GL_UNSIGNED_BYTE);
     if (!context) return gl.copyTexImage2D(target, level, internalformat, x, y, width, height, border);
+    if (isTooLarge(*context, target, level, {width, height})) return context->raise(GL_INVALID_VALUE);
     const Channels channels = channelsOf(host.swizzle);
     if (channels.count == 0 || width <= 0 || height <= 0 || border != 0) {
         gl.copyTexImage2D(target, level, host.internal, x, y, width, height, border);
@@ -68,7 +70,7 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
                           pixels);
         });
     }
-    setFormatSwizzle(*context, target, internalformat, host.swizzle);
+    setFormatSwizzle(*context, target, internalformat, host);
 }
 
 void GL_APIENTRY copyTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLint x, GLint y,

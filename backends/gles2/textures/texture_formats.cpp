@@ -53,6 +53,20 @@ constexpr Client clientFormats[] = {
 #undef SIZED
 #undef UNSIZED
 
+struct SizedImage {
+    GLenum internal, format, type;
+};
+constexpr SizedImage sizedImages[] = {
+#define IMAGE(internal, format, type) {internal, format, type},
+#include "textures/image_formats.def"
+#undef IMAGE
+};
+
+template <typename Row, size_t size>
+bool knows(const Row (&table)[size], GLenum Row::*column, GLenum name) {
+    return std::ranges::find(table, name, column) != std::end(table);
+}
+
 } // namespace
 
 Swizzle composed(const Swizzle &outer, const Swizzle &inner) {
@@ -71,10 +85,11 @@ HostTextureFormat hostTextureFormat(GLenum internal, GLenum format, GLenum type)
         }
     }
     const HostTextureFormat sized = hostTextureFormat(internal);
-    return {sized.internal, hostPixelFormat(format), type, sized.swizzle};
+    return {sized.internal, hostPixelFormat(format, type), type, sized.swizzle};
 }
 
-GLenum hostPixelFormat(GLenum format) {
+GLenum hostPixelFormat(GLenum format, GLenum type) {
+    if (format == GL_RGB && type == GL_UNSIGNED_INT_2_10_10_10_REV) return GL_RGBA;
     const auto row = std::ranges::find(clientFormats, format, &Client::format);
     return row == std::end(clientFormats) ? format : row->hostFormat;
 }
@@ -87,18 +102,28 @@ HostTextureFormat hostTextureFormat(GLenum internal) {
 
 GLenum es2ImageError(GLenum internal, GLenum format, GLenum type) {
     type = hostType(type);
-    const auto isKnown = [](GLenum name, GLenum Unsized::*column) {
-        return std::ranges::find(unsizedFormats, name, column) != std::end(unsizedFormats);
-    };
-    if (!isKnown(format, &Unsized::format) || !isKnown(type, &Unsized::type)) return GL_INVALID_ENUM;
-    if (!isKnown(internal, &Unsized::format)) return GL_INVALID_VALUE;
+    if (!knows(unsizedFormats, &Unsized::format, format) || !knows(unsizedFormats, &Unsized::type, type)) {
+        return GL_INVALID_ENUM;
+    }
+    if (!knows(unsizedFormats, &Unsized::format, internal)) return GL_INVALID_VALUE;
     const auto isRow = [&](const Unsized &row) { return row.format == format && row.type == type; };
     const bool isTaken = internal == format && std::ranges::any_of(unsizedFormats, isRow);
     return isTaken ? GL_NO_ERROR : GL_INVALID_OPERATION;
 }
 
-GLenum es3ImageError(GLenum internal, GLenum format) {
-    const bool isOnlyOfEs = internal == GL_ALPHA || internal == GL_LUMINANCE || internal == GL_LUMINANCE_ALPHA ||
-                            internal == GL_BGRA_EXT || internal == GL_SRGB_EXT || internal == GL_SRGB_ALPHA_EXT;
-    return isOnlyOfEs && internal != format ? GL_INVALID_OPERATION : GL_NO_ERROR;
+GLenum es3ImageError(GLenum internal, GLenum format, GLenum type) {
+    type = hostType(type);
+    const auto isRow = [&](const SizedImage &row) {
+        return row.internal == internal && row.format == format && row.type == type;
+    };
+    if (std::ranges::any_of(sizedImages, isRow)) return GL_NO_ERROR;
+    const GLenum unsizedError = es2ImageError(internal, format, type);
+    if (unsizedError == GL_NO_ERROR) return GL_NO_ERROR;
+    const bool isKnown =
+        (knows(unsizedFormats, &Unsized::format, format) || knows(sizedImages, &SizedImage::format, format)) &&
+        (knows(unsizedFormats, &Unsized::type, type) || knows(sizedImages, &SizedImage::type, type));
+    if (!isKnown) return GL_INVALID_ENUM;
+    const bool isInternal =
+        knows(unsizedFormats, &Unsized::format, internal) || knows(sizedImages, &SizedImage::internal, internal);
+    return isInternal ? GL_INVALID_OPERATION : GL_INVALID_VALUE;
 }

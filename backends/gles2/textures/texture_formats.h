@@ -27,9 +27,9 @@ struct HostTextureFormat {
 [[nodiscard]] HostTextureFormat hostTextureFormat(GLenum internal);
 
 // The host's name for the format of the application's pixels.
-[[nodiscard]] GLenum hostPixelFormat(GLenum format);
+[[nodiscard]] GLenum hostPixelFormat(GLenum format, GLenum type);
 
-// The error of ES for the formats of an image that the host would take, or GL_NO_ERROR. In ES 2 the two formats are one
-// of a few and the same; in ES 3 only those that desktop OpenGL lacks need be.
+// The error of ES for the formats of an image, or GL_NO_ERROR: the host takes far more of them. In ES 2 the two formats
+// are one of a few and the same.
 [[nodiscard]] GLenum es2ImageError(GLenum internal, GLenum format, GLenum type);
-[[nodiscard]] GLenum es3ImageError(GLenum internal, GLenum format);
+[[nodiscard]] GLenum es3ImageError(GLenum internal, GLenum format, GLenum type);

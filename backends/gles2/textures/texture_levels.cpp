@@ -24,8 +24,10 @@ void get(GLenum target, GLint level, GLenum pname, Value *params,
     EsContext *const context = params ? EsContext::current() : nullptr;
     target = hostTarget(target);
     const TextureSwizzle known = context ? formatSwizzle(*context, target) : TextureSwizzle{};
-    if (known.ofFormat == plainSwizzle) return host(target, level, pname, params);
-    const GLenum hostName = hostChannel(pname, known.ofFormat);
+    const bool isPlain = known.ofFormat == plainSwizzle;
+    const bool isAskedOfHost = isPlain && (known.internal == GL_NONE || pname != GL_TEXTURE_INTERNAL_FORMAT);
+    if (isAskedOfHost) return host(target, level, pname, params);
+    const GLenum hostName = isPlain ? pname : hostChannel(pname, known.ofFormat);
     // Stays when the call is an error; a host's form for floats may write all the same.
     constexpr GLint none = -1;
     GLint found = none;

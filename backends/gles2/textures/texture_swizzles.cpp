@@ -64,22 +64,26 @@ bool getApplications(GLenum target, GLenum pname, Value *params) {
 
 } // namespace
 
-void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const Swizzle &swizzle) {
-    if (swizzle == plainSwizzle && hasNone(context)) return;
+void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const HostTextureFormat &format) {
+    const bool isFloat = format.type == GL_FLOAT || format.type == GL_HALF_FLOAT;
+    // An image of floats without a size has one from here on.
+    const bool isOwn = format.swizzle == plainSwizzle && (format.internal == internal || isFloat);
+    if (isOwn && hasNone(context)) return;
     target = wholeTarget(target);
     if (!bindingOf(target)) return;
     const Place place = placeOf(context, target);
     auto entry = place.swizzles->find(place.key);
     if (!entry) {
-        if (swizzle == plainSwizzle) return;
+        if (isOwn) return;
         entry.emplace();
         for (size_t channel = 0; channel < 4; ++channel)
             hostGl().getTexParameteriv(target, swizzleNames[channel], &entry->ofApplication[channel]);
     }
-    entry->ofFormat = swizzle;
-    entry->internal = internal;
+    const bool isNew = entry->ofFormat != format.swizzle;
+    entry->ofFormat = format.swizzle;
+    entry->internal = isOwn ? format.internal : internal;
     place.swizzles->set(place.key, *entry);
-    tellHost(target, *entry);
+    if (isNew) tellHost(target, *entry);
 }
 
 TextureSwizzle formatSwizzle(EsContext &context, GLenum target) {

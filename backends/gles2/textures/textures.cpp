@@ -62,23 +62,16 @@ void GL_APIENTRY bindTexture(GLenum target, GLuint texture) {
     }
 }
 
+void GL_APIENTRY activeTexture(GLenum texture) {
+    EsContext *const context = EsContext::current();
+    const bool isOver = context && texture >= context->textures.unitEnd;
+    if (isOver) return context->raise(GL_INVALID_ENUM);
+    hostGl().activeTexture(texture);
+}
+
 void GL_APIENTRY bindImageTexture(GLuint unit, GLuint texture, GLint level, GLboolean layered, GLint layer,
                                   GLenum access, GLenum format) {
     hostGl().bindImageTexture(unit, hostTexture(texture), level, layered, layer, access, format);
-}
-
-void GL_APIENTRY copyImageSubData(GLuint srcName, GLenum srcTarget, GLint srcLevel, GLint srcX, GLint srcY, GLint srcZ,
-                                  GLuint dstName, GLenum dstTarget, GLint dstLevel, GLint dstX, GLint dstY, GLint dstZ,
-                                  GLsizei srcWidth, GLsizei srcHeight, GLsizei srcDepth) {
-    const EsContext *const context = EsContext::current();
-    const auto host = [&](GLuint name, GLenum target) {
-        if (!context) return name;
-        const ShareGroup &shared = *context->shared;
-        return target == GL_RENDERBUFFER ? shared.renderbuffers.find(name) : shared.textures.names.find(name);
-    };
-    hostGl().copyImageSubData(host(srcName, srcTarget), hostTarget(srcTarget), srcLevel, srcX, srcY, srcZ,
-                              host(dstName, dstTarget), hostTarget(dstTarget), dstLevel, dstX, dstY, dstZ, srcWidth,
-                              srcHeight, srcDepth);
 }
 
 } // namespace overrides

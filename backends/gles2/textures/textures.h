@@ -2,8 +2,10 @@
 #pragma once
 
 #include "names/name_table.h"
+#include "textures/block_formats.h"
 #include "textures/texture_swizzles.h"
 
+#include <atomic>
 #include <unordered_map>
 
 // Used on the context's thread.
@@ -11,12 +13,19 @@ struct Textures {
     std::unordered_map<GLuint, GLuint> lastNames; // by the host's: what it was bound as, where the names differ
     TextureSwizzles swizzlesOfZero;               // of the textures of name 0
     GLenum mipmapHint = GL_DONT_CARE;
+    GLenum unitEnd = ~0u; // behind the names of the device's texture units
 };
 
 // Any thread.
 struct SharedTextures {
     NameTable names;
     TextureSwizzles swizzles;
+    std::atomic<bool> mayHoldBlocks = false; // of ETC2 or ASTC, in any texture
+
+    // A texture gets this format.
+    void noteFormat(GLenum internal) {
+        if (findBlockFormat(internal)) mayHoldBlocks.store(true, std::memory_order_relaxed);
+    }
 };
 
 // The host's name for the application's, which gets an object if it is new.

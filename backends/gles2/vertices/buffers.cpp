@@ -17,6 +17,15 @@ GLuint hostBuffer(GLuint name) {
     return names ? names->findOrMake(name, gl.genBuffers, gl.isBuffer) : name;
 }
 
+// True with the error raised, for a binding that the device has not.
+bool isRefused(GLenum target, GLuint index) {
+    EsContext *const context = EsContext::current();
+    if (!context || target != GL_UNIFORM_BUFFER) return false;
+    const bool isOver = index >= static_cast<GLuint>(context->announced.most(GL_MAX_UNIFORM_BUFFER_BINDINGS));
+    if (isOver) context->raise(GL_INVALID_VALUE);
+    return isOver;
+}
+
 } // namespace
 
 namespace overrides {
@@ -48,17 +57,20 @@ void GL_APIENTRY bindBuffer(GLenum target, GLuint buffer) {
 }
 
 void GL_APIENTRY bindBufferBase(GLenum target, GLuint index, GLuint buffer) {
-    hostGl().bindBufferBase(target, index, hostBuffer(buffer));
+    if (!isRefused(target, index)) hostGl().bindBufferBase(target, index, hostBuffer(buffer));
 }
 
 void GL_APIENTRY bindBufferRange(GLenum target, GLuint index, GLuint buffer, GLintptr offset, GLsizeiptr size) {
-    hostGl().bindBufferRange(target, index, hostBuffer(buffer), offset, size);
+    if (!isRefused(target, index)) hostGl().bindBufferRange(target, index, hostBuffer(buffer), offset, size);
 }
 
 void GL_APIENTRY bindVertexBuffer(GLuint binding, GLuint buffer, GLintptr offset, GLsizei stride) {
+    EsContext *const context = EsContext::current();
+    const bool isObjectZero = context && context->vertices.bound == &context->vertices.objectZero;
+    // It has no bindings apart from its arrays.
+    if (isObjectZero) return context->raise(GL_INVALID_OPERATION);
     const GLuint host = hostBuffer(buffer);
     hostGl().bindVertexBuffer(binding, host, offset, stride);
-    EsContext *const context = EsContext::current();
     if (!context || binding >= context->vertices.maxAttribs || offset < 0 || stride < 0) return;
     VertexArrayState &state = *context->vertices.bound;
     state.setBuffer(binding, host);

@@ -6,6 +6,17 @@
 
 namespace {
 
+bool isPipelineRefused(EsContext *context) {
+    return context && context->programs.isPipelineBroken(context->shared->programs);
+}
+
+// What an indirect draw reads lies in buffers, and the object is not object 0.
+bool isIndirectRefused(EsContext &context) {
+    if (isPipelineRefused(&context)) return true;
+    const Vertices &vertices = context.vertices;
+    return vertices.bound == &vertices.objectZero || vertices.bound->enabledClientAttribs();
+}
+
 EsContext *prepare() {
     EsContext *const context = EsContext::current();
     if (context) beginDraw(context->renderMode);
@@ -16,6 +27,7 @@ EsContext *prepare() {
 template <typename Draw>
 void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw, GLuint firstInstance = 0) {
     EsContext *const context = prepare();
+    if (isPipelineRefused(context)) return context->raise(GL_INVALID_OPERATION);
     const bool isFed = context && context->vertices.bound->enabledClientAttribs();
     // Malformed calls are passed on, so the host raises the error.
     if (!isFed || first < 0 || count <= 0 || instanceCount <= 0) return draw(first);
@@ -65,6 +77,7 @@ void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
     const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
     EsContext *const context = prepare();
     if (!context) return draw();
+    if (isPipelineRefused(context)) return context->raise(GL_INVALID_OPERATION);
     const VertexArrayState &state = *context->vertices.bound;
     if (state.elementBuffer && !state.enabledClientAttribs()) return draw();
     // The host raises the error: for what is malformed, and for the objects of ES 3, which take no list of the
@@ -75,7 +88,9 @@ void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
     // Without a buffer it would take them all for one and the same error.
     if (indexSize(list.type) == 0) return context->raise(GL_INVALID_ENUM);
     if (list.count < 0 || instanceCount < 0) return context->raise(GL_INVALID_VALUE);
-    if (!isWellFormed || (!state.elementBuffer && !list.indices)) return;
+    // Nothing is drawn, yet the host looks at its state.
+    if (!isWellFormed) return hostGl().drawArrays(mode, 0, 0);
+    if (!state.elementBuffer && !list.indices) return;
     feedAndDraw(*context, call, drawAt);
 }
 
@@ -88,7 +103,8 @@ void GL_APIENTRY drawArrays(GLenum mode, GLint first, GLsizei count) {
 }
 
 void GL_APIENTRY drawArraysIndirect(GLenum mode, const void *indirect) {
-    prepare();
+    EsContext *const context = prepare();
+    if (context && isIndirectRefused(*context)) return context->raise(GL_INVALID_OPERATION);
     hostGl().drawArraysIndirect(mode, indirect);
 }
 
@@ -121,7 +137,10 @@ void GL_APIENTRY drawElementsBaseVertex(GLenum mode, GLsizei count, GLenum type,
 }
 
 void GL_APIENTRY drawElementsIndirect(GLenum mode, GLenum type, const void *indirect) {
-    if (EsContext *const context = prepare()) hideStreamedIndices(*context);
+    if (EsContext *const context = prepare()) {
+        if (isIndirectRefused(*context)) return context->raise(GL_INVALID_OPERATION);
+        hideStreamedIndices(*context);
+    }
     hostGl().drawElementsIndirect(mode, type, indirect);
 }
 

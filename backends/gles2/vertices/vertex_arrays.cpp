@@ -7,12 +7,21 @@
 
 namespace {
 
+// Beyond what the device has the host may have more. True with the error raised.
+bool isOver(GLuint index) {
+    EsContext *const context = EsContext::current();
+    const bool isOver = context && index >= context->vertices.maxAttribs;
+    if (isOver) context->raise(GL_INVALID_VALUE);
+    return isOver;
+}
+
 // An array of the application's memory is noted, and the host is told at the draw.
 // set: the host's function of the call, which takes the pointer.
 template <typename Set>
 void setPointer(GLuint index, const VertexFormat &format, const void *pointer, Set set) {
     EsContext *const context = EsContext::current();
     if (!context) return set(pointer);
+    if (index >= context->vertices.maxAttribs) return context->raise(GL_INVALID_VALUE);
     Vertices &vertices = context->vertices;
     const bool isClient = vertices.arrayBuffer == 0 && vertices.takesClientMemory();
     const bool isGood = vertices.takesFormat(index, format);
@@ -48,6 +57,14 @@ std::optional<GLint> ownAnswer(const EsContext &context, GLuint index, GLenum pn
     default:
         return std::nullopt;
     }
+}
+
+// Object 0 has no bindings apart from its arrays. True with the error raised.
+bool isRefusedOnObjectZero() {
+    EsContext *const context = EsContext::current();
+    const bool isRefused = context && context->vertices.bound == &context->vertices.objectZero;
+    if (isRefused) context->raise(GL_INVALID_OPERATION);
+    return isRefused;
 }
 
 template <typename Value, typename Ask>
@@ -95,15 +112,17 @@ void GL_APIENTRY deleteVertexArrays(GLsizei n, const GLuint *arrays) {
 }
 
 void GL_APIENTRY enableVertexAttribArray(GLuint index) {
+    if (isOver(index)) return;
     hostGl().enableVertexAttribArray(index);
     EsContext *const context = EsContext::current();
-    if (context && index < context->vertices.maxAttribs) context->vertices.bound->enabledAttribs |= 1u << index;
+    if (context) context->vertices.bound->enabledAttribs |= 1u << index;
 }
 
 void GL_APIENTRY disableVertexAttribArray(GLuint index) {
+    if (isOver(index)) return;
     hostGl().disableVertexAttribArray(index);
     EsContext *const context = EsContext::current();
-    if (context && index < context->vertices.maxAttribs) context->vertices.bound->enabledAttribs &= ~(1u << index);
+    if (context) context->vertices.bound->enabledAttribs &= ~(1u << index);
 }
 
 void GL_APIENTRY vertexAttribPointer(GLuint index, GLint size, GLenum type, GLboolean normalized, GLsizei stride,
@@ -130,7 +149,16 @@ void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
     }
 }
 
+void GL_APIENTRY vertexAttribFormat(GLuint index, GLint size, GLenum type, GLboolean normalized, GLuint offset) {
+    if (!isRefusedOnObjectZero()) hostGl().vertexAttribFormat(index, size, hostType(type), normalized, offset);
+}
+
+void GL_APIENTRY vertexAttribIFormat(GLuint index, GLint size, GLenum type, GLuint offset) {
+    if (!isRefusedOnObjectZero()) hostGl().vertexAttribIFormat(index, size, type, offset);
+}
+
 void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
+    if (isRefusedOnObjectZero()) return;
     hostGl().vertexAttribBinding(index, binding);
     EsContext *const context = EsContext::current();
     if (!context || index >= context->vertices.maxAttribs || binding >= context->vertices.maxAttribs) return;
@@ -140,6 +168,7 @@ void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
 }
 
 void GL_APIENTRY vertexBindingDivisor(GLuint binding, GLuint divisor) {
+    if (isRefusedOnObjectZero()) return;
     hostGl().vertexBindingDivisor(binding, divisor);
     EsContext *const context = EsContext::current();
     if (context && binding < context->vertices.maxAttribs) context->vertices.bound->bindings[binding].divisor = divisor;

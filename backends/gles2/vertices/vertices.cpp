@@ -13,13 +13,13 @@ bool canStayMapped(const HostFeatures &host) {
 
 } // namespace
 
-Vertices::Vertices(GLint major, const HostFeatures &host)
+Vertices::Vertices(GLint major, const HostFeatures &host, GLint mostAttribs)
     : stream(canStayMapped(host)), indexStream(canStayMapped(host)), m_major(major),
       m_mostStride(std::numeric_limits<GLsizei>::max()) {
     const HostGl &gl = hostGl();
     GLint attribCount = 0;
     gl.getIntegerv(GL_MAX_VERTEX_ATTRIBS, &attribCount);
-    maxAttribs = std::min(static_cast<GLuint>(attribCount), VertexArrayState::maxAttribs);
+    maxAttribs = std::min(static_cast<GLuint>(std::min(attribCount, mostAttribs)), VertexArrayState::maxAttribs);
     if (host.version() >= 44) gl.getIntegerv(GL_MAX_VERTEX_ATTRIB_STRIDE, &m_mostStride);
     gl.genVertexArrays(1, &defaultObject);
     gl.bindVertexArray(defaultObject);

@@ -9,7 +9,8 @@
 class Vertices {
 public:
     // Makes the object that stands for object 0 and binds it.
-    Vertices(GLint major, const HostFeatures &host);
+    // mostAttribs: of the device.
+    Vertices(GLint major, const HostFeatures &host, GLint mostAttribs);
 
     // Object 0 takes arrays and index lists in the application's memory. So do the objects of
     // OES_vertex_array_object; those of ES 3 do not.

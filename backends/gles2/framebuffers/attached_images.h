@@ -1,0 +1,30 @@
+// What is attached to the framebuffers that are bound, as the application knows it.
+#pragma once
+
+#include "es_gl.h"
+
+#include <optional>
+
+class EsContext;
+
+struct AttachedImage {
+    GLenum kind = GL_NONE; // GL_TEXTURE or GL_RENDERBUFFER; GL_NONE without one
+    GLuint hostName = 0;
+    GLint level = 0;
+    GLint layer = 0; // or the face of a cube
+    bool isSrgb = false;
+    // Nothing from here on of an object that was deleted since.
+    GLenum internal = GL_NONE;
+    GLenum hostInternal = GL_NONE;
+    GLint width = 0;
+    GLint height = 0;
+    GLint samples = 0;
+
+    [[nodiscard]] bool isSameAs(const AttachedImage &other) const {
+        return kind == other.kind && hostName == other.hostName && level == other.level && layer == other.layer;
+    }
+};
+
+// target: GL_DRAW_FRAMEBUFFER or GL_READ_FRAMEBUFFER, with a framebuffer of the application's. Nothing where the host
+// cannot be asked of objects that are not bound.
+[[nodiscard]] std::optional<AttachedImage> attachedImage(const EsContext &context, GLenum target, GLenum attachment);

@@ -1,0 +1,64 @@
+// Whether a framebuffer can be drawn to: ES refuses formats that the host draws to, and ES 2 images of several sizes.
+#include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/overrides.h"
+#include "context/es_context.h"
+#include "framebuffers/attached_images.h"
+#include "framebuffers/drawn_formats.h"
+
+#include <vector>
+
+namespace {
+
+constexpr GLenum incompleteDimensions = 0x8CD9; // GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS
+
+// The images that are there.
+std::vector<AttachedImage> attachedImages(const EsContext &context, GLenum target) {
+    GLint colorCount = 0;
+    hostGl().getIntegerv(GL_MAX_COLOR_ATTACHMENTS, &colorCount);
+    std::vector<AttachedImage> images;
+    const auto add = [&](GLenum attachment) {
+        const auto image = attachedImage(context, target, attachment);
+        if (image && image->kind != GL_NONE) images.push_back(*image);
+    };
+    for (GLint index = 0; index < colorCount; ++index)
+        add(GL_COLOR_ATTACHMENT0 + static_cast<GLenum>(index));
+    add(GL_DEPTH_ATTACHMENT);
+    add(GL_STENCIL_ATTACHMENT);
+    return images;
+}
+
+bool isDrawn(const AttachedImage &image) {
+    const bool hasSize = image.internal != GL_RGB && image.internal != GL_RGBA;
+    // An image of ten bits is drawn to where the application asked for them.
+    const bool isTenBits = image.hostInternal == GL_RGB10_EXT || image.hostInternal == GL_RGB10_A2;
+    return isDrawnFormat(image.internal) && (hasSize || !isTenBits);
+}
+
+GLenum statusOf(const EsContext &context, GLenum target) {
+    std::vector<AttachedImage> images = attachedImages(context, target);
+    std::erase_if(images, [](const AttachedImage &image) { return image.width == 0; });
+    for (const AttachedImage &image : images) {
+        if (!isDrawn(image)) return GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT;
+        const bool isOfOneSize = image.width == images[0].width && image.height == images[0].height;
+        if (context.major < 3 && !isOfOneSize) return incompleteDimensions;
+    }
+    return GL_FRAMEBUFFER_COMPLETE;
+}
+
+} // namespace
+
+namespace overrides {
+
+GLenum GL_APIENTRY checkFramebufferStatus(GLenum target) {
+    const GLenum status = hostGl().checkFramebufferStatus(target);
+    const EsContext *const context = EsContext::current();
+    if (!context) return status;
+    const bool isSurface = context->framebuffers.bound(target) == 0;
+    if (isSurface) return status;
+    if (status == GL_FRAMEBUFFER_COMPLETE) return statusOf(*context, target);
+    if (status != GL_FRAMEBUFFER_UNSUPPORTED) return status;
+    // The host cannot draw to it either, for a reason that ES has another name for.
+    return statusOf(*context, target) == GL_FRAMEBUFFER_COMPLETE ? status : GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT;
+}
+
+} // namespace overrides
