@@ -38,6 +38,15 @@ TEST(EsGate, AsksForWhatTheVersionNeeds) {
 #include "capability/data/gates.def"
 }
 
+TEST(EsGate, PromisesAVersionFromTheHostsOwnOn) {
+    const std::tuple<const char *, const char *, std::optional<int32_t>> rows[] = {
+        {"4.2", "", {}}, {"4.3", "", 0}, {"4.4", "", 0}, {"4.5", "", 1}, {"4.2", "GL_ARB_ES3_2_compatibility", 2}};
+    for (const auto &[version, extensions, minor] : rows) {
+        const ScriptedHost host(version, extensions);
+        EXPECT_EQ(probeEsGate(host.library, windowSystem)->promisedEs3Minor(), minor) << version << extensions;
+    }
+}
+
 TEST(EsGate, NamesTheMissingFeaturesInItsOrder) {
     const ScriptedHost host("3.2");
     EXPECT_THAT(probeEsGate(host.library, windowSystem)->of(es3_0).missing,

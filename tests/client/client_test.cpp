@@ -1,5 +1,6 @@
 #include "client_fixture.h"
 
+#include <csignal>
 #include <dlfcn.h>
 
 #include <string>
@@ -103,6 +104,36 @@ TEST_F(Client, ServerThatIsNotThereFailsTheBind) {
         EXPECT_EQ(widthOf(surface), 0);
         EXPECT_TRUE(eglTerminate(m_egl));
     }
+}
+
+// Xlib ended the program, though its own connections were well.
+TEST_F(Client, ServerThatDiesFailsBindsAndEndsNothing) {
+    FILE *output = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp 2>/dev/null", "r");
+    int process = 0, number = -1;
+    ASSERT_EQ(fscanf(output, "%d %d", &process, &number), 2) << "Xvfb did not start";
+    setenv("DISPLAY", (":" + std::to_string(number)).c_str(), 1);
+    Display *x = XOpenDisplay(nullptr);
+    const Window window = XCreateSimpleWindow(x, DefaultRootWindow(x), 0, 0, 64, 48, 0, 0, 0);
+    XSetCloseDownMode(x, RetainPermanent);
+    XCloseDisplay(x);
+
+    initialise(EGL_DEFAULT_DISPLAY);
+    const EGLContext context = makeContext();
+    const EGLSurface surface = makeSurface(window);
+    bind(surface, context);
+    const GlFunctions gl;
+    for (int frame = 0; frame < 20; ++frame) {
+        gl.clear(GL_COLOR_BUFFER_BIT);
+        // Between draw and swap: at a draw the software renderer takes a random size for the drawable's.
+        if (frame == 10) {
+            kill(process, SIGKILL);
+            pclose(output);
+        }
+        EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
+    }
+    expectBindFails(surface, context);
+    EXPECT_EQ(widthOf(surface), 0);
+    EXPECT_TRUE(XSync(m_x, False));
 }
 
 TEST_F(Client, XErrorsStayWithTheirConnection) {

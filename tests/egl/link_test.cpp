@@ -91,6 +91,9 @@ TEST_F(EntryLink, EveryBindToAWindowSendsItsTitle) {
     connect();
     const EGLContext made = context();
     const EGLSurface first = window(), small = pbuffer(), second = window(), nameless = window(78);
+    useBackEnds("none");
+    EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, nameless, nameless, context())); // which sends nothing
+    useBackEnds("back_ends");
     recordingFailNext("makeCurrent");
     EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, first, first, made));
     EXPECT_EQ(nextTitle(), "seventy-seven") << "the bind that failed has sent it";

@@ -35,6 +35,19 @@ TEST_F(MakeCurrent, BindsHostThenBackEnd) {
     EXPECT_EQ(takeLog(), golden("egl/data/two_binds.txt")) << "observed once more, but not made current once more";
 }
 
+TEST_F(MakeCurrent, DrawAndReadAreToldApart) {
+    const EGLSurface draw = window(77), read = window(78);
+    const EGLContext context = EntryTest::context();
+    takeLog();
+    EXPECT_SUCCEEDS(makeCurrent(draw, read, context));
+    EXPECT_THAT(takeLines("setView"), ElementsAre("setView(context2, 0:77) = true"))
+        << "the host draws and reads there";
+    EXPECT_EQ(eglGetCurrentSurface(EGL_DRAW), draw);
+    EXPECT_EQ(eglGetCurrentSurface(EGL_READ), read);
+    EXPECT_SUCCEEDS(makeCurrent(draw, draw, context));
+    EXPECT_EQ(eglGetCurrentSurface(EGL_READ), draw) << "the pair counts, and not its first";
+}
+
 TEST_F(MakeCurrent, WithoutAHostContextOrSurfaceNothingIsBoundOnTheHost) {
     const EGLContext bound = current();
     const EGLSurface buffer = pbuffer(), refused = pbuffer(0, 0);

@@ -67,6 +67,13 @@ TEST_F(Profiles, AFileGivesItsConfigsValueForValue) {
     EXPECT_EQ(backEnd().createdWith.esMajor, 2) << "not raised on a config without ES 3";
 }
 
+TEST_F(Profiles, AConfigWithoutPbuffersIsNamedBeforeAWrongAttribute) {
+    writeProfile("<profile><egl><config id=\"2\"><surface_type>EGL_WINDOW_BIT</surface_type></config></egl></profile>");
+    choose("mine");
+    const EGLint wrong[] = {EGL_RENDER_BUFFER, EGL_BACK_BUFFER, EGL_NONE};
+    EXPECT_FAILS(EGL_BAD_MATCH, eglCreatePbufferSurface(initialised(), configs().back(), wrong));
+}
+
 TEST_F(Profiles, ABrokenOneFailsTheLoadUntilItIsMended) {
     choose("mine");
     std::string words = "(Error) failed to load device profile 'mine' from " + directory + "\n"; // once

@@ -129,6 +129,7 @@ TEST(ServerThatDies, MakesEveryOperationFail) {
     operations.flushBuffer(made.get());
     EXPECT_EQ(applicationLosses, 0);
     XSync(application, False);
+    XCloseDisplay(application);
     EXPECT_EQ(applicationLosses, 1) << "those of its own connections still reach the application";
     EXPECT_EQ(operations.currentContext(), nullptr) << "the host would ask the server for the size of the drawable";
     int32_t width = -1;

@@ -11,8 +11,8 @@
 
 namespace host::platform::x11 {
 
-// From now on, for good: every error of this display is dropped, and a server that goes away sets isLost. Both arguments
-// must live as long as the process.
+// From now on, for good: every error of this display is dropped, and a server that goes away sets isLost. Both
+// arguments must live as long as the process.
 void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost);
 
 // Puts our handler for lost servers before one that the application has set since. Any thread.
