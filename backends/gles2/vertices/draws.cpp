@@ -54,7 +54,7 @@ template <typename Draw>
 void feedAndDraw(EsContext &context, const IndexedDraw &call, Draw draw) {
     const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
     const auto drawList = [&](GLint base) {
-        if (const auto indices = putIndices(context, list)) draw(*indices, base);
+        if (const auto indices = putIndices(context, call.list)) draw(*indices, base);
     };
     if (!context.vertices.bound->enabledClientAttribs()) return drawList(baseVertex);
     const auto slot = firstInstance == 0 ? gatherVertices(context, list, baseVertex) : std::nullopt;
