@@ -88,7 +88,7 @@ class Chromium:
 
     def open(self, address):
         self.call('Page.navigate', url=address)
-        self.wait_for('document.readyState == "complete" && location.href != "about:blank"')
+        self.wait_for(f'document.readyState == "complete" && location.href == {json.dumps(address)}')
 
     def evaluate(self, expression):
         result = self.call('Runtime.evaluate', expression=expression, awaitPromise=True, returnByValue=True)

@@ -67,9 +67,12 @@ void History::addLogLine(std::string line) {
 
 void History::addRefusal(uint64_t number, const std::string &text, bool isForTheHost) {
     const std::lock_guard lock(m_mutex);
-    addNews(m_refusals,
-            ",\"time\":" + std::to_string(millisecondsNow()) + ",\"application\":" + std::to_string(number) +
-                ",\"isForTheHost\":" + (isForTheHost ? "true" : "false") + ",\"text\":" + jsonText(text) + '}');
+    std::string who = "A connection";
+    if (const auto found = m_applications.find(number); found != m_applications.end())
+        who = found->second.shown.command + ' ' + std::to_string(found->second.shown.processNumber);
+    addNews(m_refusals, ",\"who\":" + jsonText(who) + ",\"time\":" + std::to_string(millisecondsNow()) +
+                            ",\"application\":" + std::to_string(number) + ",\"isForTheHost\":" +
+                            (isForTheHost ? "true" : "false") + ",\"text\":" + jsonText(text) + '}');
 }
 
 void History::addNotice(const std::string &text) {

@@ -6,8 +6,7 @@
 //   applications  those that have changed: number, pid, command, program, device, started, title, isWireframe, ended
 //   reports       the System Reports that have changed, by the number of the application
 //   frames        frames drawn in whole seconds, by the number of the application: the first second, then values
-//   refusals      all of them, when one is new: number, time, application (0 for none),
-//                 isForTheHost, text
+//   refusals      all of them, when one is new: number, who, time, application (0 for none), isForTheHost, text
 //   notices       answers to commands: number, text
 //   skipped       how many log lines the page was too slow for
 //   log           log lines as "zelvane monitor --json" writes them

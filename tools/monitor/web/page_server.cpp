@@ -15,8 +15,9 @@
 
 namespace {
 
-// Each open page holds a thread; the others are for what pages ask for.
-constexpr int mostStreams = 8;
+// Each open page holds a thread; the others are for what pages ask for. A browser has six connections for all its pages
+// of one host, and a page that hangs for want of one could not even say so.
+constexpr int mostStreams = 5;
 constexpr size_t threads = 16;
 constexpr size_t mostBytesOfACommand = 1024;
 constexpr std::chrono::milliseconds pauseBetweenUpdates{250};

@@ -36,8 +36,7 @@ function showReport(application) {
 function refusalItem(refusal) {
   const application = applications.get(refusal.application);
   const missing = refusal.isForTheHost && application?.report ? lackedBy(application.report).map(feature => feature.name) : [];
-  const name = application ? `${nameOf(application)} ${application.pid}` : 'A connection';
-  const words = make('div', {}, make('p', {}, make('strong', {}, name, make('time', {}, timeOf(refusal.time)))),
+  const words = make('div', {}, make('p', {}, make('strong', {}, refusal.who, make('time', {}, timeOf(refusal.time)))),
     make('p', {}, refusal.text));
   if (missing.length) words.append(make('p', { class: 'missing' }, `The host lacks: ${missing.join(', ')}`));
   const actions = make('div', { class: 'actions' });
@@ -46,7 +45,7 @@ function refusalItem(refusal) {
     show.onclick = () => showReport(applications.get(refusal.application));
     actions.append(show);
   }
-  const dismiss = make('button', { type: 'button', 'aria-label': `Dismiss the refusal of ${name}` }, 'Dismiss');
+  const dismiss = make('button', { type: 'button', 'aria-label': `Dismiss the refusal of ${refusal.who}` }, 'Dismiss');
   dismiss.onclick = () => {
     dismissed.add(refusal.number);
     drawRefusals();
