@@ -45,5 +45,6 @@ add_subdirectory(egl)
 
 # Opens the library itself, late.
 target_sources(unit_tests PRIVATE client/late_library_test.cpp)
-target_compile_definitions(unit_tests PRIVATE STAGED_EGL="$<TARGET_FILE:staged_egl>")
-add_dependencies(unit_tests staged_egl fake_gl)
+target_compile_definitions(unit_tests PRIVATE STAGED_EGL="$<TARGET_FILE:staged_egl>"
+  STAGED_BACK_ENDS="${stage}/back_ends")
+add_dependencies(unit_tests staged_egl fake_gl fake_es1 fake_es2)

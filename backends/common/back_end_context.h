@@ -15,7 +15,7 @@ public:
     // The pending error, which is none afterwards; 0 without one.
     [[nodiscard]] unsigned takeError() { return std::exchange(m_error, 0u); }
 
-    const HostFeatures host;
+    const HostFeatures &host = HostFeatures::ofCurrentContext();
     RenderMode renderMode;
 
 private:

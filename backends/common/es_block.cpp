@@ -75,6 +75,8 @@ std::optional<EsBlock> readEsBlock(std::string_view profileText, int major, int 
     if (!block) return std::nullopt;
 
     EsBlock result;
+    const XMLElement *const egl = profile->FirstChildElement("egl");
+    result.isDesktop = egl && egl->BoolAttribute("host_only");
     result.vendor = textOf(profile->FirstChildElement("vendor"));
     result.renderer = textOf(profile->FirstChildElement("renderer"));
     for (const XMLElement *element = block->FirstChildElement(); element; element = element->NextSiblingElement()) {

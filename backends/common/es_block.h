@@ -14,6 +14,11 @@ struct EsBlock {
     // The numbers of each element, under its name. An element that repeats adds to the list; one with children has
     // theirs, in order.
     std::map<std::string, std::vector<double>, std::less<>> limits;
+    // A desktop's block: what it lists no extension or number for is the host's, where a device has nothing.
+    bool isDesktop = false;
+
+    // Whether the block decides which extensions there are.
+    [[nodiscard]] bool listsExtensions() const { return !isDesktop || !extensionNames.empty(); }
 
     // The first number of an element, or nothing.
     [[nodiscard]] std::optional<double> limit(std::string_view element) const;

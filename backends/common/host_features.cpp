@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
+#include <memory>
+#include <mutex>
 
 namespace {
 
@@ -30,7 +33,27 @@ void forEachWord(std::string_view text, Take take) {
     }
 }
 
+// What tells the contexts of a host apart that differ in what they carry.
+std::string contextKind() {
+    GLint count = 0;
+    const auto getIntegerv = host<decltype(&glGetIntegerv)>("glGetIntegerv");
+    const std::string version = hostString(GL_VERSION);
+    // Older hosts have no such number, and asking would leave an error.
+    if (getIntegerv && !version.empty() && version.front() >= '3') getIntegerv(GL_NUM_EXTENSIONS, &count);
+    return version + '\n' + hostString(GL_RENDERER) + '\n' + std::to_string(count);
+}
+
 } // namespace
+
+const HostFeatures &HostFeatures::ofCurrentContext() {
+    static std::mutex mutex;
+    static auto &known = *new std::map<std::string, std::unique_ptr<const HostFeatures>>;
+    const std::string kind = contextKind();
+    const std::lock_guard lock(mutex);
+    auto &features = known[kind];
+    if (!features) features.reset(new HostFeatures);
+    return *features;
+}
 
 HostFeatures::HostFeatures() {
     int major = 0;

@@ -1,4 +1,4 @@
-// What the host's context can carry. Constant once read; made with the host context current, then used on any thread.
+// What the host's context can carry. Constant once read, and used on any thread.
 #pragma once
 
 #include <set>
@@ -7,7 +7,9 @@
 
 class HostFeatures {
 public:
-    HostFeatures();
+    // Of the host context that is current on this thread. Lists are read once for each version and renderer that the
+    // process meets, and kept until it ends: a list takes the host longer than the rest of a back-end context.
+    static const HostFeatures &ofCurrentContext();
 
     // Such as 43 for 4.3; 0 when the host does not say.
     [[nodiscard]] int version() const { return m_version; }
@@ -18,6 +20,7 @@ public:
     [[nodiscard]] bool carries(int version, std::string_view extensions) const;
 
 private:
+    HostFeatures();
     void readExtensionString();
     void readExtensionList();
 

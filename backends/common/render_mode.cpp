@@ -3,6 +3,7 @@
 #include "common/host_library.h"
 
 #include <zelvane/back_end.h>
+#include <zelvane/message_builders.h>
 
 namespace {
 
@@ -24,9 +25,7 @@ void postMarker() {
     uint64_t next = nextMarkedFrame.load(std::memory_order_relaxed);
     // Of the threads that draw in a frame, one posts.
     if (frame < next || !nextMarkedFrame.compare_exchange_strong(next, frame + 1)) return;
-    zvMessage marker = {};
-    marker.header.type = ZV_BACK_END_MARKER;
-    zvPostFrameMessage(marker);
+    zvPostFrameMessage(zvBuildBackEndMarker());
 }
 
 uint64_t toggleWireframe(unsigned isEnabled) {

@@ -11,7 +11,7 @@
  * field ends in a zero and so holds one character less than its size; longer texts are cut. A list ends in a zero
  * entry and so holds one value less than its size. Entries of a list that is cut short are lost.
  *
- * Back ends send by zvPostFrameMessage of back_end.h. What the values of types 3, 4, 5, 9 and 10 mean is between a
+ * Back ends send by zvPostFrameMessage of back_end.h what the builders of message_builders.h make. What the values of types 3, 4, 5, 9 and 10 mean is between a
  * back end and its GUI; the library passes them on.
  */
 #ifndef ZELVANE_MESSAGES_H

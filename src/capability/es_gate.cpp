@@ -52,7 +52,7 @@ EsGate::EsGate(const Es31Features &set) : m_promisedEs3Minor(promisedMinor(set.v
 }
 
 const GateAnswer &EsGate::of(EsVersion version) const {
-    static const GateAnswer passed;
+    static const GateAnswer &passed = *new GateAnswer; // threads ask while the process ends
     return version >= es2_0 && version <= es3_2 ? m_answers[static_cast<size_t>(version - es2_0)] : passed;
 }
 

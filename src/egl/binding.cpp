@@ -1,5 +1,7 @@
 #include "egl/binding.h"
 
+#include <atomic>
+
 #include "egl/desktop_clients.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
@@ -28,6 +30,14 @@ void postWindowTitle(const Surface *draw) {
     if (!window || window->isPBuffer() || !state().uiLink().isAttached()) return;
     if (getHostConfiguration() & CONFIG_NO_WINDOW_TITLE) return;
     state().uiLink().post(ui::messages::windowTitle(window->title()));
+}
+
+void tellOfHostWithoutContext(const ContextAttribs &attribs) {
+    static std::atomic<bool> isTold = false;
+    if (isTold.exchange(true)) return;
+    const char *needed = attribs.legacyClient ? "the compatibility profile" : "version 3.2 or above";
+    logMessage(LogError, "%s%s%s%s", "The host has given no OpenGL context of ", needed, " for OpenGL ES ",
+               attribs.legacyClient ? "1" : "2 and 3");
 }
 
 // Makes the back-end context at the first bind and tells it the attributes at every later one.
@@ -61,6 +71,10 @@ void endClaim(Context &context, Display &display) {
 BindClaim::BindClaim(Context &context) : m_context(context), m_isCurrent(threadRecord.current == &context) {
     if (!context.esContext.load()) m_firstBind = std::unique_lock(context.group->firstBinds);
     m_isTaken = !m_isCurrent && context.claim();
+    if (isHeld() || m_firstBind) return;
+    // The first bind of another context of the group may have it for a moment.
+    m_firstBind = std::unique_lock(context.group->firstBinds);
+    m_isTaken = context.claim();
 }
 
 BindClaim::~BindClaim() {
@@ -85,7 +99,10 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
     if (binding == host::HostBinding::failed) return false;
     // A host that refused the context at its creation shows here first.
-    if (!hostContext || !hostContext->context->container()) return false;
+    if (!hostContext || !hostContext->context->container()) {
+        tellOfHostWithoutContext(context->attribs);
+        return false;
+    }
     // The application must not inherit an error that the bind left.
     state().hostEGL(binding == host::HostBinding::current).sweepError();
 

@@ -29,8 +29,10 @@ EGLBoolean EGLAPIENTRY eglGetConfigAttrib(EGLDisplay dpy, EGLConfig config, EGLi
     return entry(dpy, EGL_FALSE, [&](Display &display) {
         const auto found = display.findConfig(config);
         if (!found) return fail(EGL_BAD_CONFIG, EGL_FALSE);
+        EGLint answer = 0;
+        if (!found->getAttribute(attribute, &answer)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
         if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        if (!found->getAttribute(attribute, value)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
+        *value = answer;
         return succeed(EGL_TRUE);
     });
 }

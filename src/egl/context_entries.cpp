@@ -22,17 +22,25 @@ EGLContext refuse(EGLint error) {
     return fail(error, EGL_NO_CONTEXT);
 }
 
-// True if the host carries what the attributes come to, or if that does not matter.
-bool settleVersion(const Config &config, ContextAttribs &attribs) {
+// Whether the host carries what the attributes come to; it does where that does not matter.
+capability::HostAnswer settleVersion(const Config &config, ContextAttribs &attribs) {
     const bool canBeEs3 = config.attributeOr0(EGL_RENDERABLE_TYPE) & EGL_OPENGL_ES3_BIT;
     attribs.strictContextMode = state().isStrictContextMode();
     if (desktop_clients::isOn() && !attribs.strictContextMode) {
         const auto *gate = attribs.requestedMajor >= 2 ? state().esGate() : nullptr;
         if (gate) capability::raiseAsDriversDo(*gate, canBeEs3, highestEs3Minor(state().profile()), attribs);
-        return true;
+        return capability::HostAnswer::carries;
     }
-    return capability::settleEsVersion([] { return state().esGate(); }, canBeEs3, attribs) ==
-           capability::HostAnswer::carries;
+    return capability::settleEsVersion([] { return state().esGate(); }, canBeEs3, attribs);
+}
+
+void tellWhatIsMissing(const ContextAttribs &attribs) {
+    const auto version = capability::esVersionFromContext(attribs.esMajor, attribs.esMinor);
+    std::string text;
+    for (const auto feature : state().esGate()->of(version).missing)
+        text.append(text.empty() ? "The host lacks " : ", ").append(capability::descriptorOf(feature).name);
+    text += " for OpenGL ES " + std::to_string(attribs.esMajor) + "." + std::to_string(attribs.esMinor);
+    logMessage(LogError, "%s", text.c_str());
 }
 
 EGLint readAttributes(const Config &config, const EGLint *list, ContextAttribs &attribs) {
@@ -62,13 +70,27 @@ EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext sh
         if (!share) return refuse(EGL_BAD_CONTEXT);
         if (!canShare(attribs, share->attribs)) return refuse(EGL_BAD_MATCH);
     }
-    if (!settleVersion(*config, attribs)) {
+    if (const auto answer = settleVersion(*config, attribs); answer != capability::HostAnswer::carries) {
         logMessage(LogWarning, "%s", hostFallsShort);
+        if (answer == capability::HostAnswer::lacks) tellWhatIsMissing(attribs);
         return refuse(EGL_BAD_ALLOC);
     }
     const auto context = display.createContext(config, share, attribs);
     if (!context) return refuse(EGL_BAD_ALLOC);
     return succeed(asHandle<EGLContext>(context->handle));
+}
+
+std::optional<EGLint> contextAttribute(const Context &context, EGLint attribute) {
+    switch (attribute) {
+    case EGL_CONTEXT_CLIENT_VERSION:
+        return context.attribs.requestedMajor; // not what it was raised to
+    case EGL_CONTEXT_CLIENT_TYPE:
+        return EGL_OPENGL_ES_API;
+    case EGL_CONFIG_ID:
+        return context.config->attributeOr0(EGL_CONFIG_ID);
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -97,21 +119,13 @@ EGLBoolean EGLAPIENTRY eglQueryContext(EGLDisplay dpy, EGLContext ctx, EGLint at
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto context = display.findContext(ctx);
         if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
-        if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        if (desktop_clients::isOn()) return finish(standard::queryContext(*context, attribute, value));
-        switch (attribute) {
-        case EGL_CONTEXT_CLIENT_VERSION:
-            // What was asked for, not what it was raised to.
-            *value = context->attribs.requestedMajor;
-            return succeed(EGL_TRUE);
-        case EGL_CONTEXT_CLIENT_TYPE:
-            *value = EGL_OPENGL_ES_API;
-            return succeed(EGL_TRUE);
-        case EGL_CONFIG_ID:
-            *value = context->config->attributeOr0(EGL_CONFIG_ID);
-            return succeed(EGL_TRUE);
-        default:
-            return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
+        if (desktop_clients::isOn()) {
+            return finish(value ? standard::queryContext(*context, attribute, value) : EGL_BAD_PARAMETER);
         }
+        const auto answer = contextAttribute(*context, attribute);
+        if (!answer) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
+        if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        *value = *answer;
+        return succeed(EGL_TRUE);
     });
 }

@@ -1,13 +1,15 @@
 #include "egl/desktop_clients.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
-#include <cstdlib>
 #include <cstring>
 
 #include "egl/es_library.h"
 #include "egl/extension_entries.h"
 #include "egl/standard/syncs.h"
 #include "egl/state.h"
+#include "foundation/environment.h"
 #include "foundation/log.h"
 
 namespace egl::desktop_clients {
@@ -31,7 +33,7 @@ const Entry entries[] = {
 
 bool isOn() {
     static const bool on = [] {
-        const char *value = getenv("ZELVANE_DESKTOP_CLIENTS");
+        const char *value = findVariable("ZELVANE_DESKTOP_CLIENTS");
         return value && strcmp(value, "1") == 0;
     }();
     return on;
@@ -47,8 +49,11 @@ Function findEntry(const char *name) {
 
 bool isKnownToBackEnd(const char *name) {
     if (!isOn()) return false;
-    static const EsLibrary &library = *new EsLibrary(State::loadEsLibrary(2));
-    return library.getExtProcAddress && library.getExtProcAddress(name);
+    static const auto &libraries =
+        *new std::array{EsLibrary(State::loadEsLibrary(2)), EsLibrary(State::loadEsLibrary(1))};
+    return std::ranges::any_of(libraries, [&](const EsLibrary &library) {
+        return library.getExtProcAddress && library.getExtProcAddress(name);
+    });
 }
 
 uint64_t windowOf(void *nativeWindow) {

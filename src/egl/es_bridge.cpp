@@ -1,6 +1,9 @@
 // The road from the state to a back-end library. Which library it is follows from the ES major version alone.
+#include <atomic>
+
 #include "egl/es_library.h"
 #include "egl/state.h"
+#include "foundation/log.h"
 
 namespace egl {
 
@@ -17,7 +20,12 @@ DynamicLibrary State::loadEsLibrary(int32_t major) {
 
 zvEsContext State::createEsContext(const EsLibrary &library, const ContextAttribs &attribs, const Display &display,
                                    zvEsContext shareEsContext) {
-    if (!library.createEsContext) return nullptr;
+    if (!library.createEsContext) {
+        static std::atomic<bool> isTold = false;
+        if (!isTold.exchange(true))
+            logMessage(LogError, "%s", failureText("find zvCreateEsContext in", library.library.name()).c_str());
+        return nullptr;
+    }
     const uint64_t displayAndHandle[2] = {reinterpret_cast<uintptr_t>(&display), attribs.contextHandle};
     return library.createEsContext(&attribs, displayAndHandle, &m_settings, shareEsContext);
 }

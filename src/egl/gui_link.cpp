@@ -1,5 +1,7 @@
 #include "egl/gui_link.h"
 
+#include <atomic>
+
 #include "egl/context.h"
 #include "egl/state.h"
 #include "foundation/log.h"
@@ -8,17 +10,8 @@ namespace egl {
 
 namespace {
 
-// Never destroyed: threads log and take render modes while the process ends.
-struct Attached {
-    std::mutex mutex;
-    State *state = nullptr;       // guarded by mutex; null before and after its life
-    const UiLink *link = nullptr; // constant once the listener is set
-};
-
-Attached &attached() {
-    static Attached &instance = *new Attached;
-    return instance;
-}
+// Null until the state is made.
+constinit std::atomic<State *> attachedState = nullptr;
 
 ui::messages::Message logLine(int32_t level, const char *text) {
     switch (level) {
@@ -38,29 +31,18 @@ void postLogLine(int32_t level, const char *text) {
 } // namespace
 
 void attachGuiLink(State &state) {
-    Attached &now = attached();
-    const std::lock_guard lock(now.mutex);
-    now.state = &state;
-    now.link = new UiLink(state.uiLink());
+    attachedState = &state;
     setLogListener(postLogLine);
 }
 
-void detachGuiLink() {
-    const std::lock_guard lock(attached().mutex);
-    attached().state = nullptr;
-}
-
 const UiLink &attachedLink() {
-    return *attached().link;
+    return attachedState.load(std::memory_order_relaxed)->uiLink();
 }
 
 void setRenderModeOfAll(uint8_t mode) {
-    std::vector<std::shared_ptr<Context>> contexts;
-    {
-        const std::lock_guard lock(attached().mutex);
-        if (attached().state) contexts = attached().state->contexts();
-    }
-    for (const auto &context : contexts)
+    State *const state = attachedState;
+    if (!state) return;
+    for (const auto &context : state->contexts())
         context->setRenderMode(mode);
 }
 

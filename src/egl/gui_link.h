@@ -11,9 +11,7 @@ class State;
 
 // From now on every log line is posted, and a GUI's render mode reaches the contexts. Once in the process.
 void attachGuiLink(State &state);
-// The link's threads live as long as the process, longer than the state: they find no contexts from now on.
-void detachGuiLink();
-// The link of the state, which outlives it: threads may draw while the process ends. Only once it is attached.
+// The link of the state. Only once it is attached.
 [[nodiscard]] const UiLink &attachedLink();
 
 // Tells the back ends of all contexts, also of those that were never bound: displays in key order, contexts in handle

@@ -5,6 +5,7 @@
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
+#include "foundation/paths.h"
 #include "host/opengl_library.h"
 #include "preferences/host_configuration.h"
 #include "profiles/profile_reader.h"
@@ -13,36 +14,18 @@ namespace egl {
 
 namespace {
 
-// Exit handlers of an application that opens the library late run after the state has gone, and call entries.
-constinit std::atomic<bool> isStateOver = false;
+// Never destroyed: threads are inside entries while the process ends, and exit handlers call them.
+constinit State *globalState = nullptr;
+constinit std::mutex globalStateMutex;
 constinit std::atomic<bool> isStateLoaded = false;
-
-struct GlobalState {
-    std::shared_ptr<State> state;
-
-    ~GlobalState() {
-        isStateOver = true;
-        isStateLoaded = false;
-    }
-};
-
-// In this order: at exit the mutex goes first and the state after it.
-GlobalState globalState;
-std::mutex globalStateMutex;
 
 } // namespace
 
 State::State()
     : m_profile(defaultProfile), m_openGLLibrary(host::openHostOpenGLLibrary()), m_uiLink(setRenderModeOfAll) {
+    (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
     attachGuiLink(*this);
     threadRecord.currentDisplay = nullptr;
-}
-
-State::~State() {
-    detachGuiLink();
-    delete m_hostEGL.load();
-    for (const auto &[display, nativeId] : m_displays)
-        delete display;
 }
 
 bool State::load() {
@@ -60,7 +43,13 @@ bool State::load() {
     }
     const CKZRTString directory(m_settings.getProfilesDirectory().c_str());
     const CKZRTString name(m_settings.getCurrentProfile().c_str());
-    if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) return false;
+    if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) {
+        // The load is tried anew by every entry.
+        if (!std::exchange(m_isProfileFailureTold, true))
+            logMessage(LogError, "%s",
+                       (failureText("load device profile", name.data()) + " from " + directory.data()).c_str());
+        return false;
+    }
     m_windowSystem = std::make_shared<glove::WSAPI>();
     capability::SystemReportFiller filler(m_report, [this](const capability::ReportRecord &record) {
         if (m_uiLink.isAttached()) m_uiLink.post(reportMessage(record));
@@ -139,9 +128,8 @@ bool ensureLoaded() {
     // There is no way back from here but the end of the process.
     if (isStateLoaded.load(std::memory_order_acquire)) return true;
     const std::lock_guard lock(globalStateMutex);
-    if (isStateOver) return false;
-    if (!globalState.state) globalState.state = std::make_shared<State>();
-    if (!globalState.state->load()) return false;
+    if (!globalState) globalState = new State;
+    if (!globalState->load()) return false;
     isStateLoaded.store(true, std::memory_order_release);
     return true;
 }
@@ -151,7 +139,7 @@ std::mutex &stateMutex() {
 }
 
 State &state() {
-    return *globalState.state;
+    return *globalState;
 }
 
 } // namespace egl

@@ -1,4 +1,4 @@
-// The state of the process: made and loaded by the first EGL call that needs it, and never unloaded by any.
+// The state of the process: made and loaded by the first EGL call that needs it, and never unloaded.
 #pragma once
 
 #include <atomic>
@@ -30,7 +30,7 @@ public:
     State();
     State(const State &) = delete;
     State &operator=(const State &) = delete;
-    ~State();
+    ~State() = delete;
 
     // Does what is left to do of the load. Nothing remembers a failure: the next call tries again from the start.
     // The caller holds stateMutex.
@@ -71,7 +71,6 @@ public:
     // The XML text that the profile was read from; empty without a profile.
     [[nodiscard]] const std::string &profileText() const { return m_profileText; }
     [[nodiscard]] const UiLink &uiLink() const { return m_uiLink; }
-    // Good after the state has gone, since threads may draw while the process ends.
     [[nodiscard]] static uint64_t frameNumber() { return m_frameNumber.load(std::memory_order_relaxed); }
     static void countFrame() { m_frameNumber.fetch_add(1, std::memory_order_relaxed); }
 
@@ -82,6 +81,7 @@ private:
     Settings m_settings; // this, the profile, its text and the report are written during the load, only read after it
     DeviceProfile m_profile;
     std::string m_profileText;
+    bool m_isProfileFailureTold = false;
     DynamicLibrary m_openGLLibrary;
     std::shared_ptr<glove::WSAPI> m_windowSystem; // the state counts as loaded once this is set
     UiLink m_uiLink;                              // connects in the constructor
@@ -93,8 +93,7 @@ private:
     std::atomic<const host::EGL *> m_hostEGL = nullptr;
 };
 
-// The head of nearly every entry: makes the state and loads it. False when the load fails, and once the state has gone
-// with the statics of the process.
+// The head of nearly every entry: makes the state and loads it. False when the load fails.
 [[nodiscard]] bool ensureLoaded();
 
 // Guards the creation and load of the state, and three entries wholly. Taken before every other mutex.

@@ -36,21 +36,15 @@ Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, 
         m_attributes[attributes[0]] = attributes[1];
 }
 
-bool Surface::query(EGLint name, EGLint *value) {
-    switch (name) {
-    case EGL_WIDTH:
-    case EGL_HEIGHT:
-    case EGL_BUFFER_AGE_KHR:
-        *value = attribute(name);
-        return true;
-    default:
-        break;
+EGLint Surface::query(EGLint name, EGLint *value) {
+    const bool isOfHost = name == EGL_WIDTH || name == EGL_HEIGHT || name == EGL_BUFFER_AGE_KHR;
+    if (!isOfHost && !m_attributes.contains(name)) {
+        // A surface without a largest-pbuffer attribute answers and stores nothing; callers rely on the success.
+        return name == EGL_LARGEST_PBUFFER ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
     }
-    const auto found = m_attributes.find(name);
-    // A surface without a largest-pbuffer attribute answers and stores nothing; callers rely on the success.
-    if (found == m_attributes.end()) return name == EGL_LARGEST_PBUFFER;
-    *value = found->second;
-    return true;
+    if (!value) return EGL_BAD_PARAMETER;
+    *value = attribute(name);
+    return EGL_SUCCESS;
 }
 
 EGLint Surface::attribute(EGLint name) {

@@ -26,8 +26,8 @@ public:
     Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
             const EGLint *attributes);
 
-    // As eglQuerySurface answers: false, with value untouched, for an attribute that the surface does not have.
-    [[nodiscard]] bool query(EGLint attribute, EGLint *value);
+    // As eglQuerySurface answers: the error, and value untouched where there is one.
+    [[nodiscard]] EGLint query(EGLint attribute, EGLint *value);
     // The stored value or 0; the size comes from the host at every call, and is 0 without a host surface.
     [[nodiscard]] EGLint attribute(EGLint attribute);
     // The value of the list, or of what stands for it without one.

@@ -116,10 +116,8 @@ EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLin
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);
         if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        if (!value) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        if (desktop_clients::isOn()) return finish(standard::querySurface(*found, attribute, value));
-        if (!found->query(attribute, value)) return fail(EGL_BAD_ATTRIBUTE, EGL_FALSE);
-        return succeed(EGL_TRUE);
+        if (!desktop_clients::isOn()) return finish(found->query(attribute, value));
+        return finish(value ? standard::querySurface(*found, attribute, value) : EGL_BAD_PARAMETER);
     });
 }
 

@@ -19,9 +19,9 @@ constexpr uint32_t glTimeoutExpired = 0x911B;
 constexpr uint32_t glConditionSatisfied = 0x911C;
 constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
 
-// 0 asks for a flush too; callers rely on not waiting for commands that were never sent.
+// 0 and what is below ask for a flush too; callers rely on not waiting for commands that were never sent.
 uint32_t hostWaitFlags(EGLint flags) {
-    return static_cast<uint32_t>(flags) < 2 ? 1 : 0;
+    return flags < 2 ? 1 : 0;
 }
 
 EGLint eglWaitResult(uint32_t hostResult) {
@@ -80,7 +80,9 @@ EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *at
     for (; attributes && *attributes != EGL_NONE; ++attributes)
         wide.push_back(*attributes);
     wide.push_back(EGL_NONE);
-    return eglCreateSync(dpy, type, wide.data());
+    if (!desktop_clients::isOn()) return eglCreateSync(dpy, type, wide.data());
+    return entry(dpy, EGL_NO_SYNC,
+                 [&](Display &display) { return standard::createSync(display, type, wide.data(), EGL_BAD_ATTRIBUTE); });
 }
 
 EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value) {
@@ -96,7 +98,7 @@ using namespace egl;
 
 EGLSync EGLAPIENTRY eglCreateSync(EGLDisplay dpy, EGLenum type, const EGLAttrib *attributes) {
     return entry(dpy, EGL_NO_SYNC, [&](Display &display) {
-        return desktop_clients::isOn() ? standard::createSync(display, type, attributes)
+        return desktop_clients::isOn() ? standard::createSync(display, type, attributes, EGL_BAD_PARAMETER)
                                        : createSync(display, type, attributes);
     });
 }

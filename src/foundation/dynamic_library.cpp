@@ -1,34 +1,18 @@
 #include "foundation/dynamic_library.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <dlfcn.h>
 #include <map>
 #include <mutex>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
+#include "foundation/environment.h"
+#include "foundation/library_link.h"
 #include "foundation/log.h"
 #include "foundation/paths.h"
 #include "foundation/platform/library_directories.h"
 
 namespace {
-
-// A longer temporary directory opens nothing; callers rely on that limit.
-constexpr size_t linkNameLimit = 1024;
-
-// A name in the temporary directory that nothing has now. mkstemp would leave a file where the link has to go.
-bool makeLinkTo(const std::string &target, std::string &link) {
-    link = getTemporaryDirectory();
-    if (link.empty() || link.size() >= linkNameLimit) return false;
-    link += "tmp.XXXXXX";
-    const int file = mkstemp(link.data());
-    if (file < 0) return false;
-    close(file);
-    unlink(link.c_str());
-    return symlink(target.c_str(), link.c_str()) == 0;
-}
 
 // The link that each file was loaded through. The loader keeps every name of a library for as long as that is loaded,
 // and compares them all at each open: a file that is loaded still is opened by the name that it has.
@@ -56,16 +40,16 @@ LinkNames &linkNames() {
 }
 
 void *openThroughLink(const std::string &path) {
-    // A relative target is the link's business: it counts from the link's directory.
+    // A relative path would count from the link's directory, where nothing else lies.
+    if (!path.starts_with('/')) return nullptr;
     struct stat file {};
-    const bool isKnown = path.starts_with('/') && stat(path.c_str(), &file) == 0;
-    if (void *const handle = isKnown ? linkNames().reopen(file) : nullptr) return handle;
+    if (stat(path.c_str(), &file) != 0) return nullptr;
+    if (void *const handle = linkNames().reopen(file)) return handle;
 
-    std::string link;
-    if (!makeLinkTo(path, link)) return nullptr;
-    void *const handle = dlopen(link.c_str(), RTLD_LAZY | RTLD_GLOBAL);
-    remove(link.c_str());
-    if (handle && isKnown) linkNames().note(file, link);
+    const LibraryLink link(path);
+    if (link.path().empty()) return nullptr;
+    void *const handle = dlopen(link.path().c_str(), RTLD_LAZY | RTLD_GLOBAL);
+    if (handle) linkNames().note(file, link.path());
     return handle;
 }
 
@@ -107,8 +91,7 @@ bool DynamicLibrary::open(const std::vector<std::string> &searchPaths) {
         m_handle = openThroughLink(directory + "/" + m_name);
         if (m_handle) return true;
     }
-    m_handle = openThroughLink(m_name);
-    return m_handle != nullptr;
+    return false;
 }
 
 void *DynamicLibrary::getSymbol(const char *symbol) const {
@@ -125,7 +108,9 @@ void DynamicLibrary::keepLoaded(const char *ownSymbol) const {
 
 std::vector<std::string> esLibrarySearchPaths() {
     std::vector<std::string> paths{getOwnDirectory()};
-    if (const char *extra = getenv("KZRTRACE_LIB_PATH")) paths.emplace_back(extra);
+    if (const char *extra = findVariable("KZRTRACE_LIB_PATH")) {
+        paths.emplace_back(*extra == '/' ? extra : getFirstWorkingDirectory() + "/" + extra);
+    }
     return paths;
 }
 

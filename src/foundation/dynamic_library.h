@@ -17,9 +17,8 @@ public:
     DynamicLibrary &operator=(const DynamicLibrary &other);
     ~DynamicLibrary();
 
-    // Tries each directory in turn and then the bare name, which only finds a library in the temporary directory.
-    // Closes a handle that is held first, but leaves it to the copies if there are any. False when nothing could be
-    // opened.
+    // Tries each directory in turn; a relative one has nothing. Closes a handle that is held first, but leaves it to
+    // the copies if there are any. False when nothing could be opened.
     bool open(const std::vector<std::string> &searchPaths);
     // Null when nothing is loaded, when the library lacks the symbol, or when symbol is null.
     [[nodiscard]] void *getSymbol(const char *symbol) const;
@@ -40,7 +39,8 @@ extern const char *const hostOpenGLLibraryName;
 extern const char *const es1LibraryName;
 extern const char *const es2LibraryName;
 
-// The directory of this library, then $KZRTRACE_LIB_PATH where it is set. The variable is read at every call.
+// The directory of this library, then $KZRTRACE_LIB_PATH where it is set. The variable is read at every call; a
+// relative one counts from getFirstWorkingDirectory().
 [[nodiscard]] std::vector<std::string> esLibrarySearchPaths();
 // The directory of this library, then the system's library directories.
 [[nodiscard]] std::vector<std::string> hostLibrarySearchPaths();

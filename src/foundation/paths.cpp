@@ -1,7 +1,6 @@
 #include "foundation/paths.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
@@ -9,8 +8,22 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "foundation/environment.h"
+
+namespace {
+
+// Kept for good: threads and exit handlers ask while the process ends.
+const std::string &keep(std::string path) {
+    return *new std::string(std::move(path));
+}
+
+// Asked as the library is loaded, since a path that the loader found it by may be relative.
+[[maybe_unused]] const std::string &settledWhenLoaded = getOwnDirectory();
+
+} // namespace
+
 const std::string &getOwnDirectory() {
-    static const std::string directory = [] {
+    static const std::string &directory = keep([] {
         Dl_info image{};
         if (dladdr(reinterpret_cast<const void *>(&getOwnDirectory), &image) == 0 || !image.dli_fname) {
             return std::string();
@@ -19,17 +32,25 @@ const std::string &getOwnDirectory() {
         const auto slash = path.rfind('/');
         if (slash == std::string::npos) return path;
         path.resize(slash);
-        // The loader found it by a relative search path; the links by which libraries are opened lie elsewhere.
+        // The loader found it by a relative search path, which counts from the directory that the process is in now.
         if (path.empty() || path.front() == '/') return path;
         std::error_code failed;
         const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
         return failed ? path : absolute.string();
-    }();
+    }());
+    return directory;
+}
+
+const std::string &getFirstWorkingDirectory() {
+    static const std::string &directory = keep([] {
+        std::error_code failed;
+        return std::filesystem::current_path(failed).string();
+    }());
     return directory;
 }
 
 bool getHomeDirectory(std::string &path) {
-    if (const char *home = getenv("HOME")) {
+    if (const char *home = findVariable("HOME")) {
         path = home;
     } else if (const passwd *user = getpwuid(getuid()); user && user->pw_dir) {
         path = user->pw_dir;
@@ -46,7 +67,7 @@ bool getConfigDirectory(std::string &path) {
 }
 
 bool getProfilePathFromEnvironment(std::string &path) {
-    const char *value = getenv("ZELVANE_PROFILE_PATH");
+    const char *value = findVariable("ZELVANE_PROFILE_PATH");
     if (!value) return false;
     path = value;
     return true;
@@ -58,9 +79,11 @@ FILE *openForReading(const std::string &path) {
     if (descriptor < 0) return nullptr;
     struct stat found {};
     const bool isKnown = fstat(descriptor, &found) == 0;
-    FILE *stream = isKnown && S_ISREG(found.st_mode) ? fdopen(descriptor, "r") : nullptr;
+    // What the process may read and its user may not is not to be told by way of a parser.
+    const bool isForeign = hasForeignRights() && found.st_uid != getuid();
+    FILE *stream = isKnown && !isForeign && S_ISREG(found.st_mode) ? fdopen(descriptor, "r") : nullptr;
     if (stream) return stream;
-    const int reason = isKnown && S_ISDIR(found.st_mode) ? EISDIR : isKnown ? ENOTSUP : errno;
+    const int reason = isForeign ? EACCES : isKnown && S_ISDIR(found.st_mode) ? EISDIR : isKnown ? ENOTSUP : errno;
     close(descriptor);
     errno = reason;
     return nullptr;

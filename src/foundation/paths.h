@@ -1,12 +1,16 @@
-// Where this library, the user's files and temporary files lie. All of it may be called from any thread that does not
-// change the environment at the same time.
+// Where this library, the user's files and temporary files lie. Variables count as findVariable finds them. All of it
+// may be called from any thread that does not change the environment at the same time.
 #pragma once
 
 #include <cstdio>
 #include <string>
 
-// Directory of this library without a trailing slash, found once for the process. Empty when the loader cannot tell.
+// Directory of this library without a trailing slash, found when the library is loaded. Empty when the loader cannot
+// tell.
 [[nodiscard]] const std::string &getOwnDirectory();
+
+// The working directory at the first call. Empty when there was none.
+[[nodiscard]] const std::string &getFirstWorkingDirectory();
 
 // $HOME, or the home directory of the user database when the variable is not set. False when the result is empty.
 [[nodiscard]] bool getHomeDirectory(std::string &path);
@@ -22,5 +26,6 @@
 [[nodiscard]] std::string getTemporaryDirectory();
 
 // Null, with errno set, when the file cannot be opened or is no regular one (ENOTSUP; EISDIR for a directory): a pipe
-// would wait for its writer, and a device may have no end. The caller closes the stream.
+// would wait for its writer, and a device may have no end. A process with foreign rights opens its user's own files
+// alone (EACCES). The caller closes the stream.
 [[nodiscard]] FILE *openForReading(const std::string &path);

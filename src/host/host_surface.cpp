@@ -17,8 +17,8 @@ constexpr uint32_t glTexture2D = 0xDE1;
 // No view equals no object: a context without a view flushes for a surface without a native object.
 bool isViewOf(const host::platform::ContextContainer *container, const NativeObject &native) {
     if (native.isPixelBuffer()) return false; // a pixel buffer is nobody's view
-    const auto view = operations.view(container);
-    return native.isView() ? view == native.view : view.window == 0;
+    // The window alone counts: another display may name the same one.
+    return operations.view(container).window == native.view.window;
 }
 
 // Acts on what the thread last made current, whatever surface asks.

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "foundation/environment.h"
 #include "foundation/paths.h"
 #include "preferences/fnv1_hash.h"
 
@@ -67,6 +68,12 @@ bool ensureFile(const std::string &directory, const std::string &path, std::stri
     return true;
 }
 
+// For a process that writes nothing.
+FILE *openOrTemplate(const std::string &path) {
+    if (FILE *stream = openForReading(path)) return stream;
+    return fmemopen(const_cast<char *>(fileTemplate.data()), fileTemplate.size(), "r");
+}
+
 } // namespace
 
 bool KZRPreferencesUnix::getPreferenceDirectory(std::string &directory, bool systemWide) {
@@ -75,7 +82,7 @@ bool KZRPreferencesUnix::getPreferenceDirectory(std::string &directory, bool sys
         directory = "/etc/.kzrconfig/Tarnwell Graphics";
         return true;
     }
-    if (const char *own = getenv("ZELVANE_PREFERENCES_DIRECTORY"); own && *own) {
+    if (const char *own = findVariable("ZELVANE_PREFERENCES_DIRECTORY"); own && *own) {
         directory = own;
         return true;
     }
@@ -91,7 +98,10 @@ PreferenceFile KZRPreferencesUnix::openPreferenceFile(const std::string &name, i
         return file;
     }
     file.path = fileIn(directory, name);
-    if (mode == readPreferences) {
+    if (hasForeignRights()) {
+        file.stream = mode == readPreferences ? openOrTemplate(file.path) : nullptr;
+        errno = EACCES;
+    } else if (mode == readPreferences) {
         if (!ensureFile(directory, file.path, error)) return file;
         file.stream = openForReading(file.path);
     } else {

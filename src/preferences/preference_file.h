@@ -21,7 +21,8 @@ public:
     [[nodiscard]] virtual bool getPreferenceDirectory(std::string &directory, bool systemWide) = 0;
     // Reading creates a missing file, and its directories, from a template without keys. Every mode but reading
     // writes: an atomic writePreferences into PATH.tmp, anything else into the file itself. Without a stream, error
-    // says why. Each record goes to closePreferenceFile in the end.
+    // says why. A process with foreign rights writes nothing: it reads the template where there is no
+    // file of its user's. Each record goes to closePreferenceFile in the end.
     [[nodiscard]] virtual PreferenceFile openPreferenceFile(const std::string &name, int mode, bool systemWide,
                                                             bool atomic, std::string &error) = 0;
     // A commit gives PATH.tmp the place of the file. Does nothing without a stream.

@@ -15,7 +15,7 @@ std::optional<EsVersion> findVersion(int32_t major, int32_t minor) {
 
 } // namespace
 
-const DeviceProfile defaultProfile{};
+const DeviceProfile &defaultProfile = *new DeviceProfile;
 
 bool isDefaultProfile(const DeviceProfile &profile) {
     return profile.configs == defaultProfile.configs && profile.name == defaultProfile.name;

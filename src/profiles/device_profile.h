@@ -19,8 +19,8 @@ struct DeviceProfile {
     bool hasConfigsOfHostOnly = false; // for desktop clients: configs that the host does not have are left out
 };
 
-// No device: one built-in config and every ES version.
-extern const DeviceProfile defaultProfile;
+// No device: one built-in config and every ES version. Never destroyed, since threads may ask while the process ends.
+extern const DeviceProfile &defaultProfile;
 
 // Compares configs and name; versions do not count.
 [[nodiscard]] bool isDefaultProfile(const DeviceProfile &profile);

@@ -24,7 +24,7 @@ std::string textOf(const tinyxml2::XMLElement *element) {
 
 } // namespace
 
-const std::vector<std::string_view> embeddedProfiles = {
+const std::vector<std::string_view> &embeddedProfiles = *new std::vector<std::string_view>{
 #define EMBEDDED_PROFILE(file) std::string_view(zelvane_profile_##file, zelvane_profile_end_##file),
 #include "profiles/data/embedded_profiles.def"
 #undef EMBEDDED_PROFILE

@@ -1,4 +1,5 @@
-// The device profiles inside the library. Filled before the first EGL call, constant afterwards.
+// The device profiles inside the library. Filled before the first EGL call, constant afterwards,
+// and never destroyed, since threads may look while the process ends.
 #pragma once
 
 #include <string>
@@ -8,7 +9,7 @@
 namespace egl {
 
 // XML texts, in the order in which a name is looked for.
-extern const std::vector<std::string_view> embeddedProfiles;
+extern const std::vector<std::string_view> &embeddedProfiles;
 
 // The name that a profile text is chosen by: its device, or "Generic " and its renderer. Empty when it has neither or
 // does not parse.

@@ -1,7 +1,9 @@
 #include "ui/message_builders.h"
 
 #include <algorithm>
-#include <cstring>
+#include <string>
+
+#include "zelvane/message_builders.h"
 
 namespace ui::messages {
 
@@ -29,11 +31,6 @@ template <size_t size>
 void copyList(uint32_t (&field)[size], List list) {
     const List fitting = list.first(std::min(list.size(), size - 1));
     std::copy(fitting.begin(), fitting.end(), field);
-}
-
-template <size_t size>
-void copyValues(uint32_t (&field)[size], const uint32_t (&values)[size]) {
-    std::copy(std::begin(values), std::end(values), field);
 }
 
 Message withText(zvMessageType type, std::string_view text) {
@@ -71,42 +68,31 @@ Message logError(std::string_view text) {
 }
 
 Message backEndText(uint32_t first, uint32_t second, std::string_view text) {
-    Message message = withoutFrame(ZV_BACK_END_TEXT);
-    copyValues(message.backEndText.values, {first, second});
-    copyText(message.backEndText.text, text);
-    return message;
+    return zvBuildBackEndText(first, second, std::string(text).c_str());
 }
 
 Message backEndMarker() {
-    return withoutFrame(ZV_BACK_END_MARKER);
+    return zvBuildBackEndMarker();
 }
 
 Message backEndRecord(const uint32_t (&values)[4], std::string_view text) {
-    Message message = withoutFrame(ZV_BACK_END_RECORD);
-    copyValues(message.backEndRecord.values, values);
-    copyText(message.backEndRecord.text, text);
-    return message;
+    return zvBuildBackEndRecord(values, std::string(text).c_str());
 }
 
 Message backEndNamedText(uint32_t value, std::string_view name, std::string_view text) {
-    Message message = withoutFrame(ZV_BACK_END_NAMED_TEXT);
-    message.backEndNamedText.value = value;
-    copyText(message.backEndNamedText.name, name);
-    copyText(message.backEndNamedText.text, text);
-    return message;
+    return zvBuildBackEndNamedText(value, std::string(name).c_str(), std::string(text).c_str());
 }
 
 Message backEndLists(const BackEndLists &lists) {
-    Message message = withoutFrame(ZV_BACK_END_LISTS);
-    auto &payload = message.backEndLists;
-    payload.key = lists.key;
-    payload.number = lists.number;
-    copyValues(payload.firstValues, lists.firstValues);
-    for (size_t index = 0; index < std::size(lists.firstLists); ++index)
-        copyList(payload.firstLists[index], lists.firstLists[index]);
-    copyValues(payload.lastValues, lists.lastValues);
-    copyList(payload.lastList, lists.lastList);
-    return message;
+    const auto listOf = [](List list) { return zvList{list.data(), list.size()}; };
+    const auto &[first, second, third] = lists.firstLists;
+    const zvLists all{lists.key,
+                      lists.number,
+                      {lists.firstValues[0], lists.firstValues[1]},
+                      {listOf(first), listOf(second), listOf(third)},
+                      {lists.lastValues[0], lists.lastValues[1]},
+                      listOf(lists.lastList)};
+    return zvBuildBackEndLists(&all);
 }
 
 Message guiDisconnect() {

@@ -2,8 +2,11 @@
 
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
+
+#include "ui/platform/peer.h"
 
 namespace KZRIPC {
 
@@ -22,9 +25,26 @@ struct Address {
     [[nodiscard]] const sockaddr *get() const { return reinterpret_cast<const sockaddr *>(&address); }
 };
 
+bool setBlocking(int descriptor, bool isBlocking) {
+    const int flags = fcntl(descriptor, F_GETFL);
+    return flags >= 0 && fcntl(descriptor, F_SETFL, isBlocking ? flags & ~O_NONBLOCK : flags | O_NONBLOCK) == 0;
+}
+
+// Anybody may listen in the temporary directory; records are for this user's eyes.
+bool isTrusted(int descriptor) {
+    const auto user = peerUser(descriptor);
+    return user && (*user == geteuid() || *user == 0);
+}
+
+// Without waiting: a listener that has stopped with a full queue is nobody's listener.
 bool connectTo(const std::string &path, int descriptor) {
     const Address address(path);
-    return descriptor >= 0 && address.length && connect(descriptor, address.get(), address.length) >= 0;
+    if (descriptor < 0 || !address.length || !setBlocking(descriptor, false)) return false;
+    const bool isConnected = connect(descriptor, address.get(), address.length) == 0;
+    if (!setBlocking(descriptor, true) || !isConnected) return false;
+    if (isTrusted(descriptor)) return true;
+    shutdown(descriptor, SHUT_RDWR);
+    return false;
 }
 
 bool listenAt(const std::string &path, int descriptor, int backlog) {

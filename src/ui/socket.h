@@ -40,7 +40,7 @@ class ServerSocket;
 // One end of a connection. Copies use the same descriptor.
 class Socket {
 public:
-    // Connects; failed() tells whether there is a listener.
+    // Connects without waiting; failed() tells whether there is a listener of this user or of root who takes us.
     explicit Socket(const std::string &path);
     // Takes an accepted descriptor over.
     explicit Socket(int descriptor);

@@ -72,7 +72,14 @@ TEST_F(MakeCurrent, FailuresAndWhatSurvivesThem) {
     expectNothingCurrent(); // a bind without surfaces loses the old context too
 
     useBackEnds("no_create");
-    EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, context()));
+    EXPECT_EQ(errorsOf([&] { EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, context())); }),
+              "(Error) failed to find zvCreateEsContext in 'libGLESv2.so.2'\n");
+    useBackEnds("back_ends");
+    recordingFailNext("createContext");
+    const EGLContext refused = context();
+    for (const char *words :
+         {"(Error) The host has given no OpenGL context of version 3.2 or above for OpenGL ES 2 and 3\n", ""})
+        EXPECT_EQ(errorsOf([&] { EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, refused)); }), words);
 }
 
 TEST_F(MakeCurrent, ContextBelongsToOneThread) {

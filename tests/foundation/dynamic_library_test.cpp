@@ -5,6 +5,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 
+#include "foundation/library_link.h"
 #include "foundation/paths.h"
 #include "support/environment.h"
 
@@ -36,8 +37,10 @@ protected:
 };
 
 TEST_F(DynamicLibraryTest, SearchOrder) {
-    const fs::path inTemporary = fs::path(getenv("TMPDIR")) / "bare.so";
-    fs::copy_file(ZELVANE_LOADABLE, inTemporary);
+    // Whoever may write there had the bare name opened.
+    const fs::path planted = fs::path(getenv("TMPDIR")) / "planted.so";
+    fs::copy_file(ZELVANE_LOADABLE, planted);
+    fs::current_path(directory);
     const auto expectSearch = [&](const std::string &file, const std::vector<std::string> &paths, bool isLoaded,
                                   const char *reason) {
         DynamicLibrary tried(file);
@@ -46,9 +49,14 @@ TEST_F(DynamicLibraryTest, SearchOrder) {
     };
 #define SEARCH(...) expectSearch(__VA_ARGS__);
 #include "foundation/data/searches.def"
-    fs::remove(inTemporary);
-    const Variable variable("KZRTRACE_LIB_PATH", directory);
-    EXPECT_EQ(esLibrarySearchPaths(), (std::vector<std::string>{getOwnDirectory(), directory}));
+    fs::remove(planted);
+    for (const auto &[value, wanted] : {std::pair("ours"s, directory.string() + "/ours"),
+                                        {"ours", directory.string() + "/ours"},
+                                        {"/other", "/other"}}) {
+        const Variable variable("KZRTRACE_LIB_PATH", value);
+        EXPECT_EQ(esLibrarySearchPaths(), (std::vector<std::string>{getOwnDirectory(), wanted}));
+        fs::current_path("/"); // the directory at the first call counts
+    }
 }
 
 TEST_F(DynamicLibraryTest, LastCopyCloses) {
@@ -78,6 +86,27 @@ TEST_F(DynamicLibraryTest, LongTemporaryDirectoryOpensNothing) {
         const Variable variable("TMPDIR", longest + end);
         EXPECT_EQ(library.open({directory}), end == "d"s);
     }
+}
+
+TEST_F(DynamicLibraryTest, LinksLieInADirectoryOfOurOwnForAMoment) {
+    const fs::path runtime = directory / "runtime";
+    fs::create_directory(runtime);
+    for (const char *value : {runtime.c_str(), "/missing", "relative"}) {
+        const Variable variable("XDG_RUNTIME_DIR", value);
+        const LibraryLink link(directory / name);
+        const fs::path made = fs::path(link.path()).parent_path();
+        EXPECT_EQ(made.parent_path(), value == runtime ? runtime : fs::path(getenv("TMPDIR")));
+        EXPECT_EQ(fs::status(made).permissions(), fs::perms::owner_all);
+    }
+    EXPECT_TRUE(fs::is_empty(runtime));
+}
+
+TEST_F(DynamicLibraryTest, ATemporaryDirectoryThatTakesNoLinksIsNamedOnce) {
+    const Variable variable("TMPDIR", "/missing");
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(library.open({directory, directory}));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "(Error) Failed to make a link to a library below '/missing/': No such file or directory\n");
 }
 
 } // namespace

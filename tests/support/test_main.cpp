@@ -36,6 +36,7 @@ int main(int argc, char **argv) {
     setenv("TMPDIR", (directory + "/tmp").c_str(), 1);
     unsetenv("ZELVANE_PROFILE_PATH");
     unsetenv("KZRTRACE_LIB_PATH");
+    unsetenv("XDG_RUNTIME_DIR");
     setenv("LSAN_OPTIONS", ZELVANE_LEAK_OPTIONS, 1); // for the commands that cases run
 
     const int result = RUN_ALL_TESTS();

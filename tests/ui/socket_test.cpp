@@ -4,9 +4,13 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <filesystem>
 #include <poll.h>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
+
+#include "support/environment.h"
 
 using namespace KZRIPC;
 
@@ -66,6 +70,39 @@ TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
     while (poll(&room, 1, 0) == 1) // until nothing more goes in, so that the sender waits
         std::this_thread::yield();
     client.close();
+}
+
+// The first call of an application waited for such a listener, for ever.
+TEST_F(Transport, AListenerWithAFullQueueIsNobodys) {
+    const ServerSocket server(name, 1);
+    int connected = 0;
+    while (!Client(name).failed())
+        ++connected;
+    EXPECT_GE(connected, 1);
+    EXPECT_TRUE(Client(name).send("x", 1) < 0);
+}
+
+TEST_F(Transport, AListenerOfAnotherUserHearsNothing) {
+    if (getuid() != 0) GTEST_SKIP() << "only root can be another user";
+    std::string open = "/tmp/zelvane-open.XXXXXX";
+    ASSERT_TRUE(mkdtemp(open.data()) && chmod(open.c_str(), 0777) == 0);
+    const Variable directory("TMPDIR", open);
+    ASSERT_EQ(seteuid(65534), 0);
+    const ServerSocket server(name, 4);
+    ASSERT_EQ(seteuid(0), 0);
+    ASSERT_FALSE(server.failed());
+    signal(SIGPIPE, SIG_IGN);
+    Client client(name);
+    EXPECT_TRUE(client.failed() && client.send("x", 1) < 0);
+    EXPECT_EQ(Client(server).receive(bytes, sizeof bytes), 0);
+    std::filesystem::remove_all(open);
+}
+
+TEST_F(Transport, NoEndGoesToProgramsThatTheProcessStarts) {
+    const ServerSocket server(name, 1);
+    const Client client(name), accepted(server);
+    for (const int descriptor : {server.descriptor(), client.descriptor(), accepted.descriptor()})
+        EXPECT_EQ(fcntl(descriptor, F_GETFD), FD_CLOEXEC);
 }
 
 } // namespace

@@ -83,14 +83,17 @@ TEST_F(BackEnd, GivesFunctionsForNamesOfEsAlone) {
 TEST_F(BackEnd, WritesSrgbValuesWhereTheImageTakesThem) {
     constexpr GLenum framebufferSrgb = 0x8DB9;
     start(3, 0, true);
-    EXPECT_EQ(ES(glIsEnabled)(framebufferSrgb), GL_TRUE);
     attribs.srgbFramebuffer = 0;
     OWN(zvSetEsContextAttribs)(current, &attribs);
-    EXPECT_EQ(ES(glIsEnabled)(framebufferSrgb), GL_FALSE);
 
     drawToImage(GL_SRGB8_ALPHA8);
     clear(0.5F, 0.5F, 0.5F);
     EXPECT_NEAR(pixel(2, 2)[0], 188, 1);
+    ES(glDisable)(framebufferSrgb);
+    clear(0.5F, 0.5F, 0.5F);
+    EXPECT_NEAR(pixel(2, 2)[0], 128, 1) << "the application's switch";
+    EXPECT_EQ(integer(framebufferSrgb), GL_FALSE);
+    ES(glEnable)(framebufferSrgb);
     ES(glBindFramebuffer)(GL_FRAMEBUFFER, 0);
     clear(0.5F, 0.5F, 0.5F);
     EXPECT_NEAR(pixel(2, 2)[0], 128, 1) << "the surface does not";

@@ -55,6 +55,29 @@ TEST_F(BackEnd, TheProfilesDeviceAnswersAsFarAsTheHostCarriesIt) {
     EXPECT_EQ(integer(GL_COMPRESSED_TEXTURE_FORMATS), 37492);
 }
 
+TEST_F(BackEnd, WhatADesktopsProfileDoesNotSayIsTheHosts) {
+    start(3, 0);
+    const std::string extensions = text(GL_EXTENSIONS);
+    const GLint formats = integer(GL_NUM_COMPRESSED_TEXTURE_FORMATS);
+    profileText =
+        "<profile><es version='30'><max_texture_size>512</max_texture_size></es><egl host_only='true'/></profile>";
+    start(3, 0);
+    EXPECT_EQ(text(GL_EXTENSIONS), extensions);
+    EXPECT_EQ(integer(GL_NUM_COMPRESSED_TEXTURE_FORMATS), formats);
+    EXPECT_EQ(integer(GL_MAX_TEXTURE_SIZE), 512);
+}
+
+TEST_F(BackEnd, DesktopProgramsGetExtensionsWhoseFunctionsOthersCannotCall) {
+    const char *const names[] = {"GL_EXT_clip_control", "GL_KHR_robustness", "GL_OES_texture_view",
+                                 "GL_ANDROID_extension_pack_es31a"};
+    setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+    start(3, 2);
+    for (const char *name : names)
+        EXPECT_THAT(text(GL_EXTENSIONS), testing::HasSubstr(name));
+    ES(glClipControlEXT)(GL_UPPER_LEFT_EXT, GL_ZERO_TO_ONE_EXT);
+    EXPECT_EQ(integer(GL_CLIP_ORIGIN_EXT), GL_UPPER_LEFT_EXT);
+}
+
 TEST_F(BackEnd, ListsTheSameExtensionsInBothForms) {
     start(3, 0);
     const auto count = static_cast<GLuint>(integer(GL_NUM_EXTENSIONS));
@@ -64,6 +87,7 @@ TEST_F(BackEnd, ListsTheSameExtensionsInBothForms) {
                   std::string(reinterpret_cast<const char *>(ES(glGetStringi)(GL_EXTENSIONS, index)));
     EXPECT_EQ(joined, text(GL_EXTENSIONS));
     EXPECT_EQ(joined.find("GL_ARB_"), std::string::npos) << "means nothing to an ES program";
+    EXPECT_EQ(joined.find("GL_EXT_clip_control"), std::string::npos) << "its function is for desktop programs";
     for (const char *name : {"GL_OES_mapbuffer", "GL_OES_vertex_array_object", "GL_EXT_discard_framebuffer"})
         EXPECT_THAT(joined, testing::HasSubstr(name));
     EXPECT_EQ(ES(glGetStringi)(GL_EXTENSIONS, count), nullptr);

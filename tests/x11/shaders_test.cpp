@@ -72,6 +72,10 @@ TEST_F(BackEndShaders, AProgramIsAVertexAndAFragmentShader) {
         return status;
     };
     EXPECT_EQ(isLinked(), GL_FALSE);
+    ES(glProgramParameteri)(half, GL_PROGRAM_SEPARABLE, GL_TRUE);
+    EXPECT_EQ(isLinked(), GL_TRUE) << "a pipeline has the other stage from elsewhere";
+    ES(glProgramParameteri)(half, GL_PROGRAM_SEPARABLE, GL_FALSE);
+    EXPECT_EQ(isLinked(), GL_FALSE);
     attach(half, compile(GL_FRAGMENT_SHADER, {greenFragment}));
     EXPECT_EQ(isLinked(), GL_TRUE);
 }

@@ -59,7 +59,7 @@ _zelvane() {
     fi
     local words
     case $verb in
-    run) words='--profile --strict --loose --backends --monitor --help' ;;
+    run) words='--profile --bare --strict --loose --backends --monitor --help' ;;
     profiles) words='show check --json --names --help' ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
     strict) words='on off --help' ;;

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <sstream>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include "tools/command/failure.h"
@@ -39,12 +40,16 @@ std::string findProgram(const std::string &name) {
     return {};
 }
 
-// The loader takes no search path from us for programs that run with the rights of somebody else.
-bool runsForSomebodyElse(const std::string &file) {
+// Why the loader takes no search path from us, if it does not.
+const char *foreignRights(const std::string &file) {
     struct stat found {};
-    if (stat(file.c_str(), &found) != 0) return false;
-    return (found.st_mode & S_ISUID && found.st_uid != getuid()) ||
-           (found.st_mode & S_ISGID && found.st_gid != getgid());
+    if (stat(file.c_str(), &found) != 0) return nullptr;
+    const bool isSomebodyElses =
+        (found.st_mode & S_ISUID && found.st_uid != getuid()) || (found.st_mode & S_ISGID && found.st_gid != getgid());
+    if (isSomebodyElses) return " runs with the rights of another user";
+    // To root they give nothing that it lacks.
+    const bool hasCapabilities = getxattr(file.c_str(), "security.capability", nullptr, 0) > 0;
+    return hasCapabilities && getuid() != 0 ? " has file capabilities" : nullptr;
 }
 
 bool isOurs(const std::string &name) {
@@ -93,8 +98,8 @@ void checkProgram(const std::vector<std::string> &words, const std::string &libr
     if (elf.kind == ElfProgram::notElf) return;
     if (elf.kind == ElfProgram::otherMachine)
         failCommand(quoted(program) + " is built for another kind of machine than this library");
-    if (runsForSomebodyElse(program))
-        failCommand(quoted(program) + " runs with the rights of another user, so the loader takes no library of ours");
+    if (const char *rights = foreignRights(program))
+        failCommand(quoted(program) + rights + ", so the loader takes no library of ours");
     if (elf.kind == ElfProgram::fixed) {
         std::cerr << "zelvane: warning: " << quoted(program) << " is linked statically: it loads no library of ours\n";
         return;

@@ -1,23 +1,16 @@
 #include "tools/run/libraries.h"
 
+#include <filesystem>
+
 #include "foundation/dynamic_library.h"
+#include "tools/command/failure.h"
+#include "tools/command/own_directory.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr char ownName[] = "libEGL.so.1";
-
-// Beside the command as it was installed, or as it was built.
-fs::path ownLibraries() {
-    std::error_code error;
-    const fs::path bin = fs::read_symlink("/proc/self/exe", error).parent_path();
-    for (const char *relative : {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES}) {
-        const fs::path directory = (bin / relative).lexically_normal();
-        if (fs::exists(directory / ownName, error)) return directory;
-    }
-    failCommand(std::string(ownName) + " is not beside this command, where it was installed");
-}
 
 void linkTo(const fs::path &target, const fs::path &link) {
     std::error_code error;
@@ -33,7 +26,8 @@ void linkLibrary(const fs::path &library, const fs::path &directory) {
 
 } // namespace
 
-RunLibraries::RunLibraries(const std::string &backEnds) : m_directory(ownLibraries()) {
+RunLibraries::RunLibraries(const std::string &backEnds)
+    : m_directory(ownDirectory(ownName, {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES})) {
     if (backEnds.empty()) return;
     m_links.emplace();
     bool hasAny = false;

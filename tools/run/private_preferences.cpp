@@ -7,7 +7,6 @@
 #include "preferences/preference_file.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
-#include "tools/command/profile_names.h"
 
 namespace fs = std::filesystem;
 
@@ -35,14 +34,6 @@ void copyPreferences(const std::string &directory) {
 
 PrivatePreferences::PrivatePreferences(const Wishes &wishes) {
     copyPreferences(m_directory.path());
-    if (wishes.profile.empty() && !wishes.strict) return;
-    ToolPreferences preferences;
-    if (!wishes.profile.empty()) {
-        std::string profiles = preferences.profilesDirectory();
-        checkProfileName(wishes.profile, profiles);
-        // Without a directory no profile is read, a built-in one neither.
-        if (profiles.empty()) profiles = m_directory.path();
-        preferences.setProfile(profiles, wishes.profile);
-    }
-    if (wishes.strict) preferences.setStrict(*wishes.strict);
+    settleDevice(wishes.device, m_directory.path());
+    if (wishes.strict) ToolPreferences().setStrict(*wishes.strict);
 }

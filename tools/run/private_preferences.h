@@ -5,11 +5,12 @@
 #include <string>
 
 #include "tools/command/temporary_directory.h"
+#include "tools/run/device.h"
 
 class PrivatePreferences {
 public:
     struct Wishes {
-        std::string profile; // empty leaves the user's
+        DeviceWish device;
         std::optional<bool> strict;
     };
 

@@ -68,14 +68,17 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
 } // namespace
 
 void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
-    const Verb run =
-        top.verb("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]",
-                 "The user's preferences stay as they are, and hold where no option says otherwise.\n"
-                 "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
-                 "2 when the command line is wrong.");
+    const Verb run = top.verb(
+        "run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]",
+        "The user's preferences stay as they are, and hold where no option says otherwise. Without a device\n"
+        "of the user's the program finds \"Desktop\": the configs and versions that drivers of a desktop have.\n"
+        "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
+        "2 when the command line is wrong.");
     auto options = std::make_shared<Options>();
-    run.option("--profile", options->wishes.profile, "NAME",
-               "the device that it finds; \"zelvane profiles\" lists them");
+    const Word profile = run.option("--profile", options->wishes.device.profile, "NAME",
+                                    "the device that it finds; \"zelvane profiles\" lists them");
+    run.flag("--bare", options->wishes.device.isBare, "no device: the built-in config and every ES version")
+        .excludes(profile);
     const Word strict = run.flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
     run.flag("--loose", options->loose, "accept contexts that the host does not wholly carry").excludes(strict);
     run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries go before our own");

@@ -32,7 +32,7 @@ bool carriesExtension(const HostFeatures &host, std::string_view name) {
 std::string announcedExtensions(const HostFeatures &host, const std::optional<EsBlock> &device) {
     std::string text;
     const auto add = [&](std::string_view name) { (text += text.empty() ? "" : " ") += name; };
-    if (device) {
+    if (device && device->listsExtensions()) {
         for (const std::string &name : device->extensionNames)
             if (carriesExtension(host, name)) add(name);
     } else {

@@ -1,5 +1,6 @@
 #include "announcement/announcement.h"
 
+#include "common/desktop_clients.h"
 #include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
@@ -10,8 +11,12 @@ namespace {
 
 constexpr GLint etc1 = 0x8D64; // GL_ETC1_RGB8_OES
 
-constexpr std::string_view esExtensionNames[] = {
-#define ES_EXTENSION(name) name,
+struct EsExtension {
+    std::string_view name;
+    bool isForAll;
+};
+constexpr EsExtension esExtensions[] = {
+#define ES_EXTENSION(name, isForAll) {name, isForAll},
 #include "data/es_extensions.def"
 #undef ES_EXTENSION
 };
@@ -21,11 +26,29 @@ struct Carried {
     int version;
     std::string_view hostExtensions;
 };
-constexpr Carried carriedExtensions[] = {
-#define CARRIED(extension, version, hostExtensions) {extension, version, hostExtensions},
-#include "announcement/carried_extensions.def"
-#undef CARRIED
+struct Bundle {
+    std::string_view name;
+    std::string_view parts;
 };
+
+#define CARRIED(...)
+#define BUNDLE(...)
+
+#undef CARRIED
+#define CARRIED(extension, version, hostExtensions) {extension, version, hostExtensions},
+constexpr Carried carriedExtensions[] = {
+#include "announcement/carried_extensions.def"
+};
+#undef CARRIED
+#define CARRIED(...)
+
+#undef BUNDLE
+#define BUNDLE(extension, parts) {extension, parts},
+constexpr Bundle bundles[] = {
+#include "announcement/carried_extensions.def"
+};
+#undef BUNDLE
+#undef CARRIED
 
 enum class Rule { least, most, range };
 struct LimitRow {
@@ -40,27 +63,45 @@ constexpr LimitRow limitRows[] = {
 };
 
 bool isCarried(const HostFeatures &host, std::string_view name) {
+    const auto known = std::ranges::find(esExtensions, name, &EsExtension::name);
+    const bool isKnown = known != std::end(esExtensions);
+    if (isKnown && !known->isForAll && !servesDesktopClients()) return false;
     const auto row = std::ranges::find(carriedExtensions, name, &Carried::name);
     if (row != std::end(carriedExtensions)) return host.carries(row->version, row->hostExtensions);
-    return std::ranges::find(esExtensionNames, name) != std::end(esExtensionNames) && host.hasExtension(name);
+    return isKnown && host.hasExtension(name);
 }
 
-// The device's in its order, otherwise all of them by name.
-std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device) {
+std::vector<std::string> carriedOf(const HostFeatures &host) {
     std::vector<std::string> names;
-    if (device) {
-        std::ranges::copy_if(device->extensionNames, std::back_inserter(names),
-                             [&](const std::string &name) { return isCarried(host, name); });
-    } else {
-        const auto add = [&](std::string_view name) {
-            if (isCarried(host, name)) names.emplace_back(name);
-        };
-        std::ranges::for_each(esExtensionNames, add);
-        std::ranges::for_each(carriedExtensions, add, &Carried::name);
-        std::ranges::sort(names);
-        names.erase(std::unique(names.begin(), names.end()), names.end());
-    }
+    const auto add = [&](std::string_view name) {
+        if (isCarried(host, name)) names.emplace_back(name);
+    };
+    std::ranges::for_each(esExtensions, add, &EsExtension::name);
+    std::ranges::for_each(carriedExtensions, add, &Carried::name);
     return names;
+}
+
+bool holdsAll(const std::vector<std::string> &names, std::string_view parts) {
+    while (!parts.empty()) {
+        const size_t end = std::min(parts.find(' '), parts.size());
+        if (std::ranges::find(names, parts.substr(0, end)) == names.end()) return false;
+        parts.remove_prefix(std::min(end + 1, parts.size()));
+    }
+    return true;
+}
+
+// All of them by name, or the device's in its order.
+std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device, bool hasBundles) {
+    std::vector<std::string> names = carriedOf(host);
+    for (const Bundle &bundle : bundles)
+        if (hasBundles && holdsAll(names, bundle.parts)) names.emplace_back(bundle.name);
+    std::ranges::sort(names);
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    if (!device || !device->listsExtensions()) return names;
+    std::vector<std::string> both;
+    std::ranges::copy_if(device->extensionNames, std::back_inserter(both),
+                         [&](const std::string &name) { return std::ranges::binary_search(names, name); });
+    return both;
 }
 
 std::string joined(const std::vector<std::string> &names) {
@@ -99,6 +140,7 @@ std::vector<double> hostFormats(const HostFeatures &host, GLint major, bool hasE
 std::vector<double> formatsOf(std::vector<double> host, const std::optional<EsBlock> &device) {
     if (!device) return host;
     const auto found = device->limits.find("compressed_texture_format");
+    if (device->isDesktop && found == device->limits.end()) return host;
     std::erase_if(host, [&](double format) {
         return found == device->limits.end() || std::ranges::find(found->second, format) == found->second.end();
     });
@@ -134,7 +176,7 @@ Announcement::Announcement(const HostFeatures &host, const char *profileText, GL
     shadingLanguageVersion = "OpenGL ES GLSL ES " + (major < 3 ? "1.00" : number(major, minor) + '0');
     vendor = device && !device->vendor.empty() ? device->vendor : hostText(GL_VENDOR);
     renderer = device && !device->renderer.empty() ? device->renderer : "Zelvane (" + hostText(GL_RENDERER) + ')';
-    extensionNames = extensionsOf(host, device);
+    extensionNames = extensionsOf(host, device, major * 10 + minor >= 31);
     extensions = joined(extensionNames);
     compressedFormats = formatsOf(hostFormats(host, major, hasOneOf("GL_OES_compressed_ETC1_RGB8_texture")), device);
     if (device) m_limits = limitsOf(*device);

@@ -14,6 +14,8 @@
 namespace {
 
 constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_framebuffer_fetch
+constexpr GLenum gpuDisjoint = 0x8FBB;                   // of EXT_disjoint_timer_query
+constexpr GLenum contextRobustAccess = 0x90F3;           // of KHR_robustness
 
 // Who answers a query.
 enum class Answer : uint64_t {
@@ -31,6 +33,10 @@ constexpr auto answers = [] {
                              GL_GENERATE_MIPMAP_HINT, GL_VERTEX_ARRAY_BINDING, GL_READ_BUFFER})
         set(static_cast<GLenum>(pname), Answer::OneNumber);
     set(fragmentShaderDiscardsSamples, Answer::OneNumber);
+    set(gpuDisjoint, Answer::OneNumber);
+    set(contextRobustAccess, Answer::OneNumber);
+    set(GL_RESET_NOTIFICATION_STRATEGY, Answer::OneNumber);
+    set(GL_FRAMEBUFFER_SRGB_EXT, Answer::OneNumber);
     for (GLenum pname = GL_DRAW_BUFFER0; pname <= GL_DRAW_BUFFER15; ++pname)
         set(pname, Answer::OneNumber);
 #define NAME_QUERY(pname, hostName, table) set(pname, Answer::ObjectName);
@@ -71,6 +77,16 @@ double oneNumber(const EsContext &context, GLenum pname) {
     }
     case fragmentShaderDiscardsSamples:
         return 1;
+    // The host's clock never stops.
+    case gpuDisjoint:
+        return 0;
+    // The host's context may be robust anyway, or another one than was asked for.
+    case contextRobustAccess:
+        return context.robustAccess;
+    case GL_RESET_NOTIFICATION_STRATEGY:
+        return context.resetStrategy;
+    case GL_FRAMEBUFFER_SRGB_EXT:
+        return context.framebuffers.mayWriteSrgb();
     default:
         return esBuffer(askHost(pname));
     }

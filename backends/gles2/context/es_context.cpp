@@ -8,11 +8,16 @@ namespace {
 constexpr GLenum programPointSize = 0x8642;
 constexpr GLenum textureCubeMapSeamless = 0x884F;
 
+// Of the attributes, as EGL has them.
+constexpr int32_t robustFlag = 4;
+constexpr int32_t losesContext = 0x31BF;
+
 } // namespace
 
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
-    : major(attribs.esMajor), minor(attribs.esMinor), announced(host, zvSettingsProfileText(settings), major, minor),
-      shared(this, share), vertices(major, host) {
+    : major(attribs.esMajor), minor(attribs.esMinor), robustAccess(attribs.contextFlags & robustFlag ? 1 : 0),
+      resetStrategy(attribs.resetStrategy == losesContext ? GL_LOSE_CONTEXT_ON_RESET : GL_NO_RESET_NOTIFICATION),
+      announced(host, zvSettingsProfileText(settings), major, minor), shared(this, share), vertices(major, host) {
     hostGl().enable(programPointSize);
     if (major >= 3) hostGl().enable(textureCubeMapSeamless);
     setAttribs(attribs);

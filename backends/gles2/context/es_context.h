@@ -32,6 +32,8 @@ public:
     // Constant after construction.
     const GLint major;
     const GLint minor;
+    const GLuint robustAccess;  // 1 when the application asked for it
+    const GLenum resetStrategy; // as glGetIntegerv gives it
     const Announcement announced;
     const ShareGroupMember<ShareGroup> shared;
 

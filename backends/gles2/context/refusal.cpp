@@ -6,7 +6,7 @@
 std::string reasonToRefuse(const ContextAttribs &attribs) {
     const HostGl *const gl = findHostGl();
     if (!gl) return "the host has no OpenGL library with the functions that it takes";
-    const HostFeatures host;
+    const HostFeatures &host = HostFeatures::ofCurrentContext();
     const char *const version = reinterpret_cast<const char *>(gl->getString(GL_VERSION));
     const std::string found = std::string("the host's context is ") + (version ? version : "of no known version");
     if (host.version() < 32) return found + "; version 3.2 is the least";

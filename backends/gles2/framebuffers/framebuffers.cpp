@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr GLenum framebufferSrgb = 0x8DB9; // the headers of ES lack the name
-
 NameTable *framebufferNames() {
     EsContext *const context = EsContext::current();
     return context ? &context->framebuffers.names : nullptr;
@@ -27,11 +25,16 @@ void Framebuffers::setSurface(bool isSrgb) {
     tellHost();
 }
 
+void Framebuffers::setMayWriteSrgb(bool may) {
+    m_mayWriteSrgb = may;
+    tellHost();
+}
+
 void Framebuffers::tellHost() {
-    const bool isWanted = m_drawn != 0 || m_isSurfaceSrgb;
+    const bool isWanted = m_mayWriteSrgb && (m_drawn != 0 || m_isSurfaceSrgb);
     if (isWanted == m_writesSrgb) return;
     m_writesSrgb = isWanted;
-    (isWanted ? hostGl().enable : hostGl().disable)(framebufferSrgb);
+    (isWanted ? hostGl().enable : hostGl().disable)(GL_FRAMEBUFFER_SRGB_EXT);
 }
 
 namespace overrides {

@@ -29,14 +29,13 @@ std::vector<GLint> attachedTypes(GLuint program) {
     return types;
 }
 
-bool isWhole(GLuint program) {
+bool isWhole(const EsContext &context, GLuint program) {
+    // The host tells of no program before its link whether it is for pipelines.
+    if (context.shared->programs.separable.find(program)) return true;
     const std::vector<GLint> types = attachedTypes(program);
     const auto has = [&](GLint type) { return std::ranges::find(types, type) != types.end(); };
-    // The host judges the others: a program without shaders, of a compute shader, or for a pipeline.
-    if (has(GL_VERTEX_SHADER) == has(GL_FRAGMENT_SHADER) || has(GL_COMPUTE_SHADER)) return true;
-    GLint isSeparable = GL_FALSE;
-    hostGl().getProgramiv(program, GL_PROGRAM_SEPARABLE, &isSeparable);
-    return isSeparable;
+    // The host judges the others: a program without shaders or of a compute shader.
+    return has(GL_VERTEX_SHADER) == has(GL_FRAGMENT_SHADER) || has(GL_COMPUTE_SHADER);
 }
 
 // A shader that was never compiled makes the host's link fail, with a log.
@@ -88,7 +87,8 @@ void GL_APIENTRY attachShader(GLuint program, GLuint shader) {
 }
 
 void GL_APIENTRY linkProgram(GLuint program) {
-    if (EsContext::current() && !isWhole(program)) {
+    const EsContext *const context = EsContext::current();
+    if (context && !isWhole(*context, program)) {
         linkInVain(program);
     } else {
         hostGl().linkProgram(program);
@@ -105,7 +105,18 @@ GLuint GL_APIENTRY createProgram() {
     const GLuint program = hostGl().createProgram();
     // The name may have been another program's.
     forgetInputs(program);
+    if (EsContext *const context = EsContext::current()) context->shared->programs.separable.remove(program);
     return program;
+}
+
+void GL_APIENTRY programParameteri(GLuint program, GLenum pname, GLint value) {
+    const HostGl &gl = hostGl();
+    gl.programParameteri(program, pname, value);
+    EsContext *const context = EsContext::current();
+    if (!context || pname != GL_PROGRAM_SEPARABLE || !gl.isProgram(program)) return;
+    SharedMap<bool> &separable = context->shared->programs.separable;
+    if (value == GL_TRUE) separable.set(program, true);
+    if (value == GL_FALSE) separable.remove(program);
 }
 
 GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar *const *strings) {
@@ -120,7 +131,7 @@ GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar
     gl.compileShader(shader);
     GLint isCompiled = GL_FALSE;
     gl.getShaderiv(shader, GL_COMPILE_STATUS, &isCompiled);
-    gl.programParameteri(program, GL_PROGRAM_SEPARABLE, GL_TRUE);
+    programParameteri(program, GL_PROGRAM_SEPARABLE, GL_TRUE);
     if (isCompiled) {
         gl.attachShader(program, shader);
         gl.linkProgram(program);

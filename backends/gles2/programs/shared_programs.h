@@ -10,6 +10,7 @@
 struct SharedPrograms {
     SharedMap<ProgramInputs> inputs;      // of programs that drew from the application's memory
     std::atomic<uint32_t> changes = 0;    // of inputs; tells contexts to look again
+    SharedMap<bool> separable;            // of programs that are to be linked for pipelines
     SharedMap<std::string> shaderSources; // of shaders: as the application gave them, where the host has another form
 
     // The program may read others from now on.

@@ -62,11 +62,15 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     setFormatSwizzle(*context, target, internalformat, host.swizzle);
 }
 
-// No part of an ETC1 image can be replaced.
+// A part of an ETC1 image can be replaced where the host keeps it compressed.
 void GL_APIENTRY compressedTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLsizei width,
                                          GLsizei height, GLenum format, GLsizei imageSize, const void *data) {
     EsContext *const context = EsContext::current();
-    if (context && format == GL_ETC1_RGB8_OES) return context->raise(GL_INVALID_OPERATION);
+    if (context && format == GL_ETC1_RGB8_OES) {
+        const bool isCarried = context->announced.hasOneOf("GL_EXT_compressed_ETC1_RGB8_sub_texture");
+        if (!isCarried) return context->raise(GL_INVALID_OPERATION);
+        format = hostTextureFormat(format).internal;
+    }
     hostGl().compressedTexSubImage2D(target, level, xoffset, yoffset, width, height, format, imageSize, data);
 }
 

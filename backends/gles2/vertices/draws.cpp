@@ -14,7 +14,7 @@ EsContext *prepare() {
 
 // draw: takes the number of the first vertex.
 template <typename Draw>
-void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) {
+void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw, GLuint firstInstance = 0) {
     EsContext *const context = prepare();
     const bool isFed = context && context->vertices.bound->enabledClientAttribs();
     // Malformed calls are passed on, so the host raises the error.
@@ -23,7 +23,7 @@ void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw) 
         const auto slot = layout->put(first, count, context->vertices.stream);
         return draw(static_cast<GLint>(*slot));
     }
-    const FedVertices vertices(*context, {first, count, instanceCount});
+    const FedVertices vertices(*context, {first, count, instanceCount, firstInstance});
     if (vertices.isComplete()) draw(first + vertices.shift());
 }
 
@@ -33,18 +33,20 @@ struct IndexedDraw {
     IndexList list;
     GLsizei instanceCount = 1;
     GLint baseVertex = 0;
+    GLuint firstInstance = 0;
 };
 
 // Arrays in the application's memory are fed for the vertices that the list names.
 // draw: takes the indices and what is added to each.
 template <typename Draw>
 void feedAndDraw(EsContext &context, const IndexedDraw &call, Draw draw) {
-    const auto &[mode, list, instanceCount, baseVertex] = call;
+    const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
     const auto drawList = [&](GLint base) {
         if (const auto indices = putIndices(context, list)) draw(*indices, base);
     };
     if (!context.vertices.bound->enabledClientAttribs()) return drawList(baseVertex);
-    if (const auto slot = gatherVertices(context, list, baseVertex)) {
+    const auto slot = firstInstance == 0 ? gatherVertices(context, list, baseVertex) : std::nullopt;
+    if (slot) {
         const auto first = static_cast<GLint>(*slot);
         if (instanceCount == 1) return hostGl().drawArrays(mode, first, list.count);
         return hostGl().drawArraysInstanced(mode, first, list.count, instanceCount);
@@ -53,14 +55,14 @@ void feedAndDraw(EsContext &context, const IndexedDraw &call, Draw draw) {
     if (!range) return;
     const int64_t first = int64_t(range->lowest) + baseVertex;
     const int64_t count = int64_t(range->highest) - range->lowest + 1;
-    const FedVertices vertices(context, {first, count, instanceCount});
+    const FedVertices vertices(context, {first, count, instanceCount, firstInstance});
     if (vertices.isComplete()) drawList(baseVertex + vertices.shift());
 }
 
 // draw: the host's function of the call. drawAt: the one that adds a number to each index.
 template <typename Draw, typename DrawAt>
 void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
-    const auto &[mode, list, instanceCount, baseVertex] = call;
+    const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
     EsContext *const context = prepare();
     if (!context) return draw();
     const VertexArrayState &state = *context->vertices.bound;
@@ -93,6 +95,14 @@ void GL_APIENTRY drawArraysIndirect(GLenum mode, const void *indirect) {
 void GL_APIENTRY drawArraysInstanced(GLenum mode, GLint first, GLsizei count, GLsizei instanceCount) {
     drawVertices(first, count, instanceCount,
                  [&](GLint from) { hostGl().drawArraysInstanced(mode, from, count, instanceCount); });
+}
+
+void GL_APIENTRY drawArraysInstancedBaseInstance(GLenum mode, GLint first, GLsizei count, GLsizei instanceCount,
+                                                 GLuint firstInstance) {
+    const auto draw = [&](GLint from) {
+        hostGl().drawArraysInstancedBaseInstance(mode, from, count, instanceCount, firstInstance);
+    };
+    drawVertices(first, count, instanceCount, draw, firstInstance);
 }
 
 void GL_APIENTRY drawElements(GLenum mode, GLsizei count, GLenum type, const void *indices) {
@@ -133,6 +143,23 @@ void GL_APIENTRY drawElementsInstancedBaseVertex(GLenum mode, GLsizei count, GLe
     };
     drawIndexed(
         {mode, {count, type, indices}, instanceCount, baseVertex}, [&] { draw(indices, baseVertex); }, draw);
+}
+
+void GL_APIENTRY drawElementsInstancedBaseInstance(GLenum mode, GLsizei count, GLenum type, const void *indices,
+                                                   GLsizei instanceCount, GLuint firstInstance) {
+    drawElementsInstancedBaseVertexBaseInstance(mode, count, type, indices, instanceCount, 0, firstInstance);
+}
+
+void GL_APIENTRY drawElementsInstancedBaseVertexBaseInstance(GLenum mode, GLsizei count, GLenum type,
+                                                             const void *indices, GLsizei instanceCount,
+                                                             GLint baseVertex, GLuint firstInstance) {
+    const auto draw = [&](const void *list, GLint base) {
+        hostGl().drawElementsInstancedBaseVertexBaseInstance(mode, count, type, list, instanceCount, base,
+                                                             firstInstance);
+    };
+    drawIndexed(
+        {mode, {count, type, indices}, instanceCount, baseVertex, firstInstance}, [&] { draw(indices, baseVertex); },
+        draw);
 }
 
 void GL_APIENTRY drawRangeElements(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type,

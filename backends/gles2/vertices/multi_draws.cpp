@@ -26,4 +26,11 @@ void GL_APIENTRY multiDrawElements(GLenum mode, const GLsizei *count, GLenum typ
     forEachDraw(primcount, [&](GLsizei index) { drawElements(mode, count[index], type, indices[index]); });
 }
 
+void GL_APIENTRY multiDrawElementsBaseVertex(GLenum mode, const GLsizei *count, GLenum type, const void *const *indices,
+                                             GLsizei primcount, const GLint *baseVertex) {
+    forEachDraw(primcount, [&](GLsizei index) {
+        drawElementsBaseVertex(mode, count[index], type, indices[index], baseVertex[index]);
+    });
+}
+
 } // namespace overrides

@@ -18,7 +18,7 @@ constexpr size_t padded(size_t size) {
 // What a draw reads of arrays with that divisor.
 DrawnVertices readOf(const DrawnVertices &drawn, GLuint divisor) {
     if (divisor == 0) return drawn;
-    return {0, (drawn.instanceCount - 1) / int64_t(divisor) + 1, drawn.instanceCount};
+    return {drawn.firstInstance, (drawn.instanceCount - 1) / int64_t(divisor) + 1, drawn.instanceCount};
 }
 
 } // namespace

@@ -12,6 +12,7 @@ struct DrawnVertices {
     int64_t first;
     int64_t count;
     int64_t instanceCount;
+    int64_t firstInstance = 0; // of arrays with a divisor
 };
 
 class StreamLayout {

@@ -15,6 +15,13 @@ bool fits(const Context &context, const Surface &surface) {
     return context.config->attributeOr0(EGL_CONFIG_ID) == 0 || surface.sizes == drawableSizes(*context.config);
 }
 
+// Waits for the first binds of the group, which claim contexts for a moment that are bound to no thread.
+bool isBoundElsewhere(const Context &context) {
+    if (threadRecord.current == &context || !context.boundToThread) return false;
+    const std::lock_guard lock(context.group->firstBinds);
+    return context.boundToThread;
+}
+
 } // namespace
 
 EGLint bindError(const Display &display, const BindRequest &request) {
@@ -22,7 +29,7 @@ EGLint bindError(const Display &display, const BindRequest &request) {
     if (!request.context || !request.draw != !request.read) return EGL_BAD_MATCH;
     const auto context = display.findContext(request.context);
     if (!context) return EGL_BAD_CONTEXT;
-    if (threadRecord.current != context.get() && context->boundToThread) return EGL_BAD_ACCESS;
+    if (isBoundElsewhere(*context)) return EGL_BAD_ACCESS;
     if (!request.draw) return EGL_SUCCESS;
     const auto draw = display.findSurface(request.draw), read = display.findSurface(request.read);
     if (!draw || !read) return EGL_BAD_SURFACE;

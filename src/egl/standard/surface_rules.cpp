@@ -134,7 +134,7 @@ EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
         *value = surface.hostSurface ? surface.storedOr(attribute, EGL_BACK_BUFFER) : EGL_SINGLE_BUFFER;
         return EGL_SUCCESS;
     default:
-        return surface.query(attribute, value) ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+        return surface.query(attribute, value);
     }
 }
 

@@ -83,9 +83,9 @@ void Syncs::clear() {
         sync->endWaits();
 }
 
-EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) {
+EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes, EGLint unknownType) {
     const bool isFence = type == EGL_SYNC_FENCE;
-    if (!isFence && type != EGL_SYNC_REUSABLE_KHR) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
+    if (!isFence && type != EGL_SYNC_REUSABLE_KHR) return fail(unknownType, EGL_NO_SYNC);
     if (attributes && *attributes != EGL_NONE) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
     std::unique_ptr<HostFence> fence;
     if (isFence) {

@@ -34,7 +34,8 @@ private:
 };
 
 // As the entries of these names, on an initialised display.
-[[nodiscard]] EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes);
+// unknownType: the error of a type that is none; the core entry and that of the extension differ in it.
+[[nodiscard]] EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes, EGLint unknownType);
 [[nodiscard]] EGLBoolean destroySync(Display &display, EGLSync handle);
 [[nodiscard]] EGLint clientWaitSync(Display &display, EGLSync handle, EGLint flags, EGLTime timeoutNs);
 [[nodiscard]] EGLBoolean waitSync(Display &display, EGLSync handle, EGLint flags);

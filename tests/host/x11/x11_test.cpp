@@ -102,10 +102,10 @@ TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
     EXPECT_EQ(applicationErrors, 2);
 }
 
-// The server dies under a context that draws. Where the application's handler lets the process live, it goes on, and
-// every operation fails.
+int applicationLosses = 0;
+
+// The server dies under a context that draws. Xlib's own handler ended the process.
 TEST(ServerThatDies, MakesEveryOperationFail) {
-    XSetIOErrorHandler([](Display *) { return 0; });
     const std::string before = getenv("DISPLAY");
     FILE *server = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp 2>/dev/null", "r");
     int process = 0, display = -1;
@@ -113,16 +113,24 @@ TEST(ServerThatDies, MakesEveryOperationFail) {
     setenv("DISPLAY", (":" + std::to_string(display)).c_str(), 1);
 
     const Format format(operations.createPixelFormat(0, coreList));
+    XSetIOErrorHandler([](Display *) { return ++applicationLosses; });
     const Context made(operations.createContext(format.get(), nullptr));
     const Buffer buffer(operations.createPixelBuffer(0, 0, 0, 8, 8, nullptr));
     ASSERT_NE(made, nullptr);
     const View root{0, DefaultRootWindow(x11::Connection::open(0)->display())};
     EXPECT_TRUE(operations.setView(made.get(), root));
     EXPECT_TRUE(operations.makeCurrent(made.get()));
+    Display *application = XOpenDisplay(nullptr);
+    XSetIOErrorExitHandler(
+        application, [](Display *, void *) {}, nullptr);
     kill(process, SIGKILL);
     pclose(server);
 
     operations.flushBuffer(made.get());
+    EXPECT_EQ(applicationLosses, 0);
+    XSync(application, False);
+    EXPECT_EQ(applicationLosses, 1) << "those of its own connections still reach the application";
+    EXPECT_EQ(operations.currentContext(), nullptr) << "the host would ask the server for the size of the drawable";
     int32_t width = -1;
     operations.viewSize(root, &width, nullptr);
     EXPECT_EQ(width, -1);

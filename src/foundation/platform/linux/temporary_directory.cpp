@@ -1,9 +1,8 @@
-#include <cstdlib>
-
+#include "foundation/environment.h"
 #include "foundation/paths.h"
 
 std::string getTemporaryDirectory() {
-    const char *value = getenv("TMPDIR");
+    const char *value = findVariable("TMPDIR");
     std::string directory = value && *value ? value : "/tmp";
     if (directory.back() != '/') directory += '/';
     return directory;

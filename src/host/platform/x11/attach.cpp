@@ -67,7 +67,9 @@ void flushBuffer(ContextContainer *container) {
     const auto &attachment = container->attachment;
     auto &connection = container->connection;
     // GLX answers a swap of a pixel buffer with an error.
-    if (!attachment.view.window || connection.isLost()) return;
+    if (!attachment.view.window) return;
+    // Hosts would go on asking the server for the size of the drawable, and not look whether it answers.
+    if (connection.isLost()) return clearCurrentContext();
     // The frame before has asked the server for the drawable's size, and with the answer came all events.
     connection.windows().takeReadEvents();
     // When it draws after a swap, such a renderer allocates by whatever size is left on its stack: gigabytes at times.
@@ -80,6 +82,7 @@ void flushBuffer(ContextContainer *container) {
     glXSwapBuffers(connection.display(), attachment.drawable);
     // Nobody else ever flushes this connection; a frame must not wait in its buffer for the next one.
     connection.flush();
+    if (connection.isLost()) return clearCurrentContext();
     if (isChild) connection.windows().readEvents(); // which bring a child to its parent's size
 }
 

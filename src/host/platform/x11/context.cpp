@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/platform/x11/pixel_format.h"
+#include "host/platform/x11/x_errors.h"
 
 namespace host::platform::x11 {
 
@@ -15,6 +16,10 @@ constexpr int coreAttributes[] = {GLX_CONTEXT_MAJOR_VERSION_ARB, 3,
                                   GLX_CONTEXT_MINOR_VERSION_ARB, 2,
                                   GLX_CONTEXT_PROFILE_MASK_ARB,  GLX_CONTEXT_CORE_PROFILE_BIT_ARB};
 
+bool isConfigless(const PixelFormat &format) {
+    return format.fitsAnyDrawable && format.connection.hasGlxExtension("GLX_EXT_no_config_context");
+}
+
 std::vector<int> contextAttributes(const PixelFormat &format) {
     const std::span<const int> ofProfile =
         format.profile == profileLegacy ? std::span<const int>(legacyAttributes) : coreAttributes;
@@ -25,6 +30,8 @@ std::vector<int> contextAttributes(const PixelFormat &format) {
             list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
         }
     }
+    // Without a config this alone tells the dispatcher which vendor's context it is to be.
+    if (isConfigless(format)) list.insert(list.end(), {GLX_SCREEN, format.connection.screen()});
     list.push_back(None);
     return list;
 }
@@ -39,8 +46,7 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
     static const auto createAttribs = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
         glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXCreateContextAttribsARB")));
     if (!createAttribs) return nullptr;
-    const bool isConfigless = format.fitsAnyDrawable && connection.hasGlxExtension("GLX_EXT_no_config_context");
-    return createAttribs(connection.display(), isConfigless ? nullptr : format.config.handle, share, True,
+    return createAttribs(connection.display(), isConfigless(format) ? nullptr : format.config.handle, share, True,
                          contextAttributes(format).data());
 }
 
@@ -66,6 +72,7 @@ void destroy(ContextContainer &container) {
 
 ContextContainer *createContext(const PixelFormat *format, ContextContainer *share) {
     if (!format || format->connection.isLost()) return nullptr;
+    keepLossesFromProcess();
     // GLX shares within a connection only.
     if (share && &share->connection != &format->connection) return nullptr;
     const GLXContext context = create(*format, share ? share->context : nullptr);

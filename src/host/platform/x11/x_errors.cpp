@@ -22,6 +22,22 @@ void noteServerLost(Display *, void *isLost) {
     static_cast<std::atomic<bool> *>(isLost)->store(true);
 }
 
+// The process's handlers for lost servers that ours stands before.
+constinit std::atomic<XIOErrorHandler> oldestHandler = nullptr;
+constinit std::atomic<XIOErrorHandler> newestHandler = nullptr;
+constinit thread_local bool isPassingOn __attribute__((tls_model("initial-exec"))) = false;
+
+// Of the process. Xlib asks it first and the display's own exit handler afterwards.
+int takeOwnLosses(Display *display) {
+    if (display->exit_handler == noteServerLost) return 0;
+    // One that was set after ours may call ours in its turn.
+    if (isPassingOn) return oldestHandler.load()(display);
+    isPassingOn = true;
+    const int result = newestHandler.load()(display);
+    isPassingOn = false;
+    return result;
+}
+
 } // namespace
 
 // The handler runs with the display locked, in whichever thread reads the error.
@@ -45,6 +61,15 @@ struct ErrorTrap::Record {
 void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost) {
     addHandler(display, new _XAsyncHandler{.next = nullptr, .handler = dropError, .data = nullptr});
     XSetIOErrorExitHandler(display, noteServerLost, &isLost);
+    keepLossesFromProcess();
+}
+
+void keepLossesFromProcess() {
+    const XIOErrorHandler replaced = XSetIOErrorHandler(takeOwnLosses);
+    if (replaced == takeOwnLosses) return;
+    XIOErrorHandler none = nullptr;
+    oldestHandler.compare_exchange_strong(none, replaced);
+    newestHandler = replaced;
 }
 
 bool hasRequestsToSend(Display *display) {

@@ -1,6 +1,7 @@
 // X errors as values. Xlib asks a display's own reply handlers before the error handler of the process, so what they
-// take reaches neither the application's handler nor Xlib's default one, which would end the process. The process's
-// handlers are never touched, and the application's displays keep all of their errors.
+// take reaches neither the application's handler nor Xlib's default one, which would end the process. The application's
+// displays keep all of their errors. For servers that go away Xlib has one handler a process alone: ours stands before
+// the application's and passes on what is not of our connections.
 #pragma once
 
 #include <atomic>
@@ -10,10 +11,12 @@
 
 namespace host::platform::x11 {
 
-// From now on, for good: every error of this display is dropped. A server that goes away sets isLost where the
-// application's handler for that returns; Xlib's default one ends the process, as it does for any connection. Both
-// arguments must live as long as the process.
+// From now on, for good: every error of this display is dropped, and a server that goes away sets isLost. Both arguments
+// must live as long as the process.
 void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost);
+
+// Puts our handler for lost servers before one that the application has set since. Any thread.
+void keepLossesFromProcess();
 
 // Whether requests wait in the display's buffer.
 [[nodiscard]] bool hasRequestsToSend(Display *display);
