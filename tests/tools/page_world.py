@@ -53,9 +53,14 @@ class World(contextlib.ExitStack):
     def start(self, words, **options):
         process = subprocess.Popen(words, env=options.pop('env', self.environment), **options)
 
+        # "zelvane run" passes the signal on to its program.
         def end():
-            process.kill()
-            process.wait()
+            process.terminate()
+            try:
+                process.wait(20)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
         self.callback(end)
         return process
 
