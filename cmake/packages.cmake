@@ -20,7 +20,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 # The host's OpenGL is opened at run time.
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_DEPENDS libgl1)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_RECOMMENDS libgl1-mesa-dri)
-set(CPACK_DEBIAN_ZELVANE_PACKAGE_SUGGESTS "xvfb, mesa-utils")
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_SUGGESTS "xvfb, mesa-utils, xdg-utils")
 
 set(CPACK_COMPONENT_ZELVANE-DEV_DESCRIPTION
     "Headers for back ends and GUIs of Zelvane, a pkg-config file and a CMake\npackage.")

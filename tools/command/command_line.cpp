@@ -93,6 +93,12 @@ Word Verb::option(const std::string &name, std::vector<std::string> &values, con
     return Word(*m_app->add_option(name, values, help)->type_name(placeholder)->allow_extra_args(false));
 }
 
+Word Verb::optionalValue(const std::string &name, std::optional<std::string> &value, const std::string &placeholder,
+                         const std::string &help) const {
+    const auto take = [&value](const std::string &text) { value = text; };
+    return Word(*m_app->add_option_function<std::string>(name, take, help)->type_name(placeholder)->expected(0, 1));
+}
+
 Word Verb::word(const std::string &name, std::string &value, const std::string &help) const {
     return Word(*m_app->add_option(name, value, help)->type_name(""));
 }

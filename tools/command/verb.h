@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,9 @@ public:
     // May be given more than once.
     Word option(const std::string &name, std::vector<std::string> &values, const std::string &placeholder,
                 const std::string &help) const;
+    // Its value may be left out, and is empty then. Without the option there is no value.
+    Word optionalValue(const std::string &name, std::optional<std::string> &value, const std::string &placeholder,
+                       const std::string &help) const;
     // A word that is no option.
     Word word(const std::string &name, std::string &value, const std::string &help) const;
     // Runs when the verb was given and none below it.

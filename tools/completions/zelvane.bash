@@ -64,7 +64,7 @@ _zelvane() {
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
     strict) words='on off --help' ;;
     report) words='--extensions --json --help' ;;
-    monitor) words='--json --once --level --process --type --help' ;;
+    monitor) words='--json --once --level --process --type --web --open --help' ;;
     esac
     mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -W "$words" -- "$word")
 }

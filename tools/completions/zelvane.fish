@@ -83,3 +83,5 @@ complete -c zelvane -n '__zelvane_has_verb monitor' -l process -xa '(__fish_comp
 complete -c zelvane -n '__zelvane_has_verb monitor' -l type -x -d 'Show these records alone' -a 'log log_info log_warning
     log_error process_hello link_stop window_title back_end back_end_text back_end_marker back_end_record
     back_end_named_text back_end_lists system_report ended'
+complete -c zelvane -n '__zelvane_has_verb monitor' -l web -d 'Serve a page for a browser too'
+complete -c zelvane -n '__zelvane_has_verb monitor' -l open -d 'Start the browser'

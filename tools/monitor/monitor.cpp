@@ -29,7 +29,8 @@ std::optional<Message> commandFor(const std::string &verb, const std::string &ar
 } // namespace
 
 Monitor::Monitor(std::unique_ptr<MonitorOutput> output, int ending, MonitorOptions options)
-    : m_output(std::move(output)), m_ending(ending), m_options(std::move(options)) {}
+    : m_output(std::move(output)), m_ending(ending), m_options(std::move(options)),
+      m_terminal{m_options.takesCommands ? STDIN_FILENO : -1, {}}, m_page{m_options.pageCommands, {}} {}
 
 void Monitor::run() {
     m_output->listening(m_listener.path(), m_options.takesCommands);
@@ -37,7 +38,8 @@ void Monitor::run() {
         std::vector<pollfd> waiting{{m_ending, POLLIN, 0},
                                     // It stays readable while nobody can be taken.
                                     {m_isFull ? -1 : m_listener.descriptor(), POLLIN, 0},
-                                    {m_options.takesCommands ? STDIN_FILENO : -1, POLLIN, 0},
+                                    {m_terminal.descriptor, POLLIN, 0},
+                                    {m_page.descriptor, POLLIN, 0},
                                     // Reports only that the reader of a pipe has gone.
                                     {STDOUT_FILENO, 0, 0}};
         const size_t first = waiting.size();
@@ -45,37 +47,45 @@ void Monitor::run() {
             waiting.push_back({application->descriptor(), POLLIN, 0});
         if (poll(waiting.data(), waiting.size(), m_isFull ? fullPauseMs : -1) < 0) {
             if (errno == EINTR) continue;
-            return m_output->notice(std::string("cannot wait for applications: ") + strerror(errno));
+            return notice(std::string("cannot wait for applications: ") + strerror(errno));
         }
-        if (waiting[3].revents) return;
+        if (waiting[4].revents) return;
         if (waiting[0].revents) return readWhatIsLeft();
         for (size_t index = first; index < waiting.size(); ++index) {
             if (waiting[index].revents) readRecord(*m_applications[index - first]);
         }
         dropEnded();
         m_isFull = waiting[1].revents && !accept();
-        if (waiting[2].revents) readCommands();
+        if (waiting[2].revents) readCommands(m_terminal);
+        if (waiting[3].revents) readCommands(m_page);
     }
 }
 
 bool Monitor::accept() {
     const Listener::Arrival arrival = m_listener.accept();
     if (arrival.client) m_applications.push_back(std::make_unique<MonitoredApplication>(*arrival.client));
-    if (!arrival.refusal.empty()) m_output->notice("sent away: " + arrival.refusal);
+    if (!arrival.refusal.empty()) {
+        const std::string text = "sent away: " + arrival.refusal;
+        m_output->sentAway(text);
+        if (m_options.page) m_options.page->sentAway(text);
+    }
     const bool isTaken = arrival.client || !arrival.refusal.empty();
-    if (!isTaken && !m_hasTold) m_output->notice("no descriptor is left: applications wait until others end");
+    if (!isTaken && !m_hasTold) notice("no descriptor is left: applications wait until others end");
     m_hasTold |= !isTaken;
     return isTaken;
 }
 
 void Monitor::readRecord(MonitoredApplication &application) {
     const auto message = application.receive();
-    if (message && m_options.filter.shows(application, message->header.type)) m_output->record(application, *message);
+    if (!message) return;
+    if (m_options.filter.shows(application, message->header.type)) m_output->record(application, *message);
+    if (m_options.page) m_options.page->record(application, *message);
 }
 
 void Monitor::dropEnded() {
     std::erase_if(m_applications, [this](const auto &application) {
         if (application->descriptor() >= 0) return false;
+        if (m_options.page) m_options.page->ended(*application);
         // One that leaves without a hello has not been shown.
         if (!application->processNumber()) return true;
         if (m_options.filter.showsEnd(*application)) m_output->ended(*application);
@@ -99,18 +109,23 @@ void Monitor::readWhatIsLeft() {
     fflush(stdout);
 }
 
-void Monitor::readCommands() {
+void Monitor::readCommands(CommandInput &input) {
     char typed[256];
-    const ssize_t count = read(STDIN_FILENO, typed, sizeof typed);
+    const ssize_t count = read(input.descriptor, typed, sizeof typed);
     if (count <= 0) {
-        m_options.takesCommands = false;
+        input.descriptor = -1;
         return;
     }
-    m_typed.append(typed, count);
-    for (size_t end = m_typed.find('\n'); end != std::string::npos; end = m_typed.find('\n')) {
-        obey(m_typed.substr(0, end));
-        m_typed.erase(0, end + 1);
+    input.typed.append(typed, count);
+    for (size_t end = input.typed.find('\n'); end != std::string::npos; end = input.typed.find('\n')) {
+        obey(input.typed.substr(0, end));
+        input.typed.erase(0, end + 1);
     }
+}
+
+void Monitor::notice(const std::string &text) {
+    m_output->notice(text);
+    if (m_options.page) m_options.page->notice(text);
 }
 
 void Monitor::obey(const std::string &line) {
@@ -137,9 +152,10 @@ void Monitor::obey(const std::string &line) {
         if (isForOne && application->processNumber() != processNumber) continue;
         if (application->send(*command)) {
             ++reached;
+            if (m_options.page) m_options.page->commanded(*application, *command);
         } else {
-            m_output->notice(std::to_string(application->processNumber()) + " takes no command now");
+            notice(std::to_string(application->processNumber()) + " takes no command now");
         }
     }
-    m_output->notice("sent to " + std::to_string(reached) + (reached == 1 ? " application" : " applications"));
+    notice("sent to " + std::to_string(reached) + (reached == 1 ? " application" : " applications"));
 }

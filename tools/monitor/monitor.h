@@ -1,5 +1,5 @@
-// The listening side of the GUI link in a terminal. Everything runs on one thread, in one poll loop: records of the
-// applications, commands of the user, and the descriptor that ends it.
+// The listening side of the GUI link. Everything runs on one thread, in one poll loop: records of the applications,
+// commands of the user, and the descriptor that ends it.
 #pragma once
 
 #include <memory>
@@ -15,6 +15,8 @@ struct MonitorOptions {
     bool takesCommands = false;    // reads lines of standard input as commands
     bool endsWithTheFirst = false; // of the applications that the filter follows
     RecordFilter filter = {};
+    MonitorOutput *page = nullptr; // is told everything, whatever the filter shows; stays the caller's
+    int pageCommands = -1;         // a pipe with lines as a user types them; stays the caller's
 };
 
 class Monitor {
@@ -35,9 +37,16 @@ private:
     void readRecord(MonitoredApplication &application);
     void dropEnded();
     void readWhatIsLeft();
-    void readCommands();
+    // Lines that are commands, and where they come from.
+    struct CommandInput {
+        int descriptor;    // negative when there are none, or no more
+        std::string typed; // a line that is not complete yet
+    };
+    void readCommands(CommandInput &input);
     // A line such as "w", "W 1234", "wire off" or "d".
     void obey(const std::string &line);
+
+    void notice(const std::string &text);
 
     std::unique_ptr<MonitorOutput> m_output;
     Listener m_listener;
@@ -46,6 +55,6 @@ private:
     bool m_isFull = false;  // applications wait for a descriptor
     bool m_hasTold = false; // that they did once
     bool m_isEnding = false;
-    std::string m_typed; // a line that is not complete yet
+    CommandInput m_terminal, m_page;
     std::vector<std::unique_ptr<MonitoredApplication>> m_applications;
 };

@@ -1,8 +1,10 @@
 // zelvane monitor: watch applications, and switch their render mode.
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <csignal>
 #include <cstring>
+#include <optional>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +14,8 @@
 #include "tools/command/verbs.h"
 #include "tools/monitor/monitor.h"
 #include "tools/monitor/record_fields.h"
+#include "tools/monitor/web/browser.h"
+#include "tools/monitor/web/monitor_page.h"
 
 namespace {
 
@@ -23,7 +27,11 @@ struct Options {
     bool once = false;
     std::string level = levels[0];
     RecordFilter filter;
+    std::optional<std::string> web; // a port, or empty for the usual one
+    bool open = false;
 };
+
+constexpr int usualPort = 6310;
 
 // A terminal or a pipe; what else stands there (a file, a closed input) belongs to somebody else.
 bool takesCommands(int input) {
@@ -45,11 +53,37 @@ int catchSignals() {
     return descriptor;
 }
 
+std::optional<int> portOf(const std::string &text) {
+    if (text.empty()) return usualPort;
+    int port = -1;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), port);
+    const bool isPort = error == std::errc() && end == text.data() + text.size() && port >= 0 && port <= 65535;
+    return isPort ? std::optional(port) : std::nullopt;
+}
+
+std::string whatIsWrongWithPort(const std::string &port) {
+    return portOf(port) ? std::string() : '"' + port + "\" is no port: a number up to 65535, 0 for any that is free";
+}
+
 void watch(const Options &options) {
+    if (options.open && !options.web) throw UsageError{"--open needs --web"};
     MonitorOptions monitorOptions{takesCommands(STDIN_FILENO), options.once, options.filter};
     const auto level = std::ranges::find(levels, options.level) - levels.begin();
     monitorOptions.filter.leastLevel = ZV_LOG_INFO + static_cast<uint32_t>(level);
-    Monitor(options.json ? makeJsonOutput() : makeTextOutput(), catchSignals(), monitorOptions).run();
+    auto output = options.json ? makeJsonOutput() : makeTextOutput();
+    // Before there are threads: signals are this one's.
+    const int ending = catchSignals();
+    std::optional<MonitorPage> page;
+    std::optional<Browser> browser;
+    if (options.web) {
+        page.emplace(*portOf(*options.web));
+        monitorOptions.page = &page->output();
+        monitorOptions.pageCommands = page->commands();
+        output->notice("page at " + page->address());
+    }
+    if (options.open) browser.emplace(page->address());
+    if (browser && !browser->failure().empty()) output->notice("no browser is started: " + browser->failure());
+    Monitor(std::move(output), ending, monitorOptions).run();
 }
 
 std::string whatIsWrongWith(const std::string &recordName) {
@@ -65,7 +99,7 @@ void addMonitorCommand(const Verb &top) {
         "A TYPE is a name that --json writes, such as log_error, or what several begin with: log, back_end,\n"
         "system_report. Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d\n"
         "and q, each but q with a process number for one application alone.\n"
-        "Exit status: 0 done, 1 somebody else listens or the socket cannot be made.");
+        "Exit status: 0 done, 1 somebody else listens, the socket cannot be made or the port of the page is taken.");
     auto options = std::make_shared<Options>();
     monitor.flag("--json", options->json, "one JSON object a record, for other tools");
     monitor.flag("--once", options->once, "end with the first application");
@@ -76,5 +110,11 @@ void addMonitorCommand(const Verb &top) {
                    "show this process alone; may be given again");
     monitor.option("--type", options->filter.types, "TYPE", "show these records alone; may be given again")
         .checkedBy(whatIsWrongWith);
+    monitor
+        .optionalValue("--web", options->web, "[PORT]",
+                       "show everything on a page in a browser too; port " + std::to_string(usualPort) +
+                           " unless given")
+        .checkedBy(whatIsWrongWithPort);
+    monitor.flag("--open", options->open, "with --web: start the browser");
     monitor.action([options] { watch(*options); });
 }

@@ -15,6 +15,10 @@ public:
     virtual void ended(const MonitoredApplication &application) = 0;
     // An answer to a command.
     virtual void notice(const std::string &text) = 0;
+    // Somebody who wanted to connect was not let in; the text says who.
+    virtual void sentAway(const std::string &text) { notice(text); }
+    // A command has gone to the application.
+    virtual void commanded(const MonitoredApplication &, const ui::messages::Message &) {}
 };
 
 [[nodiscard]] std::unique_ptr<MonitorOutput> makeTextOutput();

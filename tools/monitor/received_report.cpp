@@ -50,6 +50,8 @@ std::optional<ReportRecord> recordOf(const Message &message) {
 } // namespace
 
 void ReceivedReport::take(const Message &message) {
+    if (m_taken == mostRecords) return;
+    ++m_taken;
     if (const auto record = recordOf(message)) SystemReportFiller(m_report).receive(*record);
 }
 

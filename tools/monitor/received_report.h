@@ -8,10 +8,15 @@
 
 class ReceivedReport {
 public:
-    // Types 14 to 19. A record that makes no sense is passed over: whoever connects may send it.
+    // Far more than a report has: who sends without an end does not fill the memory.
+    static constexpr size_t mostRecords = 4096;
+
+    // Types 14 to 19. A record that makes no sense, or is one too many, is passed over: whoever connects may send it.
     void take(const ui::messages::Message &message);
+    [[nodiscard]] const capability::SystemReport &report() const { return m_report; }
     [[nodiscard]] std::string text() const;
 
 private:
     capability::SystemReport m_report;
+    size_t m_taken = 0;
 };

@@ -1,0 +1,121 @@
+// What a page has not heard yet, as one object:
+//   now           the time in milliseconds since 1970
+//   isWhole       true: forget all that was told before
+//   isCleared     true: forget log lines and refusals
+//   numbers       of all applications that there are; the others have been forgotten
+//   applications  those that have changed: number, pid, command, program, device, started, title, isWireframe, ended
+//   reports       the System Reports that have changed, by the number of the application
+//   frames        frames drawn in whole seconds, by the number of the application: the first second, then values
+//   refusals      all of them, when one is new: number, who, time, application (0 for none), isForTheHost, text
+//   notices       answers to commands: number, text
+//   skipped       how many log lines the page was too slow for
+//   log           log lines as "zelvane monitor --json" writes them
+#include <algorithm>
+
+#include <nlohmann/json.hpp>
+
+#include "tools/monitor/web/clock.h"
+#include "tools/monitor/web/history.h"
+
+namespace {
+
+// More come with the next update, so that no update keeps the monitor waiting for long.
+constexpr uint64_t mostLinesInAnUpdate = 4000;
+
+using Json = nlohmann::json;
+
+// Texts of applications may be no UTF-8.
+std::string textOf(const Json &json) {
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+Json jsonOf(uint64_t number, const ShownApplication &application) {
+    return {{"number", number},
+            {"pid", application.processNumber},
+            {"command", application.command},
+            {"program", application.program},
+            {"device", application.device},
+            {"started", application.startMs},
+            {"title", application.title},
+            {"isWireframe", application.isWireframe},
+            {"ended", application.endMs}};
+}
+
+std::string keyOf(uint64_t number) {
+    return '"' + std::to_string(number) + "\":";
+}
+
+// Items with a comma between them.
+void append(std::string &list, const std::string &item) {
+    if (!list.empty()) list += ',';
+    list += item;
+}
+
+} // namespace
+
+void History::tellApplications(std::string &text, const Cursor &cursor) const {
+    if (m_version == cursor.version) return;
+    std::string numbers, applications, reports;
+    for (const auto &[number, entry] : m_applications) {
+        append(numbers, std::to_string(number));
+        if (entry.version > cursor.version) append(applications, textOf(jsonOf(number, entry.shown)));
+        if (entry.reportVersion > cursor.version) append(reports, keyOf(number) + entry.report);
+    }
+    text += ",\"numbers\":[" + numbers + "],\"applications\":[" + applications + "],\"reports\":{" + reports + '}';
+}
+
+void History::tellFrames(std::string &text, const Cursor &cursor, int64_t now) const {
+    std::string frames;
+    for (const auto &[number, entry] : m_applications) {
+        std::string values;
+        for (const uint32_t value : entry.frames.values(cursor.second, now))
+            values += ',' + std::to_string(value);
+        if (values.empty()) continue;
+        append(frames, keyOf(number) + '[' + std::to_string(entry.frames.first(cursor.second, now)) + values + ']');
+    }
+    if (!frames.empty()) text += ",\"frames\":{" + frames + '}';
+}
+
+void History::tellNews(std::string &text, const Cursor &cursor) const {
+    std::string refusals, notices;
+    if (!m_refusals.empty() && m_refusals.back().version > cursor.version) {
+        for (const News &news : m_refusals)
+            append(refusals, news.json);
+        text += ",\"refusals\":[" + refusals + ']';
+    }
+    for (const News &news : m_notices) {
+        if (cursor.version != 0 && news.version > cursor.version) append(notices, news.json);
+    }
+    if (!notices.empty()) text += ",\"notices\":[" + notices + ']';
+}
+
+void History::tellLog(std::string &text, Cursor &cursor) const {
+    if (m_log.end() == cursor.line) return;
+    const uint64_t first = std::max(cursor.line, m_log.begin());
+    if (cursor.version != 0 && m_clearedAt <= cursor.version && first > cursor.line)
+        text += ",\"skipped\":" + std::to_string(first - cursor.line);
+    cursor.line = std::min(first + mostLinesInAnUpdate, m_log.end());
+    std::string lines;
+    for (uint64_t number = first; number < cursor.line; ++number)
+        append(lines, m_log[number]);
+    text += ",\"log\":[" + lines + ']';
+}
+
+std::string History::update(Cursor &cursor) const {
+    const std::lock_guard lock(m_mutex);
+    const int64_t now = secondNow();
+    std::string text;
+    if (cursor.version == 0) {
+        text += ",\"isWhole\":true";
+    } else if (m_clearedAt > cursor.version) {
+        text += ",\"isCleared\":true";
+    }
+    tellApplications(text, cursor);
+    tellFrames(text, cursor, now);
+    tellNews(text, cursor);
+    tellLog(text, cursor);
+    cursor.version = m_version;
+    cursor.second = now;
+    if (text.empty()) return text;
+    return "{\"now\":" + std::to_string(millisecondsNow()) + text + '}';
+}

@@ -1,0 +1,60 @@
+// The way to the command: updates that come as events, and commands that go back.
+let source = null;
+
+function setConnection(state, words, trouble) {
+  byId('connection').dataset.state = state;
+  setText(byId('connection'), words);
+  setText(byId('trouble'), trouble);
+}
+
+let noticeTimer = 0;
+function notify(text) {
+  setText(byId('notice'), text);
+  clearTimeout(noticeTimer);
+  noticeTimer = setTimeout(() => setText(byId('notice'), ''), 5000);
+}
+
+function take(update) {
+  const changed = takeApplications(update);
+  drawCards(changed, update.numbers !== undefined);
+  if (update.numbers) drawProcesses();
+  if (update.refusals || update.isCleared || update.isWhole) drawRefusals();
+  takeLog(update);
+  for (const notice of update.notices ?? []) notify(notice.text);
+  if (update.skipped) notify(`${update.skipped} log lines came too fast and are not shown`);
+}
+
+// The stream was refused: the command is another one by now, with another address, or has enough pages.
+async function explain() {
+  const answer = await fetch('.', { method: 'HEAD' }).catch(() => null);
+  if (answer?.status === 403) {
+    setConnection('gone', 'Another monitor', 'A monitor is there again. It has a new address, which its terminal shows.');
+    return;
+  }
+  if (answer?.ok) setConnection('waiting', 'Waiting', 'Too many pages are open. This one waits for its turn.');
+  setTimeout(connect, 2000);
+}
+
+function connect() {
+  source?.close();
+  source = new EventSource('events');
+  source.onopen = () => setConnection('live', 'Live', '');
+  source.onmessage = event => take(JSON.parse(event.data));
+  source.onerror = () => {
+    setConnection('gone', 'Not connected',
+      'The monitor has ended or cannot be reached. This page shows its last state and connects again by itself.');
+    if (source.readyState === EventSource.CLOSED) explain();
+  };
+}
+
+async function command(words) {
+  const answer = await fetch('commands', {
+    method: 'POST', headers: { 'Content-Type': 'application/json' }, body: JSON.stringify(words),
+  }).catch(() => null);
+  if (!answer?.ok) notify('The monitor did not take the command.');
+}
+
+byId('wireframe-all').onclick = event => command({ wireframe: event.currentTarget.getAttribute('aria-pressed') !== 'true' });
+byId('clear').onclick = () => command({ clear: true });
+drawCards([], true);
+connect();

@@ -1,0 +1,10 @@
+# Puts the page together: cmake -D PAGE=FILE -D SCRIPTS=NAME;... -P join.cmake
+file(READ ${CMAKE_CURRENT_LIST_DIR}/page.html page)
+file(READ ${CMAKE_CURRENT_LIST_DIR}/page.css style)
+foreach(name ${SCRIPTS})
+  file(READ ${CMAKE_CURRENT_LIST_DIR}/${name} text)
+  string(APPEND script "${text}")
+endforeach()
+string(REPLACE "@STYLE@" "${style}" page "${page}")
+string(REPLACE "@SCRIPT@" "${script}" page "${page}")
+file(WRITE ${PAGE} "${page}")

@@ -1,0 +1,41 @@
+// Serves the page of the monitor on the loopback address, and what the page asks for. Runs on threads of its own.
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+
+#include "tools/monitor/web/guard.h"
+#include "tools/monitor/web/history.h"
+
+class PageServer {
+public:
+    // Passes a line on that a user might have typed. False when it is not taken now. Called on threads of the server.
+    using Command = std::function<bool(const std::string &line)>;
+
+    // port: 0 for any. The history stays the caller's. Fails the command, with the next free port in its message, when
+    // the port is taken.
+    PageServer(int port, History &history, Command command);
+    PageServer(const PageServer &) = delete;
+    PageServer &operator=(const PageServer &) = delete;
+    // Ends all streams: closes the history.
+    ~PageServer();
+
+    // With the token. Whoever has it may look.
+    [[nodiscard]] std::string address() const { return m_guard->address(); }
+
+private:
+    void addRoutes();
+    void servePage(httplib::Response &response) const;
+    void stream(const httplib::Request &request, httplib::Response &response);
+    void obey(const httplib::Request &request, httplib::Response &response);
+
+    History &m_history;
+    Command m_command;
+    std::unique_ptr<httplib::Server> m_server;
+    std::unique_ptr<Guard> m_guard;
+    std::atomic<int> m_streams = 0; // pages that are open
+    std::thread m_thread;
+};

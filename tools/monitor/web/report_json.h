@@ -1,0 +1,10 @@
+// A System Report for the page.
+#pragma once
+
+#include <string>
+
+#include "capability/system_report.h"
+
+// One object: openGL, sections (name, isSupported), features (name, isAvailable, requires: texts of which one has to
+// hold, holdsBack: names of what asks for it).
+[[nodiscard]] std::string jsonOf(const capability::SystemReport &report);
