@@ -8,7 +8,7 @@ struct DeviceWish {
     bool isBare = false; // no device at all
 };
 
-// Writes it into the preferences that this process points to. standIn: a directory for a built-in profile where the user
-// has no directory of profiles. Fails the command when the profile that is asked for cannot be read; of the user's
+// Writes it into the preferences that this process points to. standIn: a directory for a built-in profile where the
+// user has no directory of profiles. Fails the command when the profile that is asked for cannot be read; of the user's
 // own it warns.
 void settleDevice(const DeviceWish &wish, const std::string &standIn);

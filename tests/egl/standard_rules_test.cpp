@@ -1,0 +1,92 @@
+// Desktop clients find the rules of the EGL standard where devices have rules of their own.
+#include "egl/fixture.h"
+
+#include "host/platform/operations.h"
+#include "host/platform/recording/control.h"
+
+namespace {
+
+class StandardRules : public EntryTest {
+protected:
+    StandardRules() {
+        setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+        recordingSetFormatValue(host::platform::DrawableTypes, EGL_WINDOW_BIT | EGL_PBUFFER_BIT);
+    }
+};
+
+} // namespace
+
+TEST_F(StandardRules, AFailedBindLeavesTheOldOne) {
+    const EGLContext old = current();
+    const EGLContext other = create({EGL_CONTEXT_CLIENT_VERSION, 2}, config());
+    const EGLSurface surface = pbuffer();
+    const EGLContext unknown = reinterpret_cast<EGLContext>(99);
+    const std::tuple<const char *, EGLSurface, EGLSurface, EGLContext, EGLint> rows[] = {
+        {"surfaces without a context", surface, surface, EGL_NO_CONTEXT, EGL_BAD_MATCH},
+        {"no surface to read from", surface, EGL_NO_SURFACE, other, EGL_BAD_MATCH},
+        {"no surface to draw to", EGL_NO_SURFACE, surface, other, EGL_BAD_MATCH},
+        {"an unknown surface", surface, unknownSurface, other, EGL_BAD_SURFACE},
+        {"an unknown context", surface, surface, unknown, EGL_BAD_CONTEXT},
+    };
+    for (const auto &[what, draw, read, context, error] : rows) {
+        SCOPED_TRACE(what);
+        EXPECT_FAILS(error, eglMakeCurrent(m_display, draw, read, context));
+        EXPECT_EQ(eglGetCurrentContext(), old);
+    }
+}
+
+TEST_F(StandardRules, TheLatestErrorIsTold) {
+    EXPECT_FALSE(eglDestroySurface(initialised(), unknownSurface));
+    EXPECT_FALSE(eglBindAPI(EGL_NONE));
+    EXPECT_EQ(eglGetError(), EGL_BAD_PARAMETER);
+    EXPECT_FALSE(eglDestroySurface(m_display, unknownSurface));
+    EXPECT_SUCCEEDS(eglTerminate(m_display));
+}
+
+TEST_F(StandardRules, SwapsAreOfTheSurfaceThatIsDrawnTo) {
+    current();
+    takeLog();
+    EXPECT_SUCCEEDS(eglSwapBuffers(m_display, eglGetCurrentSurface(EGL_DRAW)));
+    EXPECT_THAT(takeLines("flush"), ElementsAre(StartsWith("flushApplication"), StartsWith("flushBuffer")))
+        << "a frame of a window that is not mapped yet would be lost";
+    EXPECT_FAILS(EGL_BAD_SURFACE, eglSwapBuffers(m_display, pbuffer()));
+    EXPECT_FAILS(EGL_BAD_NATIVE_PIXMAP, eglCopyBuffers(m_display, eglGetCurrentSurface(EGL_DRAW), 1));
+}
+
+TEST_F(StandardRules, AttributesAreChecked) {
+    const std::tuple<EGLint, EGLint, EGLint> ofPbuffers[] = {
+        {EGL_RENDER_BUFFER, EGL_BACK_BUFFER, EGL_BAD_ATTRIBUTE},
+        {EGL_WIDTH, -1, EGL_BAD_PARAMETER},
+        {EGL_TEXTURE_TARGET, EGL_TEXTURE_2D, EGL_BAD_MATCH},
+        {EGL_GL_COLORSPACE, 7, EGL_BAD_MATCH},
+    };
+    for (const auto &[attribute, value, error] : ofPbuffers) {
+        const EGLint list[] = {attribute, value, EGL_NONE};
+        SCOPED_TRACE(attribute);
+        EXPECT_FAILS(error, eglCreatePbufferSurface(initialised(), config(), list));
+    }
+    const EGLContext keeps = create({EGL_CONTEXT_CLIENT_VERSION, 2}, config());
+    const std::vector<EGLint> loses = {EGL_CONTEXT_CLIENT_VERSION, 2, EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY,
+                                       EGL_LOSE_CONTEXT_ON_RESET};
+    EXPECT_FAILS(EGL_BAD_MATCH, create(loses, config(), keeps));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, create({EGL_CONTEXT_OPENGL_DEBUG, 7}, config()));
+}
+
+TEST_F(StandardRules, ReusableSyncsWaitForTheirSignal) {
+    initialised();
+    const auto createKhr = procAddress<PFNEGLCREATESYNCKHRPROC>("eglCreateSyncKHR");
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglCreateSync(m_display, EGL_NONE, nullptr));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, createKhr(m_display, EGL_NONE, nullptr));
+    // Without a context there is nothing to fence.
+    EXPECT_FAILS(EGL_BAD_MATCH, eglCreateSync(m_display, EGL_SYNC_FENCE, nullptr));
+
+    const EGLSync sync = eglCreateSync(m_display, EGL_SYNC_REUSABLE_KHR, nullptr);
+    const auto signal = procAddress<PFNEGLSIGNALSYNCKHRPROC>("eglSignalSyncKHR");
+    EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, 0), EGL_TIMEOUT_EXPIRED);
+    EXPECT_SUCCEEDS(signal(m_display, sync, EGL_SIGNALED_KHR));
+    EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, EGL_FOREVER), EGL_CONDITION_SATISFIED);
+    EXPECT_SUCCEEDS(signal(m_display, sync, EGL_UNSIGNALED_KHR));
+    EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, 1000), EGL_TIMEOUT_EXPIRED);
+    EXPECT_SUCCEEDS(eglDestroySync(m_display, sync));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, sync));
+}
