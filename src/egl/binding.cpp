@@ -19,8 +19,9 @@ void primeShareContext(Context &context, const SurfacePair &surfaces) {
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
     if (bindContext(share, surfaces)) claim.keep();
-    unbindCurrent(context.display);
+    // Before the claim ends: another thread may wait for it, and the host refuses a context that is current here.
     (void)host::makeHostContextCurrent(nullptr, nullptr);
+    unbindCurrent(context.display);
 }
 
 // At every bind to a window, the same one too, for as long as there is somebody to tell. A window without a title sends
