@@ -1,11 +1,12 @@
 #include "common/desktop_clients.h"
 
-#include <cstdlib>
+#include "common/find_variable.h"
+
 #include <string_view>
 
 bool servesDesktopClients() {
     static const bool serves = [] {
-        const char *const value = std::getenv("ZELVANE_DESKTOP_CLIENTS");
+        const char *const value = findVariable("ZELVANE_DESKTOP_CLIENTS");
         return value && value == std::string_view("1");
     }();
     return serves;
