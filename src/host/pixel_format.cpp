@@ -16,17 +16,22 @@ void append(std::vector<uint32_t> &list, uint32_t attribute, int32_t value) {
     list.push_back(static_cast<uint32_t>(value));
 }
 
+// All but those of red, green and blue.
+void appendOtherSizes(std::vector<uint32_t> &list, const PixelFormatRequest &request) {
+    append(list, AlphaSize, request.alphaSize);
+    append(list, DepthSize, request.depthSize);
+    append(list, StencilSize, request.stencilSize);
+    append(list, SampleBuffers, request.sampleBuffers);
+    append(list, Samples, request.samples);
+}
+
 } // namespace
 
 PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request) {
     std::vector<uint32_t> list{OpenGLProfile, profile3_2Core};
     if (request.hasWindowBit) list.push_back(DoubleBuffer);
     append(list, ColorSize, request.redSize + request.greenSize + request.blueSize);
-    append(list, AlphaSize, request.alphaSize);
-    append(list, DepthSize, request.depthSize);
-    append(list, StencilSize, request.stencilSize);
-    append(list, SampleBuffers, request.sampleBuffers);
-    append(list, Samples, request.samples);
+    appendOtherSizes(list, request);
     list.push_back(0);
     return operations.createPixelFormat(request.display, list.data());
 }
@@ -36,11 +41,7 @@ PixelFormat *makeFittingPixelFormat(const PixelFormatRequest &request, bool exac
     append(list, RedSize, request.redSize);
     append(list, GreenSize, request.greenSize);
     append(list, BlueSize, request.blueSize);
-    append(list, AlphaSize, request.alphaSize);
-    append(list, DepthSize, request.depthSize);
-    append(list, StencilSize, request.stencilSize);
-    append(list, SampleBuffers, request.sampleBuffers);
-    append(list, Samples, request.samples);
+    appendOtherSizes(list, request);
     list.push_back(0);
     return operations.createPixelFormat(request.display, list.data());
 }
