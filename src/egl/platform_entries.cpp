@@ -27,7 +27,12 @@ std::vector<EGLint> narrowed(const EGLAttrib *attributes) {
 
 EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativeWindow,
                                                       const EGLint *attributes) {
-    return eglCreateWindowSurface(dpy, config, desktop_clients::windowOf(nativeWindow), attributes);
+    return eglCreateWindowSurface(dpy, config, desktop_clients::drawableOf(nativeWindow), attributes);
+}
+
+EGLSurface EGLAPIENTRY createPlatformPixmapSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
+                                                      const EGLint *attributes) {
+    return eglCreatePixmapSurface(dpy, config, desktop_clients::drawableOf(nativePixmap), attributes);
 }
 
 } // namespace egl
@@ -43,8 +48,7 @@ EGLSurface EGLAPIENTRY eglCreatePlatformWindowSurface(EGLDisplay dpy, EGLConfig 
     return createPlatformWindowSurfaceEXT(dpy, config, nativeWindow, narrowed(attributes).data());
 }
 
-// The pixmap is not used, so it makes no difference whether the argument points to it.
 EGLSurface EGLAPIENTRY eglCreatePlatformPixmapSurface(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
                                                       const EGLAttrib *attributes) {
-    return eglCreatePixmapSurface(dpy, config, reinterpret_cast<uintptr_t>(nativePixmap), narrowed(attributes).data());
+    return createPlatformPixmapSurfaceEXT(dpy, config, nativePixmap, narrowed(attributes).data());
 }
