@@ -50,7 +50,6 @@ struct ErrorTrap::Record {
     static Bool take(Display *display, xReply *reply, char *, int, XPointer data) {
         auto &record = *reinterpret_cast<Record *>(data);
         if (reply->generic.type != X_Error) return False;
-        // GLX raises errors of its own with the serial of the last request, so the first serial counts too.
         if (static_cast<long>(display->last_request_read - record.firstSerial) < 0) return False;
         if (record.majorOpcode != 0 && record.majorOpcode != reply->error.majorCode) return False;
         record.hasError = true;
@@ -80,8 +79,9 @@ bool hasRequestsToSend(Display *display) {
 }
 
 ErrorTrap::ErrorTrap(Display *display, int majorOpcode) : m_display(display), m_record(std::make_unique<Record>()) {
-    XSync(display, False);
     m_record->majorOpcode = majorOpcode;
+    // GLX raises errors of its own with the serial of the last request, which has to be ours.
+    XNoOp(display);
     m_record->firstSerial = XNextRequest(display) - 1;
     m_record->handler.handler = Record::take;
     m_record->handler.data = reinterpret_cast<XPointer>(m_record.get());
