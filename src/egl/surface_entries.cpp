@@ -3,6 +3,7 @@
 #include "egl/entry_frame.h"
 #include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
+#include "foundation/attribute_list.h"
 
 #include <algorithm>
 #include <span>
@@ -19,8 +20,8 @@ constexpr EGLint pbufferAttributes[] = {
 
 // Looks at the keys alone; values are kept as they come.
 bool areKeysIn(const EGLint *attributes, std::span<const EGLint> accepted) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (std::ranges::find(accepted, *attributes) == accepted.end()) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (std::ranges::find(accepted, name) == accepted.end()) return false;
     }
     return true;
 }
@@ -48,7 +49,7 @@ EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
 
 EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
     if (desktop_clients::isOn()) return standard::pixmapSurfaceError(config, attributes);
-    if (attributes && *attributes != EGL_NONE) return EGL_BAD_ATTRIBUTE;
+    if (!AttributeList(attributes).isEmpty()) return EGL_BAD_ATTRIBUTE;
     return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
 }
 

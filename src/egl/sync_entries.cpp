@@ -4,6 +4,7 @@
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
 #include "egl/standard/syncs.h"
+#include "foundation/attribute_list.h"
 
 #include <vector>
 
@@ -53,7 +54,7 @@ uint32_t hostSyncName(EGLint attribute) {
 EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) {
     if (type == EGL_SYNC_FENCE && &display != threadRecord.currentDisplay) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
     // Any other type gives this error too.
-    if ((attributes && *attributes != EGL_NONE) || type != EGL_SYNC_FENCE) {
+    if (!AttributeList(attributes).isEmpty() || type != EGL_SYNC_FENCE) {
         return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
     }
     if (!threadRecord.current) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);

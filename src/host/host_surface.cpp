@@ -2,6 +2,7 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
 #include "host/host_context.h"
 
 namespace {
@@ -105,10 +106,8 @@ namespace host {
 
 PBufferRequest readPBufferRequest(const int32_t *attributes) {
     PBufferRequest request;
-    if (!attributes) return request;
-    for (; *attributes != EGL_NONE; attributes += 2) {
-        const int32_t value = attributes[1];
-        switch (*attributes) {
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        switch (name) {
         case EGL_WIDTH:
             request.width = value;
             break;

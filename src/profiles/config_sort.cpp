@@ -5,6 +5,7 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
 #include "profiles/partition_sort.h"
 
 namespace egl {
@@ -29,8 +30,8 @@ std::optional<bool> compareCaveats(int32_t a, int32_t b) {
 
 ConfigSortOrder::ConfigSortOrder(const int32_t *attributes) {
     std::map<int32_t, int32_t> requested;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        requested[attributes[0]] = attributes[1];
+    for (const auto &[name, value] : AttributeList(attributes))
+        requested[name] = value;
     for (const int32_t channel : {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE})
         if (requested[channel] != 0 && requested[channel] != EGL_DONT_CARE) m_channels.push_back(channel);
 }
