@@ -3,12 +3,11 @@
 #include <cstring>
 
 #include "capability/feature_binding.h"
+#include "foundation/gl_types.h"
 
 namespace capability {
 
 namespace {
-
-constexpr uint32_t glNumExtensions = 0x821D;
 
 template <typename Function>
 void take(const FeatureBinding &get, const char *name, Function &function) {
@@ -26,23 +25,23 @@ HostGlView::HostGlView(const FeatureBinding *get, const FeatureBinding *openGl) 
 
 int32_t HostGlView::listedExtensionCount() const {
     int32_t count = 0;
-    if (m_getIntegerv) m_getIntegerv(glNumExtensions, &count);
+    if (m_getIntegerv) m_getIntegerv(GL_NUM_EXTENSIONS, &count);
     return count;
 }
 
 const char *HostGlView::listedExtension(int32_t index) const {
-    return m_getStringi(glExtensions, static_cast<uint32_t>(index));
+    return m_getStringi(GL_EXTENSIONS, static_cast<uint32_t>(index));
 }
 
 GlVersion hostGlVersion(const HostGlView &view) {
-    return view.canAsk() ? parseGlVersion(view.string(glVersionText)) : unknownGlVersion;
+    return view.canAsk() ? parseGlVersion(view.string(GL_VERSION)) : unknownGlVersion;
 }
 
 bool hostHasExtension(const HostGlView &view, const char *name) {
     if (!view.canAsk()) return true;
     if (!name || !*name) return false;
     if (!view.listsExtensions(hostGlVersion(view))) {
-        const char *text = view.string(glExtensions);
+        const char *text = view.string(GL_EXTENSIONS);
         return text && strstr(text, name);
     }
     const int32_t count = view.listedExtensionCount();

@@ -34,10 +34,6 @@ private:
     void (*m_getIntegerv)(uint32_t name, int32_t *value) = nullptr;
 };
 
-constexpr uint32_t glVersionText = 0x1F02;
-constexpr uint32_t glExtensions = 0x1F03;
-constexpr uint32_t glShadingLanguageVersion = 0x8B8C;
-
 // Unknown, which passes every test, for a view that cannot ask.
 [[nodiscard]] GlVersion hostGlVersion(const HostGlView &view);
 

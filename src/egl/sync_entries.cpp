@@ -5,20 +5,13 @@
 #include "egl/extension_entries.h"
 #include "egl/standard/syncs.h"
 #include "foundation/attribute_list.h"
+#include "foundation/gl_types.h"
 
 #include <vector>
 
 namespace egl {
 
 namespace {
-
-constexpr uint32_t glObjectType = 0x9112;
-constexpr uint32_t glSyncCondition = 0x9113;
-constexpr uint32_t glSyncStatus = 0x9114;
-constexpr uint32_t glAlreadySignaled = 0x911A;
-constexpr uint32_t glTimeoutExpired = 0x911B;
-constexpr uint32_t glConditionSatisfied = 0x911C;
-constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
 
 // 0 and what is below ask for a flush too; callers rely on not waiting for commands that were never sent.
 uint32_t hostWaitFlags(EGLint flags) {
@@ -27,10 +20,10 @@ uint32_t hostWaitFlags(EGLint flags) {
 
 EGLint eglWaitResult(uint32_t hostResult) {
     switch (hostResult) {
-    case glAlreadySignaled:
-    case glConditionSatisfied:
+    case GL_ALREADY_SIGNALED:
+    case GL_CONDITION_SATISFIED:
         return EGL_CONDITION_SATISFIED;
-    case glTimeoutExpired:
+    case GL_TIMEOUT_EXPIRED:
         return EGL_TIMEOUT_EXPIRED;
     default:
         return 0;
@@ -41,11 +34,11 @@ EGLint eglWaitResult(uint32_t hostResult) {
 uint32_t hostSyncName(EGLint attribute) {
     switch (attribute) {
     case EGL_SYNC_TYPE:
-        return glObjectType;
+        return GL_OBJECT_TYPE;
     case EGL_SYNC_CONDITION:
-        return glSyncCondition;
+        return GL_SYNC_CONDITION;
     case EGL_SYNC_STATUS:
-        return glSyncStatus;
+        return GL_SYNC_STATUS;
     default:
         return 0;
     }
@@ -131,7 +124,7 @@ EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
         dpy, sync, EGL_FALSE, [&](Display &display) { return standard::waitSync(display, sync, flags); },
         [&](const host::EGL &hostEGL) -> EGLBoolean {
             // The host takes no flags here and raises an error for them, which the sweep hides.
-            if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), glTimeoutIgnored);
+            if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), GL_TIMEOUT_IGNORED);
             hostEGL.sweepError();
             return succeed(EGL_TRUE);
         });
