@@ -75,7 +75,7 @@ std::span<const Row> rowsOf(const std::array<Row, count> &rows, Feature feature)
 }
 
 // Not the alternative that was selected: a host of OpenGL 4 can have texture storage without these functions.
-void bindDirectStorage(FeatureBinding &binding, const HostGlView &view, const DynamicLibrary &library) {
+void bindDirectStorage(Binding &binding, const HostGlView &view, const DynamicLibrary &library) {
     const auto &descriptor = descriptorOf(Feature::textureStorage);
     const auto byExtension = std::ranges::find(descriptor.alternatives, 1u, &FeatureAlternative::variant);
     binding.hasDirectStorage = alternativeSatisfied(view, *byExtension);
@@ -87,15 +87,15 @@ void bindDirectStorage(FeatureBinding &binding, const HostGlView &view, const Dy
 
 } // namespace
 
-void *FeatureBinding::find(Feature feature, std::string_view name) const {
+void *findFunction(Feature feature, const Binding &binding, std::string_view name) {
     const auto rows = rowsOf(entryPoints, feature);
     const auto row = std::ranges::find(rows, name, [](const auto &row) { return std::string_view(row.names[0]); });
     const auto index = static_cast<size_t>(row - rows.begin());
-    return row == rows.end() || index >= functions.size() ? nullptr : functions[index];
+    return row == rows.end() || index >= binding.functions.size() ? nullptr : binding.functions[index];
 }
 
-bool featureAvailable(const FeatureBinding &binding, const FeatureDescriptor &descriptor) {
-    return binding.variant != noVariant || descriptor.alternatives.empty();
+bool isAvailable(Feature feature, const Binding &binding) {
+    return binding.variant != noVariant || descriptorOf(feature).alternatives.empty();
 }
 
 bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative) {
@@ -110,15 +110,14 @@ int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &vie
     return noVariant;
 }
 
-bool bindFeature(Feature feature, FeatureBinding &binding, const HostGlView &view, const DynamicLibrary &library) {
-    const auto &descriptor = descriptorOf(feature);
-    binding.variant = selectVariant(descriptor, view);
-    const bool isAvailable = featureAvailable(binding, descriptor);
+bool bind(Feature feature, Binding &binding, const HostGlView &view, const DynamicLibrary &library) {
+    binding.variant = selectVariant(descriptorOf(feature), view);
+    const bool isThere = isAvailable(feature, binding);
 
     const auto known = rowsOf(families, feature);
-    if (known.empty()) return isAvailable;
+    if (known.empty()) return isThere;
     const auto family = std::ranges::find_if(known, [&](const auto &row) {
-        return row.variant == binding.variant || (row.variant == anyVariant && isAvailable);
+        return row.variant == binding.variant || (row.variant == anyVariant && isThere);
     });
     if (family != known.end()) {
         binding.functions.clear();

@@ -8,11 +8,11 @@
 namespace capability {
 
 #define FIELD(feature)
-#define BIND(feature) bindFeature(Feature::feature, feature, view, library);
+#define BIND(feature) bindFeature(feature, view, library);
 
 EsBaseFeatures::EsBaseFeatures(const DynamicLibrary &library) {
-    bindFeature(Feature::get, get, {}, library);
-    bindFeature(Feature::openGl, openGl, {}, library);
+    bindFeature(get, {}, library);
+    bindFeature(openGl, {}, library);
     const auto view = this->view();
 #include "capability/data/es_base_features.def"
 }

@@ -7,21 +7,10 @@
 
 namespace capability {
 
-namespace {
-
-template <typename Function>
-void take(const FeatureBinding &get, const char *name, Function &function) {
-    function = get.function<Function>(Feature::get, name);
-}
-
-} // namespace
-
-HostGlView::HostGlView(const FeatureBinding *get, const FeatureBinding *openGl) : m_canAsk(get && openGl) {
-    if (!get) return;
-    take(*get, "glGetString", m_getString);
-    take(*get, "glGetStringi", m_getStringi);
-    take(*get, "glGetIntegerv", m_getIntegerv);
-}
+HostGlView::HostGlView(const FeatureBinding<Feature::get> &get, const FeatureBinding<Feature::openGl> &)
+    : m_canAsk(true), m_getString(get.function<decltype(m_getString)>("glGetString")),
+      m_getStringi(get.function<decltype(m_getStringi)>("glGetStringi")),
+      m_getIntegerv(get.function<decltype(m_getIntegerv)>("glGetIntegerv")) {}
 
 int32_t HostGlView::listedExtensionCount() const {
     int32_t count = 0;

@@ -5,18 +5,20 @@
 #include <cstdint>
 
 #include "capability/extension_catalogue.h"
+#include "capability/feature.h"
 #include "capability/versions.h"
 
 namespace capability {
 
+template <Feature feature>
 struct FeatureBinding;
 
-// A pair of bindings, either of which may be absent. A view that cannot ask assumes everything. Good as long as the
-// library that the bindings were looked up in.
+// By a pair of bindings. A view without them cannot ask, and assumes everything. Good as long as the library that the
+// bindings were looked up in.
 class HostGlView {
 public:
     HostGlView() = default;
-    HostGlView(const FeatureBinding *get, const FeatureBinding *openGl);
+    HostGlView(const FeatureBinding<Feature::get> &get, const FeatureBinding<Feature::openGl> &);
 
     [[nodiscard]] bool canAsk() const { return m_canAsk; }
     // Null where the host has no such text.
