@@ -8,7 +8,6 @@ namespace egl::standard {
 namespace {
 
 constexpr EGLint debugFlag = EGL_CONTEXT_OPENGL_DEBUG_BIT_KHR;
-constexpr EGLint noErrorFlag = 8;
 constexpr EGLint robustFlag = EGL_CONTEXT_OPENGL_ROBUST_ACCESS_BIT_KHR;
 
 bool isBoolean(EGLint value) {
@@ -26,9 +25,8 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
         return EGL_SUCCESS;
     case EGL_CONTEXT_FLAGS_KHR:
         // The others are of desktop OpenGL.
-        if (value & ~(debugFlag | noErrorFlag)) return EGL_BAD_ATTRIBUTE;
+        if (value & ~debugFlag) return EGL_BAD_ATTRIBUTE;
         attribs.contextFlags = value;
-        if (value & noErrorFlag) attribs.noError = 1;
         return EGL_SUCCESS;
     case EGL_CONTEXT_OPENGL_DEBUG:
         if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
@@ -59,10 +57,8 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
 EGLint renderBuffer(const Context &context) {
     const auto &draw = context.surfaces.draw;
     if (!context.boundToThread || !draw) return EGL_NONE;
-    EGLint buffer = EGL_SINGLE_BUFFER; // of pixmaps
-    if (draw->hostSurface)
-        buffer = draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
-    return buffer;
+    if (!draw->hostSurface || draw->hostSurface->isPixmap()) return EGL_SINGLE_BUFFER;
+    return draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
 }
 
 } // namespace
@@ -92,7 +88,7 @@ EGLint readContextAttributes(const Config &config, const DeviceProfile &profile,
     const auto robustness = robustnessOf(attribs);
     if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config)) return EGL_BAD_MATCH;
     // One that checks nothing cannot promise anything.
-    if (robustness.isRobust && attribs.noError) return EGL_BAD_MATCH;
+    if (attribs.noError && attribs.contextFlags) return EGL_BAD_MATCH;
     return config.supportsClientVersion(attribs.requestedMajor) ? EGL_SUCCESS : EGL_BAD_CONFIG;
 }
 
