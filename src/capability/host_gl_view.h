@@ -40,7 +40,7 @@ private:
 [[nodiscard]] GlVersion hostGlVersion(const HostGlView &view);
 
 // Where the host does not list its extensions, a name counts as present wherever it stands in the extension text, be it
-// the beginning of a longer name; callers rely on that.
+// the beginning of a longer name.
 [[nodiscard]] bool hostHasExtension(const HostGlView &view, const char *name);
 [[nodiscard]] bool hostHasExtensionId(const HostGlView &view, HostExtension id);
 

@@ -30,7 +30,7 @@ bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
 }
 
-// The config's surface type is not looked at, unlike with the other kinds; applications rely on it.
+// On devices the config's surface type is not checked: a config without EGL_WINDOW_BIT takes a window too.
 EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativeWindowType window,
                           const EGLint *attributes) {
     if (desktop_clients::isOn()) {
@@ -125,7 +125,7 @@ EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLin
     });
 }
 
-// Takes three attributes and drops their values: a later query answers as before, and callers rely on the success.
+// On devices three attributes are accepted and their values dropped: a later query answers as before.
 EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint value) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);

@@ -13,7 +13,7 @@ namespace egl {
 
 namespace {
 
-// 0 and what is below ask for a flush too; callers rely on not waiting for commands that were never sent.
+// 0 and negative flags ask for a flush too, so that a wait without the flag cannot wait for commands never sent.
 uint32_t hostWaitFlags(EGLint flags) {
     return flags < 2 ? 1 : 0;
 }
@@ -101,7 +101,7 @@ EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (desktop_clients::isOn()) return standard::destroySync(display, sync);
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        // Without a current context the sync stays known; callers rely on destroying it later.
+        // Without a current context the sync stays known and can be destroyed later.
         if (!threadRecord.current) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
         display.destroySync(state().hostEGL(), sync);
         return succeed(EGL_TRUE);
@@ -130,7 +130,7 @@ EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
         });
 }
 
-// Answers with the host's numbers; nothing is translated back, and callers rely on that.
+// Returns the host's numbers, such as GL_SIGNALED for EGL_SYNC_STATUS: nothing is translated back.
 EGLBoolean EGLAPIENTRY eglGetSyncAttrib(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLAttrib *value) {
     return withSync<EGLBoolean>(
         dpy, sync, EGL_FALSE,

@@ -26,7 +26,7 @@ void flushIfBound(const NativeObject &native) {
 }
 
 // The two texture attributes are crossed over: the target's value becomes a colour format and the format's value a
-// target. Callers rely on it.
+// target.
 uint32_t bufferTarget(int32_t textureTarget) {
     switch (textureTarget) {
     case EGL_NO_TEXTURE:

@@ -44,9 +44,9 @@ struct ConfigElementRule {
 
 // Sets the number that the text begins with, after white space; 0 without one.
 void readInteger(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
-// Sets 1 for exactly "EGL_TRUE", else 0: "1" is false too, and profiles rely on it.
+// Sets 1 for exactly "EGL_TRUE", else 0: "1" is false too.
 void readBoolean(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
-// Adds the bit of that name. Any other text, numbers too, leaves the attribute as it was: profiles rely on it.
+// Adds the bit of that name. Any other text, numbers too, leaves the attribute as it was.
 void readBits(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
 
 } // namespace egl

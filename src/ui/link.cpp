@@ -80,8 +80,8 @@ void UiLink::receiverThread(const std::shared_ptr<KZRIPC::Client> &client, SetRe
     Message message{};
     while (client->isOpen()) {
         const int32_t received = client->receive(&message, sizeof message);
-        // Goes on with the type that it has, so that a GUI's last command is carried out once more at its end. GUIs
-        // rely on it. What is short is taken as a record, and what is not known as none.
+        // The buffer keeps the type of the record before, so that a GUI's last command is carried out once more at its
+        // end. A short block is taken for a record, and an unknown type is ignored.
         if (received <= 0) client->close();
         switch (message.header.type) {
         case ZV_GUI_DISCONNECT:
