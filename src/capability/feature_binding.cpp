@@ -37,23 +37,6 @@ constexpr auto families = std::to_array<FamilyRow>({
 #undef FAMILY
 });
 
-struct EntryPointRow {
-    Feature feature;
-    std::array<const char *, 3> names; // by family; alone, the first one stands for all
-
-    [[nodiscard]] const char *nameIn(size_t family) const { return names[1] ? names[family] : names[0]; }
-};
-
-constexpr auto entryPoints = std::to_array<EntryPointRow>({
-#define FAMILY(...)
-#define ENTRY_POINT(feature, ...) {Feature::feature, {__VA_ARGS__}},
-#define DIRECT_STORAGE_ENTRY_POINT(...)
-#include "capability/data/feature_entry_points.def"
-#undef DIRECT_STORAGE_ENTRY_POINT
-#undef ENTRY_POINT
-#undef FAMILY
-});
-
 constexpr auto directStorageEntryPoints = std::to_array<const char *>({
 #define FAMILY(...)
 #define ENTRY_POINT(...)
@@ -74,6 +57,19 @@ std::span<const Row> rowsOf(const std::array<Row, count> &rows, Feature feature)
             std::ranges::upper_bound(rows, feature, {}, &Row::feature)};
 }
 
+bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative) {
+    if (hostGlVersion(view) < alternative.minVersion) return false;
+    return std::ranges::all_of(alternative.extensions, [&](const char *name) { return hostHasExtension(view, name); });
+}
+
+// The variant of the first alternative that holds, or noVariant.
+int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &view) {
+    for (const auto &alternative : descriptor.alternatives) {
+        if (alternativeSatisfied(view, alternative)) return static_cast<int32_t>(alternative.variant);
+    }
+    return noVariant;
+}
+
 // Not the alternative that was selected: a host of OpenGL 4 can have texture storage without these functions.
 void bindDirectStorage(Binding &binding, const HostGlView &view, const DynamicLibrary &library) {
     const auto &descriptor = descriptorOf(Feature::textureStorage);
@@ -87,27 +83,8 @@ void bindDirectStorage(Binding &binding, const HostGlView &view, const DynamicLi
 
 } // namespace
 
-void *findFunction(Feature feature, const Binding &binding, std::string_view name) {
-    const auto rows = rowsOf(entryPoints, feature);
-    const auto row = std::ranges::find(rows, name, [](const auto &row) { return std::string_view(row.names[0]); });
-    const auto index = static_cast<size_t>(row - rows.begin());
-    return row == rows.end() || index >= binding.functions.size() ? nullptr : binding.functions[index];
-}
-
 bool isAvailable(Feature feature, const Binding &binding) {
     return binding.variant != noVariant || descriptorOf(feature).alternatives.empty();
-}
-
-bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative) {
-    if (hostGlVersion(view) < alternative.minVersion) return false;
-    return std::ranges::all_of(alternative.extensions, [&](const char *name) { return hostHasExtension(view, name); });
-}
-
-int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &view) {
-    for (const auto &alternative : descriptor.alternatives) {
-        if (alternativeSatisfied(view, alternative)) return static_cast<int32_t>(alternative.variant);
-    }
-    return noVariant;
 }
 
 bool bind(Feature feature, Binding &binding, const HostGlView &view, const DynamicLibrary &library) {

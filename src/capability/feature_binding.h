@@ -1,9 +1,9 @@
 // A feature on one host: which alternative was selected, and the host functions that go with it.
 #pragma once
 
-#include <string_view>
 #include <vector>
 
+#include "capability/entry_points.h"
 #include "capability/feature.h"
 #include "capability/host_gl_view.h"
 #include "foundation/dynamic_library.h"
@@ -22,16 +22,14 @@ struct Binding {
     std::vector<void *> functions;
 };
 
-[[nodiscard]] void *findFunction(Feature feature, const Binding &binding, std::string_view name);
-
 // Of this feature and no other.
 template <Feature feature>
 struct FeatureBinding : Binding {
-    // The function at the place of this name. Null when nothing was looked up, or the feature has no such name. The
-    // name is that of the feature's first family, whatever family was selected.
+    // The function of this name in the feature's first family, whatever family was selected. Null when nothing was
+    // looked up.
     template <typename Function>
-    [[nodiscard]] Function function(std::string_view name) const {
-        return reinterpret_cast<Function>(findFunction(feature, *this, name));
+    [[nodiscard]] Function function(EntryPoint<feature> entry) const {
+        return reinterpret_cast<Function>(entry.place() < functions.size() ? functions[entry.place()] : nullptr);
     }
 };
 
@@ -42,10 +40,6 @@ template <Feature feature>
 [[nodiscard]] bool featureAvailable(const FeatureBinding<feature> &binding) {
     return isAvailable(feature, binding);
 }
-
-[[nodiscard]] bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative);
-// The variant of the first alternative that holds, or noVariant.
-[[nodiscard]] int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &view);
 
 // Selects the variant and looks the functions up; those of an unknown variant stay as they are. Tells whether it looked
 // anything up, or, for a feature without functions, whether it is available.

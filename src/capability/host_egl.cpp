@@ -1,5 +1,7 @@
 #include "capability/host_egl.h"
 
+#include <type_traits>
+
 namespace host {
 
 using capability::bindFeature;
@@ -8,8 +10,9 @@ using capability::HostGlView;
 namespace {
 
 template <capability::Feature feature, typename Function>
-void take(const capability::FeatureBinding<feature> &binding, const char *name, Function &function) {
-    function = binding.template function<Function>(name);
+void take(const capability::FeatureBinding<feature> &binding,
+          std::type_identity_t<capability::EntryPoint<feature>> entry, Function &function) {
+    function = binding.template function<Function>(entry);
 }
 
 } // namespace
