@@ -168,7 +168,7 @@ TEST_F(OnX11, SlowConfigGivesWayToItsEqual) {
 
 TEST_F(OnX11, SwapIntervalIsForViewsAlone) {
     glxExtensions = "GLX_EXT_swap_control";
-    x11::Connection connection(XOpenDisplay(nullptr));
+    static auto &connection = *new x11::Connection(XOpenDisplay(nullptr));
     glxExtensions = nullptr;
     const auto pixels = format();
     ContextContainer container{connection, pixels->config, nullptr, 0, {}, 1};
