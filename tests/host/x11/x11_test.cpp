@@ -196,6 +196,7 @@ TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
     XSetErrorHandler([](Display *, XErrorEvent *) { return ++applicationErrors; });
     XUnmapWindow(application, 0x12345); // still on its way when the trap is set
     x11::ErrorTrap trap(application, X_UnmapWindow);
+    EXPECT_EQ(applicationErrors, 1);
     XMapWindow(application, 0x12345); // another kind of request
     EXPECT_FALSE(trap.sawError());
     EXPECT_EQ(applicationErrors, 2);

@@ -21,8 +21,8 @@ void keepLossesFromProcess();
 // Whether requests wait in the display's buffer.
 [[nodiscard]] bool hasRequestsToSend(Display *display);
 
-// Takes the errors of a display while it lives, and tells of them; those of earlier requests go where they belong, also
-// when they come now. One at a time on a display, since the newest takes all.
+// Takes the errors of a display while it lives, and tells of them. Waits for the server when made, so that errors of
+// earlier requests go where they belong. One at a time on a display, since the newest takes all.
 class ErrorTrap {
 public:
     // With a major opcode, errors of other requests are not meant.
