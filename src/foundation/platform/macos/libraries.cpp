@@ -2,6 +2,12 @@
 #include "foundation/platform/library_directories.h"
 
 const char *const hostOpenGLLibraryName = "libGL.dylib";
+const char *const hostPlainOpenGLLibraryName = nullptr;
+
+void *findUnexportedHostFunction(const char *) {
+    return nullptr;
+}
+
 const char *const es1LibraryName = "libGLESv1_CM.dylib";
 const char *const es2LibraryName = "libGLESv2.dylib";
 
