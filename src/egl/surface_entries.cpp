@@ -3,6 +3,7 @@
 #include "egl/entry_frame.h"
 #include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
+#include "foundation/attribute_list.h"
 
 #include <algorithm>
 #include <span>
@@ -19,8 +20,8 @@ constexpr EGLint pbufferAttributes[] = {
 
 // Looks at the keys alone; values are kept as they come.
 bool areKeysIn(const EGLint *attributes, std::span<const EGLint> accepted) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (std::ranges::find(accepted, *attributes) == accepted.end()) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (std::ranges::find(accepted, name) == accepted.end()) return false;
     }
     return true;
 }
@@ -29,7 +30,7 @@ bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
 }
 
-// The config's surface type is not looked at, unlike with the other kinds; applications rely on it.
+// On devices the config's surface type is not checked: a config without EGL_WINDOW_BIT takes a window too.
 EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativeWindowType window,
                           const EGLint *attributes) {
     if (desktop_clients::isOn()) {
@@ -51,7 +52,7 @@ EGLint pixmapSurfaceError(const Display &display, const Config &config, uint64_t
         const EGLint error = standard::pixmapSurfaceError(config, attributes);
         return error == EGL_SUCCESS ? standard::pixmapError(display, pixmap, surfaceFormat(config)) : error;
     }
-    if (attributes && *attributes != EGL_NONE) return EGL_BAD_ATTRIBUTE;
+    if (!AttributeList(attributes).isEmpty()) return EGL_BAD_ATTRIBUTE;
     return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
 }
 
@@ -124,7 +125,7 @@ EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLin
     });
 }
 
-// Takes three attributes and drops their values: a later query answers as before, and callers rely on the success.
+// On devices three attributes are accepted and their values dropped: a later query answers as before.
 EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint value) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);

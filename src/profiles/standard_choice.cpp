@@ -8,6 +8,8 @@
 #include <map>
 #include <span>
 
+#include "foundation/attribute_list.h"
+
 namespace egl {
 
 namespace {
@@ -38,8 +40,8 @@ using Request = std::map<int32_t, int32_t>;
 // The last of several values of an attribute counts.
 Request readRequest(const int32_t *attributes) {
     Request request;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        request[attributes[0]] = attributes[1];
+    for (const auto &[name, value] : AttributeList(attributes))
+        request[name] = value;
     return request;
 }
 
@@ -137,8 +139,8 @@ auto sortKey(const Config &config, const Request &request) {
 } // namespace
 
 bool isValidByStandard(const int32_t *attributes) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (!isKnown(attributes[0]) || !isValidValue(attributes[0], attributes[1])) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (!isKnown(name) || !isValidValue(name, value)) return false;
     }
     return true;
 }
