@@ -5,6 +5,7 @@
 #include "host_types.h"
 #include "textures/texture_formats.h"
 #include "textures/texture_limits.h"
+#include "textures/texture_replacement.h"
 #include "textures/texture_targets.h"
 
 namespace {
@@ -46,6 +47,7 @@ void define(const Image &image, GLenum format, GLenum type, Define call) {
     const GLenum error = imageError(*context, internal, format, type);
     if (error != GL_NO_ERROR) return context->raise(error);
     if (isTooLarge(*context, target, level, size)) return context->raise(GL_INVALID_VALUE);
+    leaveImage(*context, target, level);
     const HostTextureFormat host = hostTextureFormat(internal, format, type);
     call(host);
     setFormatSwizzle(*context, target, internal, host);
@@ -65,6 +67,7 @@ void defineStorage(GLenum target, const ImageSize &size, GLenum internal, Define
     if (!context) return call(internal);
     if (isTooLarge(*context, target, 0, size)) return context->raise(GL_INVALID_VALUE);
     context->shared->textures.noteFormat(internal);
+    leaveImage(*context, target, 0);
     const HostTextureFormat host = hostTextureFormat(internal);
     call(host.internal);
     setFormatSwizzle(*context, target, internal, host);

@@ -3,6 +3,7 @@
 
 #include "names/name_table.h"
 #include "textures/block_formats.h"
+#include "textures/shared_images.h"
 #include "textures/texture_swizzles.h"
 
 #include <atomic>
@@ -20,6 +21,7 @@ struct Textures {
 struct SharedTextures {
     NameTable names;
     TextureSwizzles swizzles;
+    SharedImages images;
     std::atomic<bool> mayHoldBlocks = false; // of ETC2 or ASTC, in any texture
 
     // A texture gets this format.
