@@ -227,6 +227,7 @@ TEST_F(Gles1Drawing, MatricesOfAPaletteMoveVerticesAndNormals) {
     const std::vector<GLfloat> weights(10, 0.5f);
     const GLushort indices[] = {1, 2, 3, 4};
     const GLfloat front[] = {0, 0, 1, 0};
+    const std::vector<char> directions = inType(GL_FIXED, normals);
     ES(glTranslatef)(0, 0, 0.5f); // the palette takes the modelview's place
     ES(glMatrixMode)(GL_MATRIX_PALETTE_OES);
     EXPECT_EQ(integer(GL_MATRIX_MODE), GL_MATRIX_PALETTE_OES);
@@ -244,7 +245,7 @@ TEST_F(Gles1Drawing, MatricesOfAPaletteMoveVerticesAndNormals) {
         ES(glEnableClientState)(array);
     for (const GLenum type : {GL_SHORT, GL_FLOAT, GL_FIXED}) {
         SCOPED_TRACE(type);
-        const std::vector<char> places = inType(type, corners), directions = inType(GL_FIXED, normals),
+        const std::vector<char> places = inType(type, corners),
                                 shares = inType(type == GL_SHORT ? GL_FLOAT : type, weights);
         ES(glVertexPointer)(2, type, 0, places.data());
         ES(glNormalPointer)(GL_FIXED, 0, directions.data());
