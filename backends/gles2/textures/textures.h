@@ -9,10 +9,18 @@
 #include <atomic>
 #include <unordered_map>
 
+// Pixels of this format and type that an image of this internal format takes.
+struct TakenPart {
+    GLenum internal = GL_NONE, format = GL_NONE, type = GL_NONE;
+
+    [[nodiscard]] bool operator==(const TakenPart &) const = default;
+};
+
 // Used on the context's thread.
 struct Textures {
     std::unordered_map<GLuint, GLuint> lastNames; // by the host's: what it was bound as, where the names differ
     TextureSwizzles swizzlesOfZero;               // of the textures of name 0
+    TakenPart lastTaken;                          // of parts: most are like the last one
     GLenum mipmapHint = GL_DONT_CARE;
     GLenum unitEnd = ~0u; // behind the names of the device's texture units
 };
