@@ -99,6 +99,7 @@ protected:
     PFNGLGETINTEGERVPROC getIntegerv = Named("glGetIntegerv");
     PFNGLGENERATEMIPMAPPROC generateMipmap = Named("glGenerateMipmap");
     PFNGLEGLIMAGETARGETTEXTURE2DOESPROC targetTexture = Named("glEGLImageTargetTexture2DOES");
+    PFNGLEGLIMAGETARGETTEXSTORAGEEXTPROC targetStorage = Named("glEGLImageTargetTexStorageEXT");
     PFNGLEGLIMAGETARGETRENDERBUFFERSTORAGEOESPROC targetRenderbuffer = Named("glEGLImageTargetRenderbufferStorageOES");
 };
 
@@ -167,9 +168,15 @@ TEST_F(DesktopImages, SiblingsShareUntilOneGetsAnotherImage) {
     EXPECT_EQ(pixel(), green);
     gl.bindTexture(GL_TEXTURE_2D, sibling);
     generateMipmap(GL_TEXTURE_2D);
-    framebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, sibling, 0);
     EXPECT_EQ(pixel(), green);
     EXPECT_EQ(gl.isTexture(sibling), GL_TRUE);
+
+    targetStorage(GL_TEXTURE_2D, image, nullptr);
+    EXPECT_EQ(gl.getError(), GLenum(GL_NO_ERROR));
+    EXPECT_EQ(pixel(), green);
+    define(GL_TEXTURE_2D, 0, red);
+    EXPECT_EQ(gl.getError(), GLenum(GL_INVALID_OPERATION)) << "such a storage cannot change";
+    EXPECT_EQ(pixel(), green);
 }
 
 TEST_F(DesktopImages, OfWhatIsNoSourceAreRefused) {

@@ -46,14 +46,24 @@ GLuint makeView(EsContext &context, const zvImage &image) {
     return view;
 }
 
-void shareStorage(EsContext &context, const zvImage &image) {
+// isMutable: to the application.
+void shareStorage(EsContext &context, const zvImage &image, bool isMutable) {
     SharedTextures &textures = context.shared->textures;
     const GLuint view = makeView(context, image);
     replaceBoundTexture(context, GL_TEXTURE_2D, view);
     HostTextureFormat format = {image.hostFormat, image.hostFormat, GL_UNSIGNED_BYTE, {}};
     std::copy_n(image.swizzle, format.swizzle.size(), format.swizzle.begin());
     setFormatSwizzle(context, GL_TEXTURE_2D, image.format, format);
-    textures.images.siblings.set(view, {image.number, true});
+    textures.images.siblings.set(view, {image.number, isMutable});
+}
+
+// Whether the application has given the texture of this name on the host a storage that cannot change.
+bool isImmutable(const EsContext &context, GLuint texture) {
+    const auto sibling = context.shared->textures.images.siblings.find(texture);
+    if (sibling) return !sibling->isMutable;
+    GLint value = 0;
+    hostGl().getTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_IMMUTABLE_FORMAT, &value);
+    return value != 0;
 }
 
 void shareObject(EsContext &context, GLuint source, GLuint old, GLuint name) {
@@ -85,8 +95,22 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     const bool hasLast = last != context->textures.lastNames.end();
     const GLuint name = hasLast ? last->second : context->shared->textures.names.nameOf(old);
     if (image.hostTexture == 0 || name == 0) return context->raise(GL_INVALID_OPERATION);
-    if (image.owner) return shareStorage(*context, image);
-    shareObject(*context, image.hostTexture, old, name);
+    if (!image.owner) return shareObject(*context, image.hostTexture, old, name);
+    if (isImmutable(*context, old)) return context->raise(GL_INVALID_OPERATION);
+    shareStorage(*context, image, true);
+}
+
+void GL_APIENTRY imageTargetTexStorage(GLenum target, GLeglImageOES handle, const GLint *attributes) {
+    EsContext *const context = EsContext::current();
+    if (!context) return;
+    zvImage image = {};
+    if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
+    if (attributes && *attributes != GL_NONE) return context->raise(GL_INVALID_VALUE);
+    GLint bound = 0;
+    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    const bool isTaken = image.owner && hostTarget(target) == GL_TEXTURE_2D && bound != 0;
+    if (!isTaken || isImmutable(*context, static_cast<GLuint>(bound))) return context->raise(GL_INVALID_OPERATION);
+    shareStorage(*context, image, false);
 }
 
 void GL_APIENTRY imageTargetRenderbufferStorage(GLenum target, GLeglImageOES handle) {
