@@ -26,6 +26,7 @@ const Entry entries[] = {
 #define CORE_ENTRY(name) {#name, reinterpret_cast<Function>(name)},
 #include "egl/data/core_entries.def"
 #undef CORE_ENTRY
+    {"eglCreateImageKHR", reinterpret_cast<Function>(createImageKHR)},
     {"eglCreatePlatformWindowSurfaceEXT", reinterpret_cast<Function>(createPlatformWindowSurfaceEXT)},
     {"eglCreatePlatformPixmapSurfaceEXT", reinterpret_cast<Function>(createPlatformPixmapSurfaceEXT)},
     {"eglQueryDevicesEXT", reinterpret_cast<Function>(standard::queryDevices)},

@@ -14,8 +14,8 @@ using Function = void (*)();
 // Whether the process is in this mode.
 [[nodiscard]] bool isOn();
 
-// What eglGetProcAddress hands out before it looks at its tables: the core EGL entries, and the platform entries that
-// take pointers. Null for all other names.
+// What eglGetProcAddress hands out before it looks at its tables: the core EGL entries, and extension entries that
+// differ for desktop clients. Null for all other names.
 [[nodiscard]] Function findEntry(const char *name);
 
 // Loads the back ends before anything of the host: tracers look functions of OpenGL ES up in the whole process, and the

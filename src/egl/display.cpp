@@ -42,6 +42,7 @@ void Display::terminate() {
     images.swap(m_images);
     m_syncs.clear(); // the host's fences are left behind
     standardSyncs.clear();
+    standardImages.clear();
     contexts = m_contexts.takeAll();
     surfaces = m_surfaces.takeAll();
     forgetMemos();
