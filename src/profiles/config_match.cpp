@@ -80,10 +80,10 @@ bool isValidPair(int32_t attribute, int32_t value) {
 
 // Attributes that the list leaves out are not tested: no default stands in for them, so that an empty list matches
 // every config, those without windows included.
-bool Config::matches(const int32_t *attributes) const {
-    if (!attributes) return true;
-    bool overall = true;
-    bool transparentOk = true;
+std::optional<FallOut> Config::findFallOut(const int32_t *attributes) const {
+    if (!attributes) return std::nullopt;
+    std::optional<FallOut> first;            // without the transparent colours
+    std::optional<FallOut> firstWithColours; // with them
     bool wantsTransparentRgb = false;
     for (; *attributes != EGL_NONE; attributes += 2) {
         int32_t offered = 0;
@@ -91,16 +91,15 @@ bool Config::matches(const int32_t *attributes) const {
         const int32_t wanted = attributes[1];
         const MatchRule rule = findRule(attributes[0]);
         const bool ok = passes(rule.test, offered, wanted);
-        if (ok && rule.weight == Weight::alone) return true;
-        if (rule.weight == Weight::transparentOnly) {
-            transparentOk = transparentOk && ok;
-            continue;
-        }
+        if (ok && rule.weight == Weight::alone) return std::nullopt;
         // A failure does not end the walk: an id further on may still be the answer.
-        overall = overall && ok;
+        const FallOut reason{attributes[0], wanted, offered};
+        if (!ok && !firstWithColours) firstWithColours = reason;
+        if (rule.weight == Weight::transparentOnly) continue;
+        if (!ok && !first) first = reason;
         if (rule.weight == Weight::asksForRgb && wanted == EGL_TRANSPARENT_RGB) wantsTransparentRgb = true;
     }
-    return overall && (transparentOk || !wantsTransparentRgb);
+    return wantsTransparentRgb ? firstWithColours : first;
 }
 
 bool validateAttributeList(const int32_t *attributes) {
