@@ -9,6 +9,7 @@
 #include "tools/command/verbs.h"
 #include "tools/monitor/monitor.h"
 #include "tools/run/checks.h"
+#include "tools/run/held_refusals.h"
 #include "tools/run/libraries.h"
 #include "tools/run/private_preferences.h"
 #include "tools/run/program.h"
@@ -60,9 +61,12 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     checkXServer();
     checkProgram(words, libraries.directory());
 
+    const HeldRefusals refusals(preferences.directory());
     std::optional<WatchedRun> watched;
     if (options.monitor) watched.emplace();
-    return signals.relayTo(startProgram(words));
+    const int status = signals.relayTo(startProgram(words));
+    refusals.print();
+    return status;
 }
 
 } // namespace
