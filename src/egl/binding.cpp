@@ -37,7 +37,7 @@ void primeShareContext(Context &context, const SurfacePair &surfaces) {
 // an empty one.
 void postWindowTitle(const Surface *draw) {
     const auto *window = draw ? draw->hostSurface.get() : nullptr;
-    if (!window || window->isPBuffer() || !state().uiLink().isAttached()) return;
+    if (!window || window->isPBuffer() || window->isPixmap() || !state().uiLink().isAttached()) return;
     if (getHostConfiguration() & CONFIG_NO_WINDOW_TITLE) return;
     state().uiLink().post(ui::messages::windowTitle(window->title()));
 }
@@ -91,9 +91,15 @@ BindClaim::~BindClaim() {
     if (m_isTaken) endClaim(m_context, m_context.display);
 }
 
+void showPixmap(const Context &current) {
+    const Surface *const draw = current.surfaces.draw.get();
+    if (draw && draw->hostSurface && draw->hostSurface->isPixmap()) draw->hostSurface->swapBuffers();
+}
+
 void unbindCurrent(Display &display) {
     Context *const current = threadRecord.current;
     if (!current) return;
+    showPixmap(*current);
     endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
 }
@@ -103,6 +109,8 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
     if (!context->esLibrary.library.isLoaded()) return refuseBind(Rule::noBackEnd, *context);
     const Surface *const draw = surfaces.draw.get();
     postWindowTitle(draw);
+
+    if (threadRecord.current && threadRecord.current->surfaces.draw.get() != draw) showPixmap(*threadRecord.current);
 
     const auto *hostContext = context->claimedHostContext();
     const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())

@@ -18,10 +18,6 @@ uint64_t number(const void *handle) {
     return reinterpret_cast<uintptr_t>(handle);
 }
 
-const host::platform::PixelFormat *surfaceFormat(const Config &config) {
-    return config.hostConfig() ? config.hostConfig()->surfaceFormat() : nullptr;
-}
-
 } // namespace
 
 Display::Display(uint64_t nativeDisplay, Display *older) : nativeDisplay(nativeDisplay), older(older) {}
@@ -153,9 +149,12 @@ std::shared_ptr<Surface> Display::createPrivateSurface(Context &context) {
     return insertSurface(m_surfaces.takeHandle(), context.privateBuffer, *context.config, privateBufferAttributes);
 }
 
-std::shared_ptr<Surface> Display::createPixmapSurface(const Config &config, const EGLint *attributes) {
+std::shared_ptr<Surface> Display::createPixmapSurface(const Config &config, uint64_t pixmap, const EGLint *attributes) {
     const std::lock_guard lock(m_displayMutex);
-    return insertSurface(m_surfaces.takeHandle(), host::createHostPixmapSurface(), config, attributes);
+    const uint64_t handle = m_surfaces.takeHandle();
+    if (!desktop_clients::isOn()) return insertSurface(handle, host::createHostPixmapSurface(), config, attributes);
+    auto hostSurface = host::createHostPixmapSurface(nativeDisplay, pixmap, surfaceFormat(config));
+    return hostSurface ? insertSurface(handle, std::move(hostSurface), config, attributes) : nullptr;
 }
 
 bool Display::destroySurface(EGLSurface handle) {

@@ -70,7 +70,8 @@ public:
     [[nodiscard]] std::shared_ptr<Surface> createPbufferSurface(const Config &config, const EGLint *attributes);
     // For a bind without surfaces: a new handle at each call, around the one host buffer of the context.
     [[nodiscard]] std::shared_ptr<Surface> createPrivateSurface(Context &context);
-    [[nodiscard]] std::shared_ptr<Surface> createPixmapSurface(const Config &config, const EGLint *attributes);
+    [[nodiscard]] std::shared_ptr<Surface> createPixmapSurface(const Config &config, uint64_t pixmap,
+                                                               const EGLint *attributes);
     [[nodiscard]] bool destroySurface(EGLSurface handle);
 
     [[nodiscard]] EGLImage createImage(EGLenum target, EGLClientBuffer buffer);

@@ -22,10 +22,14 @@ DrawableSizes drawableSizes(const Config &config) {
             config.attributeOr0(EGL_SAMPLES)};
 }
 
+const host::platform::PixelFormat *surfaceFormat(const Config &config) {
+    return config.hostConfig() ? config.hostConfig()->surfaceFormat() : nullptr;
+}
+
 Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
                  const EGLint *attributes)
     : handle(handle), isSrgb(lastValue(attributes, EGL_GL_COLORSPACE) == EGL_GL_COLORSPACE_SRGB),
-      sizes(drawableSizes(config)),
+      sizes(drawableSizes(config)), format(surfaceFormat(config)),
       canPreserve(config.attributeOr0(EGL_SURFACE_TYPE) & EGL_SWAP_BEHAVIOR_PRESERVED_BIT),
       hostSurface(std::move(hostSurface)), m_attributes{{EGL_RENDER_BUFFER, EGL_BACK_BUFFER},
                                                         {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},

@@ -53,8 +53,11 @@ EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
     return keysError(attributes, pbufferAttributes);
 }
 
-EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
-    if (desktop_clients::isOn()) return standard::pixmapSurfaceError(config, attributes);
+EGLint pixmapSurfaceError(const Display &display, const Config &config, uint64_t pixmap, const EGLint *attributes) {
+    if (desktop_clients::isOn()) {
+        const EGLint error = standard::pixmapSurfaceError(config, attributes);
+        return error == EGL_SUCCESS ? standard::pixmapError(display, pixmap, surfaceFormat(config)) : error;
+    }
     if (const EGLint error = keysError(attributes, {}); error != EGL_SUCCESS) return error;
     if (hasSurfaceType(config, EGL_PIXMAP_BIT)) return EGL_SUCCESS;
     return because(Rule::configWithoutPixmaps, EGL_BAD_MATCH, {.config = config.attributeOr0(EGL_CONFIG_ID)});
@@ -96,15 +99,15 @@ EGLSurface EGLAPIENTRY eglCreatePbufferSurface(EGLDisplay dpy, EGLConfig configH
     return reports::told(made, reports::surface, "eglCreatePbufferSurface", dpy, configHandle, attributes);
 }
 
-// The pixmap is not used at all: the surface is a handle and a map of attributes.
-EGLSurface EGLAPIENTRY eglCreatePixmapSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativePixmapType,
+// Devices do not use the pixmap at all: the surface is a handle and a map of attributes.
+EGLSurface EGLAPIENTRY eglCreatePixmapSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativePixmapType pixmap,
                                               const EGLint *attributes) {
     const EGLSurface made = entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
-        const EGLint error = pixmapSurfaceError(*config, attributes);
+        const EGLint error = pixmapSurfaceError(display, *config, hostWord(pixmap), attributes);
         if (error != EGL_SUCCESS) return fail(error, EGL_NO_SURFACE);
-        return finishSurface(display.createPixmapSurface(*config, attributes));
+        return finishSurface(display.createPixmapSurface(*config, hostWord(pixmap), attributes));
     });
     return reports::told(made, reports::surface, "eglCreatePixmapSurface", dpy, configHandle, attributes);
 }

@@ -4,6 +4,7 @@
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
 #include "egl/standard/binding_rules.h"
+#include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
 #include "foundation/log.h"
 
@@ -34,6 +35,12 @@ EGLBoolean setDamageRegion(Display &display, const Context &current, EGLSurface 
     return succeed(EGL_TRUE);
 }
 
+EGLint copyBuffers(const Display &display, const Surface &surface, uint64_t pixmap) {
+    if (const EGLint error = standard::pixmapError(display, pixmap, surface.format); error != EGL_SUCCESS) return error;
+    if (!standard::isDrawnTo(surface)) return EGL_BAD_SURFACE;
+    return host::copyToPixmap(display.nativeDisplay, pixmap, surface.format) ? EGL_SUCCESS : EGL_BAD_ALLOC;
+}
+
 } // namespace
 
 EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface, const EGLint *, EGLint) {
@@ -55,11 +62,12 @@ EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
     return entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
 }
 
-// Fails without an error; callers rely on reading EGL_SUCCESS.
-EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
-        if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        if (desktop_clients::isOn()) return fail(EGL_BAD_NATIVE_PIXMAP, EGL_FALSE);
+// For devices it fails without an error.
+EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType pixmap) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
+        const auto found = display.findSurface(surface);
+        if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (desktop_clients::isOn()) return finish(copyBuffers(display, *found, hostWord(pixmap)));
         logMessage(LogWarning, "eglCopyBuffers is not currently supported by Zelvane.");
         return succeed(EGL_FALSE);
     });

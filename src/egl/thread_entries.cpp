@@ -1,4 +1,5 @@
 // Entries that look at the calling thread alone. None of them loads anything.
+#include "egl/binding.h"
 #include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
@@ -35,6 +36,7 @@ EGLBoolean waitForClient() {
     if (!desktop_clients::isOn() || !threadRecord.current) return succeed(EGL_TRUE);
     const auto glFinish = reinterpret_cast<void (*)()>(threadRecord.current->getExtProcAddress("glFinish"));
     if (glFinish) glFinish();
+    showPixmap(*threadRecord.current);
     return succeed(EGL_TRUE);
 }
 

@@ -99,6 +99,23 @@ void PBufferSurface::swapBuffers() {
     flushIfBound(nativeHandle());
 }
 
+PixmapSurface::~PixmapSurface() {
+    operations.releasePixelBuffer(m_buffer);
+}
+
+int32_t PixmapSurface::width() const {
+    return sizeOf(m_buffer).width;
+}
+
+int32_t PixmapSurface::height() const {
+    return sizeOf(m_buffer).height;
+}
+
+void PixmapSurface::swapBuffers() {
+    const auto context = host::lockCurrentHostContext();
+    if (context) operations.flushBuffer(context->container());
+}
+
 } // namespace glove
 
 namespace host {
@@ -155,6 +172,28 @@ std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attribu
 
 std::shared_ptr<glove::ISurface> createHostPixmapSurface() {
     return nullptr;
+}
+
+std::shared_ptr<glove::ISurface> createHostPixmapSurface(uint64_t display, uint64_t pixmap,
+                                                         const platform::PixelFormat *format) {
+    auto *buffer = operations.createPixmapBuffer(display, pixmap, format);
+    return buffer ? std::make_shared<glove::PixmapSurface>(buffer) : nullptr;
+}
+
+PixmapFit pixmapFit(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format) {
+    const int32_t depth = operations.pixmapDepth(display, pixmap);
+    if (!depth) return PixmapFit::none;
+    const bool fits = format && operations.pixelFormatValue(format, platform::VisualDepth) == depth;
+    return fits ? PixmapFit::fits : PixmapFit::otherDepth;
+}
+
+bool copyToPixmap(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format) {
+    const auto context = lockCurrentHostContext();
+    auto *buffer = context ? operations.createPixmapBuffer(display, pixmap, format) : nullptr;
+    if (!buffer) return false;
+    const bool isCopied = operations.copyToPixmap(context->container(), buffer);
+    operations.releasePixelBuffer(buffer);
+    return isCopied;
 }
 
 } // namespace host

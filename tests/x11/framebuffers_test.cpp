@@ -101,3 +101,17 @@ TEST_F(BackEndFramebuffers, KeepTheNamesOfWhatWasDeletedWhileAttached) {
     ES(glGetRenderbufferParameteriv)(GL_RENDERBUFFER, GL_RENDERBUFFER_INTERNAL_FORMAT, &name);
     EXPECT_EQ(name, GL_RGBA4) << "before it holds anything";
 }
+
+TEST_F(BackEndFramebuffers, GiveTheirDepthInTheUpperBitsOfAnInteger) {
+    start(3, 0);
+    ES(glBindRenderbuffer)(GL_RENDERBUFFER, 61);
+    ES(glRenderbufferStorage)(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, size, size);
+    ES(glBindFramebuffer)(GL_FRAMEBUFFER, 60);
+    ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, 61);
+    ES(glClearDepthf)(0.75F);
+    ES(glClear)(GL_DEPTH_BUFFER_BIT);
+    GLuint depth = 0;
+    ES(glReadPixels)(0, 0, 1, 1, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT_24_8, &depth);
+    EXPECT_EQ(error(), GL_NO_ERROR);
+    EXPECT_NEAR(depth >> 8, 0.75 * 0xFFFFFF, 1);
+}

@@ -12,7 +12,6 @@ using refusals::Facts;
 using refusals::Rule;
 
 constexpr EGLint debugFlag = EGL_CONTEXT_OPENGL_DEBUG_BIT_KHR;
-constexpr EGLint noErrorFlag = 8;
 constexpr EGLint robustFlag = EGL_CONTEXT_OPENGL_ROBUST_ACCESS_BIT_KHR;
 
 bool isBoolean(EGLint value) {
@@ -31,9 +30,8 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
         return EGL_SUCCESS;
     case EGL_CONTEXT_FLAGS_KHR:
         // The others are of desktop OpenGL.
-        if (value & ~(debugFlag | noErrorFlag)) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
+        if (value & ~debugFlag) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.contextFlags = value;
-        if (value & noErrorFlag) attribs.noError = 1;
         return EGL_SUCCESS;
     case EGL_CONTEXT_OPENGL_DEBUG:
         if (!isBoolean(value)) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
@@ -65,10 +63,8 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
 EGLint renderBuffer(const Context &context) {
     const auto &draw = context.surfaces.draw;
     if (!context.boundToThread || !draw) return EGL_NONE;
-    EGLint buffer = EGL_SINGLE_BUFFER; // of pixmaps
-    if (draw->hostSurface)
-        buffer = draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
-    return buffer;
+    if (!draw->hostSurface || draw->hostSurface->isPixmap()) return EGL_SINGLE_BUFFER;
+    return draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
 }
 
 } // namespace
@@ -99,7 +95,7 @@ EGLint readContextAttributes(const Config &config, const DeviceProfile &profile,
     if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config))
         return because(Rule::notRobust, EGL_BAD_MATCH);
     // One that checks nothing cannot promise anything.
-    if (robustness.isRobust && attribs.noError) return because(Rule::robustWithoutErrors, EGL_BAD_MATCH);
+    if (attribs.noError && attribs.contextFlags) return because(Rule::flagsWithoutErrors, EGL_BAD_MATCH);
     if (config.supportsClientVersion(attribs.requestedMajor)) return EGL_SUCCESS;
     return because(
         Rule::configWithoutVersion, EGL_BAD_CONFIG,

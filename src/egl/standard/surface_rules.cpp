@@ -80,6 +80,10 @@ bool isPbuffer(const Surface &surface) {
     return surface.hostSurface && surface.hostSurface->isPBuffer();
 }
 
+bool isPixmap(const Surface &surface) {
+    return surface.hostSurface && surface.hostSurface->isPixmap();
+}
+
 } // namespace
 
 EGLint windowSurfaceError(const Config &config, const EGLint *attributes) {
@@ -106,6 +110,18 @@ EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(pixmapRules, attributes); error != EGL_SUCCESS) return error;
     if (hasSurfaceType(config, EGL_PIXMAP_BIT)) return EGL_SUCCESS;
     return because(Rule::configWithoutPixmaps, EGL_BAD_MATCH, about(config));
+}
+
+EGLint pixmapError(const Display &display, uint64_t pixmap, const host::platform::PixelFormat *format) {
+    switch (host::pixmapFit(display.nativeDisplay, pixmap, format)) {
+    case host::PixmapFit::none:
+        return EGL_BAD_NATIVE_PIXMAP;
+    case host::PixmapFit::otherDepth:
+        return EGL_BAD_MATCH;
+    case host::PixmapFit::fits:
+        break;
+    }
+    return EGL_SUCCESS;
 }
 
 EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
@@ -145,7 +161,7 @@ EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
         *value = surface.storedOr(attribute, EGL_VG_ALPHA_FORMAT_NONPRE);
         return EGL_SUCCESS;
     case EGL_RENDER_BUFFER:
-        *value = surface.hostSurface ? surface.storedOr(attribute, EGL_BACK_BUFFER) : EGL_SINGLE_BUFFER;
+        *value = isPixmap(surface) ? EGL_SINGLE_BUFFER : surface.storedOr(attribute, EGL_BACK_BUFFER);
         return EGL_SUCCESS;
     default:
         return surface.query(attribute, value);
