@@ -11,23 +11,19 @@
 #include "egl/state.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
+#include "journal/choice_json.h"
+#include "journal/recorded_context.h"
 #include "profiles/egl_names.h"
 
 namespace egl::reports {
 
 namespace {
 
+using journal::attributesJson;
 using journal::Json;
 
 // Of calls that programs try until one is taken, a refusal may be no more than a step. The log tells of some itself.
 enum class Kind { step, end, logged };
-
-Json attributesJson(const EGLint *attributes) {
-    Json object = Json::object();
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        object[attributeName(attributes[0])] = valueText(attributes[0], attributes[1]);
-    return object;
-}
 
 uint64_t number(const void *handle) {
     return reinterpret_cast<uintptr_t>(handle);
@@ -72,33 +68,6 @@ void endSteps(const char *call) {
     refusals::settle(call);
 }
 
-Json comparisonJson(const Comparison &comparison) {
-    const bool isColours = comparison.key == colourBits;
-    const auto text = [&](int32_t value) {
-        return isColours ? std::to_string(value) : valueText(comparison.key, value);
-    };
-    return {{"key", isColours ? "colour bits" : attributeName(comparison.key)},
-            {"former", text(comparison.former)},
-            {"latter", text(comparison.latter)},
-            {"decides", comparison.isBefore}};
-}
-
-Json fallOutJson(const ChoiceAccount::FallenOut &fallen) {
-    const auto &[id, reason] = fallen;
-    return {{"config", id},
-            {"attribute", attributeName(reason.attribute)},
-            {"wanted", valueText(reason.attribute, reason.wanted)},
-            {"had", valueText(reason.attribute, reason.had)}};
-}
-
-template <typename Items, typename Make>
-Json listJson(const Items &items, Make make) {
-    Json list = Json::array();
-    for (const auto &item : items)
-        list.push_back(make(item));
-    return list;
-}
-
 // The attribute that threw out most configs.
 std::string whyNone(const ChoiceAccount &account) {
     if (account.fallenOut.empty()) return "the device has no configs";
@@ -130,11 +99,11 @@ void initialize(EGLBoolean answer, EGLDisplay dpy) {
 void choice(EGLBoolean answer, const EGLint *attributes, EGLint found, const ChoiceAccount &account) {
     constexpr const char *call = "eglChooseConfig";
     if (!answer) return tellRefusal(Kind::step, call, attributeListText(attributes));
-    journal::write("choice", {{"criteria", attributesJson(attributes)},
-                              {"answers", found},
-                              {"fallenOut", listJson(account.fallenOut, fallOutJson)},
-                              {"order", account.order},
-                              {"comparisons", listJson(account.comparisons, comparisonJson)}});
+    if (journal::isOn()) {
+        Json fields = {{"criteria", attributesJson(attributes)}, {"answers", found}};
+        fields.update(journal::choiceJson(account));
+        journal::write("choice", fields);
+    }
     if (!account.order.empty()) return endSteps(call);
     refusals::lastNote = {refusals::Rule::noConfig, {}};
     refusals::Words words = refusals::takeWords(EGL_SUCCESS);
@@ -150,6 +119,7 @@ void context(EGLContext answer, EGLDisplay dpy, EGLConfig config, EGLContext sha
     const Display *display = state().findDisplay(dpy);
     const auto made = display ? display->findContext(answer) : nullptr;
     if (!made) return;
+    journal::RecordedContext::forget(made.get());
     const auto &attribs = made->attribs;
     journal::write("context", {{"context", number(answer)},
                                {"config", number(config)},
@@ -177,7 +147,12 @@ void surface(EGLSurface answer, const char *call, EGLDisplay dpy, EGLConfig conf
 }
 
 void makeCurrent(EGLBoolean answer, EGLSurface draw, EGLSurface read, EGLContext context) {
-    if (answer) return forgetNote();
+    if (answer) {
+        forgetNote();
+        // The first bind of a context has its device told.
+        if (journal::isOn()) (void)journal::RecordedContext::current();
+        return;
+    }
     tellRefusal(Kind::end, "eglMakeCurrent",
                 "draw " + std::to_string(number(draw)) + ", read " + std::to_string(number(read)) + ", context " +
                     std::to_string(number(context)));

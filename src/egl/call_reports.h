@@ -23,6 +23,8 @@ void context(EGLContext answer, EGLDisplay dpy, EGLConfig config, EGLContext sha
 void surface(EGLSurface answer, const char *call, EGLDisplay dpy, EGLConfig config, const EGLint *attributes);
 void makeCurrent(EGLBoolean answer, EGLSurface draw, EGLSurface read, EGLContext context);
 void bindApi(EGLBoolean answer, EGLenum api);
+void lookup(__eglMustCastToProperFunctionPointerType answer, const char *name);
+void swap(EGLBoolean answer, EGLSurface surface);
 
 // Hands the answer through and tells of the call.
 template <typename Answer, typename Tell, typename... Arguments>

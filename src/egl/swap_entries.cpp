@@ -1,4 +1,5 @@
 // Swapping, damage and copying.
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
@@ -59,7 +60,8 @@ EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EG
 using namespace egl;
 
 EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+    const EGLBoolean answer = entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+    return reports::told(answer, reports::swap, surface);
 }
 
 // For devices it fails without an error.

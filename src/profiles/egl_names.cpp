@@ -8,6 +8,8 @@
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 
+#include "profiles/choice_account.h"
+
 namespace egl {
 
 namespace {
@@ -134,6 +136,7 @@ std::optional<int32_t> readWord(Kind kind, std::string_view word) {
     for (const Value &value : values) {
         if (value.kind == kind && isMeant(word, value.name)) return value.number;
     }
+    if (isMeant(word, "EGL_DONT_CARE")) return EGL_DONT_CARE;
     return readNumber(word);
 }
 
@@ -151,6 +154,14 @@ std::string valueText(int32_t attribute, int32_t value) {
     }
     if (kind >= Kind::apiBits) return bitsText(kind, static_cast<uint32_t>(value));
     return kind <= Kind::number || kind == Kind::boolean ? std::to_string(value) : hexadecimal(value);
+}
+
+std::string keyName(int32_t key) {
+    return key == colourBits ? "colour bits" : attributeName(key);
+}
+
+std::string keyText(int32_t key, int32_t value) {
+    return key == colourBits ? std::to_string(value) : valueText(key, value);
 }
 
 std::string errorName(int32_t error) {

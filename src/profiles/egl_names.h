@@ -14,6 +14,9 @@ namespace egl {
 // A value of that attribute: "24", "EGL_DONT_CARE", "EGL_WINDOW_BIT|EGL_PBUFFER_BIT". Bits without a name stand as
 // one number at the end.
 [[nodiscard]] std::string valueText(int32_t attribute, int32_t value);
+// Of what a Comparison was made by: an attribute, or "colour bits" and their sum.
+[[nodiscard]] std::string keyName(int32_t key);
+[[nodiscard]] std::string keyText(int32_t key, int32_t value);
 [[nodiscard]] std::string errorName(int32_t error);
 // "EGL_DEPTH_SIZE 24, EGL_SAMPLES 4" of a list of pairs; empty for a null list.
 [[nodiscard]] std::string attributeListText(const int32_t *attributes);
