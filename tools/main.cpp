@@ -21,6 +21,7 @@ int runVerb(std::vector<std::string> words) {
     addProfilesCommand(commandLine.top());
     addUseCommand(commandLine.top());
     addStrictCommand(commandLine.top());
+    addExplainCommand(commandLine.top());
     addReportCommand(commandLine.top());
     addMonitorCommand(commandLine.top());
     program = commandLine.takeProgram(words, "run");

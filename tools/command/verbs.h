@@ -7,6 +7,7 @@
 
 #include "tools/command/verb.h"
 
+void addExplainCommand(const Verb &top);
 void addMonitorCommand(const Verb &top);
 void addProfilesCommand(const Verb &top);
 void addReportCommand(const Verb &top);
