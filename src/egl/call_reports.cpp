@@ -68,6 +68,14 @@ void endSteps(const char *call) {
     refusals::settle(call);
 }
 
+Json sizesJson(const Config &config) {
+    Json sizes = Json::object();
+    for (const EGLint size :
+         {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE, EGL_DEPTH_SIZE, EGL_STENCIL_SIZE, EGL_SAMPLES})
+        sizes[attributeName(size)] = config.attributeOr0(size);
+    return sizes;
+}
+
 // The attribute that threw out most configs.
 std::string whyNone(const ChoiceAccount &account) {
     if (account.fallenOut.empty()) return "the device has no configs";
@@ -125,6 +133,7 @@ void context(EGLContext answer, EGLDisplay dpy, EGLConfig config, EGLContext sha
                                {"config", number(config)},
                                {"share", number(share)},
                                {"asked", attributesJson(attributes)},
+                               {"sizes", sizesJson(*made->config)},
                                {"requestedMajor", attribs.requestedMajor},
                                {"granted", std::to_string(attribs.esMajor) + '.' + std::to_string(attribs.esMinor)},
                                {"isStrict", attribs.strictContextMode != 0},

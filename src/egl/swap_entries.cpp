@@ -4,6 +4,7 @@
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/frame_pictures.h"
 #include "egl/standard/binding_rules.h"
 #include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
@@ -19,6 +20,8 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     if (desktop_clients::isOn() && !standard::isDrawnTo(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     // First: a frame of a window that is not mapped yet is lost.
     if (desktop_clients::isOn()) host::flushApplication(display.nativeDisplay);
+    if (frame_pictures::areWanted()) [[unlikely]]
+        frame_pictures::take(*found);
     found->swap();
     State::countFrame();
     return succeed(EGL_TRUE);

@@ -34,7 +34,7 @@ _zelvane() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]} index
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'run explain profiles use strict report monitor --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'run lab explain profiles use strict report monitor --help --version' -- "$word")
         return
     fi
 
@@ -44,6 +44,13 @@ _zelvane() {
     case $verb:$before in
     run:--profile | explain:--profile) _zelvane_profiles "${word//\\/}"; return ;;
     run:--backends | use:--directory) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+    lab:--devices | lab:--reference)
+        _zelvane_profiles "${word//\\/}"
+        [[ Desktop == "$word"* ]] && COMPREPLY+=(Desktop)
+        return
+        ;;
+    lab:--out) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+    lab:--fail-on) mapfile -t COMPREPLY < <(compgen -W 'start error refusal lacking picture' -- "$word"); return ;;
     profiles:check | run:--journal) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
     profiles:show) _zelvane_profiles "${word//\\/}"; return ;;
     monitor:--level) mapfile -t COMPREPLY < <(compgen -W 'info warning error' -- "$word"); return ;;
@@ -56,11 +63,12 @@ _zelvane() {
     monitor:--process) mapfile -t COMPREPLY < <(compgen -W "$(ps -u "$UID" -o pid= 2>/dev/null)" -- "$word"); return ;;
     esac
 
-    if [[ $verb == run ]]; then
+    if [[ $verb == run || $verb == lab ]]; then
         for ((index = 2; index <= COMP_CWORD; ++index)); do
             case ${COMP_WORDS[index]} in
             --) _zelvane_program $((index + 1)); return ;;
-            --profile | --backends | --journal) [[ ${COMP_WORDS[index + 1]-} == = ]] && ((++index)); ((++index)) ;;
+            --profile | --backends | --journal | --devices | --frames | --seconds | --out | --jobs | --reference | --fail-on)
+                [[ ${COMP_WORDS[index + 1]-} == = ]] && ((++index)); ((++index)) ;;
             -*) ;;
             '') ((index < COMP_CWORD)) || { _zelvane_program "$index"; return; } ;;
             *) _zelvane_program "$index"; return ;;
@@ -70,6 +78,7 @@ _zelvane() {
     local words
     case $verb in
     run) words='--profile --bare --strict --loose --backends --journal --monitor --help' ;;
+    lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
     profiles) words='show check --json --names --help' ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
     explain)
