@@ -25,6 +25,8 @@ public:
     ShareGroupMember &operator=(const ShareGroupMember &) = delete;
 
     [[nodiscard]] Group &operator*() const { return *m_group; }
+    // For what outlives the context.
+    [[nodiscard]] const std::shared_ptr<Group> &group() const { return m_group; }
     [[nodiscard]] Group *operator->() const { return m_group.get(); }
 
 private:

@@ -2,7 +2,8 @@
  * The contract between Zelvane and an OpenGL ES back end.
  *
  * A back end is a shared library, libGLESv1_CM.so.1 for ES 1 or libGLESv2.so.2 for ES 2 and 3, beside libEGL.so.1 or
- * in $KZRTRACE_LIB_PATH. It exports the five functions below and may call the entries below them and any EGL entry.
+ * in $KZRTRACE_LIB_PATH. It exports the first five functions below, may export the two that make EGL images, and may
+ * call the entries below them and any EGL entry.
  *
  * Conventions: a null pointer is never passed where nothing is said about it. Whoever makes an object deletes it.
  * No function may throw. Functions run on the application's thread unless told otherwise.
@@ -76,6 +77,34 @@ ZV_EXPORT void *zvGetExtProcAddress(const char *name);
  */
 ZV_EXPORT void zvSetRenderMode(const uint8_t *mode, size_t length);
 
+/* What an EGL image of a desktop program is to be made of, as eglCreateImage is given it. */
+typedef struct zvImageSource {
+    uint32_t target; /* EGL_GL_TEXTURE_2D, a face of EGL_GL_TEXTURE_CUBE_MAP_POSITIVE_X and on, EGL_GL_RENDERBUFFER */
+    uint32_t name;   /* the application's */
+    int32_t level;   /* of a texture; not negative */
+    uint64_t number; /* of the image; no other of the process has had it */
+} zvImageSource;
+
+/* The storage of an EGL image, known to all contexts that share with the one that it was made in. */
+typedef struct zvImage {
+    void *owner;          /* the back end's own, for zvDropImage; null when hostTexture is the source itself */
+    uint64_t number;      /* the source's */
+    uint32_t hostTexture; /* of GL_TEXTURE_2D; with an owner it is immutable and has one level */
+    uint32_t hostFormat;  /* the internal format on the host */
+    uint32_t format;      /* what the application calls it */
+    int32_t swizzle[4];   /* what that format needs on the host, in the order of GL_TEXTURE_SWIZZLE_R and on */
+} zvImage;
+
+/*
+ * Makes the storage of an image out of a texture or a renderbuffer, which goes on sharing it. Called with a host
+ * context current that shares objects with esContext's; esContext is the current one for renderbuffers. Optional.
+ * Returns EGL_SUCCESS with *image filled, or an EGL error.
+ */
+ZV_EXPORT int32_t zvMakeImage(zvEsContext esContext, const zvImageSource *source, zvImage *image);
+
+/* Lets go of a storage with an owner; textures that were made of it keep theirs. Any thread. There with zvMakeImage. */
+ZV_EXPORT void zvDropImage(const zvImage *image);
+
 /* What is current on one thread. The library writes it at each bind and unbind; read only for back ends. */
 typedef struct zvThread {
     zvEsContext es1Context; /* the current context of the ES 1 back end; null when nothing or another kind is current */
@@ -92,6 +121,12 @@ ZV_EXPORT const zvThread *zvCurrentThread(void);
 
 /* The back-end context that is current on the calling thread, or null. Leaves the EGL error alone. Any thread. */
 ZV_EXPORT zvEsContext zvCurrentEsContext(void);
+
+/*
+ * The storage behind the handle of an EGL image, for desktop programs. Returns 1 with *image filled; 0 for what is no
+ * image of the current display; -1 for one whose contexts do not share with the thread's. Any thread.
+ */
+ZV_EXPORT int zvFindImage(const void *handle, zvImage *image);
 
 /* How many swaps have succeeded in the process. Must not be called before the first EGL call. Any thread. */
 ZV_EXPORT uint64_t zvCurrentFrameNumber(void);

@@ -1,5 +1,6 @@
 // What back ends call: what is current, and the settings behind their opaque pointer.
 #include "egl/context.h"
+#include "egl/display.h"
 #include "egl/gui_link.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
@@ -13,6 +14,15 @@ const zvThread *zvCurrentThread(void) {
 
 zvEsContext zvCurrentEsContext(void) {
     return threadRecord.current ? threadRecord.current->esContext.load() : nullptr;
+}
+
+int zvFindImage(const void *handle, zvImage *image) {
+    Display *const display = threadRecord.currentDisplay;
+    const auto found = display ? display->standardImages.find(handle) : nullptr;
+    if (!found || !image) return 0;
+    if (!threadRecord.current || threadRecord.current->group != found->group) return -1;
+    *image = found->storage;
+    return 1;
 }
 
 uint64_t zvCurrentFrameNumber(void) {

@@ -5,6 +5,7 @@
 
 #include "egl/refusal.h"
 #include "egl/thread_record.h"
+#include "foundation/attribute_list.h"
 
 namespace egl {
 
@@ -75,8 +76,8 @@ ContextAttribs defaultContextAttribs() {
 }
 
 bool parseContextAttribs(const Config &config, const EGLint *attributes, ContextAttribs &attribs) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (!applyAttribute(config, attributes[0], attributes[1], attribs)) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (!applyAttribute(config, name, value, attribs)) return false;
     }
     attribs.esMajor = attribs.requestedMajor;
     return true;

@@ -7,12 +7,11 @@
 #include "egl/private_buffers.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
+#include "foundation/gl_types.h"
 
 namespace egl {
 
 namespace {
-
-constexpr uint32_t syncGpuCommandsComplete = 0x9117; // GL_SYNC_GPU_COMMANDS_COMPLETE
 
 uint64_t number(const void *handle) {
     return reinterpret_cast<uintptr_t>(handle);
@@ -43,6 +42,7 @@ void Display::terminate() {
     images.swap(m_images);
     m_syncs.clear(); // the host's fences are left behind
     standardSyncs.clear();
+    standardImages.clear();
     contexts = m_contexts.takeAll();
     surfaces = m_surfaces.takeAll();
     forgetMemos();
@@ -180,7 +180,7 @@ bool Display::destroyImage(EGLImage image) {
 
 EGLSync Display::createSync(const host::EGL &hostEGL) {
     const std::lock_guard lock(m_displayMutex);
-    const EGLSync sync = hostEGL.glFenceSync(syncGpuCommandsComplete, 0);
+    const EGLSync sync = hostEGL.glFenceSync(GL_SYNC_GPU_COMMANDS_COMPLETE, 0);
     m_syncs.insert(number(sync));
     return sync;
 }

@@ -12,6 +12,7 @@
 #include "egl/egl_api.h"
 #include "egl/image.h"
 #include "egl/object_table.h"
+#include "egl/standard/images.h"
 #include "egl/standard/syncs.h"
 #include "profiles/config_list.h"
 #include "zelvane/back_end.h"
@@ -82,7 +83,9 @@ public:
     [[nodiscard]] bool isKnownSync(EGLSync sync) const;
     void destroySync(const host::EGL &hostEGL, EGLSync sync);
 
-    standard::Syncs standardSyncs; // of desktop clients, in place of those above
+    // Of desktop clients, in place of those above.
+    standard::Images standardImages;
+    standard::Syncs standardSyncs;
 
     const uint64_t nativeDisplay; // the host's word for it; handed to the host layer
     Display *const older;

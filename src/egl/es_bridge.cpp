@@ -12,7 +12,8 @@ EsLibrary::EsLibrary(DynamicLibrary opened)
       setEsContextAttribs(find<decltype(setEsContextAttribs)>("zvSetEsContextAttribs")),
       deleteEsContext(find<decltype(deleteEsContext)>("zvDeleteEsContext")),
       getExtProcAddress(find<decltype(getExtProcAddress)>("zvGetExtProcAddress")),
-      setRenderMode(find<decltype(setRenderMode)>("zvSetRenderMode")) {}
+      setRenderMode(find<decltype(setRenderMode)>("zvSetRenderMode")),
+      makeImage(find<decltype(makeImage)>("zvMakeImage")), dropImage(find<decltype(dropImage)>("zvDropImage")) {}
 
 DynamicLibrary State::loadEsLibrary(int32_t major) {
     return openEsLibrary(major == 1 ? es1LibraryName : es2LibraryName, esLibrarySearchPaths());

@@ -16,6 +16,8 @@ struct EsLibrary {
     decltype(&zvDeleteEsContext) const deleteEsContext;
     decltype(&zvGetExtProcAddress) const getExtProcAddress;
     decltype(&zvSetRenderMode) const setRenderMode;
+    decltype(&zvMakeImage) const makeImage;
+    decltype(&zvDropImage) const dropImage;
 
 private:
     template <typename Function>

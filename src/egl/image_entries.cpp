@@ -1,22 +1,37 @@
-// EGL images: records that the back end reads. The attribute list is never looked at.
+// EGL images: records that the back end reads. A device never looks at the attribute list.
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/extension_entries.h"
+#include "egl/standard/images.h"
+
+#include <vector>
 
 namespace egl {
 
 namespace {
 
-// The number stands where a boolean should; applications see it as true and find no error, and rely on both.
+// An error's number in the place of a boolean: destroying an unknown image looks like a success and sets no error.
 constexpr EGLBoolean unknownImageResult = EGL_BAD_PARAMETER;
 
 } // namespace
+
+EGLImage EGLAPIENTRY createImageKHR(EGLDisplay dpy, EGLContext ctx, EGLenum target, EGLClientBuffer buffer,
+                                    const EGLint *attributes) {
+    std::vector<EGLAttrib> wide;
+    for (; attributes && *attributes != EGL_NONE; attributes += 2)
+        wide.insert(wide.end(), {attributes[0], attributes[1]});
+    wide.push_back(EGL_NONE);
+    return eglCreateImage(dpy, ctx, target, buffer, wide.data());
+}
 
 } // namespace egl
 
 using namespace egl;
 
 EGLImage EGLAPIENTRY eglCreateImage(EGLDisplay dpy, EGLContext ctx, EGLenum target, EGLClientBuffer buffer,
-                                    const EGLAttrib *) {
+                                    const EGLAttrib *attributes) {
     return entry(dpy, EGL_NO_IMAGE, [&](Display &display) {
+        if (desktop_clients::isOn()) return standard::createImage(display, ctx, target, buffer, attributes);
         switch (target) {
         case EGL_GL_TEXTURE_2D:
             break;
@@ -32,6 +47,9 @@ EGLImage EGLAPIENTRY eglCreateImage(EGLDisplay dpy, EGLContext ctx, EGLenum targ
 
 EGLBoolean EGLAPIENTRY eglDestroyImage(EGLDisplay dpy, EGLImage image) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
+        if (desktop_clients::isOn()) {
+            return display.standardImages.take(image) ? succeed(EGL_TRUE) : fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        }
         if (!display.destroyImage(image)) return unknownImageResult;
         return succeed(EGL_TRUE);
     });

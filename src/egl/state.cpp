@@ -24,7 +24,11 @@ constinit std::atomic<bool> isStateLoaded = false;
 } // namespace
 
 State::State()
-    : m_profile(defaultProfile), m_openGLLibrary(host::openHostOpenGLLibrary()), m_uiLink(setRenderModeOfAll) {
+    : m_profile(defaultProfile),
+      // Loaders of programs (libepoxy, for one) take a process with libGL.so.1 and a current GLX context, which ours
+      // are, for one that draws by GLX, and go past OpenGL ES.
+      m_openGLLibrary(desktop_clients::isOn() ? host::openPlainHostOpenGLLibrary() : host::openHostOpenGLLibrary()),
+      m_uiLink(setRenderModeOfAll) {
     (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
     attachGuiLink(*this);
     threadRecord.currentDisplay = nullptr;

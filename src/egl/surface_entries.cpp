@@ -5,6 +5,7 @@
 #include "egl/refusal.h"
 #include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
+#include "foundation/attribute_list.h"
 
 #include <algorithm>
 #include <span>
@@ -24,9 +25,9 @@ constexpr EGLint pbufferAttributes[] = {
 
 // Looks at the keys alone; values are kept as they come.
 EGLint keysError(const EGLint *attributes, std::span<const EGLint> accepted) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (std::ranges::find(accepted, *attributes) == accepted.end())
-            return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = *attributes});
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (std::ranges::find(accepted, name) == accepted.end())
+            return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = name});
     }
     return EGL_SUCCESS;
 }
@@ -35,7 +36,7 @@ bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
 }
 
-// The config's surface type is not looked at, unlike with the other kinds; applications rely on it.
+// On devices the config's surface type is not checked: a config without EGL_WINDOW_BIT takes a window too.
 EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativeWindowType window,
                           const EGLint *attributes) {
     if (desktop_clients::isOn()) {
@@ -135,7 +136,7 @@ EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLin
     });
 }
 
-// Takes three attributes and drops their values: a later query answers as before, and callers rely on the success.
+// On devices three attributes are accepted and their values dropped: a later query answers as before.
 EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint value) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);

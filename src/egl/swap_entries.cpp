@@ -52,7 +52,7 @@ EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface,
 }
 
 EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *, EGLint) {
-    // Before anything is loaded or looked up; callers rely on this error coming first.
+    // Before anything is loaded or looked up, so that this error comes before that of a bad display.
     const auto current = currentContext();
     if (!current) return fail(EGL_BAD_MATCH, EGL_FALSE);
     return entry(dpy, EGL_FALSE, [&](Display &display) { return setDamageRegion(display, *current, surface); });

@@ -31,7 +31,7 @@ namespace egl {
 
 namespace {
 
-// For devices the waits wait for nothing: no glFinish reaches the host, and callers rely on their speed.
+// On devices the waits return at once: no glFinish reaches the host, and a wait in every frame costs nothing.
 EGLBoolean waitForClient() {
     if (!desktop_clients::isOn() || !threadRecord.current) return succeed(EGL_TRUE);
     const auto glFinish = reinterpret_cast<void (*)()>(threadRecord.current->getExtProcAddress("glFinish"));
@@ -56,7 +56,7 @@ EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
     return succeed(EGL_TRUE);
 }
 
-// For devices it releases nothing: the current context stays current, and callers rely on that.
+// On devices it releases nothing: the current context stays current, and the thread goes on drawing.
 EGLBoolean EGLAPIENTRY eglReleaseThread(void) {
     if (desktop_clients::isOn()) standard::releaseThread();
     return succeed(EGL_TRUE);

@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "gl/gl_types.h"
+#include "foundation/gl_types.h"
 
 namespace journal {
 

@@ -11,7 +11,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "gl/gl_types.h"
+#include "foundation/gl_types.h"
 #include "journal/findings.h"
 #include "journal/recorded_arguments.h"
 #include "journal/recorded_context.h"

@@ -3,6 +3,7 @@
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 
+#include "foundation/attribute_list.h"
 #include "host/pixel_format.h"
 #include "profiles/config_sort.h"
 #include "profiles/desktop_configs.h"
@@ -21,9 +22,9 @@ constexpr int32_t builtInConfigAttributes[] = {
 // What the host is asked for: the built-in config, without an id since it is none of the list's, and without pixmaps.
 std::vector<int32_t> hostProbeAttributes() {
     std::vector<int32_t> list;
-    for (const int32_t *pair = builtInConfigAttributes; *pair != EGL_NONE; pair += 2) {
-        if (pair[0] == EGL_CONFIG_ID) continue;
-        list.insert(list.end(), {pair[0], pair[0] == EGL_SURFACE_TYPE ? EGL_WINDOW_BIT | EGL_PBUFFER_BIT : pair[1]});
+    for (const auto &[name, value] : AttributeList(builtInConfigAttributes)) {
+        if (name == EGL_CONFIG_ID) continue;
+        list.insert(list.end(), {name, name == EGL_SURFACE_TYPE ? EGL_WINDOW_BIT | EGL_PBUFFER_BIT : value});
     }
     list.push_back(EGL_NONE);
     return list;

@@ -7,6 +7,8 @@
 #include <map>
 #include <span>
 
+#include "foundation/attribute_list.h"
+
 namespace egl {
 
 namespace {
@@ -37,8 +39,8 @@ using Request = std::map<int32_t, int32_t>;
 // The last of several values of an attribute counts.
 Request readRequest(const int32_t *attributes) {
     Request request;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        request[attributes[0]] = attributes[1];
+    for (const auto &[name, value] : AttributeList(attributes))
+        request[name] = value;
     return request;
 }
 
@@ -148,8 +150,8 @@ Comparison compare(const Config &a, const Config &b, const Request &request) {
 } // namespace
 
 bool isValidByStandard(const int32_t *attributes) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (!isKnown(attributes[0]) || !isValidValue(attributes[0], attributes[1])) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (!isKnown(name) || !isValidValue(name, value)) return false;
     }
     return true;
 }

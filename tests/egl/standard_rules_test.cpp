@@ -90,3 +90,22 @@ TEST_F(StandardRules, ReusableSyncsWaitForTheirSignal) {
     EXPECT_SUCCEEDS(eglDestroySync(m_display, sync));
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, sync));
 }
+
+TEST_F(StandardRules, OneDeviceStandsForTheHost) {
+    const auto queryDevices = procAddress<PFNEGLQUERYDEVICESEXTPROC>("eglQueryDevicesEXT");
+    const auto queryString = procAddress<PFNEGLQUERYDEVICESTRINGEXTPROC>("eglQueryDeviceStringEXT");
+    const auto queryAttrib = procAddress<PFNEGLQUERYDEVICEATTRIBEXTPROC>("eglQueryDeviceAttribEXT");
+    const auto queryDisplay = procAddress<PFNEGLQUERYDISPLAYATTRIBEXTPROC>("eglQueryDisplayAttribEXT");
+    EGLDeviceEXT device = EGL_NO_DEVICE_EXT;
+    EGLint count = 0;
+    EXPECT_SUCCEEDS(queryDevices(1, &device, &count));
+    EXPECT_EQ(count, 1);
+    EGLAttrib value = 0;
+    EXPECT_SUCCEEDS(queryDisplay(initialised(), EGL_DEVICE_EXT, &value));
+    EXPECT_EQ(value, reinterpret_cast<EGLAttrib>(device));
+    EXPECT_TRUE(queryString(device, EGL_EXTENSIONS));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, queryAttrib(device, EGL_DEVICE_EXT, &value));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, queryDevices(0, &device, &count));
+    EXPECT_EQ(queryString(EGL_NO_DEVICE_EXT, EGL_EXTENSIONS), nullptr);
+    EXPECT_EQ(eglGetError(), EGL_BAD_DEVICE_EXT);
+}

@@ -218,3 +218,69 @@ TEST_F(Gles1Drawing, TheRenderModeAndTheDebugEntriesSwitchWireframe) {
         }
     }
 }
+
+// Two matrices with equal weights move the left half by half of what the second one moves; the normals turn with them.
+TEST_F(Gles1Drawing, MatricesOfAPaletteMoveVerticesAndNormals) {
+    const std::vector<GLfloat> corners = {9, 9, -1, -1, 0, -1, -1, 1, 0, 1},
+                               normals = {0, 0, 1, -1, 0, 0, -1, 0, 0, -1, 0, 0, -1, 0, 0};
+    const GLubyte matrices[] = {0, 0, 0, 3, 0, 3, 0, 3, 0, 3};
+    const std::vector<GLfloat> weights(10, 0.5f);
+    const GLushort indices[] = {1, 2, 3, 4};
+    const GLfloat front[] = {0, 0, 1, 0};
+    const std::vector<char> directions = inType(GL_FIXED, normals);
+    ES(glTranslatef)(0, 0, 0.5f); // the palette takes the modelview's place
+    ES(glMatrixMode)(GL_MATRIX_PALETTE_OES);
+    EXPECT_EQ(integer(GL_MATRIX_MODE), GL_MATRIX_PALETTE_OES);
+    for (const GLuint index : {0u, 3u}) {
+        ES(glCurrentPaletteMatrixOES)(index);
+        ES(glLoadPaletteFromModelViewMatrixOES)();
+        ES(glTranslatex)(index ? 65536 : 0, 0, 0);
+    }
+    EXPECT_EQ(integer(GL_CURRENT_PALETTE_MATRIX_OES), 3);
+    ES(glPushMatrix)();
+    EXPECT_EQ(error(), 0x0503) << "there is no stack";
+    ES(glEnable)(GL_MATRIX_PALETTE_OES);
+    ES(glLightfv)(GL_LIGHT0, GL_POSITION, front);
+    for (const GLenum array : {GL_VERTEX_ARRAY, GL_NORMAL_ARRAY, GL_MATRIX_INDEX_ARRAY_OES, GL_WEIGHT_ARRAY_OES})
+        ES(glEnableClientState)(array);
+    for (const GLenum type : {GL_SHORT, GL_FLOAT, GL_FIXED}) {
+        SCOPED_TRACE(type);
+        const std::vector<char> places = inType(type, corners),
+                                shares = inType(type == GL_SHORT ? GL_FLOAT : type, weights);
+        ES(glVertexPointer)(2, type, 0, places.data());
+        ES(glNormalPointer)(GL_FIXED, 0, directions.data());
+        ES(glMatrixIndexPointerOES)(2, GL_UNSIGNED_BYTE, 0, matrices);
+        ES(glWeightPointerOES)(2, type == GL_SHORT ? GLenum(GL_FLOAT) : type, 0, shares.data());
+        clear();
+        ES(glDrawElements)(GL_TRIANGLE_STRIP, 4, GL_UNSIGNED_SHORT, indices);
+        expectPixels({{3, 8, black}, {4, 8, white}, {11, 8, white}, {12, 8, black}});
+        void *pointer = nullptr;
+        ES(glGetPointerv)(GL_VERTEX_ARRAY_POINTER, &pointer);
+        EXPECT_EQ(pointer, places.data());
+    }
+    // The first one turns the normals to the light.
+    ES(glCurrentPaletteMatrixOES)(0);
+    ES(glRotatef)(90, 0, 1, 0);
+    ES(glScalef)(0, 0, 0); // and has no inverse in the end
+    ES(glLoadIdentity)();
+    ES(glRotatef)(90, 0, 1, 0);
+    ES(glEnable)(GL_LIGHTING);
+    ES(glEnable)(GL_LIGHT0);
+    const GLubyte first[] = {0, 0, 0, 0, 0};
+    const std::vector<GLfloat> whole(5, 1.f), deep = {0, 0, 0, 0, -1, 1, 0, -1, 0, 0, 1, 1, 0, 1, 0};
+    ES(glMatrixIndexPointerOES)(1, GL_UNSIGNED_BYTE, 0, first);
+    ES(glWeightPointerOES)(1, GL_FLOAT, 0, whole.data());
+    ES(glVertexPointer)(3, GL_FLOAT, 0, deep.data());
+    clear();
+    ES(glDrawArrays)(GL_TRIANGLE_STRIP, 1, 4);
+    EXPECT_NEAR(pixel(12, 8)[0], 214, 3) << "0.8 of the light, 0.04 around";
+    ES(glDisable)(GL_LIGHTING);
+    ES(glDisable)(GL_MATRIX_PALETTE_OES);
+    clear();
+    ES(glDrawArrays)(GL_TRIANGLE_STRIP, 1, 4);
+    EXPECT_EQ(pixel(12, 8), black) << "seen from the edge";
+    ES(glCurrentPaletteMatrixOES)(32);
+    EXPECT_EQ(error(), GL_INVALID_VALUE);
+    ES(glWeightPointerOES)(5, GL_FLOAT, 0, whole.data());
+    EXPECT_EQ(error(), GL_INVALID_VALUE);
+}

@@ -82,6 +82,29 @@ TEST_F(BackEndLimits, ProgramsBeyondThemDoNotLink) {
     }
 }
 
+TEST_F(BackEndLimits, CapturesBeyondThemDoNotLink) {
+    startDevice(3, 0);
+    const std::tuple<std::vector<const char *>, GLenum, GLint> rows[] = {
+        {{"two"}, GL_SEPARATE_ATTRIBS, GL_TRUE},
+        {{"four"}, GL_SEPARATE_ATTRIBS, GL_FALSE},
+        {{"four", "two"}, GL_INTERLEAVED_ATTRIBS, GL_TRUE},
+        {{"four", "two", "one"}, GL_INTERLEAVED_ATTRIBS, GL_FALSE},
+    };
+    for (const auto &[names, mode, status] : rows) {
+        const GLuint made = ES(glCreateProgram)();
+        ES(glAttachShader)
+        (made, compile(GL_VERTEX_SHADER, {"#version 300 es\nout float one; out vec2 two; out vec4 four;"
+                                          "void main() { one = 1.0; two = vec2(1); four = vec4(1);"
+                                          "gl_Position = vec4(0); }"}));
+        ES(glAttachShader)(made, compile(GL_FRAGMENT_SHADER, {"#version 300 es\nvoid main() {}"}));
+        ES(glTransformFeedbackVaryings)(made, static_cast<GLsizei>(names.size()), names.data(), mode);
+        ES(glLinkProgram)(made);
+        GLint linked = -1;
+        ES(glGetProgramiv)(made, GL_LINK_STATUS, &linked);
+        EXPECT_EQ(linked, status) << names.size() << ' ' << mode;
+    }
+}
+
 TEST_F(BackEndLimits, ShadersReadTheDevicesNumbers) {
     startDevice(2, 0);
     use(plainVertex, "void main() { gl_FragColor = vec4(gl_MaxVertexAttribs == 8 ? 0.0 : 1.0,\n"

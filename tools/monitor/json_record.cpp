@@ -1,10 +1,8 @@
 #include "tools/monitor/json_record.h"
 
-#include <chrono>
-#include <cstdio>
-
 #include "tools/command/json.h"
 #include "tools/monitor/record_fields.h"
+#include "tools/monitor/time_text.h"
 
 using ui::messages::Message;
 
@@ -35,21 +33,9 @@ Json fieldValue(const Message &message, const Field &field) {
     }
 }
 
-// In UTC, to the millisecond: "2031-12-24T18:00:00.000Z".
-std::string timeText() {
-    using namespace std::chrono;
-    const auto now = floor<milliseconds>(system_clock::now());
-    const time_t seconds = system_clock::to_time_t(now);
-    tm parts{};
-    gmtime_r(&seconds, &parts);
-    char text[32];
-    const size_t length = strftime(text, sizeof text, "%FT%T", &parts);
-    snprintf(text + length, sizeof text - length, ".%03dZ", static_cast<int>(now.time_since_epoch().count() % 1000));
-    return text;
-}
-
+// The time is in UTC: "2031-12-24T18:00:00.000Z".
 Json head(const MonitoredApplication &application, const std::string &type) {
-    return {{"time", timeText()},
+    return {{"time", timeTextNow(gmtime_r, "%FT%T") + 'Z'},
             {"pid", application.processNumber()},
             {"command", application.commandName()},
             {"type", type}};

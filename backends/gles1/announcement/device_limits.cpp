@@ -36,7 +36,16 @@ constexpr GLenum ownFormats[] = {
 #undef PALETTE_FORMAT
     GL_ETC1_RGB8_OES,
 };
-constexpr GLenum dxt1Formats[] = {GL_COMPRESSED_RGB_S3TC_DXT1_EXT, GL_COMPRESSED_RGBA_S3TC_DXT1_EXT};
+struct CompressedFormat {
+    GLenum name;
+    const char *extension;
+};
+constexpr CompressedFormat hostsFormats[] = {
+    {GL_COMPRESSED_RGB_S3TC_DXT1_EXT, "GL_EXT_texture_compression_dxt1"},
+    {GL_COMPRESSED_RGBA_S3TC_DXT1_EXT, "GL_EXT_texture_compression_dxt1"},
+    {GL_COMPRESSED_RGBA_S3TC_DXT3, "GL_ANGLE_texture_compression_dxt3"},
+    {GL_COMPRESSED_RGBA_S3TC_DXT5, "GL_ANGLE_texture_compression_dxt5"},
+};
 
 // The numbers of an element; null where the device does not tell them all.
 const std::vector<double> *told(const std::optional<EsBlock> &device, std::string_view element, size_t count) {
@@ -81,9 +90,8 @@ void Limits::cutLimits(const std::optional<EsBlock> &device) {
 
 void Limits::takeCompressedFormats(const HostFeatures &host, const std::optional<EsBlock> &device) {
     std::vector<double> formats(std::begin(ownFormats), std::end(ownFormats));
-    if (carriesExtension(host, "GL_EXT_texture_compression_dxt1")) {
-        formats.insert(formats.end(), std::begin(dxt1Formats), std::end(dxt1Formats));
-    }
+    for (const CompressedFormat &format : hostsFormats)
+        if (carriesExtension(host, format.extension)) formats.push_back(format.name);
     if (const auto *const wanted = told(device, "compressed_texture_format", 1)) {
         std::vector<double> both;
         for (const double format : *wanted)

@@ -1,5 +1,7 @@
 #include "announcement/extensions.h"
 
+#include "common/desktop_clients.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -9,15 +11,19 @@ struct Extension {
     std::string_view name;
     int version;
     std::string_view hostExtensions;
+    bool isForAll;
 };
 
 constexpr Extension extensions[] = {
-#define EXTENSION(name, version, hostExtensions) {name, version, hostExtensions},
+#define EXTENSION(name, version, hostExtensions) {name, version, hostExtensions, true},
+#define DESKTOP_EXTENSION(name, version, hostExtensions) {name, version, hostExtensions, false},
 #include "announcement/extensions.def"
+#undef DESKTOP_EXTENSION
 #undef EXTENSION
 };
 
 bool isCarried(const HostFeatures &host, const Extension &extension) {
+    if (!extension.isForAll && !servesDesktopClients()) return false;
     const bool isOurs = extension.version == 0 && extension.hostExtensions.empty();
     return isOurs || host.carries(extension.version, extension.hostExtensions);
 }

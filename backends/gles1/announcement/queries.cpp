@@ -30,9 +30,24 @@ Numbers ownAnswer(GLenum pname) {
     if (!context) return {};
     if (const auto *const limit = context->announced.limits.find(pname)) return *limit;
     if (const auto state = ownArrayState(*context, pname)) return {static_cast<double>(*state)};
+    const ArrayObject &arrays = context->vertices.arrays.bound();
     switch (pname) {
     case GL_POINT_SIZE_ARRAY_OES:
-        return {context->vertices.arrays.bound().isPointSizeOn ? 1.0 : 0.0};
+        return {arrays.pointSizes.isOn ? 1.0 : 0.0};
+    case GL_MATRIX_INDEX_ARRAY_OES:
+        return {arrays.matrixIndices.isOn ? 1.0 : 0.0};
+    case GL_WEIGHT_ARRAY_OES:
+        return {arrays.weights.isOn ? 1.0 : 0.0};
+    case GL_MATRIX_PALETTE_OES:
+        return {context->palette.isOn ? 1.0 : 0.0};
+    case GL_MAX_PALETTE_MATRICES_OES:
+        return {double{MatrixPalette::matrixCount}};
+    case GL_MAX_VERTEX_UNITS_OES:
+        return {double{MatrixPalette::unitCount}};
+    case GL_CURRENT_PALETTE_MATRIX_OES:
+        return {static_cast<double>(context->palette.current)};
+    case GL_MATRIX_MODE:
+        return context->palette.isMode ? Numbers{GL_MATRIX_PALETTE_OES} : Numbers{};
     case GL_TEXTURE_GEN_STR_OES:
         return {hostGl().isEnabled(desktop::textureGenS) ? 1.0 : 0.0};
     case GL_MODELVIEW_MATRIX_FLOAT_AS_INT_BITS_OES:

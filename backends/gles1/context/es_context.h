@@ -7,6 +7,7 @@
 #include "common/current_thread.h"
 #include "common/share_group_member.h"
 #include "context/share_group.h"
+#include "fixed_function/matrix_palette.h"
 #include "vertices/vertices.h"
 
 #include <zelvane/back_end.h>
@@ -33,6 +34,7 @@ public:
     const ShareGroupMember<ShareGroup> shared;
 
     Vertices vertices;
+    MatrixPalette palette;
     TextureCrop cropOfTextureZero = {}; // which no two contexts share
 };
 

@@ -16,6 +16,10 @@ bool isCapability(GLenum cap) {
 
 void switchTo(GLenum cap, Switch set) {
     if (!isCapability(cap)) return raise(GL_INVALID_ENUM);
+    if (cap == GL_MATRIX_PALETTE_OES) {
+        if (EsContext *const context = EsContext::current()) context->palette.isOn = set == hostGl().enable;
+        return;
+    }
     if (cap != GL_TEXTURE_GEN_STR_OES) return set(cap);
     for (const GLenum coordinate : {desktop::textureGenS, desktop::textureGenT, desktop::textureGenR})
         set(coordinate);
@@ -34,10 +38,16 @@ void GL_APIENTRY disable(GLenum cap) {
 }
 
 GLboolean GL_APIENTRY isEnabled(GLenum cap) {
-    const EsContext *const context = EsContext::current();
+    EsContext *const context = EsContext::current();
     switch (cap) {
+    case GL_MATRIX_PALETTE_OES:
+        return context && context->palette.isOn;
     case GL_POINT_SIZE_ARRAY_OES:
-        return context && context->vertices.arrays.bound().isPointSizeOn;
+    case GL_MATRIX_INDEX_ARRAY_OES:
+    case GL_WEIGHT_ARRAY_OES: {
+        const EsArray *const array = context ? context->vertices.arrays.bound().find(cap) : nullptr;
+        return array && array->isOn;
+    }
     case GL_TEXTURE_GEN_STR_OES:
         return hostGl().isEnabled(desktop::textureGenS);
     case GL_VERTEX_ARRAY:

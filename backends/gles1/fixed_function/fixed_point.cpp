@@ -4,18 +4,6 @@
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 
-#include <array>
-
-namespace {
-
-std::array<GLfloat, 16> matrixOf(const GLfixed *numbers) {
-    std::array<GLfloat, 16> matrix;
-    std::transform(numbers, numbers + 16, matrix.begin(), fromFixed);
-    return matrix;
-}
-
-} // namespace
-
 namespace overrides {
 
 void GL_APIENTRY alphaFuncx(GLenum func, GLfixed ref) {
@@ -34,14 +22,6 @@ void GL_APIENTRY lineWidthx(GLfixed width) {
     hostGl().lineWidth(fromFixed(width));
 }
 
-void GL_APIENTRY loadMatrixx(const GLfixed *m) {
-    if (m) hostGl().loadMatrixf(matrixOf(m).data());
-}
-
-void GL_APIENTRY multMatrixx(const GLfixed *m) {
-    if (m) hostGl().multMatrixf(matrixOf(m).data());
-}
-
 void GL_APIENTRY multiTexCoord4x(GLenum texture, GLfixed s, GLfixed t, GLfixed r, GLfixed q) {
     hostGl().multiTexCoord4f(texture, fromFixed(s), fromFixed(t), fromFixed(r), fromFixed(q));
 }
@@ -58,20 +38,8 @@ void GL_APIENTRY polygonOffsetx(GLfixed factor, GLfixed units) {
     hostGl().polygonOffset(fromFixed(factor), fromFixed(units));
 }
 
-void GL_APIENTRY rotatex(GLfixed angle, GLfixed x, GLfixed y, GLfixed z) {
-    hostGl().rotatef(fromFixed(angle), fromFixed(x), fromFixed(y), fromFixed(z));
-}
-
 void GL_APIENTRY sampleCoveragex(GLclampx value, GLboolean invert) {
     hostGl().sampleCoverage(fromFixed(value), invert);
-}
-
-void GL_APIENTRY scalex(GLfixed x, GLfixed y, GLfixed z) {
-    hostGl().scalef(fromFixed(x), fromFixed(y), fromFixed(z));
-}
-
-void GL_APIENTRY translatex(GLfixed x, GLfixed y, GLfixed z) {
-    hostGl().translatef(fromFixed(x), fromFixed(y), fromFixed(z));
 }
 
 } // namespace overrides

@@ -36,8 +36,12 @@ bool isImageTarget(GLenum target) {
 GLenum formatError(GLenum format, GLenum type) {
     const auto is = [&](const PixelFormat &row) { return row.format == format && row.type == type; };
     if (std::ranges::any_of(pixelFormats, is)) return GL_NO_ERROR;
-    const bool isFormat = std::ranges::find(pixelFormats, format, &PixelFormat::format) != std::end(pixelFormats);
-    const bool isType = std::ranges::find(pixelFormats, type, &PixelFormat::type) != std::end(pixelFormats);
+    // Depth with stencil is of renderbuffers alone, but the names are known: no internal format goes with them.
+    if (format == GL_DEPTH_STENCIL_OES && type == GL_UNSIGNED_INT_24_8_OES) return GL_NO_ERROR;
+    const bool isFormat = format == GL_DEPTH_STENCIL_OES ||
+                          std::ranges::find(pixelFormats, format, &PixelFormat::format) != std::end(pixelFormats);
+    const bool isType = type == GL_UNSIGNED_INT_24_8_OES ||
+                        std::ranges::find(pixelFormats, type, &PixelFormat::type) != std::end(pixelFormats);
     return isFormat && isType ? GL_INVALID_OPERATION : GL_INVALID_ENUM;
 }
 

@@ -16,6 +16,19 @@ GLsizei OwnArray::elementSize() const {
     }
 }
 
+EsArray *ArrayObject::find(GLenum name) {
+    switch (name) {
+    case GL_POINT_SIZE_ARRAY_OES:
+        return &pointSizes;
+    case GL_MATRIX_INDEX_ARRAY_OES:
+        return &matrixIndices;
+    case GL_WEIGHT_ARRAY_OES:
+        return &weights;
+    default:
+        return nullptr;
+    }
+}
+
 void ArrayObjects::bind(GLuint name) {
     m_bound = name == 0 ? &m_default : &m_named[name];
 }

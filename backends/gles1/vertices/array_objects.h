@@ -1,5 +1,5 @@
-// Vertex arrays that the host cannot hold, since it lacks their types, and the point sizes, which it lacks altogether.
-// Each vertex array object has its own.
+// Vertex arrays that the host cannot hold, since it lacks their types, and those that it lacks altogether: point sizes,
+// matrix indices and weights. Each vertex array object has its own.
 #pragma once
 
 #include "es_gl.h"
@@ -21,10 +21,20 @@ struct OwnArray {
 // The host's arrays in one row: those of texture coordinates stand at the end, one a unit.
 enum ArraySlot : unsigned { VertexSlot, NormalSlot, ColorSlot, TexCoordSlot };
 
+// One that the host lacks altogether.
+struct EsArray {
+    OwnArray array;
+    bool isOn = false;
+};
+
 struct ArrayObject {
     std::map<unsigned, OwnArray> own; // by slot
-    OwnArray pointSizes = {.size = 1};
-    bool isPointSizeOn = false;
+    EsArray pointSizes = {.array = {.size = 1}};
+    EsArray matrixIndices = {.array = {.size = 0, .type = GL_UNSIGNED_BYTE}};
+    EsArray weights = {.array = {.size = 0}};
+
+    // By the name that glEnableClientState takes. Null for those of the host.
+    [[nodiscard]] EsArray *find(GLenum name);
 };
 
 class ArrayObjects {

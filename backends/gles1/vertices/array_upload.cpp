@@ -100,6 +100,8 @@ GLfloat component(GLenum type, const std::byte *place, GLint index) {
     switch (type) {
     case GL_BYTE:
         return numberAt<GLbyte>(place, index);
+    case GL_UNSIGNED_BYTE:
+        return numberAt<GLubyte>(place, index);
     case GL_SHORT:
         return numberAt<GLshort>(place, index);
     case GL_FIXED:

@@ -56,11 +56,18 @@ bool goesToHost(unsigned slot, OwnArray array, const Allowed &allowed, bool isHo
     return isHosts;
 }
 
+void setEsArray(GLenum name, OwnArray array, const Allowed &allowed) {
+    EsContext *const context = EsContext::current();
+    if (!context) return;
+    array.buffer = boundArrayBuffer();
+    if (isAllowed(*context, array, allowed)) context->vertices.arrays.bound().find(name)->array = array;
+}
+
 struct ArrayNames {
     GLenum size, type, stride, buffer; // 0 for none
 };
 
-// In the order of the slots; the last row is that of the point sizes.
+// In the order of the slots; the last rows are those of the arrays that the host lacks.
 constexpr ArrayNames arrayNames[] = {
     {GL_VERTEX_ARRAY_SIZE, GL_VERTEX_ARRAY_TYPE, GL_VERTEX_ARRAY_STRIDE, GL_VERTEX_ARRAY_BUFFER_BINDING},
     {0, GL_NORMAL_ARRAY_TYPE, GL_NORMAL_ARRAY_STRIDE, GL_NORMAL_ARRAY_BUFFER_BINDING},
@@ -68,22 +75,30 @@ constexpr ArrayNames arrayNames[] = {
     {GL_TEXTURE_COORD_ARRAY_SIZE, GL_TEXTURE_COORD_ARRAY_TYPE, GL_TEXTURE_COORD_ARRAY_STRIDE,
      GL_TEXTURE_COORD_ARRAY_BUFFER_BINDING},
     {0, GL_POINT_SIZE_ARRAY_TYPE_OES, GL_POINT_SIZE_ARRAY_STRIDE_OES, GL_POINT_SIZE_ARRAY_BUFFER_BINDING_OES},
+    {GL_MATRIX_INDEX_ARRAY_SIZE_OES, GL_MATRIX_INDEX_ARRAY_TYPE_OES, GL_MATRIX_INDEX_ARRAY_STRIDE_OES,
+     GL_MATRIX_INDEX_ARRAY_BUFFER_BINDING_OES},
+    {GL_WEIGHT_ARRAY_SIZE_OES, GL_WEIGHT_ARRAY_TYPE_OES, GL_WEIGHT_ARRAY_STRIDE_OES,
+     GL_WEIGHT_ARRAY_BUFFER_BINDING_OES},
 };
-constexpr GLenum pointerNames[] = {GL_VERTEX_ARRAY_POINTER, GL_NORMAL_ARRAY_POINTER, GL_COLOR_ARRAY_POINTER,
-                                   GL_TEXTURE_COORD_ARRAY_POINTER, GL_POINT_SIZE_ARRAY_POINTER_OES};
+constexpr GLenum pointerNames[] = {GL_VERTEX_ARRAY_POINTER,         GL_NORMAL_ARRAY_POINTER,
+                                   GL_COLOR_ARRAY_POINTER,          GL_TEXTURE_COORD_ARRAY_POINTER,
+                                   GL_POINT_SIZE_ARRAY_POINTER_OES, GL_MATRIX_INDEX_ARRAY_POINTER_OES,
+                                   GL_WEIGHT_ARRAY_POINTER_OES};
+constexpr EsArray ArrayObject::*esArrays[] = {&ArrayObject::pointSizes, &ArrayObject::matrixIndices,
+                                              &ArrayObject::weights};
 
 // The array of that row of the tables, if it is not the host's.
 const OwnArray *ownArray(const EsContext &context, size_t row) {
     const ArrayObject &object = context.vertices.arrays.bound();
-    if (row > TexCoordSlot) return &object.pointSizes;
+    if (row > TexCoordSlot) return &(object.*esArrays[row - TexCoordSlot - 1]).array;
     const auto found = object.own.find(row == TexCoordSlot ? texCoordSlot() : static_cast<unsigned>(row));
     return found == object.own.end() ? nullptr : &found->second;
 }
 
 void switchArray(GLenum array, bool isOn) {
     EsContext *const context = EsContext::current();
-    if (context && array == GL_POINT_SIZE_ARRAY_OES) {
-        context->vertices.arrays.bound().isPointSizeOn = isOn;
+    if (EsArray *const own = context ? context->vertices.arrays.bound().find(array) : nullptr) {
+        own->isOn = isOn;
         return;
     }
     const auto names = {GL_VERTEX_ARRAY, GL_NORMAL_ARRAY, GL_COLOR_ARRAY, GL_TEXTURE_COORD_ARRAY};
@@ -134,10 +149,16 @@ void GL_APIENTRY texCoordPointer(GLint size, GLenum type, GLsizei stride, const 
 }
 
 void GL_APIENTRY pointSizePointerOES(GLenum type, GLsizei stride, const void *pointer) {
-    EsContext *const context = EsContext::current();
-    if (!context) return;
-    const OwnArray array = {1, type, stride, pointer, boundArrayBuffer()};
-    if (isAllowed(*context, array, {1, 1, {GL_FIXED, GL_FLOAT}})) context->vertices.arrays.bound().pointSizes = array;
+    setEsArray(GL_POINT_SIZE_ARRAY_OES, {1, type, stride, pointer}, {1, 1, {GL_FIXED, GL_FLOAT}});
+}
+
+void GL_APIENTRY matrixIndexPointerOES(GLint size, GLenum type, GLsizei stride, const void *pointer) {
+    setEsArray(GL_MATRIX_INDEX_ARRAY_OES, {size, type, stride, pointer},
+               {1, MatrixPalette::unitCount, {GL_UNSIGNED_BYTE}});
+}
+
+void GL_APIENTRY weightPointerOES(GLint size, GLenum type, GLsizei stride, const void *pointer) {
+    setEsArray(GL_WEIGHT_ARRAY_OES, {size, type, stride, pointer}, {1, MatrixPalette::unitCount, {GL_FIXED, GL_FLOAT}});
 }
 
 void GL_APIENTRY enableClientState(GLenum array) {
@@ -167,7 +188,8 @@ void GL_APIENTRY deleteBuffers(GLsizei n, const GLuint *buffers) {
         };
         for (auto &[slot, array] : object.own)
             leave(array);
-        leave(object.pointSizes);
+        for (const auto array : esArrays)
+            leave((object.*array).array);
     }
     hostGl().deleteBuffers(n, buffers);
 }

@@ -1,21 +1,23 @@
-// The draws: arrays that the host cannot hold are brought to it first, and points with sizes of their own are drawn in
-// runs of one size.
+// The draws: arrays that the host cannot hold are brought to it first, vertices that the palette moves with them, and
+// points with sizes of their own are drawn in runs of one size.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
 #include "vertices/array_upload.h"
 #include "vertices/index_list.h"
+#include "vertices/skinning.h"
 
 #include <limits>
 
 namespace {
 
 bool hasPointSizes(const EsContext &context, GLenum mode) {
-    return mode == GL_POINTS && context.vertices.arrays.bound().isPointSizeOn;
+    return mode == GL_POINTS && context.vertices.arrays.bound().pointSizes.isOn;
 }
 
 bool isPlain(const EsContext &context, GLenum mode) {
-    return !hasPointSizes(context, mode) && !drawsFromOwnArrays(context.vertices.arrays.bound());
+    return !hasPointSizes(context, mode) && !isSkinning(context) &&
+           !drawsFromOwnArrays(context.vertices.arrays.bound());
 }
 
 // False after an error. Desktop OpenGL has modes that ES 1 lacks.
@@ -32,7 +34,7 @@ bool beginDraw(EsContext &context, GLenum mode) {
 template <typename VertexOf, typename Draw>
 void drawPoints(const EsContext &context, const VerticesRead &vertices, GLsizei count, VertexOf vertexOf, Draw draw) {
     const HostGl &gl = hostGl();
-    const std::vector<GLfloat> sizes = readNumbers(context.vertices.arrays.bound().pointSizes, vertices);
+    const std::vector<GLfloat> sizes = readNumbers(context.vertices.arrays.bound().pointSizes.array, vertices);
     const auto sizeAt = [&](GLsizei place) { return sizes[vertexOf(place) - vertices.first]; };
     GLfloat before = 1;
     gl.getFloatv(GL_POINT_SIZE, &before);
@@ -52,7 +54,10 @@ void drawPoints(const EsContext &context, const VerticesRead &vertices, GLsizei 
 void drawOwnArrays(EsContext &context, GLenum mode, GLint first, GLsizei count) {
     const HostGl &gl = hostGl();
     const auto vertices = verticesInRow(first, count);
-    if (!vertices || !uploadOwnArrays(context, *vertices)) return context.raise(GL_OUT_OF_MEMORY);
+    if (!vertices) return context.raise(GL_OUT_OF_MEMORY);
+    std::optional<SkinnedArrays> skinned;
+    if (isSkinning(context)) skinned.emplace(context, *vertices);
+    if (!uploadOwnArrays(context, *vertices)) return context.raise(GL_OUT_OF_MEMORY);
     if (!hasPointSizes(context, mode)) return gl.drawArrays(mode, first, count);
     drawPoints(
         context, *vertices, count, [&](GLsizei place) { return static_cast<GLuint>(first + place); },
@@ -64,7 +69,10 @@ void drawOwnElements(EsContext &context, GLenum mode, GLsizei count, GLenum type
     const auto list = readIndices(count, type, indices);
     if (!list) return context.raise(GL_INVALID_OPERATION);
     const auto vertices = verticesOf(*list);
-    if (!vertices || !uploadOwnArrays(context, *vertices)) return context.raise(GL_OUT_OF_MEMORY);
+    if (!vertices) return context.raise(GL_OUT_OF_MEMORY);
+    std::optional<SkinnedArrays> skinned;
+    if (isSkinning(context)) skinned.emplace(context, *vertices);
+    if (!uploadOwnArrays(context, *vertices)) return context.raise(GL_OUT_OF_MEMORY);
     if (!hasPointSizes(context, mode)) return gl.drawElements(mode, count, type, indices);
     const auto *const bytes = static_cast<const char *>(indices);
     drawPoints(

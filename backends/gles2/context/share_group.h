@@ -1,6 +1,7 @@
 // What the contexts of a share group have in common. They own it together. Any thread.
 #pragma once
 
+#include "framebuffers/renderbuffer_images.h"
 #include "programs/shared_programs.h"
 #include "textures/textures.h"
 #include "vertices/shared_buffers.h"
@@ -8,6 +9,7 @@
 struct ShareGroup {
     SharedBuffers buffers;
     NameTable renderbuffers;
+    RenderbufferImages renderbufferImages;
     SharedTextures textures;
     SharedPrograms programs;
 };

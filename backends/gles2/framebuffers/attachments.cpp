@@ -23,8 +23,14 @@ namespace overrides {
 
 void GL_APIENTRY framebufferRenderbuffer(GLenum target, GLenum attachment, GLenum renderbuffertarget,
                                          GLuint renderbuffer) {
-    if (!isRefused(attachment))
-        hostGl().framebufferRenderbuffer(target, attachment, renderbuffertarget, hostRenderbuffer(renderbuffer));
+    if (isRefused(attachment)) return;
+    const GLuint host = hostRenderbuffer(renderbuffer);
+    const EsContext *const context = EsContext::current();
+    const auto texture = context ? context->shared->renderbufferImages.textures.find(host) : std::nullopt;
+    if (texture && renderbuffertarget == GL_RENDERBUFFER) {
+        return hostGl().framebufferTexture2D(target, attachment, GL_TEXTURE_2D, *texture, 0);
+    }
+    hostGl().framebufferRenderbuffer(target, attachment, renderbuffertarget, host);
 }
 
 void GL_APIENTRY framebufferTexture2D(GLenum target, GLenum attachment, GLenum textarget, GLuint texture, GLint level) {
@@ -52,12 +58,23 @@ void GL_APIENTRY getFramebufferAttachmentParameteriv(GLenum target, GLenum attac
         !framebuffers.isSurfaceSrgb()) {
         *params = GL_LINEAR;
     }
-    if (pname != GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME) return;
-    GLint type = GL_NONE;
-    gl.getFramebufferAttachmentParameteriv(target, attachment, GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE, &type);
+    if (pname != GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME && pname != GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE) return;
     const ShareGroup &shared = *context->shared;
-    const NameTable &names = type == GL_RENDERBUFFER ? shared.renderbuffers : shared.textures.names;
-    *params = static_cast<GLint>(names.nameOf(static_cast<GLuint>(*params)));
+    const auto ask = [&](GLenum name) {
+        GLint value = GL_NONE;
+        gl.getFramebufferAttachmentParameteriv(target, attachment, name, &value);
+        return static_cast<GLuint>(value);
+    };
+    const GLenum type = ask(GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE);
+    const auto stoodFor = type == GL_TEXTURE && !shared.renderbufferImages.renderbuffers.isEmpty()
+                              ? shared.renderbufferImages.renderbuffers.find(ask(GL_FRAMEBUFFER_ATTACHMENT_OBJECT_NAME))
+                              : std::nullopt;
+    if (pname == GL_FRAMEBUFFER_ATTACHMENT_OBJECT_TYPE) {
+        if (stoodFor) *params = GL_RENDERBUFFER;
+        return;
+    }
+    const NameTable &names = type == GL_RENDERBUFFER || stoodFor ? shared.renderbuffers : shared.textures.names;
+    *params = static_cast<GLint>(names.nameOf(stoodFor.value_or(static_cast<GLuint>(*params))));
 }
 
 } // namespace overrides

@@ -4,6 +4,7 @@
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
 #include "framebuffers/drawn_formats.h"
+#include "framebuffers/renderbuffer_images.h"
 #include "names/named_objects.h"
 #include "textures/texture_formats.h"
 
@@ -12,6 +13,16 @@ namespace {
 NameTable *renderbufferNames() {
     EsContext *const context = EsContext::current();
     return context ? &context->shared->renderbuffers : nullptr;
+}
+
+GLuint boundRenderbuffer() {
+    GLint bound = 0;
+    hostGl().getIntegerv(GL_RENDERBUFFER_BINDING, &bound);
+    return static_cast<GLuint>(bound);
+}
+
+void leaveStandIn(EsContext &context) {
+    if (!context.shared->renderbufferImages.textures.isEmpty()) endStandIn(context, boundRenderbuffer());
 }
 
 // store: takes the host's format.
@@ -23,6 +34,7 @@ void storeAs(GLenum format, GLsizei width, GLsizei height, GLsizei samples, Stor
     const GLint most = context->announced.most(GL_MAX_RENDERBUFFER_SIZE);
     if (width > most || height > most) return context->raise(GL_INVALID_VALUE);
     if (samples > context->announced.most(GL_MAX_SAMPLES)) return context->raise(GL_INVALID_OPERATION);
+    leaveStandIn(*context);
     store(hostTextureFormat(format).internal);
 }
 
@@ -41,7 +53,8 @@ void GL_APIENTRY genRenderbuffers(GLsizei n, GLuint *renderbuffers) {
 }
 
 void GL_APIENTRY deleteRenderbuffers(GLsizei n, const GLuint *renderbuffers) {
-    deleteNames(renderbufferNames(), n, renderbuffers, hostGl().deleteRenderbuffers, [](GLuint) {});
+    deleteNames(renderbufferNames(), n, renderbuffers, hostGl().deleteRenderbuffers,
+                [](GLuint host) { endStandIn(*EsContext::current(), host); });
 }
 
 GLboolean GL_APIENTRY isRenderbuffer(GLuint renderbuffer) {
@@ -65,9 +78,12 @@ void GL_APIENTRY renderbufferStorageMultisample(GLenum target, GLsizei samples, 
 }
 
 void GL_APIENTRY getRenderbufferParameteriv(GLenum target, GLenum pname, GLint *params) {
+    const EsContext *const context = EsContext::current();
+    const bool mayBeImage = context && params && !context->shared->renderbufferImages.textures.isEmpty();
+    if (mayBeImage && target == GL_RENDERBUFFER && askStandIn(*context, boundRenderbuffer(), pname, params)) return;
     hostGl().getRenderbufferParameteriv(target, pname, params);
     // Where nothing is stored yet.
-    if (EsContext::current() && pname == GL_RENDERBUFFER_INTERNAL_FORMAT && params && *params == GL_RGBA) {
+    if (context && pname == GL_RENDERBUFFER_INTERNAL_FORMAT && params && *params == GL_RGBA) {
         *params = GL_RGBA4;
     }
 }

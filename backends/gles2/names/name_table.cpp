@@ -98,6 +98,38 @@ void NameTable::alias(GLuint name, GLuint hostName) {
     m_hasOthers = true;
 }
 
+void NameTable::forgetOther(GLuint name, GLuint hostName) {
+    const auto [begin, end] = m_otherNames.equal_range(hostName);
+    const auto other = std::find_if(begin, end, [&](const auto &row) { return row.second == name; });
+    if (other != end) m_otherNames.erase(other);
+}
+
+void NameTable::replace(GLuint name, GLuint hostName) {
+    const std::lock_guard lock(m_mutex);
+    const GLuint old = findLocked(name);
+    forgetOther(name, old);
+    m_lastNames[old] = name;
+    set(name, hostName);
+    m_otherNames.erase(hostName);
+    m_otherNames.emplace(hostName, name);
+    m_hasOthers = true;
+}
+
+std::vector<GLuint> NameTable::hostNames() const {
+    const std::lock_guard lock(m_mutex);
+    std::vector<GLuint> names;
+    for (const auto &slot : m_chunks) {
+        const Chunk *const chunk = slot.load(std::memory_order_relaxed);
+        if (!chunk) continue;
+        for (const std::atomic<GLuint> &hostName : *chunk) {
+            if (const GLuint found = hostName.load(std::memory_order_relaxed)) names.push_back(found);
+        }
+    }
+    for (const auto &[name, hostName] : m_highNames)
+        names.push_back(hostName);
+    return names;
+}
+
 GLuint NameTable::remove(GLuint name) {
     const std::lock_guard lock(m_mutex);
     const GLuint hostName = findLocked(name);
@@ -108,9 +140,7 @@ GLuint NameTable::remove(GLuint name) {
     } else if (m_hasOthers) {
         m_lastNames.erase(hostName);
     }
-    const auto [begin, end] = m_otherNames.equal_range(hostName);
-    const auto other = std::find_if(begin, end, [&](const auto &row) { return row.second == name; });
-    if (other != end) m_otherNames.erase(other);
+    forgetOther(name, hostName);
     const bool isStillMeant = m_otherNames.contains(hostName) || findLocked(hostName) == hostName;
     return isStillMeant ? 0 : hostName;
 }

@@ -40,8 +40,13 @@ public:
 
     // Makes one name mean the object of another.
     void alias(GLuint name, GLuint hostName);
+    // The same for one whose object the host is about to delete.
+    void replace(GLuint name, GLuint hostName);
     // Forgets a name. Gives the host's name when no other name means it any more, otherwise 0.
     GLuint remove(GLuint name);
+
+    // Of all objects that the application knows.
+    [[nodiscard]] std::vector<GLuint> hostNames() const;
 
     // What the application calls the host's object, or called it before it was deleted: it may still be attached. 0 for
     // one that it does not know.
@@ -61,6 +66,7 @@ private:
     GLuint make(GLuint name, Generate *generate, IsObject *isObject);
 
     void set(GLuint name, GLuint hostName);
+    void forgetOther(GLuint name, GLuint hostName);
     GLuint findLocked(GLuint name) const;
     GLuint generateUnknown(Generate *generate);
 

@@ -132,12 +132,32 @@ bool areVaryingsWithin(const Announcement &announced, GLuint program) {
     return rows.count() <= most;
 }
 
+bool areCapturesWithin(const Announcement &announced, GLuint program) {
+    const HostGl &gl = hostGl();
+    GLint count = 0, mode = 0, all = 0;
+    gl.getProgramiv(program, GL_TRANSFORM_FEEDBACK_VARYINGS, &count);
+    gl.getProgramiv(program, GL_TRANSFORM_FEEDBACK_BUFFER_MODE, &mode);
+    const bool isSeparate = mode == GL_SEPARATE_ATTRIBS;
+    for (GLuint index = 0; index < static_cast<GLuint>(count); ++index) {
+        GLsizei size = 0;
+        GLenum type = GL_NONE;
+        char name[2];
+        gl.getTransformFeedbackVarying(program, index, sizeof name, nullptr, &size, &type, name);
+        const VariableType is = variableType(type);
+        const GLint components = is.columns * is.rows * size;
+        if (isSeparate && components > announced.most(GL_MAX_TRANSFORM_FEEDBACK_SEPARATE_COMPONENTS)) return false;
+        all += components;
+    }
+    return isSeparate || all <= announced.most(GL_MAX_TRANSFORM_FEEDBACK_INTERLEAVED_COMPONENTS);
+}
+
 } // namespace
 
 bool isWithinLimits(const EsContext &context, GLuint program) {
     const Announcement &announced = context.announced;
     if (!announced.hasLimits() || !context.host.carries(43, "GL_ARB_program_interface_query")) return true;
     return areUniformsWithin(announced, program) && areBlocksWithin(announced, program) &&
+           areCapturesWithin(announced, program) &&
            (!attachedShader(program, GL_VERTEX_SHADER) || areAttribsWithin(announced, program)) &&
            areVaryingsWithin(announced, program);
 }

@@ -113,6 +113,15 @@ void GL_APIENTRY linkProgram(GLuint program) {
     noteEnd(program);
 }
 
+void GL_APIENTRY transformFeedbackVaryings(GLuint program, GLsizei count, const GLchar *const *varyings,
+                                           GLenum bufferMode) {
+    EsContext *const context = EsContext::current();
+    const bool isOver = context && bufferMode == GL_SEPARATE_ATTRIBS &&
+                        count > context->announced.most(GL_MAX_TRANSFORM_FEEDBACK_SEPARATE_ATTRIBS);
+    if (isOver) return context->raise(GL_INVALID_VALUE);
+    hostGl().transformFeedbackVaryings(program, count, varyings, bufferMode);
+}
+
 void GL_APIENTRY programBinary(GLuint program, GLenum format, const void *binary, GLsizei length) {
     hostGl().programBinary(program, format, binary, length);
     forgetInputs(program);

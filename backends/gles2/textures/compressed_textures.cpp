@@ -6,6 +6,7 @@
 #include "textures/pixel_store.h"
 #include "textures/texture_formats.h"
 #include "textures/texture_limits.h"
+#include "textures/texture_replacement.h"
 
 #include <new>
 
@@ -55,6 +56,7 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     if (!context) return gl.compressedTexImage2D(target, level, internalformat, width, height, border, imageSize, data);
     const bool isGood = border == 0 && !isTooLarge(*context, target, level, {width, height});
     if (!isGood) return context->raise(GL_INVALID_VALUE);
+    leaveImage(*context, target, level);
     context->shared->textures.noteFormat(internalformat);
     const HostTextureFormat host = hostTextureFormat(internalformat);
     if (internalformat == GL_ETC1_RGB8_OES && !context->host.carries(43, "GL_ARB_ES3_compatibility")) {

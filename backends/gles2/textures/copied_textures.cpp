@@ -6,6 +6,7 @@
 #include "textures/pixel_store.h"
 #include "textures/texture_formats.h"
 #include "textures/texture_limits.h"
+#include "textures/texture_replacement.h"
 
 #include <algorithm>
 #include <vector>
@@ -61,6 +62,7 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
     const HostTextureFormat host = hostTextureFormat(internalformat, internalformat, GL_UNSIGNED_BYTE);
     if (!context) return gl.copyTexImage2D(target, level, internalformat, x, y, width, height, border);
     if (isTooLarge(*context, target, level, {width, height})) return context->raise(GL_INVALID_VALUE);
+    leaveImage(*context, target, level);
     const Channels channels = channelsOf(host.swizzle);
     if (channels.count == 0 || width <= 0 || height <= 0 || border != 0) {
         gl.copyTexImage2D(target, level, host.internal, x, y, width, height, border);

@@ -1,8 +1,15 @@
-// EGL images. One that was made of a texture becomes the storage of another by meaning the same object of the host.
+// EGL images become the storage of textures and renderbuffers. A desktop program's image has a storage of its own,
+// which a view of the host shares; any other is a record of the texture that it was made of, and the two names then
+// mean the same object of the host.
+#include "common/desktop_clients.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
+#include "framebuffers/renderbuffer_images.h"
+#include "textures/texture_replacement.h"
 #include "textures/texture_targets.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -19,10 +26,56 @@ const EglImage *imageOf(const void *handle) {
     return isAligned ? static_cast<const EglImage *>(handle) : nullptr;
 }
 
-// The host's name of the texture that the image was made of, or 0.
-GLuint sourceTexture(const EsContext &context, const EglImage &image) {
-    if (image.target != eglGlTexture2D) return 0;
-    return context.shared->textures.names.find(static_cast<GLuint>(image.buffer));
+// The error of ES for the handle, or GL_NO_ERROR. An image of a device's program has only a source, which may be 0.
+GLenum findImage(const EsContext &context, const void *handle, zvImage &image) {
+    if (servesDesktopClients()) {
+        const int found = zvFindImage(handle, &image);
+        return found == 0 ? GL_INVALID_VALUE : found < 0 ? GL_INVALID_OPERATION : GL_NO_ERROR;
+    }
+    const EglImage *const record = imageOf(handle);
+    if (!record) return GL_INVALID_VALUE;
+    if (record->target == eglGlTexture2D) {
+        image.hostTexture = context.shared->textures.names.find(static_cast<GLuint>(record->buffer));
+    }
+    return GL_NO_ERROR;
+}
+
+GLuint makeView(EsContext &context, const zvImage &image) {
+    const GLuint view = context.shared->textures.names.generateHidden(hostGl().genTextures);
+    hostGl().textureView(view, GL_TEXTURE_2D, image.hostTexture, image.hostFormat, 0, 1, 0, 1);
+    return view;
+}
+
+// isMutable: to the application.
+void shareStorage(EsContext &context, const zvImage &image, bool isMutable) {
+    SharedTextures &textures = context.shared->textures;
+    const GLuint view = makeView(context, image);
+    replaceBoundTexture(context, GL_TEXTURE_2D, view);
+    HostTextureFormat format = {image.hostFormat, image.hostFormat, GL_UNSIGNED_BYTE, {}};
+    std::copy_n(image.swizzle, format.swizzle.size(), format.swizzle.begin());
+    setFormatSwizzle(context, GL_TEXTURE_2D, image.format, format);
+    textures.images.siblings.set(view, {image.number, isMutable});
+}
+
+// Whether the application has given the texture of this name on the host a storage that cannot change.
+bool isImmutable(const EsContext &context, GLuint texture) {
+    const auto sibling = context.shared->textures.images.siblings.find(texture);
+    if (sibling) return !sibling->isMutable;
+    GLint value = 0;
+    hostGl().getTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_IMMUTABLE_FORMAT, &value);
+    return value != 0;
+}
+
+void shareObject(EsContext &context, GLuint source, GLuint old, GLuint name) {
+    NameTable &names = context.shared->textures.names;
+    if (source == old) return;
+    const bool isUnused = names.remove(name) != 0;
+    names.alias(name, source);
+    hostGl().bindTexture(GL_TEXTURE_2D, source);
+    context.textures.lastNames[source] = name;
+    if (!isUnused) return;
+    context.shared->textures.swizzles.remove(old);
+    hostGl().deleteTextures(1, &old);
 }
 
 } // namespace
@@ -33,31 +86,46 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     EsContext *const context = EsContext::current();
     if (!context) return;
     if (hostTarget(target) != GL_TEXTURE_2D) return context->raise(GL_INVALID_ENUM);
-    const EglImage *const image = imageOf(handle);
-    if (!image) return context->raise(GL_INVALID_VALUE);
-    const HostGl &gl = hostGl();
-    NameTable &names = context->shared->textures.names;
-    const GLuint source = sourceTexture(*context, *image);
+    zvImage image = {};
+    if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
     GLint bound = 0;
-    gl.getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
     const auto old = static_cast<GLuint>(bound);
     const auto last = context->textures.lastNames.find(old);
-    const GLuint name = last == context->textures.lastNames.end() ? names.nameOf(old) : last->second;
-    if (source == 0 || name == 0) return context->raise(GL_INVALID_OPERATION);
-    if (source == old) return;
-    const bool isUnused = names.remove(name) != 0;
-    names.alias(name, source);
-    gl.bindTexture(GL_TEXTURE_2D, source);
-    context->textures.lastNames[source] = name;
-    if (!isUnused) return;
-    context->shared->textures.swizzles.remove(old);
-    gl.deleteTextures(1, &old);
+    const bool hasLast = last != context->textures.lastNames.end();
+    const GLuint name = hasLast ? last->second : context->shared->textures.names.nameOf(old);
+    if (image.hostTexture == 0 || name == 0) return context->raise(GL_INVALID_OPERATION);
+    if (!image.owner) return shareObject(*context, image.hostTexture, old, name);
+    if (isImmutable(*context, old)) return context->raise(GL_INVALID_OPERATION);
+    shareStorage(*context, image, true);
 }
 
-// A texture of the host cannot be the storage of a renderbuffer.
-void GL_APIENTRY imageTargetRenderbufferStorage(GLenum target, GLeglImageOES) {
+void GL_APIENTRY imageTargetTexStorage(GLenum target, GLeglImageOES handle, const GLint *attributes) {
     EsContext *const context = EsContext::current();
-    if (context) context->raise(target == GL_RENDERBUFFER ? GL_INVALID_OPERATION : GL_INVALID_ENUM);
+    if (!context) return;
+    zvImage image = {};
+    if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
+    if (attributes && *attributes != GL_NONE) return context->raise(GL_INVALID_VALUE);
+    GLint bound = 0;
+    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    const bool isTaken = image.owner && hostTarget(target) == GL_TEXTURE_2D && bound != 0;
+    if (!isTaken || isImmutable(*context, static_cast<GLuint>(bound))) return context->raise(GL_INVALID_OPERATION);
+    shareStorage(*context, image, false);
+}
+
+void GL_APIENTRY imageTargetRenderbufferStorage(GLenum target, GLeglImageOES handle) {
+    EsContext *const context = EsContext::current();
+    if (!context) return;
+    if (target != GL_RENDERBUFFER) return context->raise(GL_INVALID_ENUM);
+    zvImage image = {};
+    if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
+    GLint bound = 0;
+    hostGl().getIntegerv(GL_RENDERBUFFER_BINDING, &bound);
+    // Without views a texture of the host cannot be the storage of a renderbuffer.
+    if (!image.owner || bound == 0) return context->raise(GL_INVALID_OPERATION);
+    const GLuint view = makeView(*context, image);
+    context->shared->textures.images.siblings.set(view, {image.number, true});
+    standFor(*context, static_cast<GLuint>(bound), view);
 }
 
 } // namespace overrides

@@ -168,10 +168,14 @@ bool isDetour(const EsContext &context, const End &from, const End &to) {
     return context.host.carries(45, "GL_ARB_direct_state_access") && isDetour(formatOf(from), formatOf(to));
 }
 
-// The host's name for one that has an object.
-GLuint knownName(const EsContext &context, GLuint name, GLenum target) {
+// Gives the end the host's name for one that has an object.
+void findOnHost(const EsContext &context, End &end) {
     const ShareGroup &shared = *context.shared;
-    return target == GL_RENDERBUFFER ? shared.renderbuffers.find(name) : shared.textures.names.find(name);
+    const NameTable &names = end.target == GL_RENDERBUFFER ? shared.renderbuffers : shared.textures.names;
+    end.name = names.find(end.name);
+    if (end.target != GL_RENDERBUFFER) return;
+    const auto texture = shared.renderbufferImages.textures.find(end.name);
+    if (texture) end = {*texture, GL_TEXTURE_2D, end.level, end.x, end.y, end.z};
 }
 
 } // namespace
@@ -186,8 +190,8 @@ void GL_APIENTRY copyImageSubData(GLuint srcName, GLenum srcTarget, GLint srcLev
     End to = {dstName, hostTarget(dstTarget), dstLevel, dstX, dstY, dstZ};
     const Extent extent = {srcWidth, srcHeight, srcDepth};
     if (!context) return copyOnHost(from, to, extent);
-    from.name = knownName(*context, srcName, srcTarget);
-    to.name = knownName(*context, dstName, dstTarget);
+    findOnHost(*context, from);
+    findOnHost(*context, to);
     if (!isDetour(*context, from, to)) return copyOnHost(from, to, extent);
     try {
         copyThroughMemory(*context, from, to, extent);

@@ -3,6 +3,7 @@
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
 #include "framebuffers/drawn_formats.h"
+#include "textures/texture_replacement.h"
 #include "textures/texture_targets.h"
 
 namespace {
@@ -43,6 +44,7 @@ namespace overrides {
 void GL_APIENTRY generateMipmap(GLenum target) {
     EsContext *const context = EsContext::current();
     if (context && isRefused(*context, hostTarget(target))) return context->raise(GL_INVALID_OPERATION);
+    if (context) leaveImage(*context, hostTarget(target), allLevels);
     hostGl().generateMipmap(hostTarget(target));
 }
 

@@ -5,6 +5,7 @@
 #include "host_types.h"
 #include "textures/texture_formats.h"
 #include "textures/texture_limits.h"
+#include "textures/texture_replacement.h"
 #include "textures/texture_targets.h"
 
 namespace {
@@ -17,20 +18,30 @@ GLenum imageError(const EsContext &context, GLenum internal, GLenum format, GLen
     return context.major < 3 ? es2ImageError(internal, format, type) : es3ImageError(internal, format, type);
 }
 
+bool hasImage(GLenum target, GLint level) {
+    GLint width = 0;
+    hostGl().getTexLevelParameteriv(hostTarget(target), level, GL_TEXTURE_WIDTH, &width);
+    return width != 0;
+}
+
 // The same for a part of an image that is there.
 GLenum partError(EsContext &context, GLenum target, GLint level, GLenum format, GLenum type) {
-    GLint internal = static_cast<GLint>(formatSwizzle(context, target).internal);
-    if (internal == GL_NONE) {
+    auto internal = formatSwizzle(context, target).internal;
+    const bool isHosts = internal == GL_NONE;
+    if (isHosts) {
         if (!bindingOf(wholeTarget(target)) || level < 0) return GL_NO_ERROR;
-        GLint width = 0;
-        hostGl().getTexLevelParameteriv(hostTarget(target), level, GL_TEXTURE_WIDTH, &width);
-        // The host judges what is not there.
-        if (width == 0) return GL_NO_ERROR;
-        hostGl().getTexLevelParameteriv(hostTarget(target), level, GL_TEXTURE_INTERNAL_FORMAT, &internal);
+        GLint told = GL_NONE;
+        hostGl().getTexLevelParameteriv(hostTarget(target), level, GL_TEXTURE_INTERNAL_FORMAT, &told);
+        internal = static_cast<GLenum>(told);
     }
-    const GLenum error = imageError(context, static_cast<GLenum>(internal), format, type);
+    TakenPart &last = context.textures.lastTaken;
+    if (last == TakenPart{internal, format, type}) return GL_NO_ERROR;
+    const GLenum error = imageError(context, internal, format, type);
+    if (error == GL_NO_ERROR) last = {internal, format, type};
     // A storage may have formats that images cannot be made of.
-    return error == GL_INVALID_VALUE ? GL_NO_ERROR : error;
+    if (error == GL_NO_ERROR || error == GL_INVALID_VALUE) return GL_NO_ERROR;
+    // The host judges what is not there.
+    return !isHosts || hasImage(target, level) ? error : GLenum(GL_NO_ERROR);
 }
 
 struct Image {
@@ -49,6 +60,7 @@ void define(const Image &image, GLenum format, GLenum type, Define call) {
     const GLenum error = imageError(*context, internal, format, type);
     if (error != GL_NO_ERROR) return context->raise(error);
     if (isTooLarge(*context, target, level, size)) return context->raise(GL_INVALID_VALUE);
+    leaveImage(*context, target, level);
     const HostTextureFormat host = hostTextureFormat(internal, format, type);
     call(host);
     setFormatSwizzle(*context, target, internal, host);
@@ -68,6 +80,7 @@ void defineStorage(GLenum target, const ImageSize &size, GLenum internal, Define
     if (!context) return call(internal);
     if (isTooLarge(*context, target, 0, size)) return context->raise(GL_INVALID_VALUE);
     context->shared->textures.noteFormat(internal);
+    leaveImage(*context, target, 0);
     const HostTextureFormat host = hostTextureFormat(internal);
     call(host.internal);
     setFormatSwizzle(*context, target, internal, host);

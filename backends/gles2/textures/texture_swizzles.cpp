@@ -51,6 +51,20 @@ bool setApplications(GLenum target, GLenum pname, GLint value) {
     return true;
 }
 
+// A sibling of an EGL image has a storage on the host that cannot change, which the application does not meet.
+template <typename Value>
+bool hideStorage(GLenum target, GLenum pname, Value *params) {
+    const EsContext *const context = pname == GL_TEXTURE_IMMUTABLE_FORMAT ? EsContext::current() : nullptr;
+    target = hostTarget(target);
+    if (!context || !params || context->shared->textures.images.siblings.isEmpty() || !bindingOf(target)) return false;
+    GLint bound = 0;
+    hostGl().getIntegerv(bindingOf(target), &bound);
+    const auto sibling = context->shared->textures.images.siblings.find(static_cast<GLuint>(bound));
+    const bool isHidden = sibling && sibling->isMutable;
+    if (isHidden) *params = GL_FALSE;
+    return isHidden;
+}
+
 template <typename Value>
 bool getApplications(GLenum target, GLenum pname, Value *params) {
     EsContext *const context = isSwizzle(pname) ? EsContext::current() : nullptr;
@@ -125,10 +139,12 @@ void GL_APIENTRY texParameterIuiv(GLenum target, GLenum pname, const GLuint *par
 }
 
 void GL_APIENTRY getTexParameteriv(GLenum target, GLenum pname, GLint *params) {
+    if (hideStorage(target, pname, params)) return;
     if (!getApplications(target, pname, params)) hostGl().getTexParameteriv(hostTarget(target), pname, params);
 }
 
 void GL_APIENTRY getTexParameterfv(GLenum target, GLenum pname, GLfloat *params) {
+    if (hideStorage(target, pname, params)) return;
     if (!getApplications(target, pname, params)) hostGl().getTexParameterfv(hostTarget(target), pname, params);
 }
 

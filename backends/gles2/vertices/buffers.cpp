@@ -20,10 +20,22 @@ GLuint hostBuffer(GLuint name) {
 // True with the error raised, for a binding that the device has not.
 bool isRefused(GLenum target, GLuint index) {
     EsContext *const context = EsContext::current();
-    if (!context || target != GL_UNIFORM_BUFFER) return false;
-    const bool isOver = index >= static_cast<GLuint>(context->announced.most(GL_MAX_UNIFORM_BUFFER_BINDINGS));
+    if (!context || (target != GL_UNIFORM_BUFFER && target != GL_TRANSFORM_FEEDBACK_BUFFER)) return false;
+    const GLenum limit =
+        target == GL_UNIFORM_BUFFER ? GL_MAX_UNIFORM_BUFFER_BINDINGS : GL_MAX_TRANSFORM_FEEDBACK_SEPARATE_ATTRIBS;
+    const bool isOver = index >= static_cast<GLuint>(context->announced.most(limit));
     if (isOver) context->raise(GL_INVALID_VALUE);
     return isOver;
+}
+
+// The same for a place in a buffer where the device's blocks cannot begin.
+bool isMisaligned(GLenum target, GLintptr offset) {
+    EsContext *const context = target == GL_UNIFORM_BUFFER ? EsContext::current() : nullptr;
+    const auto *const limit = context ? context->announced.limit(GL_UNIFORM_BUFFER_OFFSET_ALIGNMENT) : nullptr;
+    const GLintptr alignment = limit ? static_cast<GLintptr>(limit->front()) : 1;
+    const bool isBetween = alignment > 1 && offset % alignment != 0;
+    if (isBetween) context->raise(GL_INVALID_VALUE);
+    return isBetween;
 }
 
 } // namespace
@@ -61,7 +73,8 @@ void GL_APIENTRY bindBufferBase(GLenum target, GLuint index, GLuint buffer) {
 }
 
 void GL_APIENTRY bindBufferRange(GLenum target, GLuint index, GLuint buffer, GLintptr offset, GLsizeiptr size) {
-    if (!isRefused(target, index)) hostGl().bindBufferRange(target, index, hostBuffer(buffer), offset, size);
+    if (!isRefused(target, index) && !isMisaligned(target, offset))
+        hostGl().bindBufferRange(target, index, hostBuffer(buffer), offset, size);
 }
 
 void GL_APIENTRY bindVertexBuffer(GLuint binding, GLuint buffer, GLintptr offset, GLsizei stride) {

@@ -7,21 +7,13 @@
 
 namespace {
 
-// Beyond what the device has the host may have more. True with the error raised.
-bool isOver(GLuint index) {
-    EsContext *const context = EsContext::current();
-    const bool isOver = context && index >= context->vertices.maxAttribs;
-    if (isOver) context->raise(GL_INVALID_VALUE);
-    return isOver;
-}
-
 // An array of the application's memory is noted, and the host is told at the draw.
 // set: the host's function of the call, which takes the pointer.
 template <typename Set>
 void setPointer(GLuint index, const VertexFormat &format, const void *pointer, Set set) {
     EsContext *const context = EsContext::current();
     if (!context) return set(pointer);
-    if (index >= context->vertices.maxAttribs) return context->raise(GL_INVALID_VALUE);
+    if (isBeyondAttribs(index)) return;
     Vertices &vertices = context->vertices;
     const bool isClient = vertices.arrayBuffer == 0 && vertices.takesClientMemory();
     const bool isGood = vertices.takesFormat(index, format);
@@ -69,6 +61,7 @@ bool isRefusedOnObjectZero() {
 
 template <typename Value, typename Ask>
 void getAttrib(GLuint index, GLenum pname, Value *params, Ask ask) {
+    if (isBeyondAttribs(index)) return;
     const EsContext *const context = EsContext::current();
     const auto answer = context && params ? ownAnswer(*context, index, pname) : std::nullopt;
     if (!answer) return ask(index, pname, params);
@@ -112,14 +105,14 @@ void GL_APIENTRY deleteVertexArrays(GLsizei n, const GLuint *arrays) {
 }
 
 void GL_APIENTRY enableVertexAttribArray(GLuint index) {
-    if (isOver(index)) return;
+    if (isBeyondAttribs(index)) return;
     hostGl().enableVertexAttribArray(index);
     EsContext *const context = EsContext::current();
     if (context) context->vertices.bound->enabledAttribs |= 1u << index;
 }
 
 void GL_APIENTRY disableVertexAttribArray(GLuint index) {
-    if (isOver(index)) return;
+    if (isBeyondAttribs(index)) return;
     hostGl().disableVertexAttribArray(index);
     EsContext *const context = EsContext::current();
     if (context) context->vertices.bound->enabledAttribs &= ~(1u << index);
@@ -138,6 +131,7 @@ void GL_APIENTRY vertexAttribIPointer(GLuint index, GLint size, GLenum type, GLs
 }
 
 void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
+    if (isBeyondAttribs(index)) return;
     hostGl().vertexAttribDivisor(index, divisor);
     EsContext *const context = EsContext::current();
     if (!context || index >= context->vertices.maxAttribs) return;
@@ -150,15 +144,16 @@ void GL_APIENTRY vertexAttribDivisor(GLuint index, GLuint divisor) {
 }
 
 void GL_APIENTRY vertexAttribFormat(GLuint index, GLint size, GLenum type, GLboolean normalized, GLuint offset) {
-    if (!isRefusedOnObjectZero()) hostGl().vertexAttribFormat(index, size, hostType(type), normalized, offset);
+    if (!isRefusedOnObjectZero() && !isBeyondAttribs(index))
+        hostGl().vertexAttribFormat(index, size, hostType(type), normalized, offset);
 }
 
 void GL_APIENTRY vertexAttribIFormat(GLuint index, GLint size, GLenum type, GLuint offset) {
-    if (!isRefusedOnObjectZero()) hostGl().vertexAttribIFormat(index, size, type, offset);
+    if (!isRefusedOnObjectZero() && !isBeyondAttribs(index)) hostGl().vertexAttribIFormat(index, size, type, offset);
 }
 
 void GL_APIENTRY vertexAttribBinding(GLuint index, GLuint binding) {
-    if (isRefusedOnObjectZero()) return;
+    if (isRefusedOnObjectZero() || isBeyondAttribs(index)) return;
     hostGl().vertexAttribBinding(index, binding);
     EsContext *const context = EsContext::current();
     if (!context || index >= context->vertices.maxAttribs || binding >= context->vertices.maxAttribs) return;
@@ -175,6 +170,7 @@ void GL_APIENTRY vertexBindingDivisor(GLuint binding, GLuint divisor) {
 }
 
 void GL_APIENTRY getVertexAttribPointerv(GLuint index, GLenum pname, void **pointer) {
+    if (isBeyondAttribs(index)) return;
     hostGl().getVertexAttribPointerv(index, pname, pointer);
     const EsContext *const context = EsContext::current();
     if (!context || pname != GL_VERTEX_ATTRIB_ARRAY_POINTER || !pointer || index >= context->vertices.maxAttribs)

@@ -1,6 +1,7 @@
 #include "vertices/vertices.h"
 
 #include "common/per_back_end/host_gl.h"
+#include "context/es_context.h"
 
 #include <algorithm>
 #include <limits>
@@ -23,6 +24,13 @@ Vertices::Vertices(GLint major, const HostFeatures &host, GLint mostAttribs)
     if (host.version() >= 44) gl.getIntegerv(GL_MAX_VERTEX_ATTRIB_STRIDE, &m_mostStride);
     gl.genVertexArrays(1, &defaultObject);
     gl.bindVertexArray(defaultObject);
+}
+
+bool isBeyondAttribs(GLuint index) {
+    EsContext *const context = EsContext::current();
+    const bool isBeyond = context && index >= context->vertices.maxAttribs;
+    if (isBeyond) context->raise(GL_INVALID_VALUE);
+    return isBeyond;
 }
 
 void Vertices::restoreArrayBuffer() {

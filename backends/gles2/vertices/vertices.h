@@ -38,3 +38,6 @@ private:
     const GLint m_major;
     GLsizei m_mostStride;
 };
+
+// True with the error raised, for an attribute that the current context's device lacks; the host may have more.
+[[nodiscard]] bool isBeyondAttribs(GLuint index);

@@ -2,6 +2,7 @@
 
 #include "egl/refusal.h"
 #include "egl/surface.h"
+#include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
@@ -82,8 +83,8 @@ host::Robustness robustnessOf(const ContextAttribs &attribs) {
 
 EGLint readContextAttributes(const Config &config, const DeviceProfile &profile, const EGLint *attributes,
                              ContextAttribs &attribs) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        const EGLint error = readPair(attributes[0], attributes[1], attribs);
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        const EGLint error = readPair(name, value, attribs);
         if (error != EGL_SUCCESS) return error;
     }
     attribs.esMajor = attribs.requestedMajor;

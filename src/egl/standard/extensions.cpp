@@ -20,7 +20,10 @@ constexpr char always[] = "EGL_EXT_buffer_age "
                           "EGL_KHR_fence_sync "
                           "EGL_KHR_get_all_proc_addresses "
                           "EGL_KHR_gl_colorspace "
+                          "EGL_KHR_gl_renderbuffer_image "
                           "EGL_KHR_gl_texture_2D_image "
+                          "EGL_KHR_gl_texture_cubemap_image "
+                          "EGL_KHR_image "
                           "EGL_KHR_image_base "
                           "EGL_KHR_no_config_context "
                           "EGL_KHR_reusable_sync "
@@ -40,7 +43,8 @@ const char *kept(std::string text) {
 } // namespace
 
 const char *clientExtensions() {
-    return "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
+    return "EGL_EXT_client_extensions EGL_EXT_device_base EGL_EXT_device_enumeration EGL_EXT_device_query "
+           "EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
            "EGL_MESA_platform_surfaceless EGL_KHR_client_get_all_proc_addresses ";
 }
 

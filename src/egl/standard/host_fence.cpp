@@ -1,16 +1,11 @@
 #include "egl/standard/host_fence.h"
 
 #include "egl/state.h"
-#include "egl/thread_record.h"
+#include "foundation/gl_types.h"
 
 namespace egl::standard {
 
 namespace {
-
-constexpr uint32_t glCommandsComplete = 0x9117;
-constexpr uint32_t glAlreadySignaled = 0x911A;
-constexpr uint32_t glConditionSatisfied = 0x911C;
-constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
 
 void flush(const Context &context) {
     const auto glFlush = reinterpret_cast<void (*)()>(context.getExtProcAddress("glFlush"));
@@ -22,7 +17,7 @@ void flush(const Context &context) {
 std::unique_ptr<HostFence> HostFence::create(Context &current) {
     const host::EGL &host = state().hostEGL();
     if (!host.glFenceSync || !host.glClientWaitSync || !host.glDeleteSync) return nullptr;
-    const auto fence = host.glFenceSync(glCommandsComplete, 0);
+    const auto fence = host.glFenceSync(GL_SYNC_GPU_COMMANDS_COMPLETE, 0);
     if (!fence) return nullptr;
     // Another context may wait for it before this one draws again.
     flush(current);
@@ -30,50 +25,23 @@ std::unique_ptr<HostFence> HostFence::create(Context &current) {
 }
 
 HostFence::HostFence(Context &current, host::EGL::Sync fence)
-    : m_host(state().hostEGL()), m_group(current.group), m_config(current.config),
-      m_maker(current.claimedHostContext()->context), m_legacy(current.attribs.legacyClient), m_fence(fence) {}
+    : m_host(state().hostEGL()), m_group(current), m_fence(fence) {}
 
 HostFence::~HostFence() {
-    withContext([this] { m_host.glDeleteSync(m_fence); });
-}
-
-bool HostFence::isSharedWithCurrent() const {
-    const Context *current = threadRecord.current;
-    return current && current->group == m_group;
-}
-
-template <typename Action>
-bool HostFence::withContext(Action action) {
-    if (isSharedWithCurrent()) {
-        action();
-        return true;
-    }
-    const std::lock_guard lock(m_group->helperMutex);
-    if (!m_group->helper) {
-        const auto maker = m_maker.lock();
-        if (!maker) return false;
-        m_group->helper =
-            host::createHostContext({.format = m_config->hostConfig() ? m_config->hostConfig()->format() : nullptr,
-                                     .legacy = m_legacy,
-                                     .share = maker});
-    }
-    const host::BorrowedBinding binding(*m_group->helper);
-    if (!binding.isCurrent()) return false;
-    action();
-    return true;
+    m_group.run([this] { m_host.glDeleteSync(m_fence); });
 }
 
 bool HostFence::wait(uint64_t timeoutNs) {
-    uint32_t result = glAlreadySignaled;
-    withContext([&] { result = m_host.glClientWaitSync(m_fence, 0, timeoutNs); });
-    return result == glAlreadySignaled || result == glConditionSatisfied;
+    uint32_t result = GL_ALREADY_SIGNALED;
+    m_group.run([&] { result = m_host.glClientWaitSync(m_fence, 0, timeoutNs); });
+    return result == GL_ALREADY_SIGNALED || result == GL_CONDITION_SATISFIED;
 }
 
 void HostFence::waitOnHost() {
-    if (isSharedWithCurrent() && m_host.glWaitSync) {
-        m_host.glWaitSync(m_fence, 0, glTimeoutIgnored);
+    if (m_group.isSharedWithCurrent() && m_host.glWaitSync) {
+        m_host.glWaitSync(m_fence, 0, GL_TIMEOUT_IGNORED);
     } else {
-        static_cast<void>(wait(glTimeoutIgnored));
+        static_cast<void>(wait(GL_TIMEOUT_IGNORED));
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include "capability/host_egl.h"
 #include "egl/context.h"
+#include "egl/standard/group_host.h"
 
 namespace egl::standard {
 
@@ -26,16 +27,9 @@ public:
 
 private:
     HostFence(Context &current, host::EGL::Sync fence);
-    // Runs the action with a context current that knows the fence. False when there is none any more.
-    template <typename Action>
-    bool withContext(Action action);
-    [[nodiscard]] bool isSharedWithCurrent() const;
 
     const host::EGL &m_host;
-    const std::shared_ptr<ContextGroup> m_group;
-    const std::shared_ptr<const Config> m_config;
-    const std::weak_ptr<glove::GLContext> m_maker;
-    const int32_t m_legacy;
+    const GroupHost m_group;
     const host::EGL::Sync m_fence;
 };
 

@@ -8,6 +8,7 @@
 #include "egl/context.h"
 #include "egl/refusal.h"
 #include "egl/thread_record.h"
+#include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
@@ -49,23 +50,14 @@ const AttributeRule pixmapRules[] = {
 };
 
 EGLint listError(std::span<const AttributeRule> rules, const EGLint *attributes) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        const auto rule = std::ranges::find(rules, attributes[0], &AttributeRule::attribute);
-        if (rule == rules.end())
-            return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = attributes[0]});
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        const auto rule = std::ranges::find(rules, name, &AttributeRule::attribute);
+        if (rule == rules.end()) return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = name});
         const auto &values = rule->values;
-        const bool isTaken = values.size() == 0 || std::ranges::find(values, attributes[1]) != values.end();
-        if (!isTaken)
-            return because(Rule::wrongValue, rule->error, {.attribute = attributes[0], .value = attributes[1]});
+        const bool isTaken = values.size() == 0 || std::ranges::find(values, value) != values.end();
+        if (!isTaken) return because(Rule::wrongValue, rule->error, {.attribute = name, .value = value});
     }
     return EGL_SUCCESS;
-}
-
-EGLint valueOr(const EGLint *attributes, EGLint name, EGLint otherwise) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (attributes[0] == name) otherwise = attributes[1];
-    }
-    return otherwise;
 }
 
 bool hasSurfaceType(const Config &config, EGLint bit) {
@@ -96,10 +88,11 @@ EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(pbufferRules, attributes); error != EGL_SUCCESS) return error;
     if (!hasSurfaceType(config, EGL_PBUFFER_BIT))
         return because(Rule::configWithoutPbuffers, EGL_BAD_MATCH, about(config));
-    if (valueOr(attributes, EGL_WIDTH, 0) < 0 || valueOr(attributes, EGL_HEIGHT, 0) < 0)
+    const AttributeList list(attributes);
+    if (list.valueOr(EGL_WIDTH, 0) < 0 || list.valueOr(EGL_HEIGHT, 0) < 0)
         return because(Rule::negativeSize, EGL_BAD_PARAMETER);
-    const EGLint format = valueOr(attributes, EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE);
-    const EGLint target = valueOr(attributes, EGL_TEXTURE_TARGET, EGL_NO_TEXTURE);
+    const EGLint format = list.valueOr(EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE);
+    const EGLint target = list.valueOr(EGL_TEXTURE_TARGET, EGL_NO_TEXTURE);
     if ((format == EGL_NO_TEXTURE) != (target == EGL_NO_TEXTURE)) return because(Rule::textureHalves, EGL_BAD_MATCH);
     const bool canBind = (format != EGL_TEXTURE_RGB || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGB)) &&
                          (format != EGL_TEXTURE_RGBA || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGBA));

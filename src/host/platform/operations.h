@@ -52,6 +52,7 @@ enum PixelFormatAttribute : uint32_t {
     MaxPbufferPixels = 0x10006,
     RobustContexts = 0x10007, // 0 where contexts cannot be robust, 1 where all are, 2 where they are on demand
     VisualDepth = 0x10008,    // of the pixmaps that can be drawn to
+    SoftwareRenderer = 0x10009,
 
     // A format that stands for one config alone. Fit is 1 for the nearest that the host has, 2 for one of just these
     // sizes or none; 3 is for contexts that go with drawables of any format.

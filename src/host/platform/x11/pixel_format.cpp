@@ -95,6 +95,8 @@ int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
         return config.visual.visualid ? config.visual.c_class : 0;
     case DrawableTypes:
         return drawableTypes(*format);
+    case SoftwareRenderer:
+        return format->connection.isSoftware();
     case VisualDepth:
         return config.visual.depth;
     case RobustContexts:

@@ -1,4 +1,4 @@
-// What desktop OpenGL takes in double precision alone: projections, depths, clip planes.
+// What desktop OpenGL takes in double precision alone: depths and clip planes.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "fixed_function/fixed_point.h"
@@ -44,22 +44,6 @@ void GL_APIENTRY depthRangef(GLfloat n, GLfloat f) {
 
 void GL_APIENTRY depthRangex(GLfixed n, GLfixed f) {
     hostGl().depthRange(precise(n), precise(f));
-}
-
-void GL_APIENTRY frustumf(GLfloat l, GLfloat r, GLfloat b, GLfloat t, GLfloat n, GLfloat f) {
-    hostGl().frustum(l, r, b, t, n, f);
-}
-
-void GL_APIENTRY frustumx(GLfixed l, GLfixed r, GLfixed b, GLfixed t, GLfixed n, GLfixed f) {
-    hostGl().frustum(precise(l), precise(r), precise(b), precise(t), precise(n), precise(f));
-}
-
-void GL_APIENTRY orthof(GLfloat l, GLfloat r, GLfloat b, GLfloat t, GLfloat n, GLfloat f) {
-    hostGl().ortho(l, r, b, t, n, f);
-}
-
-void GL_APIENTRY orthox(GLfixed l, GLfixed r, GLfixed b, GLfixed t, GLfixed n, GLfixed f) {
-    hostGl().ortho(precise(l), precise(r), precise(b), precise(t), precise(n), precise(f));
 }
 
 void GL_APIENTRY clipPlanef(GLenum p, const GLfloat *eqn) {

@@ -1,0 +1,28 @@
+// A way to the host's objects of a share group, from threads that have none of its contexts current.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "egl/context.h"
+
+namespace egl::standard {
+
+class GroupHost {
+public:
+    // Of the context's group. The context may end before this does.
+    explicit GroupHost(const Context &member);
+
+    // Runs the action with a context of the group current on the host. False, and not run, when there is none any more.
+    bool run(const std::function<void()> &action) const;
+    [[nodiscard]] bool isSharedWithCurrent() const;
+
+private:
+    const std::shared_ptr<ContextGroup> m_group;
+    const std::shared_ptr<const Config> m_config;
+    const std::weak_ptr<glove::GLContext> m_member;
+    const int32_t m_legacy;
+};
+
+} // namespace egl::standard

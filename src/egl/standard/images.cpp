@@ -1,0 +1,108 @@
+#include "egl/standard/images.h"
+
+#include <atomic>
+#include <climits>
+
+#include "egl/context.h"
+#include "egl/entry_frame.h"
+#include "egl/standard/group_host.h"
+
+namespace egl::standard {
+
+namespace {
+
+bool isTexture(EGLenum target) {
+    return target == EGL_GL_TEXTURE_2D ||
+           (target >= EGL_GL_TEXTURE_CUBE_MAP_POSITIVE_X && target <= EGL_GL_TEXTURE_CUBE_MAP_NEGATIVE_Z);
+}
+
+EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
+    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
+        const EGLAttrib value = attributes[1];
+        switch (attributes[0]) {
+        case EGL_IMAGE_PRESERVED:
+            // What there is stays in any case.
+            if (value != EGL_TRUE && value != EGL_FALSE) return EGL_BAD_PARAMETER;
+            break;
+        case EGL_GL_TEXTURE_LEVEL:
+            if (!isTexture(source.target)) return EGL_BAD_PARAMETER;
+            if (value < 0 || value > INT_MAX) return EGL_BAD_MATCH;
+            source.level = static_cast<int32_t>(value);
+            break;
+        default:
+            return EGL_BAD_PARAMETER;
+        }
+    }
+    return EGL_SUCCESS;
+}
+
+EGLint makeStorage(Context &owner, const zvImageSource &source, zvImage &storage) {
+    if (!owner.esLibrary.makeImage) return EGL_BAD_MATCH;
+    Context *const current = threadRecord.current;
+    // Framebuffers of that context may hold the renderbuffer, and only it can look.
+    if (source.target == EGL_GL_RENDERBUFFER && current != &owner) return EGL_BAD_ACCESS;
+    const SharedEsContext esContext(&owner);
+    // A context that was never bound has no objects.
+    if (!esContext.get()) return EGL_BAD_PARAMETER;
+    EGLint error = EGL_BAD_ALLOC;
+    GroupHost(owner).run([&] { error = owner.esLibrary.makeImage(esContext.get(), &source, &storage); });
+    return error;
+}
+
+} // namespace
+
+Image::Image(const Context &maker, const zvImage &storage)
+    : storage(storage), group(maker.group), drop(maker.esLibrary.dropImage) {
+    maker.esLibrary.library.keepLoaded("zvDropImage");
+}
+
+Image::~Image() {
+    if (storage.owner && drop) drop(&storage);
+}
+
+EGLImage Images::insert(std::shared_ptr<Image> image) {
+    const std::lock_guard lock(m_mutex);
+    m_images[++m_lastHandle] = std::move(image);
+    return reinterpret_cast<EGLImage>(m_lastHandle);
+}
+
+std::shared_ptr<Image> Images::find(const void *handle) const {
+    const std::lock_guard lock(m_mutex);
+    const auto found = m_images.find(reinterpret_cast<uintptr_t>(handle));
+    return found == m_images.end() ? nullptr : found->second;
+}
+
+std::shared_ptr<Image> Images::take(EGLImage handle) {
+    const std::lock_guard lock(m_mutex);
+    const auto node = m_images.extract(reinterpret_cast<uintptr_t>(handle));
+    return node ? node.mapped() : nullptr;
+}
+
+void Images::clear() {
+    std::map<uintptr_t, std::shared_ptr<Image>> taken;
+    const std::lock_guard lock(m_mutex);
+    taken.swap(m_images);
+}
+
+EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLClientBuffer buffer,
+                     const EGLAttrib *attributes) {
+    const auto owner = display.findContext(context);
+    if (context != EGL_NO_CONTEXT && !owner) return fail(EGL_BAD_CONTEXT, EGL_NO_IMAGE);
+    if (!isTexture(target) && target != EGL_GL_RENDERBUFFER) return fail(EGL_BAD_PARAMETER, EGL_NO_IMAGE);
+    if (!owner) return fail(EGL_BAD_CONTEXT, EGL_NO_IMAGE);
+    const auto name = reinterpret_cast<uintptr_t>(buffer);
+    static std::atomic<uint64_t> lastNumber = 0;
+    zvImageSource source = {.target = target, .name = static_cast<uint32_t>(name), .level = 0, .number = ++lastNumber};
+    if (const EGLint error = readAttributes(attributes, source); error != EGL_SUCCESS) {
+        return fail(error, EGL_NO_IMAGE);
+    }
+    // 0 stands for a texture that belongs to one context alone.
+    if (name == 0 || name > UINT32_MAX) return fail(EGL_BAD_PARAMETER, EGL_NO_IMAGE);
+    zvImage storage = {};
+    if (const EGLint error = makeStorage(*owner, source, storage); error != EGL_SUCCESS) {
+        return fail(error, EGL_NO_IMAGE);
+    }
+    return succeed(display.standardImages.insert(std::make_shared<Image>(*owner, storage)));
+}
+
+} // namespace egl::standard

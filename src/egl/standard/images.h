@@ -1,0 +1,52 @@
+// EGL images by the rules of the EGL standard, which desktop clients get in place of a device's: an image has a storage
+// of its own, which the back end makes and which outlives its source.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+
+#include "egl/egl_api.h"
+#include "zelvane/back_end.h"
+
+namespace egl {
+class Context;
+class Display;
+struct ContextGroup;
+} // namespace egl
+
+namespace egl::standard {
+
+// Constant after construction.
+struct Image {
+    Image(const Context &maker, const zvImage &storage);
+    Image(const Image &) = delete;
+    Image &operator=(const Image &) = delete;
+    ~Image();
+
+    const zvImage storage;
+    const std::shared_ptr<ContextGroup> group; // of the contexts that know the storage
+    decltype(&zvDropImage) const drop;         // the back end stays in the process from the first image on
+};
+
+// Those of a display. Any thread.
+class Images {
+public:
+    [[nodiscard]] EGLImage insert(std::shared_ptr<Image> image);
+    // Null for an unknown handle.
+    [[nodiscard]] std::shared_ptr<Image> find(const void *handle) const;
+    [[nodiscard]] std::shared_ptr<Image> take(EGLImage handle);
+    void clear();
+
+private:
+    mutable std::mutex m_mutex;
+    std::map<uintptr_t, std::shared_ptr<Image>> m_images;
+    uintptr_t m_lastHandle = 0; // never reused, so that a stale handle is unknown rather than somebody else's
+};
+
+// eglCreateImage, on an initialised display.
+[[nodiscard]] EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLClientBuffer buffer,
+                                   const EGLAttrib *attributes);
+
+} // namespace egl::standard
