@@ -35,7 +35,7 @@ Json fieldValue(const Message &message, const Field &field) {
 
 // The time is in UTC: "2031-12-24T18:00:00.000Z".
 Json head(const MonitoredApplication &application, const std::string &type) {
-    return {{"time", timeTextNow(gmtime_r, "%FT%T") + 'Z'},
+    return {{"time", timeTextNow(gmtime_r, "%FT%T") + "Z"},
             {"pid", application.processNumber()},
             {"command", application.commandName()},
             {"type", type}};
