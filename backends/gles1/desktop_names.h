@@ -9,6 +9,7 @@ constexpr unsigned quads = 0x0007;
 constexpr unsigned framebufferSrgb = 0x8DB9;
 constexpr unsigned textureWidth = 0x1000;
 constexpr unsigned textureHeight = 0x1001;
+constexpr unsigned textureImmutableFormat = 0x912F;
 constexpr unsigned textureGenMode = 0x2500;
 constexpr unsigned coordinateS = 0x2000;
 constexpr unsigned coordinateT = 0x2001;

@@ -3,6 +3,7 @@
 #include <atomic>
 
 #include "egl/desktop_clients.h"
+#include "egl/refusal.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
@@ -11,6 +12,14 @@
 namespace egl {
 
 namespace {
+
+using refusals::Rule;
+
+// Nothing of it changes whether a bind fails; callers give the error.
+bool refuseBind(Rule rule, const Context &context) {
+    refusals::lastNote = {rule, {.major = context.attribs.esMajor, .minor = context.attribs.esMinor}};
+    return false;
+}
 
 // The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
 void primeShareContext(Context &context, const SurfacePair &surfaces) {
@@ -52,7 +61,7 @@ bool bindEsContext(Context &context, host::HostBinding binding) {
     Context *share = context.shareContext.get();
     const SharedEsContext shared(share);
     context.esContext = state().createEsContext(context.esLibrary, context.attribs, context.display, shared.get());
-    if (!context.esContext.load()) return false;
+    if (!context.esContext.load()) return refuseBind(Rule::backEndRefuses, context);
     if (share && share->attribs.requestedMajor != context.attribs.requestedMajor) {
         logMessage(LogWarning, "Attempting to share two contexts of differing API versions is unsupported.");
     }
@@ -97,7 +106,7 @@ void unbindCurrent(Display &display) {
 
 bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces) {
     primeShareContext(*context, surfaces);
-    if (!context->esLibrary.library.isLoaded()) return false;
+    if (!context->esLibrary.library.isLoaded()) return refuseBind(Rule::noBackEnd, *context);
     const Surface *const draw = surfaces.draw.get();
     postWindowTitle(draw);
 
@@ -106,11 +115,11 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
     const auto *hostContext = context->claimedHostContext();
     const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
-    if (binding == host::HostBinding::failed) return false;
+    if (binding == host::HostBinding::failed) return refuseBind(Rule::hostBind, *context);
     // A host that refused the context at its creation shows here first.
     if (!hostContext || !hostContext->context->container()) {
         tellOfHostWithoutContext(context->attribs);
-        return false;
+        return refuseBind(Rule::noHostContext, *context);
     }
     // The application must not inherit an error that the bind left.
     state().hostEGL(binding == host::HostBinding::current).sweepError();

@@ -71,9 +71,9 @@ EGLint Display::listConfigs(EGLConfig *out, EGLint size) const {
     return m_configs ? static_cast<EGLint>(m_configs->listConfigs(out, size)) : 0;
 }
 
-EGLint Display::chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size) const {
+EGLint Display::chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size, ChoiceAccount *account) const {
     const std::lock_guard lock(m_displayMutex);
-    return m_configs ? static_cast<EGLint>(m_configs->chooseConfigs(attributes, out, size)) : 0;
+    return m_configs ? static_cast<EGLint>(m_configs->chooseConfigs(attributes, out, size, account)) : 0;
 }
 
 std::shared_ptr<Context> Display::findContext(EGLContext handle) const {

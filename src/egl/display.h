@@ -51,7 +51,9 @@ public:
     // What a null config stands for. Null on a display that is not initialised.
     [[nodiscard]] std::shared_ptr<const Config> noConfig() const;
     [[nodiscard]] EGLint listConfigs(EGLConfig *out, EGLint size) const;
-    [[nodiscard]] EGLint chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size) const;
+    // account: as ConfigList::chooseConfigs.
+    [[nodiscard]] EGLint chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size,
+                                       ChoiceAccount *account = nullptr) const;
 
     // A context or surface that has left its table is still found on the thread that has it current.
     [[nodiscard]] std::shared_ptr<Context> findContext(EGLContext handle) const;

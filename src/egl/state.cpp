@@ -3,6 +3,7 @@
 #include "capability/collect_system_report.h"
 #include "egl/desktop_clients.h"
 #include "egl/gui_link.h"
+#include "egl/process_journal.h"
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
@@ -136,6 +137,7 @@ bool ensureLoaded() {
     if (!globalState) globalState = new State;
     desktop_clients::loadBackEnds();
     if (!globalState->load()) return false;
+    beginJournal(*globalState);
     isStateLoaded.store(true, std::memory_order_release);
     return true;
 }

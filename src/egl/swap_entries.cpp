@@ -1,8 +1,10 @@
 // Swapping, damage and copying.
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/frame_pictures.h"
 #include "egl/standard/binding_rules.h"
 #include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
@@ -18,6 +20,8 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     if (desktop_clients::isOn() && !standard::isDrawnTo(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     // First: a frame of a window that is not mapped yet is lost.
     if (desktop_clients::isOn()) host::flushApplication(display.nativeDisplay);
+    if (frame_pictures::areWanted()) [[unlikely]]
+        frame_pictures::take(*found);
     found->swap();
     State::countFrame();
     return succeed(EGL_TRUE);
@@ -59,7 +63,8 @@ EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EG
 using namespace egl;
 
 EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+    const EGLBoolean answer = entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+    return reports::told(answer, reports::swap, surface);
 }
 
 // For devices it fails without an error.

@@ -1,8 +1,10 @@
 // Entries that look at the calling thread alone. None of them loads anything.
 #include "egl/binding.h"
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/refusal.h"
 #include "egl/standard/binding_rules.h"
 
 using namespace egl;
@@ -15,9 +17,10 @@ EGLint EGLAPIENTRY eglGetError(void) {
 EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
     if (api != EGL_OPENGL_ES_API) {
         desktop_clients::tellOfOtherApi(api);
-        return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        const EGLint error = refusals::because(refusals::Rule::otherApi, EGL_BAD_PARAMETER);
+        return reports::told<EGLBoolean>(fail(error, EGL_FALSE), reports::bindApi, api);
     }
-    return succeed(EGL_TRUE);
+    return reports::told<EGLBoolean>(succeed(EGL_TRUE), reports::bindApi, api);
 }
 
 EGLenum EGLAPIENTRY eglQueryAPI(void) {

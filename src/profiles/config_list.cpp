@@ -66,26 +66,40 @@ uint32_t ConfigList::listConfigs(void **out, int32_t size) const {
     return static_cast<uint32_t>(stored);
 }
 
-uint32_t ConfigList::chooseConfigs(const int32_t *attributes, void **out, int32_t size) const {
+uint32_t ConfigList::chooseConfigs(const int32_t *attributes, void **out, int32_t size, ChoiceAccount *account) const {
     std::vector<Config> matching;
     matching.reserve(m_configs.size());
     const bool isOfDesktop = m_kind == ConfigKind::ofDesktop;
     for (const auto &[handle, config] : m_configs) {
-        if (isOfDesktop ? matchesByStandard(config, attributes) : config.matches(attributes))
-            matching.push_back(config);
+        const auto reason = isOfDesktop ? findFallOutByStandard(config, attributes) : config.findFallOut(attributes);
+        if (!reason) matching.push_back(config);
+        if (reason && account) account->fallenOut.push_back({config.attributeOr0(EGL_CONFIG_ID), *reason});
     }
-    if (!out) return static_cast<uint32_t>(matching.size());
+    if (!out && !account) return static_cast<uint32_t>(matching.size());
     if (isOfDesktop) {
         sortByStandard(matching, attributes);
     } else {
         sortConfigs(matching, ConfigSortOrder(attributes));
     }
+    if (account) tellOrder(matching, attributes, *account);
+    if (!out) return static_cast<uint32_t>(matching.size());
     int32_t stored = 0;
     for (const Config &config : matching) {
         if (stored >= size) break;
         out[stored++] = toStored(config);
     }
     return static_cast<uint32_t>(stored);
+}
+
+void ConfigList::tellOrder(const std::vector<Config> &sorted, const int32_t *attributes, ChoiceAccount &account) const {
+    for (const Config &config : sorted)
+        account.order.push_back(config.attributeOr0(EGL_CONFIG_ID));
+    const ConfigSortOrder order(attributes);
+    for (size_t i = 1; i < sorted.size(); ++i) {
+        account.comparisons.push_back(m_kind == ConfigKind::ofDesktop
+                                          ? compareByStandard(sorted[i - 1], sorted[i], attributes)
+                                          : order.compare(sorted[i - 1], sorted[i]));
+    }
 }
 
 const Config *ConfigList::findConfig(uint64_t handle) const {

@@ -82,25 +82,24 @@ bool isValidPair(int32_t attribute, int32_t value) {
 
 // Attributes that the list leaves out are not tested: no default stands in for them, so that an empty list matches
 // every config, those without windows included.
-bool Config::matches(const int32_t *attributes) const {
-    bool overall = true;
-    bool transparentOk = true;
+std::optional<FallOut> Config::findFallOut(const int32_t *attributes) const {
+    std::optional<FallOut> first;            // without the transparent colours
+    std::optional<FallOut> firstWithColours; // with them
     bool wantsTransparentRgb = false;
     for (const auto &[name, wanted] : AttributeList(attributes)) {
         int32_t offered = 0;
         if (!getAttribute(name, &offered)) continue;
         const MatchRule rule = findRule(name);
         const bool ok = passes(rule.test, offered, wanted);
-        if (ok && rule.weight == Weight::alone) return true;
-        if (rule.weight == Weight::transparentOnly) {
-            transparentOk = transparentOk && ok;
-            continue;
-        }
+        if (ok && rule.weight == Weight::alone) return std::nullopt;
         // A failure does not end the walk: an id further on may still be the answer.
-        overall = overall && ok;
+        const FallOut reason{name, wanted, offered};
+        if (!ok && !firstWithColours) firstWithColours = reason;
+        if (rule.weight == Weight::transparentOnly) continue;
+        if (!ok && !first) first = reason;
         if (rule.weight == Weight::asksForRgb && wanted == EGL_TRANSPARENT_RGB) wantsTransparentRgb = true;
     }
-    return overall && (transparentOk || !wantsTransparentRgb);
+    return wantsTransparentRgb ? firstWithColours : first;
 }
 
 bool validateAttributeList(const int32_t *attributes) {

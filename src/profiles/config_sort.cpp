@@ -44,14 +44,18 @@ uint32_t ConfigSortOrder::colourSum(const Config &config) const {
     return sum;
 }
 
-bool ConfigSortOrder::operator()(const Config &a, const Config &b) const {
-    const auto byCaveat = compareCaveats(a.attributeOr0(EGL_CONFIG_CAVEAT), b.attributeOr0(EGL_CONFIG_CAVEAT));
-    if (byCaveat) return *byCaveat;
+Comparison ConfigSortOrder::compare(const Config &a, const Config &b) const {
+    const int32_t caveats[] = {a.attributeOr0(EGL_CONFIG_CAVEAT), b.attributeOr0(EGL_CONFIG_CAVEAT)};
+    const auto byCaveat = compareCaveats(caveats[0], caveats[1]);
+    if (byCaveat) return {*byCaveat, EGL_CONFIG_CAVEAT, caveats[0], caveats[1]};
     // False in both directions: more colour bits are no advantage, and the partition sort settles the order.
-    if (colourSum(a) != colourSum(b)) return false;
-    for (const int32_t key : sizeKeys)
-        if (a.attributeOr0(key) != b.attributeOr0(key)) return a.attributeOr0(key) < b.attributeOr0(key);
-    return a < b;
+    const uint32_t sums[] = {colourSum(a), colourSum(b)};
+    if (sums[0] != sums[1]) return {false, colourBits, static_cast<int32_t>(sums[0]), static_cast<int32_t>(sums[1])};
+    for (const int32_t key : sizeKeys) {
+        const int32_t sizes[] = {a.attributeOr0(key), b.attributeOr0(key)};
+        if (sizes[0] != sizes[1]) return {sizes[0] < sizes[1], key, sizes[0], sizes[1]};
+    }
+    return {a < b, EGL_CONFIG_ID, a.attributeOr0(EGL_CONFIG_ID), b.attributeOr0(EGL_CONFIG_ID)};
 }
 
 void sortConfigs(std::vector<Config> &configs, const ConfigSortOrder &order) {

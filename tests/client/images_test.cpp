@@ -95,6 +95,8 @@ protected:
     PFNGLFRAMEBUFFERRENDERBUFFERPROC framebufferRenderbuffer = Named("glFramebufferRenderbuffer");
     PFNGLGETFRAMEBUFFERATTACHMENTPARAMETERIVPROC ofAttachment = Named("glGetFramebufferAttachmentParameteriv");
     PFNGLGETRENDERBUFFERPARAMETERIVPROC ofRenderbuffer = Named("glGetRenderbufferParameteriv");
+    PFNGLTEXPARAMETERIVPROC texParameteriv = Named("glTexParameteriv");
+    PFNGLTEXSUBIMAGE2DPROC texSubImage2D = Named("glTexSubImage2D");
     PFNGLTEXPARAMETERIPROC texParameteri = Named("glTexParameteri");
     PFNGLGETINTEGERVPROC getIntegerv = Named("glGetIntegerv");
     PFNGLGENERATEMIPMAPPROC generateMipmap = Named("glGenerateMipmap");
@@ -218,4 +220,46 @@ TEST_F(DesktopImages, OfWhatIsNoSourceAreRefused) {
     targetTexture(GL_TEXTURE_2D, again);
     EXPECT_EQ(gl.getError(), GLenum(GL_INVALID_OPERATION)) << "of contexts that share nothing";
     EXPECT_NE(makeImage(EGL_GL_TEXTURE_2D, makeSource(EGL_GL_TEXTURE_2D)), again);
+}
+
+// Drawn as a whole, so that fixed function shows it.
+TEST_F(DesktopImages, OfEs1ShareToo) {
+    eglMakeCurrent(m_egl, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+    m_context = makeContext(EGL_NO_CONTEXT, 1);
+    const EGLint size[] = {EGL_WIDTH, 8, EGL_HEIGHT, 8, EGL_NONE};
+    bind(eglCreatePbufferSurface(m_egl, m_config, size), m_context);
+    void (*const enable)(GLenum) = Named("glEnable");
+    void (*const drawTexture)(GLint, GLint, GLint, GLint, GLint) = Named("glDrawTexiOES");
+    enable(GL_TEXTURE_2D);
+    const auto shown = [&](GLuint name) {
+        const GLint crop[] = {0, 0, 2, 2};
+        gl.bindTexture(GL_TEXTURE_2D, name);
+        texParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+        texParameteriv(GL_TEXTURE_2D, 0x8B9D, crop); // GL_TEXTURE_CROP_RECT_OES
+        drawTexture(0, 0, 0, 8, 8);
+        return pixel();
+    };
+    const GLuint source = makeSource(EGL_GL_TEXTURE_2D);
+    const EGLImage image = makeImage(EGL_GL_TEXTURE_2D, source, 1);
+    ASSERT_NE(image, EGL_NO_IMAGE) << std::hex << eglGetError();
+    EXPECT_EQ(shown(source), red);
+    const GLuint sibling = makeTexture(image), other = makeTexture(image);
+    GLint bound = 0;
+    getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    EXPECT_EQ(bound, static_cast<GLint>(other));
+    EXPECT_EQ(shown(sibling), green);
+    const std::vector<Pixel> texels(4, blue);
+    texSubImage2D(GL_TEXTURE_2D, 0, 0, 0, 2, 2, GL_RGBA, GL_UNSIGNED_BYTE, texels.data());
+    EXPECT_EQ(shown(other), blue) << "one storage";
+    gl.bindTexture(GL_TEXTURE_2D, sibling);
+    define(GL_TEXTURE_2D, 0, red);
+    EXPECT_EQ(shown(sibling), red);
+    gl.bindTexture(GL_TEXTURE_2D, source);
+    define(GL_TEXTURE_2D, 0, green);
+    EXPECT_EQ(shown(source), green) << "the source changes too";
+    gl.deleteTextures(1, &source);
+    EXPECT_TRUE(eglDestroyImage(m_egl, image));
+    EXPECT_EQ(shown(other), blue) << "and outlives both";
+    EXPECT_EQ(makeImage(EGL_GL_RENDERBUFFER, 1), EGL_NO_IMAGE);
+    EXPECT_EQ(eglGetError(), EGL_BAD_MATCH);
 }

@@ -9,35 +9,36 @@ using ui::messages::Message;
 namespace {
 
 // A number that stands for nothing stays a number.
-std::string catalogueText(FieldKind kind, uint32_t value) {
+Json catalogueValue(FieldKind kind, uint32_t value) {
     const std::string name = valueName(kind, value);
-    return name.empty() ? std::to_string(value) : jsonText(name);
+    return name.empty() ? Json(value) : Json(name);
 }
 
-std::string valueText(const Message &message, const Field &field) {
+Json fieldValue(const Message &message, const Field &field) {
     switch (field.kind) {
     case FieldKind::Unsigned:
     case FieldKind::Unsigned64:
-        return std::to_string(numberAt(message, field));
+        return numberAt(message, field);
     case FieldKind::Signed:
-        return std::to_string(signedAt(message, field));
+        return signedAt(message, field);
     case FieldKind::Flag:
-        return numberAt(message, field) ? "true" : "false";
+        return numberAt(message, field) != 0;
     case FieldKind::Text:
-        return jsonText(textAt(message, field));
+        return textAt(message, field);
     case FieldKind::List:
     case FieldKind::HostExtensionList:
-        return jsonList("[]", listAt(message, field), [&](uint32_t value) { return catalogueText(field.kind, value); });
+        return jsonList(listAt(message, field), [&](uint32_t value) { return catalogueValue(field.kind, value); });
     default:
-        return catalogueText(field.kind, static_cast<uint32_t>(numberAt(message, field)));
+        return catalogueValue(field.kind, static_cast<uint32_t>(numberAt(message, field)));
     }
 }
 
 // The time is in UTC: "2031-12-24T18:00:00.000Z".
-std::string head(const MonitoredApplication &application, const std::string &type) {
-    return "{\"time\":\"" + timeTextNow(gmtime_r, "%FT%T") +
-           "Z\",\"pid\":" + std::to_string(application.processNumber()) +
-           ",\"command\":" + jsonText(application.commandName()) + ",\"type\":\"" + type + '"';
+Json head(const MonitoredApplication &application, const std::string &type) {
+    return {{"time", timeTextNow(gmtime_r, "%FT%T") + "Z"},
+            {"pid", application.processNumber()},
+            {"command", application.commandName()},
+            {"type", type}};
 }
 
 } // namespace
@@ -45,14 +46,14 @@ std::string head(const MonitoredApplication &application, const std::string &typ
 std::string jsonRecord(const MonitoredApplication &application, const Message &message) {
     const uint32_t type = message.header.type;
     const RecordKind *kind = recordKind(type);
-    std::string line = head(application, recordName(type));
-    if (hasFrame(message)) line += ",\"frame\":" + std::to_string(message.header.frameStamp);
-    if (!kind) line += ",\"number\":" + std::to_string(type);
+    Json json = head(application, recordName(type));
+    if (hasFrame(message)) json["frame"] = message.header.frameStamp;
+    if (!kind) json["number"] = type;
     for (const Field &field : kind ? kind->fields : std::vector<Field>{})
-        line += std::string(",\"") + field.name + "\":" + valueText(message, field);
-    return line + '}';
+        json[field.name] = fieldValue(message, field);
+    return jsonLine(json);
 }
 
 std::string jsonEnd(const MonitoredApplication &application) {
-    return head(application, endedName) + '}';
+    return jsonLine(head(application, endedName));
 }

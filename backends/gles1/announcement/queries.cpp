@@ -48,6 +48,12 @@ Numbers ownAnswer(GLenum pname) {
         return {static_cast<double>(context->palette.current)};
     case GL_MATRIX_MODE:
         return context->palette.isMode ? Numbers{GL_MATRIX_PALETTE_OES} : Numbers{};
+    case GL_TEXTURE_BINDING_2D:
+    case GL_TEXTURE_BINDING_CUBE_MAP_OES: {
+        const bool isCube = pname == GL_TEXTURE_BINDING_CUBE_MAP_OES;
+        const GLuint bound = boundHostTexture(isCube ? GL_TEXTURE_CUBE_MAP_OES : GL_TEXTURE_2D);
+        return {static_cast<double>(context->shared->standIns.nameOf(bound))};
+    }
     case GL_TEXTURE_GEN_STR_OES:
         return {hostGl().isEnabled(desktop::textureGenS) ? 1.0 : 0.0};
     case GL_MODELVIEW_MATRIX_FLOAT_AS_INT_BITS_OES:

@@ -29,6 +29,8 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, const 
 
 void EsContext::setAttribs(const ContextAttribs &attribs) {
     const HostGl &gl = hostGl();
+    const std::vector<GLuint> ended = shared->images.takeEnded();
+    if (!ended.empty()) gl.deleteTextures(static_cast<GLsizei>(ended.size()), ended.data());
     (attribs.srgbFramebuffer ? gl.enable : gl.disable)(desktop::framebufferSrgb);
     sweepHostErrors();
 }

@@ -110,6 +110,7 @@ namespace overrides {
 void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum internalformat, GLsizei width, GLsizei height,
                                       GLint border, GLsizei imageSize, const void *data) {
     EsContext *const context = EsContext::current();
+    leaveImage(target, level < 0 ? allLevels : level);
     const PaletteFormat *const palette = findPaletteFormat(internalformat);
     const bool isHosts = !palette && internalformat != GL_ETC1_RGB8_OES;
     if (!context || isHosts)

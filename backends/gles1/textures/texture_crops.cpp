@@ -11,10 +11,9 @@
 
 namespace {
 
-GLuint boundTexture() {
-    GLint bound = 0;
-    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    return static_cast<GLuint>(bound);
+// By the application's name.
+GLuint boundTexture(const EsContext &context) {
+    return context.shared->standIns.nameOf(boundHostTexture(GL_TEXTURE_2D));
 }
 
 // False where the host is to judge the call.
@@ -24,7 +23,7 @@ bool setCrop(GLenum target, GLenum pname, const Number *params) {
     if (!context || pname != GL_TEXTURE_CROP_RECT_OES || target != GL_TEXTURE_2D || !params) return false;
     TextureCrop crop;
     std::transform(params, params + 4, crop.begin(), [](Number number) { return toInteger(number); });
-    const GLuint texture = boundTexture();
+    const GLuint texture = boundTexture(*context);
     if (texture == 0) {
         context->cropOfTextureZero = crop;
     } else {
@@ -61,7 +60,7 @@ void TextureCrops::forget(GLuint texture) {
 }
 
 TextureCrop boundTextureCrop(EsContext &context) {
-    const GLuint texture = boundTexture();
+    const GLuint texture = boundTexture(context);
     return texture == 0 ? context.cropOfTextureZero : context.shared->textureCrops.get(texture);
 }
 
@@ -87,8 +86,13 @@ void GL_APIENTRY getTexParameteriv(GLenum target, GLenum pname, GLint *params) {
 
 void GL_APIENTRY deleteTextures(GLsizei n, const GLuint *textures) {
     EsContext *const context = EsContext::current();
-    for (GLsizei index = 0; context && textures && index < n; ++index)
-        context->shared->textureCrops.forget(textures[index]);
+    for (GLsizei index = 0; context && textures && index < n; ++index) {
+        ShareGroup &shared = *context->shared;
+        shared.textureCrops.forget(textures[index]);
+        const GLuint standIn = shared.standIns.remove(textures[index]);
+        shared.images.siblings.remove(standIn ? standIn : textures[index]);
+        if (standIn) hostGl().deleteTextures(1, &standIn);
+    }
     hostGl().deleteTextures(n, textures);
 }
 

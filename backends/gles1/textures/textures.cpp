@@ -65,6 +65,7 @@ void GL_APIENTRY texImage2D(GLenum target, GLint level, GLint internalformat, GL
                             GLint border, GLenum format, GLenum type, const void *pixels) {
     const InternalFormat *const internal = findInternalFormat(static_cast<GLenum>(internalformat));
     if (const GLenum error = imageError(target, internal, border, format, type)) return raise(error);
+    leaveImage(target, level);
     hostGl().texImage2D(target, level, static_cast<GLint>(internal->host), width, height, 0, format, type, pixels);
 }
 
@@ -80,6 +81,7 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
     const InternalFormat *const internal = findInternalFormat(internalformat);
     if (!isImageTarget(target) || !internal) return raise(GL_INVALID_ENUM);
     if (border != 0) return raise(GL_INVALID_VALUE);
+    leaveImage(target, level);
     hostGl().copyTexImage2D(target, level, internal->host, x, y, width, height, 0);
 }
 
@@ -88,6 +90,7 @@ void GL_APIENTRY texStorage2DEXT(GLenum target, GLsizei levels, GLenum internalf
     const InternalFormat *const internal = findInternalFormat(internalformat);
     const bool isSized = internal && internal->name != internal->base;
     if ((target != GL_TEXTURE_2D && target != GL_TEXTURE_CUBE_MAP_OES) || !isSized) return raise(GL_INVALID_ENUM);
+    leaveImage(target, 0);
     hostGl().texStorage2D(target, levels, internal->host, width, height);
 }
 

@@ -37,6 +37,6 @@ EsContext::~EsContext() {
 void EsContext::setAttribs(const ContextAttribs &attribs) {
     framebuffers.setSurface(attribs.srgbFramebuffer != 0);
     shared->buffers.deleteAbandoned();
-    shared->textures.images.deleteEnded(shared->textures.names);
+    deleteEndedImages(shared->textures);
     sweepHostErrors();
 }

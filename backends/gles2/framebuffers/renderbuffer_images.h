@@ -1,7 +1,7 @@
 // Renderbuffers whose storage is that of an EGL image: on the host a texture stands for each.
 #pragma once
 
-#include "names/shared_map.h"
+#include "common/shared_map.h"
 
 class EsContext;
 

@@ -1,7 +1,7 @@
 // What a share group keeps of programs and shaders. Any thread.
 #pragma once
 
-#include "names/shared_map.h"
+#include "common/shared_map.h"
 #include "programs/program_inputs.h"
 #include "programs/shader_interface.h"
 

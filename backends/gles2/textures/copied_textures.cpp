@@ -2,8 +2,8 @@
 // texture has alpha, so the pixels go through memory.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
+#include "common/per_back_end/pixel_store.h"
 #include "context/es_context.h"
-#include "textures/pixel_store.h"
 #include "textures/texture_formats.h"
 #include "textures/texture_limits.h"
 #include "textures/texture_replacement.h"

@@ -1,9 +1,9 @@
 // What EGL images of desktop programs are made of. A texture or renderbuffer gets a storage that views can share, where
 // it has none; the image is a view, and so is every texture that is made of it.
 #include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/texture_contents.h"
 #include "context/es_context.h"
 #include "framebuffers/renderbuffer_images.h"
-#include "textures/texture_contents.h"
 
 #include <EGL/egl.h>
 
@@ -64,9 +64,7 @@ EGLint findTexture(EsContext &context, const zvImageSource &source, Place &place
     GLint internal = GL_NONE;
     hostGl().getTexLevelParameteriv(target == GL_TEXTURE_2D ? target : GLenum(GL_TEXTURE_CUBE_MAP_POSITIVE_X), 0,
                                     GL_TEXTURE_INTERNAL_FORMAT, &internal);
-    const TextureContents contents(*shape);
-    hostGl().texStorage2D(target, shape->levels, shape->internal, shape->width, shape->height);
-    contents.fill();
+    makeShareable(*shape);
     // The application knows it without a size still.
     if (static_cast<GLenum>(internal) != shape->internal && !textures.swizzles.find(texture)) {
         textures.swizzles.set(texture, {.internal = static_cast<GLenum>(internal)});
@@ -132,7 +130,7 @@ int32_t zvMakeImage(zvEsContext esContext, const zvImageSource *source, zvImage 
             image->hostTexture = texture;
             return texture ? EGL_SUCCESS : EGL_BAD_PARAMETER;
         }
-        context.shared->textures.images.deleteEnded(context.shared->textures.names);
+        deleteEndedImages(context.shared->textures);
         Place place = {};
         const EGLint error = source->target == EGL_GL_RENDERBUFFER ? findRenderbuffer(context, *source, place)
                                                                    : findTexture(context, *source, place);
@@ -153,5 +151,5 @@ void zvDropImage(const zvImage *image) {
     SharedTextures &textures = (*owner)->textures;
     textures.images.end(image->number, image->hostTexture);
     const EsContext *const current = EsContext::current();
-    if (current && current->shared.group() == *owner) textures.images.deleteEnded(textures.names);
+    if (current && current->shared.group() == *owner) deleteEndedImages(textures);
 }

@@ -3,8 +3,8 @@
 // of that end, or one that the host takes for the same.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
+#include "common/per_back_end/pixel_store.h"
 #include "context/es_context.h"
-#include "textures/pixel_store.h"
 #include "textures/texture_targets.h"
 
 #include <algorithm>

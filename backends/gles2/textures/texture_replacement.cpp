@@ -1,9 +1,9 @@
 #include "textures/texture_replacement.h"
 
 #include "common/per_back_end/host_gl.h"
+#include "common/per_back_end/texture_contents.h"
 #include "context/es_context.h"
 #include "framebuffers/attachment_swaps.h"
-#include "textures/texture_contents.h"
 #include "textures/texture_targets.h"
 
 #include <array>

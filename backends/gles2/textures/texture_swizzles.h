@@ -1,7 +1,7 @@
 // The swizzles of textures whose format the host lacks: what the format needs, under what the application set itself.
 #pragma once
 
-#include "names/shared_map.h"
+#include "common/shared_map.h"
 #include "textures/texture_formats.h"
 
 struct TextureSwizzle {

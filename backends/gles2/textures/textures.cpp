@@ -26,6 +26,13 @@ void setExternalDefaults(GLuint texture) {
 
 } // namespace
 
+void deleteEndedImages(SharedTextures &textures) {
+    const std::vector<GLuint> ended = textures.images.takeEnded();
+    for (const GLuint storage : ended)
+        textures.names.forgetHidden(storage);
+    if (!ended.empty()) hostGl().deleteTextures(static_cast<GLsizei>(ended.size()), ended.data());
+}
+
 GLuint hostTexture(GLuint name) {
     NameTable *const names = textureNames();
     const HostGl &gl = hostGl();

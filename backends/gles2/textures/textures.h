@@ -3,7 +3,7 @@
 
 #include "names/name_table.h"
 #include "textures/block_formats.h"
-#include "textures/shared_images.h"
+#include "common/per_back_end/shared_images.h"
 #include "textures/texture_swizzles.h"
 
 #include <atomic>
@@ -37,6 +37,9 @@ struct SharedTextures {
         if (findBlockFormat(internal)) mayHoldBlocks.store(true, std::memory_order_relaxed);
     }
 };
+
+// Deletes the storages of EGL images that have ended. With the host context current.
+void deleteEndedImages(SharedTextures &textures);
 
 // The host's name for the application's, which gets an object if it is new.
 [[nodiscard]] GLuint hostTexture(GLuint name);

@@ -6,12 +6,16 @@
 #include <span>
 
 #include "egl/context.h"
+#include "egl/refusal.h"
 #include "egl/thread_record.h"
 #include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
 namespace {
+
+using refusals::because;
+using refusals::Rule;
 
 // What an attribute may be: one of some values, or anything where there are none.
 struct AttributeRule {
@@ -48,16 +52,20 @@ const AttributeRule pixmapRules[] = {
 EGLint listError(std::span<const AttributeRule> rules, const EGLint *attributes) {
     for (const auto &[name, value] : AttributeList(attributes)) {
         const auto rule = std::ranges::find(rules, name, &AttributeRule::attribute);
-        if (rule == rules.end()) return EGL_BAD_ATTRIBUTE;
+        if (rule == rules.end()) return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = name});
         const auto &values = rule->values;
         const bool isTaken = values.size() == 0 || std::ranges::find(values, value) != values.end();
-        if (!isTaken) return rule->error;
+        if (!isTaken) return because(Rule::wrongValue, rule->error, {.attribute = name, .value = value});
     }
     return EGL_SUCCESS;
 }
 
 bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
+}
+
+refusals::Facts about(const Config &config) {
+    return {.config = config.attributeOr0(EGL_CONFIG_ID)};
 }
 
 bool isPbuffer(const Surface &surface) {
@@ -72,25 +80,29 @@ bool isPixmap(const Surface &surface) {
 
 EGLint windowSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(windowRules, attributes); error != EGL_SUCCESS) return error;
-    return hasSurfaceType(config, EGL_WINDOW_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+    if (hasSurfaceType(config, EGL_WINDOW_BIT)) return EGL_SUCCESS;
+    return because(Rule::configWithoutWindows, EGL_BAD_MATCH, about(config));
 }
 
 EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(pbufferRules, attributes); error != EGL_SUCCESS) return error;
-    if (!hasSurfaceType(config, EGL_PBUFFER_BIT)) return EGL_BAD_MATCH;
+    if (!hasSurfaceType(config, EGL_PBUFFER_BIT))
+        return because(Rule::configWithoutPbuffers, EGL_BAD_MATCH, about(config));
     const AttributeList list(attributes);
-    if (list.valueOr(EGL_WIDTH, 0) < 0 || list.valueOr(EGL_HEIGHT, 0) < 0) return EGL_BAD_PARAMETER;
+    if (list.valueOr(EGL_WIDTH, 0) < 0 || list.valueOr(EGL_HEIGHT, 0) < 0)
+        return because(Rule::negativeSize, EGL_BAD_PARAMETER);
     const EGLint format = list.valueOr(EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE);
     const EGLint target = list.valueOr(EGL_TEXTURE_TARGET, EGL_NO_TEXTURE);
-    if ((format == EGL_NO_TEXTURE) != (target == EGL_NO_TEXTURE)) return EGL_BAD_MATCH;
+    if ((format == EGL_NO_TEXTURE) != (target == EGL_NO_TEXTURE)) return because(Rule::textureHalves, EGL_BAD_MATCH);
     const bool canBind = (format != EGL_TEXTURE_RGB || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGB)) &&
                          (format != EGL_TEXTURE_RGBA || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGBA));
-    return canBind ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+    return canBind ? EGL_SUCCESS : because(Rule::configWithoutTextures, EGL_BAD_ATTRIBUTE, about(config));
 }
 
 EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(pixmapRules, attributes); error != EGL_SUCCESS) return error;
-    return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+    if (hasSurfaceType(config, EGL_PIXMAP_BIT)) return EGL_SUCCESS;
+    return because(Rule::configWithoutPixmaps, EGL_BAD_MATCH, about(config));
 }
 
 EGLint pixmapError(const Display &display, uint64_t pixmap, const host::platform::PixelFormat *format) {

@@ -14,7 +14,7 @@ struct TextureShape {
     GLint levels;
     GLenum internal; // with a size, as a storage takes it; GL_NONE for a compressed one
 
-    [[nodiscard]] GLint faces() const { return target == GL_TEXTURE_CUBE_MAP ? 6 : 1; }
+    [[nodiscard]] GLint faces() const { return target == GL_TEXTURE_2D ? 1 : 6; }
 };
 
 // Nothing where images are missing or do not fit together.
@@ -55,3 +55,7 @@ private:
     GLenum m_type = GL_UNSIGNED_BYTE;
     std::vector<Image> m_images;
 };
+
+// Gives the texture that is bound a storage that cannot change, so that views can share it; what it holds stays. Throws
+// std::bad_alloc.
+void makeShareable(const TextureShape &shape);

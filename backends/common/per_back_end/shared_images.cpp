@@ -1,6 +1,6 @@
-#include "textures/shared_images.h"
+#include "common/per_back_end/shared_images.h"
 
-#include "common/per_back_end/host_gl.h"
+#include <utility>
 
 void SharedImages::begin(uint64_t image) {
     const std::lock_guard lock(m_mutex);
@@ -13,15 +13,9 @@ void SharedImages::end(uint64_t image, GLuint storage) {
     m_ended.push_back(storage);
 }
 
-void SharedImages::deleteEnded(NameTable &names) {
-    std::vector<GLuint> ended;
-    {
-        const std::lock_guard lock(m_mutex);
-        ended.swap(m_ended);
-    }
-    for (const GLuint storage : ended)
-        names.forgetHidden(storage);
-    if (!ended.empty()) hostGl().deleteTextures(static_cast<GLsizei>(ended.size()), ended.data());
+std::vector<GLuint> SharedImages::takeEnded() {
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_ended, {});
 }
 
 bool SharedImages::isTaken(GLuint texture) const {

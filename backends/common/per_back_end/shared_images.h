@@ -2,8 +2,7 @@
 // more. Any thread.
 #pragma once
 
-#include "names/name_table.h"
-#include "names/shared_map.h"
+#include "common/shared_map.h"
 
 #include <cstdint>
 #include <mutex>
@@ -21,8 +20,8 @@ public:
     void begin(uint64_t image);
     // The image is no more; its siblings go on. storage: the host's texture.
     void end(uint64_t image, GLuint storage);
-    // With the host context current. names: where the storages are hidden.
-    void deleteEnded(NameTable &names);
+    // The storages of images that have ended, for the caller to delete.
+    [[nodiscard]] std::vector<GLuint> takeEnded();
     // Whether the texture, by the host's name, is a sibling of an image that is still there.
     [[nodiscard]] bool isTaken(GLuint texture) const;
 
