@@ -21,7 +21,7 @@ EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
         const EGLAttrib value = attributes[1];
         switch (attributes[0]) {
         case EGL_IMAGE_PRESERVED:
-            // What there is stays in any case.
+            // The contents are preserved with either value.
             if (value != EGL_TRUE && value != EGL_FALSE) return EGL_BAD_PARAMETER;
             break;
         case EGL_GL_TEXTURE_LEVEL:
