@@ -63,8 +63,8 @@ enum class HostBinding {
 // Makes it current without a default framebuffer.
 [[nodiscard]] HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostContext);
 
-// The age in frames of the contents of the context's back buffer; 0 for undefined contents.
-// known.
+// The age of the back buffer's contents that the context has, in frames since they were drawn; 0 for contents that
+// are undefined.
 [[nodiscard]] int32_t hostBufferAge(const HostContextHandle *hostContext);
 
 // Not clamped, in frames per swap. Does nothing without a context.

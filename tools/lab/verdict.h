@@ -8,10 +8,10 @@
 #include "tools/lab/device_result.h"
 
 // The kinds, as --fail-on names them:
-// start    no context, no frame, or an unsuccessful exit of its own
+//   start    no context, no frame, or an unsuccessful exit of its own
 //   error    a GL error
-// refusal  a refused call without a later successful one
-// lacking  something that the device lacks was used
+//   refusal  a refused call without a later successful one
+//   lacking  something that the device lacks was used
 //   picture  no picture, another size than the reference's, or more than differingShare of the pixels differ
 [[nodiscard]] const std::vector<std::string> &faultKinds();
 
