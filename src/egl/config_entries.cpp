@@ -3,6 +3,7 @@
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/refusal.h"
+#include "foundation/attribute_list.h"
 #include "profiles/standard_choice.h"
 
 using namespace egl;
@@ -25,11 +26,10 @@ bool isValidList(const EGLint *attributes) {
 
 // Notes the first pair that makes the list wrong.
 EGLint becauseOfList(const EGLint *attributes) {
-    for (; *attributes != EGL_NONE; attributes += 2) {
-        const EGLint pair[] = {attributes[0], attributes[1], EGL_NONE};
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        const EGLint pair[] = {name, value, EGL_NONE};
         if (isValidList(pair)) continue;
-        return refusals::because(refusals::Rule::wrongValue, EGL_BAD_ATTRIBUTE,
-                                 {.attribute = attributes[0], .value = attributes[1]});
+        return refusals::because(refusals::Rule::wrongValue, EGL_BAD_ATTRIBUTE, {.attribute = name, .value = value});
     }
     return EGL_BAD_ATTRIBUTE;
 }

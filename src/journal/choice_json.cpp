@@ -4,6 +4,7 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
 #include "profiles/egl_names.h"
 
 namespace journal {
@@ -37,8 +38,8 @@ Json listJson(const Items &items, Make make) {
 
 Json attributesJson(const int32_t *attributes) {
     Json object = Json::object();
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        object[egl::attributeName(attributes[0])] = egl::valueText(attributes[0], attributes[1]);
+    for (const auto &[name, value] : AttributeList(attributes))
+        object[egl::attributeName(name)] = egl::valueText(name, value);
     return object;
 }
 

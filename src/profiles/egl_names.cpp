@@ -8,6 +8,7 @@
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 
+#include "foundation/attribute_list.h"
 #include "profiles/choice_account.h"
 
 namespace egl {
@@ -171,8 +172,8 @@ std::string errorName(int32_t error) {
 
 std::string attributeListText(const int32_t *list) {
     std::string text;
-    for (; list && *list != EGL_NONE; list += 2)
-        text += (text.empty() ? "" : ", ") + attributeName(list[0]) + ' ' + valueText(list[0], list[1]);
+    for (const auto &[name, value] : AttributeList(list))
+        text += (text.empty() ? "" : ", ") + attributeName(name) + ' ' + valueText(name, value);
     return text;
 }
 

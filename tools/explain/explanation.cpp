@@ -2,6 +2,7 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
 #include "profiles/egl_names.h"
 #include "profiles/profile_reader.h"
 #include "profiles/standard_choice.h"
@@ -26,11 +27,11 @@ bool isTaken(const int32_t *list, egl::ConfigKind rules) {
 }
 
 void checkPairs(const std::vector<int32_t> &criteria, egl::ConfigKind rules) {
-    for (const int32_t *pair = criteria.data(); *pair != EGL_NONE; pair += 2) {
-        const int32_t single[] = {pair[0], pair[1], EGL_NONE};
+    for (const auto &[name, value] : AttributeList(criteria.data())) {
+        const int32_t single[] = {name, value, EGL_NONE};
         if (isTaken(single, rules)) continue;
-        failCommand("eglChooseConfig refuses the list with EGL_BAD_ATTRIBUTE: " + egl::valueText(pair[0], pair[1]) +
-                    " is no value that it takes for " + egl::attributeName(pair[0]));
+        failCommand("eglChooseConfig refuses the list with EGL_BAD_ATTRIBUTE: " + egl::valueText(name, value) +
+                    " is no value that it takes for " + egl::attributeName(name));
     }
 }
 

@@ -3,14 +3,15 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
 #include "profiles/egl_names.h"
 #include "tools/explain/explanation.h"
 
 namespace {
 
 bool isAskedFor(const std::vector<int32_t> &criteria, int32_t attribute) {
-    for (const int32_t *pair = criteria.data(); *pair != EGL_NONE; pair += 2)
-        if (*pair == attribute) return true;
+    for (const auto &[name, value] : AttributeList(criteria.data()))
+        if (name == attribute) return true;
     return false;
 }
 
