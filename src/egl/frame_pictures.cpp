@@ -17,6 +17,7 @@
 #include "egl/state.h"
 #include "egl/surface.h"
 #include "foundation/environment.h"
+#include "foundation/gl_types.h"
 #include "journal/journal.h"
 
 namespace egl::frame_pictures {
@@ -24,20 +25,6 @@ namespace egl::frame_pictures {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-// Of desktop OpenGL, which the host's functions are.
-enum HostEnumerant : uint32_t {
-    packAlignment = 0x0D05,
-    packRowLength = 0x0D02,
-    packSkipRows = 0x0D03,
-    packSkipPixels = 0x0D04,
-    pixelPackBuffer = 0x88EB,
-    pixelPackBufferBinding = 0x88ED,
-    readFramebuffer = 0x8CA8,
-    readFramebufferBinding = 0x8CAA,
-    rgba = 0x1908,
-    unsignedByte = 0x1401,
-};
 
 struct HostFunctions {
     void (*getIntegerv)(uint32_t, int32_t *);
@@ -72,24 +59,25 @@ public:
     explicit ReadState(const HostFunctions &host) : m_host(host) {
         for (size_t i = 0; i < std::size(stores); ++i)
             host.getIntegerv(stores[i], &m_stores[i]);
-        host.getIntegerv(pixelPackBufferBinding, &m_packBuffer);
-        host.getIntegerv(readFramebufferBinding, &m_framebuffer);
+        host.getIntegerv(GL_PIXEL_PACK_BUFFER_BINDING, &m_packBuffer);
+        host.getIntegerv(GL_READ_FRAMEBUFFER_BINDING, &m_framebuffer);
         for (const uint32_t store : stores)
-            host.pixelStorei(store, store == packAlignment ? 1 : 0);
-        host.bindBuffer(pixelPackBuffer, 0);
-        host.bindFramebuffer(readFramebuffer, 0);
+            host.pixelStorei(store, store == GL_PACK_ALIGNMENT ? 1 : 0);
+        host.bindBuffer(GL_PIXEL_PACK_BUFFER, 0);
+        host.bindFramebuffer(GL_READ_FRAMEBUFFER, 0);
     }
     ReadState(const ReadState &) = delete;
     ReadState &operator=(const ReadState &) = delete;
     ~ReadState() {
-        m_host.bindFramebuffer(readFramebuffer, static_cast<uint32_t>(m_framebuffer));
-        m_host.bindBuffer(pixelPackBuffer, static_cast<uint32_t>(m_packBuffer));
+        m_host.bindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<uint32_t>(m_framebuffer));
+        m_host.bindBuffer(GL_PIXEL_PACK_BUFFER, static_cast<uint32_t>(m_packBuffer));
         for (size_t i = 0; i < std::size(stores); ++i)
             m_host.pixelStorei(stores[i], m_stores[i]);
     }
 
 private:
-    static constexpr uint32_t stores[] = {packAlignment, packRowLength, packSkipRows, packSkipPixels};
+    static constexpr uint32_t stores[] = {GL_PACK_ALIGNMENT, GL_PACK_ROW_LENGTH, GL_PACK_SKIP_ROWS,
+                                          GL_PACK_SKIP_PIXELS};
 
     const HostFunctions &m_host;
     int32_t m_stores[std::size(stores)] = {};
@@ -108,7 +96,7 @@ std::optional<Picture> read(Surface &surface) {
     picture.pixels.resize(static_cast<size_t>(picture.width) * static_cast<size_t>(picture.height) * 4);
     {
         const ReadState readState(host);
-        host.readPixels(0, 0, picture.width, picture.height, rgba, unsignedByte, picture.pixels.data());
+        host.readPixels(0, 0, picture.width, picture.height, GL_RGBA, GL_UNSIGNED_BYTE, picture.pixels.data());
     }
     // With a journal, which goes with pictures, none of the program's is pending on the host.
     return host.getError() == 0 ? std::optional(std::move(picture)) : std::nullopt;

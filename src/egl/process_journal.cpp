@@ -9,6 +9,7 @@
 #include "capability/host_probe.h"
 #include "egl/desktop_clients.h"
 #include "egl/state.h"
+#include "foundation/gl_types.h"
 #include "foundation/product.h"
 #include "journal/findings.h"
 #include "journal/journal.h"
@@ -34,12 +35,11 @@ Json hostWords(const State &state) {
     const auto getString =
         reinterpret_cast<const unsigned char *(*)(uint32_t)>(state.openGLLibrary().getSymbol("glGetString"));
     if (!getString) return nullptr;
-    constexpr uint32_t vendor = 0x1F00, renderer = 0x1F01, version = 0x1F02;
     const auto text = [&](uint32_t name) {
         const auto *found = reinterpret_cast<const char *>(getString(name));
         return std::string(found ? found : "");
     };
-    return {{"vendor", text(vendor)}, {"renderer", text(renderer)}, {"version", text(version)}};
+    return {{"vendor", text(GL_VENDOR)}, {"renderer", text(GL_RENDERER)}, {"version", text(GL_VERSION)}};
 }
 
 void writeEnd() {

@@ -2,8 +2,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <EGL/egl.h>
-
 #include "foundation/attribute_list.h"
 #include "profiles/egl_names.h"
 

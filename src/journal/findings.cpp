@@ -6,6 +6,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "foundation/gl_types.h"
+
 namespace journal {
 
 namespace {
@@ -26,21 +28,21 @@ Findings &findings() {
 
 const char *errorName(uint32_t error) {
     switch (error) {
-    case 0x0500:
+    case GL_INVALID_ENUM:
         return "GL_INVALID_ENUM";
-    case 0x0501:
+    case GL_INVALID_VALUE:
         return "GL_INVALID_VALUE";
-    case 0x0502:
+    case GL_INVALID_OPERATION:
         return "GL_INVALID_OPERATION";
-    case 0x0503:
+    case GL_STACK_OVERFLOW:
         return "GL_STACK_OVERFLOW";
-    case 0x0504:
+    case GL_STACK_UNDERFLOW:
         return "GL_STACK_UNDERFLOW";
-    case 0x0505:
+    case GL_OUT_OF_MEMORY:
         return "GL_OUT_OF_MEMORY";
-    case 0x0506:
+    case GL_INVALID_FRAMEBUFFER_OPERATION:
         return "GL_INVALID_FRAMEBUFFER_OPERATION";
-    case 0x0507:
+    case GL_CONTEXT_LOST:
         return "GL_CONTEXT_LOST";
     default:
         return "an error of another kind";

@@ -1,7 +1,5 @@
 #include "tools/explain/explanation.h"
 
-#include <EGL/egl.h>
-
 #include "foundation/attribute_list.h"
 #include "profiles/egl_names.h"
 #include "profiles/profile_reader.h"

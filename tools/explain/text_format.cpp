@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <cstdio>
 
-#include <EGL/egl.h>
-
 #include "foundation/attribute_list.h"
 #include "profiles/egl_names.h"
 #include "tools/explain/explanation.h"
@@ -10,8 +8,8 @@
 namespace {
 
 bool isAskedFor(const std::vector<int32_t> &criteria, int32_t attribute) {
-    for (const auto &[name, value] : AttributeList(criteria.data()))
-        if (name == attribute) return true;
+    for (const auto &pair : AttributeList(criteria.data()))
+        if (pair.name == attribute) return true;
     return false;
 }
 
