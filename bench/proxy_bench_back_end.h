@@ -1,7 +1,7 @@
 // Stands for a back end. In a file of its own, so that calls of it are real calls.
 #pragma once
 
-#include "gl/gl_types.h"
+#include "foundation/gl_types.h"
 
 void backEndFlush();
 void backEndDrawRangeElements(GLenum mode, GLuint start, GLuint end, GLsizei count, GLenum type, const void *indices);

@@ -12,7 +12,7 @@ foreach(page zelvane.1 libzelvane.7)
   configure_file(${PROJECT_SOURCE_DIR}/docs/man/${page}.in ${CMAKE_BINARY_DIR}/man/${page} @ONLY)
 endforeach()
 install(FILES ${CMAKE_BINARY_DIR}/man/libzelvane.7 DESTINATION ${CMAKE_INSTALL_MANDIR}/man7)
-install(FILES README.md CHANGELOG.md docs/profiles.md docs/running.md docs/monitor.md docs/monitor.png docs/example-profile.xml
+install(FILES README.md CHANGELOG.md docs/profiles.md docs/running.md docs/journal.md docs/lab.md docs/lab.png docs/monitor.md docs/monitor.png docs/example-profile.xml
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 if(TARGET zelvane_command)
   set(completions ${PROJECT_SOURCE_DIR}/tools/completions)

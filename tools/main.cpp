@@ -21,9 +21,12 @@ int runVerb(std::vector<std::string> words) {
     addProfilesCommand(commandLine.top());
     addUseCommand(commandLine.top());
     addStrictCommand(commandLine.top());
+    addLabCommand(commandLine.top(), program);
+    addExplainCommand(commandLine.top());
     addReportCommand(commandLine.top());
     addMonitorCommand(commandLine.top());
-    program = commandLine.takeProgram(words, "run");
+    for (const char *verb : {"run", "lab"})
+        if (program.empty()) program = commandLine.takeProgram(words, verb);
     try {
         return commandLine.run(words) ? 0 : usageStatus;
     } catch (const Failure &failure) {

@@ -160,6 +160,13 @@ ZV_EXPORT const char *zvSettingsProfilesDirectory(const void *settings);
  */
 ZV_EXPORT const char *zvSettingsProfileText(const void *settings);
 
+/*
+ * What eglGetProcAddress gives for "zvRecordedFunction" while the process keeps a journal, and null otherwise: puts a
+ * function that records before one of the back end's, for names that programs link from it. name: of the GL function,
+ * ended by a 0. Returns what to call in its place, of the same type, or null for a null function. Any thread.
+ */
+typedef void *(*zvRecordedFunctionType)(const char *name, void *function);
+
 #ifdef __cplusplus
 }
 #endif

@@ -11,9 +11,10 @@ namespace capability {
 
 namespace {
 
-void sendFeature(SystemReportReceiver &receiver, Feature feature, const FeatureBinding &binding) {
+template <Feature feature>
+void sendFeature(SystemReportReceiver &receiver, const FeatureBinding<feature> &binding) {
     const auto &descriptor = descriptorOf(feature);
-    receiver.receive(FeatureRecord{descriptor.name, featureAvailable(binding, descriptor)});
+    receiver.receive(FeatureRecord{descriptor.name, featureAvailable(binding)});
     for (const auto &alternative : descriptor.alternatives) {
         FeatureAlternativeRecord record{descriptor.name, alternative.minVersion, {}};
         for (const char *name : alternative.extensions)
@@ -53,7 +54,7 @@ void sendAll(SystemReportReceiver &receiver, const Es31Features &set) {
     sendHost(receiver, set.view());
 
     // Requirements go out whatever the state of the feature.
-#define REPORTED(level, feature) sendFeature(receiver, Feature::feature, set.feature);
+#define REPORTED(level, feature) sendFeature(receiver, set.feature);
 #define ES_REQUIREMENT(section, feature)                                                                               \
     receiver.receive(EsRequirementRecord{section, descriptorOf(Feature::feature).name});
 #define ES_EXTENSION_REQUIREMENT(extension, feature)                                                                   \

@@ -2,25 +2,47 @@
 
 #include <algorithm>
 
-#include "capability/feature_checks.h"
 #include "capability/host_probe.h"
 
 namespace capability {
 
 namespace {
 
-// One row a version, from ES 2.0 upwards.
+constexpr EsVersion base = 0; // what every gate asks for
+
 struct Gate {
-    std::vector<Feature> (*missingFeatures)(const Es31Features &set);
+    EsVersion version;
+    EsVersion below;
     const char *compatibility; // null for none
 };
 
 constexpr Gate gates[] = {
-    {missingEs20Features, "GL_ARB_ES2_compatibility"},
-    {[](const Es31Features &set) { return missingEs30Features(set); }, "GL_ARB_ES3_compatibility"},
-    {missingEs31Features, nullptr},
-    {missingEs32Features, nullptr},
+#define GATE(version, below, compatibility) {version, below, compatibility},
+#define ASKED(...)
+#include "capability/data/es_gates.def"
+#undef ASKED
+#undef GATE
 };
+
+constexpr struct {
+    EsVersion gate;
+    Feature feature;
+    bool (*isAvailable)(const Es31Features &set);
+} asked[] = {
+#define GATE(...)
+#define ASKED(gate, feature)                                                                                           \
+    {gate, Feature::feature, [](const Es31Features &set) { return featureAvailable(set.feature); }},
+#include "capability/data/es_gates.def"
+#undef ASKED
+#undef GATE
+};
+
+void addMissing(EsVersion version, const Es31Features &set, std::vector<Feature> &missing) {
+    for (const auto &row : asked) {
+        if (row.gate == version && !row.isAvailable(set)) missing.push_back(row.feature);
+    }
+    if (version != base) addMissing(std::ranges::find(gates, version, &Gate::version)->below, set, missing);
+}
 
 // What promises each minor version of ES 3, the highest first.
 constexpr struct {
@@ -44,10 +66,10 @@ std::optional<int32_t> promisedMinor(const HostGlView &view) {
 } // namespace
 
 EsGate::EsGate(const Es31Features &set) : m_promisedEs3Minor(promisedMinor(set.view())) {
-    for (size_t row = 0; row < m_answers.size(); ++row) {
-        const char *const compatibility = gates[row].compatibility;
-        m_answers[row] = {gates[row].missingFeatures(set),
-                          compatibility && hostHasExtension(set.view(), compatibility)};
+    for (const Gate &gate : gates) {
+        GateAnswer &answer = m_answers[static_cast<size_t>(gate.version - es2_0)];
+        addMissing(gate.version, set, answer.missing);
+        answer.hasCompatibility = gate.compatibility && hostHasExtension(set.view(), gate.compatibility);
     }
 }
 

@@ -11,7 +11,7 @@ using EsExtension = int32_t;   // 1 to 127; 0 for none
 extern const HostExtension hostExtensionCount;
 
 // 0 for null and for a name that the catalogue lacks. Takes a stored name, and the same with one more "GL_" in front:
-// one rule serves both catalogues, and that of ES stores bare names. Callers rely on both forms.
+// one rule serves both catalogues, and that of ES stores bare names.
 [[nodiscard]] HostExtension hostExtensionFromName(const char *name);
 [[nodiscard]] const char *hostExtensionName(HostExtension value);
 

@@ -37,23 +37,6 @@ constexpr auto families = std::to_array<FamilyRow>({
 #undef FAMILY
 });
 
-struct EntryPointRow {
-    Feature feature;
-    std::array<const char *, 3> names; // by family; alone, the first one stands for all
-
-    [[nodiscard]] const char *nameIn(size_t family) const { return names[1] ? names[family] : names[0]; }
-};
-
-constexpr auto entryPoints = std::to_array<EntryPointRow>({
-#define FAMILY(...)
-#define ENTRY_POINT(feature, ...) {Feature::feature, {__VA_ARGS__}},
-#define DIRECT_STORAGE_ENTRY_POINT(...)
-#include "capability/data/feature_entry_points.def"
-#undef DIRECT_STORAGE_ENTRY_POINT
-#undef ENTRY_POINT
-#undef FAMILY
-});
-
 constexpr auto directStorageEntryPoints = std::to_array<const char *>({
 #define FAMILY(...)
 #define ENTRY_POINT(...)
@@ -74,8 +57,21 @@ std::span<const Row> rowsOf(const std::array<Row, count> &rows, Feature feature)
             std::ranges::upper_bound(rows, feature, {}, &Row::feature)};
 }
 
+bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative) {
+    if (hostGlVersion(view) < alternative.minVersion) return false;
+    return std::ranges::all_of(alternative.extensions, [&](const char *name) { return hostHasExtension(view, name); });
+}
+
+// The variant of the first alternative that holds, or noVariant.
+int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &view) {
+    for (const auto &alternative : descriptor.alternatives) {
+        if (alternativeSatisfied(view, alternative)) return static_cast<int32_t>(alternative.variant);
+    }
+    return noVariant;
+}
+
 // Not the alternative that was selected: a host of OpenGL 4 can have texture storage without these functions.
-void bindDirectStorage(FeatureBinding &binding, const HostGlView &view, const DynamicLibrary &library) {
+void bindDirectStorage(Binding &binding, const HostGlView &view, const DynamicLibrary &library) {
     const auto &descriptor = descriptorOf(Feature::textureStorage);
     const auto byExtension = std::ranges::find(descriptor.alternatives, 1u, &FeatureAlternative::variant);
     binding.hasDirectStorage = alternativeSatisfied(view, *byExtension);
@@ -87,38 +83,18 @@ void bindDirectStorage(FeatureBinding &binding, const HostGlView &view, const Dy
 
 } // namespace
 
-void *FeatureBinding::find(Feature feature, std::string_view name) const {
-    const auto rows = rowsOf(entryPoints, feature);
-    const auto row = std::ranges::find(rows, name, [](const auto &row) { return std::string_view(row.names[0]); });
-    const auto index = static_cast<size_t>(row - rows.begin());
-    return row == rows.end() || index >= functions.size() ? nullptr : functions[index];
+bool isAvailable(Feature feature, const Binding &binding) {
+    return binding.variant != noVariant || descriptorOf(feature).alternatives.empty();
 }
 
-bool featureAvailable(const FeatureBinding &binding, const FeatureDescriptor &descriptor) {
-    return binding.variant != noVariant || descriptor.alternatives.empty();
-}
-
-bool alternativeSatisfied(const HostGlView &view, const FeatureAlternative &alternative) {
-    if (hostGlVersion(view) < alternative.minVersion) return false;
-    return std::ranges::all_of(alternative.extensions, [&](const char *name) { return hostHasExtension(view, name); });
-}
-
-int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &view) {
-    for (const auto &alternative : descriptor.alternatives) {
-        if (alternativeSatisfied(view, alternative)) return static_cast<int32_t>(alternative.variant);
-    }
-    return noVariant;
-}
-
-bool bindFeature(Feature feature, FeatureBinding &binding, const HostGlView &view, const DynamicLibrary &library) {
-    const auto &descriptor = descriptorOf(feature);
-    binding.variant = selectVariant(descriptor, view);
-    const bool isAvailable = featureAvailable(binding, descriptor);
+bool bind(Feature feature, Binding &binding, const HostGlView &view, const DynamicLibrary &library) {
+    binding.variant = selectVariant(descriptorOf(feature), view);
+    const bool isThere = isAvailable(feature, binding);
 
     const auto known = rowsOf(families, feature);
-    if (known.empty()) return isAvailable;
+    if (known.empty()) return isThere;
     const auto family = std::ranges::find_if(known, [&](const auto &row) {
-        return row.variant == binding.variant || (row.variant == anyVariant && isAvailable);
+        return row.variant == binding.variant || (row.variant == anyVariant && isThere);
     });
     if (family != known.end()) {
         binding.functions.clear();

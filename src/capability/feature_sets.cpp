@@ -3,14 +3,16 @@
 #include <sstream>
 #include <string>
 
+#include "foundation/gl_types.h"
+
 namespace capability {
 
 #define FIELD(feature)
-#define BIND(feature) bindFeature(Feature::feature, feature, view, library);
+#define BIND(feature) bindFeature(feature, view, library);
 
 EsBaseFeatures::EsBaseFeatures(const DynamicLibrary &library) {
-    bindFeature(Feature::get, get, {}, library);
-    bindFeature(Feature::openGl, openGl, {}, library);
+    bindFeature(get, {}, library);
+    bindFeature(openGl, {}, library);
     const auto view = this->view();
 #include "capability/data/es_base_features.def"
 }
@@ -34,13 +36,13 @@ Es31Features::Es31Features(const DynamicLibrary &library) : Es30Features(library
 #undef FIELD
 
 GlVersion cachedGlVersion(EsBaseFeatures &set) {
-    if (set.glVersion == noGlVersion) set.glVersion = parseGlVersion(set.view().string(glVersionText));
+    if (set.glVersion == noGlVersion) set.glVersion = parseGlVersion(set.view().string(GL_VERSION));
     return set.glVersion;
 }
 
 GlslVersion cachedGlslVersion(EsBaseFeatures &set) {
     if (set.glslVersion == noGlslVersion)
-        set.glslVersion = parseGlslVersion(set.view().string(glShadingLanguageVersion));
+        set.glslVersion = parseGlslVersion(set.view().string(GL_SHADING_LANGUAGE_VERSION));
     return set.glslVersion;
 }
 
@@ -56,7 +58,7 @@ std::vector<HostExtension> hostExtensionIds(EsBaseFeatures &set) {
             append(view.listedExtension(index));
         return ids;
     }
-    const char *text = view.string(glExtensions);
+    const char *text = view.string(GL_EXTENSIONS);
     std::istringstream words(text ? text : "");
     for (std::string word; words >> word;)
         append(word.c_str());

@@ -9,7 +9,7 @@
 
 namespace capability {
 
-#define FIELD(feature) FeatureBinding feature;
+#define FIELD(feature) FeatureBinding<Feature::feature> feature;
 #define BIND(feature)
 
 struct EsBaseFeatures {
@@ -21,7 +21,7 @@ struct EsBaseFeatures {
     GlslVersion glslVersion = noGlslVersion;
 
     [[nodiscard]] HostGlView view() const {
-        return {&get, &openGl};
+        return {get, openGl};
     }
 };
 

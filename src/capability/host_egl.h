@@ -16,11 +16,11 @@ struct EGL {
     // Whether a host context was there to look at.
     [[nodiscard]] bool hasHost() const { return m_hasHost; }
 
-    capability::FeatureBinding fenceSync;
-    capability::FeatureBinding get;
-    capability::FeatureBinding openGl;
-    capability::FeatureBinding textureUpload;
-    capability::FeatureBinding textures;
+    capability::FeatureBinding<capability::Feature::fenceSync> fenceSync;
+    capability::FeatureBinding<capability::Feature::get> get;
+    capability::FeatureBinding<capability::Feature::openGl> openGl;
+    capability::FeatureBinding<capability::Feature::textureUpload> textureUpload;
+    capability::FeatureBinding<capability::Feature::textures> textures;
 
     using Sync = void *;
     uint32_t (*glClientWaitSync)(Sync sync, uint32_t flags, uint64_t timeoutNs) = nullptr;

@@ -3,46 +3,34 @@
 #include <cstring>
 
 #include "capability/feature_binding.h"
+#include "foundation/gl_types.h"
 
 namespace capability {
 
-namespace {
-
-constexpr uint32_t glNumExtensions = 0x821D;
-
-template <typename Function>
-void take(const FeatureBinding &get, const char *name, Function &function) {
-    function = get.function<Function>(Feature::get, name);
-}
-
-} // namespace
-
-HostGlView::HostGlView(const FeatureBinding *get, const FeatureBinding *openGl) : m_canAsk(get && openGl) {
-    if (!get) return;
-    take(*get, "glGetString", m_getString);
-    take(*get, "glGetStringi", m_getStringi);
-    take(*get, "glGetIntegerv", m_getIntegerv);
-}
+HostGlView::HostGlView(const FeatureBinding<Feature::get> &get, const FeatureBinding<Feature::openGl> &)
+    : m_canAsk(true), m_getString(get.function<decltype(m_getString)>("glGetString")),
+      m_getStringi(get.function<decltype(m_getStringi)>("glGetStringi")),
+      m_getIntegerv(get.function<decltype(m_getIntegerv)>("glGetIntegerv")) {}
 
 int32_t HostGlView::listedExtensionCount() const {
     int32_t count = 0;
-    if (m_getIntegerv) m_getIntegerv(glNumExtensions, &count);
+    if (m_getIntegerv) m_getIntegerv(GL_NUM_EXTENSIONS, &count);
     return count;
 }
 
 const char *HostGlView::listedExtension(int32_t index) const {
-    return m_getStringi(glExtensions, static_cast<uint32_t>(index));
+    return m_getStringi(GL_EXTENSIONS, static_cast<uint32_t>(index));
 }
 
 GlVersion hostGlVersion(const HostGlView &view) {
-    return view.canAsk() ? parseGlVersion(view.string(glVersionText)) : unknownGlVersion;
+    return view.canAsk() ? parseGlVersion(view.string(GL_VERSION)) : unknownGlVersion;
 }
 
 bool hostHasExtension(const HostGlView &view, const char *name) {
     if (!view.canAsk()) return true;
     if (!name || !*name) return false;
     if (!view.listsExtensions(hostGlVersion(view))) {
-        const char *text = view.string(glExtensions);
+        const char *text = view.string(GL_EXTENSIONS);
         return text && strstr(text, name);
     }
     const int32_t count = view.listedExtensionCount();

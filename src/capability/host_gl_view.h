@@ -5,18 +5,20 @@
 #include <cstdint>
 
 #include "capability/extension_catalogue.h"
+#include "capability/feature.h"
 #include "capability/versions.h"
 
 namespace capability {
 
+template <Feature feature>
 struct FeatureBinding;
 
-// A pair of bindings, either of which may be absent. A view that cannot ask assumes everything. Good as long as the
-// library that the bindings were looked up in.
+// By a pair of bindings. A view without them cannot ask, and assumes everything. Good as long as the library that the
+// bindings were looked up in.
 class HostGlView {
 public:
     HostGlView() = default;
-    HostGlView(const FeatureBinding *get, const FeatureBinding *openGl);
+    HostGlView(const FeatureBinding<Feature::get> &get, const FeatureBinding<Feature::openGl> &);
 
     [[nodiscard]] bool canAsk() const { return m_canAsk; }
     // Null where the host has no such text.
@@ -34,15 +36,11 @@ private:
     void (*m_getIntegerv)(uint32_t name, int32_t *value) = nullptr;
 };
 
-constexpr uint32_t glVersionText = 0x1F02;
-constexpr uint32_t glExtensions = 0x1F03;
-constexpr uint32_t glShadingLanguageVersion = 0x8B8C;
-
 // Unknown, which passes every test, for a view that cannot ask.
 [[nodiscard]] GlVersion hostGlVersion(const HostGlView &view);
 
 // Where the host does not list its extensions, a name counts as present wherever it stands in the extension text, be it
-// the beginning of a longer name; callers rely on that.
+// the beginning of a longer name.
 [[nodiscard]] bool hostHasExtension(const HostGlView &view, const char *name);
 [[nodiscard]] bool hostHasExtensionId(const HostGlView &view, HostExtension id);
 

@@ -1,5 +1,4 @@
-// The records of the system report, each one fact about the host. They travel in this form to whoever receives them;
-// the GUI link gives each type the number of its place in the list.
+// The records of the system report, each one fact about the host. They travel in this form to whoever receives them.
 #pragma once
 
 #include <cstddef>
@@ -60,11 +59,5 @@ struct EndRecord {};
 
 using ReportRecord = std::variant<GlVersionRecord, ExtensionRecord, FeatureRecord, FeatureAlternativeRecord,
                                   EsRequirementRecord, EsExtensionRequirementRecord, EndRecord>;
-
-constexpr uint32_t firstReportRecordType = 14;
-
-[[nodiscard]] inline uint32_t reportRecordType(const ReportRecord &record) {
-    return firstReportRecordType + static_cast<uint32_t>(record.index());
-}
 
 } // namespace capability

@@ -18,6 +18,7 @@ constexpr GlVersion gl4_5 = 18;
 constexpr GlVersion unknownGlVersion = 20; // a text that no row matches; passes every requirement
 constexpr GlslVersion noGlslVersion = 0;
 constexpr GlslVersion unknownGlslVersion = 14;
+constexpr EsVersion es1_1 = 1;
 constexpr EsVersion es2_0 = 2;
 constexpr EsVersion es3_0 = 3;
 constexpr EsVersion es3_1 = 4;

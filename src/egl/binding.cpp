@@ -3,6 +3,7 @@
 #include <atomic>
 
 #include "egl/desktop_clients.h"
+#include "egl/refusal.h"
 #include "egl/state.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
@@ -11,6 +12,14 @@
 namespace egl {
 
 namespace {
+
+using refusals::Rule;
+
+// Nothing of it changes whether a bind fails; callers give the error.
+bool refuseBind(Rule rule, const Context &context) {
+    refusals::lastNote = {rule, {.major = context.attribs.esMajor, .minor = context.attribs.esMinor}};
+    return false;
+}
 
 // The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
 void primeShareContext(Context &context, const SurfacePair &surfaces) {
@@ -28,7 +37,7 @@ void primeShareContext(Context &context, const SurfacePair &surfaces) {
 // an empty one.
 void postWindowTitle(const Surface *draw) {
     const auto *window = draw ? draw->hostSurface.get() : nullptr;
-    if (!window || window->isPBuffer() || !state().uiLink().isAttached()) return;
+    if (!window || window->isPBuffer() || window->isPixmap() || !state().uiLink().isAttached()) return;
     if (getHostConfiguration() & CONFIG_NO_WINDOW_TITLE) return;
     state().uiLink().post(ui::messages::windowTitle(window->title()));
 }
@@ -52,7 +61,7 @@ bool bindEsContext(Context &context, host::HostBinding binding) {
     Context *share = context.shareContext.get();
     const SharedEsContext shared(share);
     context.esContext = state().createEsContext(context.esLibrary, context.attribs, context.display, shared.get());
-    if (!context.esContext.load()) return false;
+    if (!context.esContext.load()) return refuseBind(Rule::backEndRefuses, context);
     if (share && share->attribs.requestedMajor != context.attribs.requestedMajor) {
         logMessage(LogWarning, "Attempting to share two contexts of differing API versions is unsupported.");
     }
@@ -82,27 +91,35 @@ BindClaim::~BindClaim() {
     if (m_isTaken) endClaim(m_context, m_context.display);
 }
 
+void showPixmap(const Context &current) {
+    const Surface *const draw = current.surfaces.draw.get();
+    if (draw && draw->hostSurface && draw->hostSurface->isPixmap()) draw->hostSurface->swapBuffers();
+}
+
 void unbindCurrent(Display &display) {
     Context *const current = threadRecord.current;
     if (!current) return;
+    showPixmap(*current);
     endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
 }
 
 bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces) {
     primeShareContext(*context, surfaces);
-    if (!context->esLibrary.library.isLoaded()) return false;
+    if (!context->esLibrary.library.isLoaded()) return refuseBind(Rule::noBackEnd, *context);
     const Surface *const draw = surfaces.draw.get();
     postWindowTitle(draw);
+
+    if (threadRecord.current && threadRecord.current->surfaces.draw.get() != draw) showPixmap(*threadRecord.current);
 
     const auto *hostContext = context->claimedHostContext();
     const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
-    if (binding == host::HostBinding::failed) return false;
+    if (binding == host::HostBinding::failed) return refuseBind(Rule::hostBind, *context);
     // A host that refused the context at its creation shows here first.
     if (!hostContext || !hostContext->context->container()) {
         tellOfHostWithoutContext(context->attribs);
-        return false;
+        return refuseBind(Rule::noHostContext, *context);
     }
     // The application must not inherit an error that the bind left.
     state().hostEGL(binding == host::HostBinding::current).sweepError();

@@ -35,6 +35,9 @@ private:
 // table.
 void unbindCurrent(Display &display);
 
+// What the current context has drawn goes to the pixmap of its surface, if that has one.
+void showPixmap(const Context &current);
+
 // The caller has claimed the context and prepared the thread. False leaves the thread without a current context if it
 // had another one.
 [[nodiscard]] bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces);

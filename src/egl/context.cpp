@@ -28,6 +28,11 @@ std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &conf
     return host::createHostContext(request);
 }
 
+// For the life of the process, since no one knows when the last that shares its objects goes.
+void leaveBehind(std::shared_ptr<host::HostContextHandle> hostContext) {
+    if (hostContext) new std::shared_ptr(std::move(hostContext));
+}
+
 gl::Function askBackEnd(void *context, const char *name) {
     return reinterpret_cast<gl::Function>(static_cast<Context *>(context)->getExtProcAddress(name));
 }
@@ -44,7 +49,7 @@ Context::Context(Display &display, uint64_t handle, std::shared_ptr<const Config
 
 Context::~Context() {
     leavePrivateBuffer(std::move(privateBuffer));
-    if (m_hostContext) new std::shared_ptr(std::move(m_hostContext));
+    leaveBehind(std::move(m_hostContext));
 }
 
 void *Context::getExtProcAddress(const char *name) const {

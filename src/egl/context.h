@@ -82,10 +82,10 @@ public:
     std::atomic<bool> boundToThread = false;
     std::atomic<bool> pendingDestroy = false; // destroyed while bound: goes when it is unbound
 
-    // Of the thread that has the claim.
-    ContextAttribs
-        attribs;          // surfaceless is set during a bind without the application's surfaces, and after a failed one
-    SurfacePair surfaces; // of the last bind; they outlive an unbind
+    // Of the thread that has the claim. Surfaceless is set during a bind without the application's surfaces, and stays
+    // after a failed one.
+    ContextAttribs attribs;
+    SurfacePair surfaces;                           // of the last bind; they outlive an unbind
     std::shared_ptr<glove::ISurface> privateBuffer; // what binds without surfaces draw to; made for the first of them
 
 private:

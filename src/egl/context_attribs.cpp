@@ -1,8 +1,11 @@
 #include "egl/context_attribs.h"
 
+
 #include <cstddef>
 
+#include "egl/refusal.h"
 #include "egl/thread_record.h"
+#include "foundation/attribute_list.h"
 
 namespace egl {
 
@@ -17,13 +20,17 @@ static_assert(offsetof(ContextAttribs, contextHandle) == 0 && offsetof(ContextAt
 
 namespace {
 
+using refusals::because;
+using refusals::Rule;
+
 constexpr EGLint noErrorFlag = 8;
 
 bool applyAttribute(const Config &config, EGLint attribute, EGLint value, ContextAttribs &attribs) {
     switch (attribute) {
     case EGL_CONTEXT_CLIENT_VERSION:
         if (!config.supportsClientVersion(value)) {
-            setError(EGL_BAD_CONFIG);
+            setError(because(Rule::configWithoutVersion, EGL_BAD_CONFIG,
+                             {.major = value, .config = config.attributeOr0(EGL_CONFIG_ID)}));
             return false;
         }
         attribs.requestedMajor = value;
@@ -53,7 +60,7 @@ bool applyAttribute(const Config &config, EGLint attribute, EGLint value, Contex
     case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY_EXT:
         return true;
     default:
-        setError(EGL_BAD_ATTRIBUTE);
+        setError(because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = attribute}));
         return false;
     }
 }
@@ -69,8 +76,8 @@ ContextAttribs defaultContextAttribs() {
 }
 
 bool parseContextAttribs(const Config &config, const EGLint *attributes, ContextAttribs &attribs) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (!applyAttribute(config, attributes[0], attributes[1], attribs)) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (!applyAttribute(config, name, value, attribs)) return false;
     }
     attribs.esMajor = attribs.requestedMajor;
     return true;

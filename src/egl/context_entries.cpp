@@ -1,16 +1,21 @@
 // eglCreateContext, eglDestroyContext, eglQueryContext.
 #include "capability/es_gate.h"
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/context_attribs.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/print_system_report.h"
+#include "egl/refusal.h"
 #include "egl/standard/context_rules.h"
 #include "foundation/log.h"
 
 namespace egl {
 
 namespace {
+
+using refusals::because;
+using refusals::Rule;
 
 constexpr const char *hostFallsShort =
     "An OpenGL ES context of the requested version could not be created because the host system does not support the "
@@ -47,8 +52,9 @@ EGLint readAttributes(const Config &config, const EGLint *list, ContextAttribs &
     if (desktop_clients::isOn()) return standard::readContextAttributes(config, state().profile(), list, attribs);
     // An error of its own, which is pending by then, stays.
     if (!parseContextAttribs(config, list, attribs)) return EGL_BAD_ATTRIBUTE;
-    const bool isAllowed = isEsVersionAllowed(state().profile(), attribs.requestedMajor, attribs.esMinor);
-    return isAllowed ? EGL_SUCCESS : EGL_BAD_MATCH;
+    const EGLint major = attribs.requestedMajor, minor = attribs.esMinor;
+    const bool isAllowed = isEsVersionAllowed(state().profile(), major, minor);
+    return isAllowed ? EGL_SUCCESS : refusals::becauseOfVersion(major, minor, EGL_BAD_MATCH);
 }
 
 // Devices do not look.
@@ -68,12 +74,13 @@ EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext sh
     if (shareHandle) {
         share = display.findContext(shareHandle);
         if (!share) return refuse(EGL_BAD_CONTEXT);
-        if (!canShare(attribs, share->attribs)) return refuse(EGL_BAD_MATCH);
+        if (!canShare(attribs, share->attribs)) return refuse(because(Rule::otherResetStrategy, EGL_BAD_MATCH));
     }
     if (const auto answer = settleVersion(*config, attribs); answer != capability::HostAnswer::carries) {
         logMessage(LogWarning, "%s", hostFallsShort);
         if (answer == capability::HostAnswer::lacks) tellWhatIsMissing(attribs);
-        return refuse(EGL_BAD_ALLOC);
+        return refuse(
+            because(Rule::hostFallsShort, EGL_BAD_ALLOC, {.major = attribs.esMajor, .minor = attribs.esMinor}));
     }
     const auto context = display.createContext(config, share, attribs);
     if (!context) return refuse(EGL_BAD_ALLOC);
@@ -100,8 +107,9 @@ std::optional<EGLint> contextAttribute(const Context &context, EGLint attribute)
 using namespace egl;
 
 EGLContext EGLAPIENTRY eglCreateContext(EGLDisplay dpy, EGLConfig config, EGLContext share, const EGLint *attributes) {
-    return entry(dpy, EGL_NO_CONTEXT,
-                 [&](Display &display) { return createContext(display, config, share, attributes); });
+    const EGLContext made =
+        entry(dpy, EGL_NO_CONTEXT, [&](Display &display) { return createContext(display, config, share, attributes); });
+    return reports::told(made, reports::context, dpy, config, share, attributes);
 }
 
 EGLBoolean EGLAPIENTRY eglDestroyContext(EGLDisplay dpy, EGLContext ctx) {

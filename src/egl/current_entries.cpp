@@ -1,6 +1,7 @@
 // eglMakeCurrent and what is current.
 #include "egl/bind_memos.h"
 #include "egl/binding.h"
+#include "egl/call_reports.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/standard/binding_rules.h"
@@ -63,10 +64,11 @@ using namespace egl;
 
 EGLBoolean EGLAPIENTRY eglMakeCurrent(EGLDisplay dpy, EGLSurface draw, EGLSurface read, EGLContext ctx) {
     if (desktop_clients::isOn() && !ctx && !draw && !read) return standard::releaseCurrent(dpy);
-    return entry(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
+    const EGLBoolean answer = entry(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (!ctx && !draw && !read) return releaseCurrent(display);
         return makeCurrent(display, {&display, draw, read, ctx});
     });
+    return reports::told(answer, reports::makeCurrent, draw, read, ctx);
 }
 
 EGLContext EGLAPIENTRY eglGetCurrentContext(void) {

@@ -7,6 +7,7 @@
 
 #include "egl/es_library.h"
 #include "egl/extension_entries.h"
+#include "egl/standard/devices.h"
 #include "egl/standard/syncs.h"
 #include "egl/state.h"
 #include "foundation/environment.h"
@@ -27,6 +28,11 @@ const Entry entries[] = {
 #undef CORE_ENTRY
     {"eglCreateImageKHR", reinterpret_cast<Function>(createImageKHR)},
     {"eglCreatePlatformWindowSurfaceEXT", reinterpret_cast<Function>(createPlatformWindowSurfaceEXT)},
+    {"eglCreatePlatformPixmapSurfaceEXT", reinterpret_cast<Function>(createPlatformPixmapSurfaceEXT)},
+    {"eglQueryDevicesEXT", reinterpret_cast<Function>(standard::queryDevices)},
+    {"eglQueryDeviceAttribEXT", reinterpret_cast<Function>(standard::queryDeviceAttrib)},
+    {"eglQueryDeviceStringEXT", reinterpret_cast<Function>(standard::queryDeviceString)},
+    {"eglQueryDisplayAttribEXT", reinterpret_cast<Function>(standard::queryDisplayAttrib)},
     {"eglSignalSyncKHR", reinterpret_cast<Function>(standard::signalSync)},
 };
 
@@ -65,10 +71,10 @@ void loadBackEnds() {
     if (isOn()) (void)backEnds();
 }
 
-uint64_t windowOf(void *nativeWindow) {
-    if (!isOn()) return reinterpret_cast<uintptr_t>(nativeWindow);
+uint64_t drawableOf(void *native) {
+    if (!isOn()) return reinterpret_cast<uintptr_t>(native);
     // A Window is as wide as a pointer here, whatever X sends over the wire.
-    return nativeWindow ? *static_cast<const unsigned long *>(nativeWindow) : 0;
+    return native ? *static_cast<const unsigned long *>(native) : 0;
 }
 
 void tellOfOtherApi(EGLenum api) {

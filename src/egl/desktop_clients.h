@@ -25,9 +25,9 @@ void loadBackEnds();
 // Whether a back end has a function of that name on some host, so that it is worth an entry.
 [[nodiscard]] bool isKnownToBackEnd(const char *name);
 
-// The window behind the argument of a platform entry: a pointer to it in this mode, otherwise the window itself.
-// 0 for a null pointer.
-[[nodiscard]] uint64_t windowOf(void *nativeWindow);
+// The window or pixmap behind the argument of a platform entry: a pointer to it in this mode, otherwise the thing
+// itself. 0 for a null pointer.
+[[nodiscard]] uint64_t drawableOf(void *native);
 
 // Says on the log, once a process, that an application asked for another API than OpenGL ES.
 void tellOfOtherApi(EGLenum api);

@@ -7,19 +7,14 @@
 #include "egl/private_buffers.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
+#include "foundation/gl_types.h"
 
 namespace egl {
 
 namespace {
 
-constexpr uint32_t syncGpuCommandsComplete = 0x9117; // GL_SYNC_GPU_COMMANDS_COMPLETE
-
 uint64_t number(const void *handle) {
     return reinterpret_cast<uintptr_t>(handle);
-}
-
-const host::platform::PixelFormat *surfaceFormat(const Config &config) {
-    return config.hostConfig() ? config.hostConfig()->surfaceFormat() : nullptr;
 }
 
 } // namespace
@@ -76,9 +71,9 @@ EGLint Display::listConfigs(EGLConfig *out, EGLint size) const {
     return m_configs ? static_cast<EGLint>(m_configs->listConfigs(out, size)) : 0;
 }
 
-EGLint Display::chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size) const {
+EGLint Display::chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size, ChoiceAccount *account) const {
     const std::lock_guard lock(m_displayMutex);
-    return m_configs ? static_cast<EGLint>(m_configs->chooseConfigs(attributes, out, size)) : 0;
+    return m_configs ? static_cast<EGLint>(m_configs->chooseConfigs(attributes, out, size, account)) : 0;
 }
 
 std::shared_ptr<Context> Display::findContext(EGLContext handle) const {
@@ -154,9 +149,12 @@ std::shared_ptr<Surface> Display::createPrivateSurface(Context &context) {
     return insertSurface(m_surfaces.takeHandle(), context.privateBuffer, *context.config, privateBufferAttributes);
 }
 
-std::shared_ptr<Surface> Display::createPixmapSurface(const Config &config, const EGLint *attributes) {
+std::shared_ptr<Surface> Display::createPixmapSurface(const Config &config, uint64_t pixmap, const EGLint *attributes) {
     const std::lock_guard lock(m_displayMutex);
-    return insertSurface(m_surfaces.takeHandle(), host::createHostPixmapSurface(), config, attributes);
+    const uint64_t handle = m_surfaces.takeHandle();
+    if (!desktop_clients::isOn()) return insertSurface(handle, host::createHostPixmapSurface(), config, attributes);
+    auto hostSurface = host::createHostPixmapSurface(nativeDisplay, pixmap, surfaceFormat(config));
+    return hostSurface ? insertSurface(handle, std::move(hostSurface), config, attributes) : nullptr;
 }
 
 bool Display::destroySurface(EGLSurface handle) {
@@ -182,7 +180,7 @@ bool Display::destroyImage(EGLImage image) {
 
 EGLSync Display::createSync(const host::EGL &hostEGL) {
     const std::lock_guard lock(m_displayMutex);
-    const EGLSync sync = hostEGL.glFenceSync(syncGpuCommandsComplete, 0);
+    const EGLSync sync = hostEGL.glFenceSync(GL_SYNC_GPU_COMMANDS_COMPLETE, 0);
     m_syncs.insert(number(sync));
     return sync;
 }

@@ -51,7 +51,9 @@ public:
     // What a null config stands for. Null on a display that is not initialised.
     [[nodiscard]] std::shared_ptr<const Config> noConfig() const;
     [[nodiscard]] EGLint listConfigs(EGLConfig *out, EGLint size) const;
-    [[nodiscard]] EGLint chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size) const;
+    // account: as ConfigList::chooseConfigs.
+    [[nodiscard]] EGLint chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size,
+                                       ChoiceAccount *account = nullptr) const;
 
     // A context or surface that has left its table is still found on the thread that has it current.
     [[nodiscard]] std::shared_ptr<Context> findContext(EGLContext handle) const;
@@ -69,7 +71,8 @@ public:
     [[nodiscard]] std::shared_ptr<Surface> createPbufferSurface(const Config &config, const EGLint *attributes);
     // For a bind without surfaces: a new handle at each call, around the one host buffer of the context.
     [[nodiscard]] std::shared_ptr<Surface> createPrivateSurface(Context &context);
-    [[nodiscard]] std::shared_ptr<Surface> createPixmapSurface(const Config &config, const EGLint *attributes);
+    [[nodiscard]] std::shared_ptr<Surface> createPixmapSurface(const Config &config, uint64_t pixmap,
+                                                               const EGLint *attributes);
     [[nodiscard]] bool destroySurface(EGLSurface handle);
 
     [[nodiscard]] EGLImage createImage(EGLenum target, EGLClientBuffer buffer);

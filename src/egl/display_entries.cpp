@@ -1,8 +1,10 @@
 // Entries that belong to a display as a whole.
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/refusal.h"
 #include "egl/standard/binding_rules.h"
 #include "egl/standard/platforms.h"
 #include "host/egl_version.h"
@@ -11,7 +13,7 @@ namespace egl {
 
 namespace {
 
-// A failed load leaves no error behind here; callers rely on reading EGL_SUCCESS.
+// A failed load returns no display and leaves EGL_SUCCESS: a display that is not there is no error.
 EGLDisplay getDisplay(uint64_t nativeId, uint64_t hostDisplay) {
     if (!ensureLoaded()) return succeed(EGL_NO_DISPLAY);
     const std::lock_guard lock(stateMutex());
@@ -21,6 +23,17 @@ EGLDisplay getDisplay(uint64_t nativeId, uint64_t hostDisplay) {
 }
 
 constexpr uint64_t hostDefaultDisplay = 0;
+
+EGLBoolean initialize(EGLDisplay dpy, EGLint *major, EGLint *minor) {
+    if (!ensureLoaded()) return fail(refusals::because(refusals::Rule::notLoaded, EGL_NOT_INITIALIZED), EGL_FALSE);
+    const std::lock_guard lock(stateMutex());
+    Display *display = state().findDisplay(dpy);
+    if (!display) return fail(EGL_BAD_DISPLAY, EGL_FALSE);
+    if (major) *major = host::eglMajorVersion();
+    if (minor) *minor = host::eglMinorVersion();
+    display->initialize(state().profile());
+    return succeed(EGL_TRUE);
+}
 
 } // namespace
 
@@ -43,14 +56,7 @@ EGLDisplay EGLAPIENTRY eglGetDisplay(EGLNativeDisplayType displayId) {
 }
 
 EGLBoolean EGLAPIENTRY eglInitialize(EGLDisplay dpy, EGLint *major, EGLint *minor) {
-    if (!ensureLoaded()) return fail(EGL_NOT_INITIALIZED, EGL_FALSE);
-    const std::lock_guard lock(stateMutex());
-    Display *display = state().findDisplay(dpy);
-    if (!display) return fail(EGL_BAD_DISPLAY, EGL_FALSE);
-    if (major) *major = host::eglMajorVersion();
-    if (minor) *minor = host::eglMinorVersion();
-    display->initialize(state().profile());
-    return succeed(EGL_TRUE);
+    return reports::told(initialize(dpy, major, minor), reports::initialize, dpy);
 }
 
 EGLBoolean EGLAPIENTRY eglTerminate(EGLDisplay dpy) {

@@ -19,6 +19,8 @@ EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EG
 EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum platform, void *nativeDisplay, const EGLint *attributes);
 // Handed out for desktop clients alone, and behind the core entry: eglCreateWindowSurface, with the window behind what
 // desktop_clients::windowOf is given.
+EGLSurface EGLAPIENTRY createPlatformPixmapSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
+                                                      const EGLint *attributes);
 EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativeWindow,
                                                       const EGLint *attributes);
 

@@ -10,7 +10,7 @@ namespace egl {
 
 namespace {
 
-// The number stands where a boolean should; applications see it as true and find no error, and rely on both.
+// An error's number in the place of a boolean: destroying an unknown image looks like a success and sets no error.
 constexpr EGLBoolean unknownImageResult = EGL_BAD_PARAMETER;
 
 } // namespace

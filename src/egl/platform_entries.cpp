@@ -2,6 +2,7 @@
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "foundation/attribute_list.h"
 
 #include <vector>
 
@@ -14,10 +15,10 @@ constexpr EGLint noAttribute = 0;
 // A key that does not fit becomes one that no list accepts, values keep their low 32 bits.
 std::vector<EGLint> narrowed(const EGLAttrib *attributes) {
     std::vector<EGLint> list;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        const auto key = static_cast<EGLint>(attributes[0]);
-        list.push_back(key == attributes[0] ? key : noAttribute);
-        list.push_back(static_cast<EGLint>(attributes[1]));
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        const auto key = static_cast<EGLint>(name);
+        list.push_back(key == name ? key : noAttribute);
+        list.push_back(static_cast<EGLint>(value));
     }
     list.push_back(EGL_NONE);
     return list;
@@ -27,7 +28,12 @@ std::vector<EGLint> narrowed(const EGLAttrib *attributes) {
 
 EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativeWindow,
                                                       const EGLint *attributes) {
-    return eglCreateWindowSurface(dpy, config, desktop_clients::windowOf(nativeWindow), attributes);
+    return eglCreateWindowSurface(dpy, config, desktop_clients::drawableOf(nativeWindow), attributes);
+}
+
+EGLSurface EGLAPIENTRY createPlatformPixmapSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
+                                                      const EGLint *attributes) {
+    return eglCreatePixmapSurface(dpy, config, desktop_clients::drawableOf(nativePixmap), attributes);
 }
 
 } // namespace egl
@@ -43,8 +49,7 @@ EGLSurface EGLAPIENTRY eglCreatePlatformWindowSurface(EGLDisplay dpy, EGLConfig 
     return createPlatformWindowSurfaceEXT(dpy, config, nativeWindow, narrowed(attributes).data());
 }
 
-// The pixmap is not used, so it makes no difference whether the argument points to it.
 EGLSurface EGLAPIENTRY eglCreatePlatformPixmapSurface(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
                                                       const EGLAttrib *attributes) {
-    return eglCreatePixmapSurface(dpy, config, reinterpret_cast<uintptr_t>(nativePixmap), narrowed(attributes).data());
+    return createPlatformPixmapSurfaceEXT(dpy, config, nativePixmap, narrowed(attributes).data());
 }

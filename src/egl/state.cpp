@@ -3,6 +3,7 @@
 #include "capability/collect_system_report.h"
 #include "egl/desktop_clients.h"
 #include "egl/gui_link.h"
+#include "egl/process_journal.h"
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
 #include "foundation/log.h"
@@ -23,7 +24,11 @@ constinit std::atomic<bool> isStateLoaded = false;
 } // namespace
 
 State::State()
-    : m_profile(defaultProfile), m_openGLLibrary(host::openHostOpenGLLibrary()), m_uiLink(setRenderModeOfAll) {
+    : m_profile(defaultProfile),
+      // Loaders of programs (libepoxy, for one) take a process with libGL.so.1 and a current GLX context, which ours
+      // are, for one that draws by GLX, and go past OpenGL ES.
+      m_openGLLibrary(desktop_clients::isOn() ? host::openPlainHostOpenGLLibrary() : host::openHostOpenGLLibrary()),
+      m_uiLink(setRenderModeOfAll) {
     (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
     attachGuiLink(*this);
     threadRecord.currentDisplay = nullptr;
@@ -132,6 +137,7 @@ bool ensureLoaded() {
     if (!globalState) globalState = new State;
     desktop_clients::loadBackEnds();
     if (!globalState->load()) return false;
+    beginJournal(*globalState);
     isStateLoaded.store(true, std::memory_order_release);
     return true;
 }

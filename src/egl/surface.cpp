@@ -1,19 +1,8 @@
 #include "egl/surface.h"
 
+#include "foundation/attribute_list.h"
+
 namespace egl {
-
-namespace {
-
-// 0 where the list does not have the attribute.
-EGLint lastValue(const EGLint *attributes, EGLint name) {
-    EGLint value = 0;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (attributes[0] == name) value = attributes[1];
-    }
-    return value;
-}
-
-} // namespace
 
 DrawableSizes drawableSizes(const Config &config) {
     return {config.attributeOr0(EGL_RED_SIZE),   config.attributeOr0(EGL_GREEN_SIZE),
@@ -22,24 +11,28 @@ DrawableSizes drawableSizes(const Config &config) {
             config.attributeOr0(EGL_SAMPLES)};
 }
 
+const host::platform::PixelFormat *surfaceFormat(const Config &config) {
+    return config.hostConfig() ? config.hostConfig()->surfaceFormat() : nullptr;
+}
+
 Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
                  const EGLint *attributes)
-    : handle(handle), isSrgb(lastValue(attributes, EGL_GL_COLORSPACE) == EGL_GL_COLORSPACE_SRGB),
-      sizes(drawableSizes(config)),
+    : handle(handle), isSrgb(AttributeList(attributes).valueOr(EGL_GL_COLORSPACE, 0) == EGL_GL_COLORSPACE_SRGB),
+      sizes(drawableSizes(config)), format(surfaceFormat(config)),
       canPreserve(config.attributeOr0(EGL_SURFACE_TYPE) & EGL_SWAP_BEHAVIOR_PRESERVED_BIT),
       hostSurface(std::move(hostSurface)), m_attributes{{EGL_RENDER_BUFFER, EGL_BACK_BUFFER},
                                                         {EGL_SWAP_BEHAVIOR, EGL_BUFFER_DESTROYED},
                                                         {EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE},
                                                         {EGL_CONFIG_ID, config.attributeOr0(EGL_CONFIG_ID)},
                                                         {EGL_GL_COLORSPACE, EGL_GL_COLORSPACE_LINEAR}} {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        m_attributes[attributes[0]] = attributes[1];
+    for (const auto &[name, value] : AttributeList(attributes))
+        m_attributes[name] = value;
 }
 
 EGLint Surface::query(EGLint name, EGLint *value) {
     const bool isOfHost = name == EGL_WIDTH || name == EGL_HEIGHT || name == EGL_BUFFER_AGE_KHR;
     if (!isOfHost && !m_attributes.contains(name)) {
-        // A surface without a largest-pbuffer attribute answers and stores nothing; callers rely on the success.
+        // A surface without a largest-pbuffer attribute succeeds and writes nothing.
         return name == EGL_LARGEST_PBUFFER ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
     }
     if (!value) return EGL_BAD_PARAMETER;

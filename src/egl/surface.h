@@ -19,6 +19,8 @@ namespace egl {
 // What of a config contexts and surfaces have to have in common.
 using DrawableSizes = std::array<EGLint, 7>;
 [[nodiscard]] DrawableSizes drawableSizes(const Config &config);
+// That surfaces of the config have of their own; null where it is that of the context that draws to them.
+[[nodiscard]] const host::platform::PixelFormat *surfaceFormat(const Config &config);
 
 class Surface {
 public:
@@ -40,6 +42,7 @@ public:
     const uint64_t handle;
     const bool isSrgb;
     const DrawableSizes sizes;
+    const host::platform::PixelFormat *const format;
     const bool canPreserve; // what is drawn stays over a swap, if the application asks for that
     const std::shared_ptr<glove::ISurface> hostSurface;
 

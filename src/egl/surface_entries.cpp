@@ -1,8 +1,11 @@
 // Entries that make, destroy and ask surfaces.
+#include "egl/call_reports.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/refusal.h"
 #include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
+#include "foundation/attribute_list.h"
 
 #include <algorithm>
 #include <span>
@@ -11,6 +14,9 @@ namespace egl {
 
 namespace {
 
+using refusals::because;
+using refusals::Rule;
+
 constexpr EGLint windowAttributes[] = {EGL_RENDER_BUFFER, EGL_VG_COLORSPACE, EGL_VG_ALPHA_FORMAT, EGL_GL_COLORSPACE};
 constexpr EGLint pbufferAttributes[] = {
     EGL_WIDTH,          EGL_HEIGHT,        EGL_LARGEST_PBUFFER, EGL_TEXTURE_FORMAT, EGL_TEXTURE_TARGET,
@@ -18,18 +24,19 @@ constexpr EGLint pbufferAttributes[] = {
 };
 
 // Looks at the keys alone; values are kept as they come.
-bool areKeysIn(const EGLint *attributes, std::span<const EGLint> accepted) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (std::ranges::find(accepted, *attributes) == accepted.end()) return false;
+EGLint keysError(const EGLint *attributes, std::span<const EGLint> accepted) {
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (std::ranges::find(accepted, name) == accepted.end())
+            return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = name});
     }
-    return true;
+    return EGL_SUCCESS;
 }
 
 bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
 }
 
-// The config's surface type is not looked at, unlike with the other kinds; applications rely on it.
+// On devices the config's surface type is not checked: a config without EGL_WINDOW_BIT takes a window too.
 EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativeWindowType window,
                           const EGLint *attributes) {
     if (desktop_clients::isOn()) {
@@ -37,23 +44,28 @@ EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativ
         const host::platform::View view{display.nativeDisplay, hostWord(window)};
         return error == EGL_SUCCESS && !host::isHostWindow(view) ? EGL_BAD_NATIVE_WINDOW : error;
     }
-    return areKeysIn(attributes, windowAttributes) ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+    return keysError(attributes, windowAttributes);
 }
 
 EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
     if (desktop_clients::isOn()) return standard::pbufferSurfaceError(config, attributes);
-    if (!hasSurfaceType(config, EGL_PBUFFER_BIT)) return EGL_BAD_MATCH;
-    return areKeysIn(attributes, pbufferAttributes) ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+    if (!hasSurfaceType(config, EGL_PBUFFER_BIT))
+        return because(Rule::configWithoutPbuffers, EGL_BAD_MATCH, {.config = config.attributeOr0(EGL_CONFIG_ID)});
+    return keysError(attributes, pbufferAttributes);
 }
 
-EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
-    if (desktop_clients::isOn()) return standard::pixmapSurfaceError(config, attributes);
-    if (attributes && *attributes != EGL_NONE) return EGL_BAD_ATTRIBUTE;
-    return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+EGLint pixmapSurfaceError(const Display &display, const Config &config, uint64_t pixmap, const EGLint *attributes) {
+    if (desktop_clients::isOn()) {
+        const EGLint error = standard::pixmapSurfaceError(config, attributes);
+        return error == EGL_SUCCESS ? standard::pixmapError(display, pixmap, surfaceFormat(config)) : error;
+    }
+    if (const EGLint error = keysError(attributes, {}); error != EGL_SUCCESS) return error;
+    if (hasSurfaceType(config, EGL_PIXMAP_BIT)) return EGL_SUCCESS;
+    return because(Rule::configWithoutPixmaps, EGL_BAD_MATCH, {.config = config.attributeOr0(EGL_CONFIG_ID)});
 }
 
 EGLSurface finishSurface(const std::shared_ptr<Surface> &surface) {
-    if (!surface) return fail(EGL_BAD_ALLOC, EGL_NO_SURFACE);
+    if (!surface) return fail(because(Rule::hostSurface, EGL_BAD_ALLOC), EGL_NO_SURFACE);
     return succeed(asHandle<EGLSurface>(surface->handle));
 }
 
@@ -65,7 +77,7 @@ using namespace egl;
 
 EGLSurface EGLAPIENTRY eglCreateWindowSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativeWindowType window,
                                               const EGLint *attributes) {
-    return entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
+    const EGLSurface made = entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
         if (!window) return fail(EGL_BAD_NATIVE_WINDOW, EGL_NO_SURFACE);
@@ -74,28 +86,31 @@ EGLSurface EGLAPIENTRY eglCreateWindowSurface(EGLDisplay dpy, EGLConfig configHa
         }
         return finishSurface(display.createWindowSurface(*config, hostWord(window), attributes));
     });
+    return reports::told(made, reports::surface, "eglCreateWindowSurface", dpy, configHandle, attributes);
 }
 
 EGLSurface EGLAPIENTRY eglCreatePbufferSurface(EGLDisplay dpy, EGLConfig configHandle, const EGLint *attributes) {
-    return entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
+    const EGLSurface made = entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
         const EGLint error = pbufferSurfaceError(*config, attributes);
         if (error != EGL_SUCCESS) return fail(error, EGL_NO_SURFACE);
         return finishSurface(display.createPbufferSurface(*config, attributes));
     });
+    return reports::told(made, reports::surface, "eglCreatePbufferSurface", dpy, configHandle, attributes);
 }
 
-// The pixmap is not used at all: the surface is a handle and a map of attributes.
-EGLSurface EGLAPIENTRY eglCreatePixmapSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativePixmapType,
+// Devices do not use the pixmap at all: the surface is a handle and a map of attributes.
+EGLSurface EGLAPIENTRY eglCreatePixmapSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativePixmapType pixmap,
                                               const EGLint *attributes) {
-    return entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
+    const EGLSurface made = entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
         const auto config = display.findConfig(configHandle);
         if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_SURFACE);
-        const EGLint error = pixmapSurfaceError(*config, attributes);
+        const EGLint error = pixmapSurfaceError(display, *config, hostWord(pixmap), attributes);
         if (error != EGL_SUCCESS) return fail(error, EGL_NO_SURFACE);
-        return finishSurface(display.createPixmapSurface(*config, attributes));
+        return finishSurface(display.createPixmapSurface(*config, hostWord(pixmap), attributes));
     });
+    return reports::told(made, reports::surface, "eglCreatePixmapSurface", dpy, configHandle, attributes);
 }
 
 EGLSurface EGLAPIENTRY eglCreatePbufferFromClientBuffer(EGLDisplay dpy, EGLenum, EGLClientBuffer, EGLConfig,
@@ -121,7 +136,7 @@ EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLin
     });
 }
 
-// Takes three attributes and drops their values: a later query answers as before, and callers rely on the success.
+// On devices three attributes are accepted and their values dropped: a later query answers as before.
 EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint value) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);

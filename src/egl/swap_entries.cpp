@@ -1,9 +1,12 @@
 // Swapping, damage and copying.
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
+#include "egl/frame_pictures.h"
 #include "egl/standard/binding_rules.h"
+#include "egl/standard/surface_rules.h"
 #include "egl/surface.h"
 #include "foundation/log.h"
 
@@ -17,6 +20,8 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     if (desktop_clients::isOn() && !standard::isDrawnTo(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     // First: a frame of a window that is not mapped yet is lost.
     if (desktop_clients::isOn()) host::flushApplication(display.nativeDisplay);
+    if (frame_pictures::areWanted()) [[unlikely]]
+        frame_pictures::take(*found);
     found->swap();
     State::countFrame();
     return succeed(EGL_TRUE);
@@ -34,6 +39,12 @@ EGLBoolean setDamageRegion(Display &display, const Context &current, EGLSurface 
     return succeed(EGL_TRUE);
 }
 
+EGLint copyBuffers(const Display &display, const Surface &surface, uint64_t pixmap) {
+    if (const EGLint error = standard::pixmapError(display, pixmap, surface.format); error != EGL_SUCCESS) return error;
+    if (!standard::isDrawnTo(surface)) return EGL_BAD_SURFACE;
+    return host::copyToPixmap(display.nativeDisplay, pixmap, surface.format) ? EGL_SUCCESS : EGL_BAD_ALLOC;
+}
+
 } // namespace
 
 EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface, const EGLint *, EGLint) {
@@ -41,7 +52,7 @@ EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface,
 }
 
 EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *, EGLint) {
-    // Before anything is loaded or looked up; callers rely on this error coming first.
+    // Before anything is loaded or looked up, so that this error comes before that of a bad display.
     const auto current = currentContext();
     if (!current) return fail(EGL_BAD_MATCH, EGL_FALSE);
     return entry(dpy, EGL_FALSE, [&](Display &display) { return setDamageRegion(display, *current, surface); });
@@ -52,14 +63,16 @@ EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EG
 using namespace egl;
 
 EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+    const EGLBoolean answer = entry(dpy, EGL_FALSE, [&](Display &display) { return swapBuffers(display, surface); });
+    return reports::told(answer, reports::swap, surface);
 }
 
-// Fails without an error; callers rely on reading EGL_SUCCESS.
-EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
-        if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        if (desktop_clients::isOn()) return fail(EGL_BAD_NATIVE_PIXMAP, EGL_FALSE);
+// For devices it fails without an error.
+EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType pixmap) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
+        const auto found = display.findSurface(surface);
+        if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
+        if (desktop_clients::isOn()) return finish(copyBuffers(display, *found, hostWord(pixmap)));
         logMessage(LogWarning, "eglCopyBuffers is not currently supported by Zelvane.");
         return succeed(EGL_FALSE);
     });

@@ -4,6 +4,8 @@
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
 #include "egl/standard/syncs.h"
+#include "foundation/attribute_list.h"
+#include "foundation/gl_types.h"
 
 #include <vector>
 
@@ -11,25 +13,17 @@ namespace egl {
 
 namespace {
 
-constexpr uint32_t glObjectType = 0x9112;
-constexpr uint32_t glSyncCondition = 0x9113;
-constexpr uint32_t glSyncStatus = 0x9114;
-constexpr uint32_t glAlreadySignaled = 0x911A;
-constexpr uint32_t glTimeoutExpired = 0x911B;
-constexpr uint32_t glConditionSatisfied = 0x911C;
-constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
-
-// 0 and what is below ask for a flush too; callers rely on not waiting for commands that were never sent.
+// 0 and negative flags ask for a flush too, so that a wait without the flag cannot wait for commands never sent.
 uint32_t hostWaitFlags(EGLint flags) {
     return flags < 2 ? 1 : 0;
 }
 
 EGLint eglWaitResult(uint32_t hostResult) {
     switch (hostResult) {
-    case glAlreadySignaled:
-    case glConditionSatisfied:
+    case GL_ALREADY_SIGNALED:
+    case GL_CONDITION_SATISFIED:
         return EGL_CONDITION_SATISFIED;
-    case glTimeoutExpired:
+    case GL_TIMEOUT_EXPIRED:
         return EGL_TIMEOUT_EXPIRED;
     default:
         return 0;
@@ -40,11 +34,11 @@ EGLint eglWaitResult(uint32_t hostResult) {
 uint32_t hostSyncName(EGLint attribute) {
     switch (attribute) {
     case EGL_SYNC_TYPE:
-        return glObjectType;
+        return GL_OBJECT_TYPE;
     case EGL_SYNC_CONDITION:
-        return glSyncCondition;
+        return GL_SYNC_CONDITION;
     case EGL_SYNC_STATUS:
-        return glSyncStatus;
+        return GL_SYNC_STATUS;
     default:
         return 0;
     }
@@ -53,7 +47,7 @@ uint32_t hostSyncName(EGLint attribute) {
 EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) {
     if (type == EGL_SYNC_FENCE && &display != threadRecord.currentDisplay) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
     // Any other type gives this error too.
-    if ((attributes && *attributes != EGL_NONE) || type != EGL_SYNC_FENCE) {
+    if (!AttributeList(attributes).isEmpty() || type != EGL_SYNC_FENCE) {
         return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
     }
     if (!threadRecord.current) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
@@ -107,7 +101,7 @@ EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (desktop_clients::isOn()) return standard::destroySync(display, sync);
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        // Without a current context the sync stays known; callers rely on destroying it later.
+        // Without a current context the sync stays known and can be destroyed later.
         if (!threadRecord.current) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
         display.destroySync(state().hostEGL(), sync);
         return succeed(EGL_TRUE);
@@ -130,13 +124,13 @@ EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
         dpy, sync, EGL_FALSE, [&](Display &display) { return standard::waitSync(display, sync, flags); },
         [&](const host::EGL &hostEGL) -> EGLBoolean {
             // The host takes no flags here and raises an error for them, which the sweep hides.
-            if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), glTimeoutIgnored);
+            if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), GL_TIMEOUT_IGNORED);
             hostEGL.sweepError();
             return succeed(EGL_TRUE);
         });
 }
 
-// Answers with the host's numbers; nothing is translated back, and callers rely on that.
+// Returns the host's numbers, such as GL_SIGNALED for EGL_SYNC_STATUS: nothing is translated back.
 EGLBoolean EGLAPIENTRY eglGetSyncAttrib(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLAttrib *value) {
     return withSync<EGLBoolean>(
         dpy, sync, EGL_FALSE,

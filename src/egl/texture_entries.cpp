@@ -2,14 +2,11 @@
 #include "egl/context.h"
 #include "egl/entry_frame.h"
 #include "egl/surface.h"
+#include "foundation/gl_types.h"
 
 namespace egl {
 
 namespace {
-
-constexpr uint32_t glTexture2D = 0x0DE1;
-constexpr uint32_t glRgb = 0x1907;
-constexpr uint32_t glRgba = 0x1908;
 
 bool canBeBound(Surface &surface) {
     const EGLint format = surface.attribute(EGL_TEXTURE_FORMAT);
@@ -22,9 +19,9 @@ bool canBeBound(Surface &surface) {
 void copyToBoundTexture(Surface &surface) {
     const host::EGL &hostEGL = state().hostEGL();
     if (!hostEGL.glCopyTexImage2D) return;
-    const uint32_t format = surface.attribute(EGL_TEXTURE_FORMAT) == EGL_TEXTURE_RGB ? glRgb : glRgba;
-    hostEGL.glCopyTexImage2D(glTexture2D, 0, format, 0, 0, surface.attribute(EGL_WIDTH), surface.attribute(EGL_HEIGHT),
-                             0);
+    const uint32_t format = surface.attribute(EGL_TEXTURE_FORMAT) == EGL_TEXTURE_RGB ? GL_RGB : GL_RGBA;
+    hostEGL.glCopyTexImage2D(GL_TEXTURE_2D, 0, format, 0, 0, surface.attribute(EGL_WIDTH),
+                             surface.attribute(EGL_HEIGHT), 0);
 }
 
 } // namespace

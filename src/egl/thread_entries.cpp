@@ -1,7 +1,10 @@
 // Entries that look at the calling thread alone. None of them loads anything.
+#include "egl/binding.h"
+#include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/refusal.h"
 #include "egl/standard/binding_rules.h"
 
 using namespace egl;
@@ -14,9 +17,10 @@ EGLint EGLAPIENTRY eglGetError(void) {
 EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
     if (api != EGL_OPENGL_ES_API) {
         desktop_clients::tellOfOtherApi(api);
-        return fail(EGL_BAD_PARAMETER, EGL_FALSE);
+        const EGLint error = refusals::because(refusals::Rule::otherApi, EGL_BAD_PARAMETER);
+        return reports::told<EGLBoolean>(fail(error, EGL_FALSE), reports::bindApi, api);
     }
-    return succeed(EGL_TRUE);
+    return reports::told<EGLBoolean>(succeed(EGL_TRUE), reports::bindApi, api);
 }
 
 EGLenum EGLAPIENTRY eglQueryAPI(void) {
@@ -27,11 +31,12 @@ namespace egl {
 
 namespace {
 
-// For devices the waits wait for nothing: no glFinish reaches the host, and callers rely on their speed.
+// On devices the waits return at once: no glFinish reaches the host, and a wait in every frame costs nothing.
 EGLBoolean waitForClient() {
     if (!desktop_clients::isOn() || !threadRecord.current) return succeed(EGL_TRUE);
     const auto glFinish = reinterpret_cast<void (*)()>(threadRecord.current->getExtProcAddress("glFinish"));
     if (glFinish) glFinish();
+    showPixmap(*threadRecord.current);
     return succeed(EGL_TRUE);
 }
 
@@ -51,7 +56,7 @@ EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
     return succeed(EGL_TRUE);
 }
 
-// For devices it releases nothing: the current context stays current, and callers rely on that.
+// On devices it releases nothing: the current context stays current, and the thread goes on drawing.
 EGLBoolean EGLAPIENTRY eglReleaseThread(void) {
     if (desktop_clients::isOn()) standard::releaseThread();
     return succeed(EGL_TRUE);

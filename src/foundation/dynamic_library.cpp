@@ -59,7 +59,8 @@ DynamicLibrary::DynamicLibrary(std::string name, Scope scope)
     : m_useCount(new uint32_t(1)), m_name(std::move(name)), m_scope(scope) {}
 
 DynamicLibrary::DynamicLibrary(const DynamicLibrary &other)
-    : m_useCount(other.m_useCount), m_name(other.m_name), m_scope(other.m_scope), m_handle(other.m_handle) {
+    : m_useCount(other.m_useCount), m_name(other.m_name), m_scope(other.m_scope), m_handle(other.m_handle),
+      m_lookup(other.m_lookup) {
     ++*m_useCount;
 }
 
@@ -71,6 +72,7 @@ DynamicLibrary &DynamicLibrary::operator=(const DynamicLibrary &other) {
     m_name = other.m_name;
     m_scope = other.m_scope;
     m_handle = other.m_handle;
+    m_lookup = other.m_lookup;
     return *this;
 }
 
@@ -98,7 +100,9 @@ bool DynamicLibrary::open(const std::vector<std::string> &searchPaths) {
 }
 
 void *DynamicLibrary::getSymbol(const char *symbol) const {
-    return m_handle && symbol ? dlsym(m_handle, symbol) : nullptr;
+    if (!m_handle || !symbol) return nullptr;
+    void *const found = dlsym(m_handle, symbol);
+    return found || !m_lookup ? found : m_lookup(symbol);
 }
 
 void DynamicLibrary::keepLoaded(const char *ownSymbol) const {

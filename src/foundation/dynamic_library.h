@@ -23,6 +23,10 @@ public:
     // Tries each directory in turn; a relative one has nothing. Closes a handle that is held first, but leaves it to
     // the copies if there are any. False when nothing could be opened.
     bool open(const std::vector<std::string> &searchPaths);
+    // Who knows what a library has and does not export; null for nothing. Symbols that the library lacks are asked of
+    // it.
+    using Lookup = void *(*)(const char *symbol);
+    void setLookup(Lookup lookup) { m_lookup = lookup; }
     // Null when nothing is loaded, when the library lacks the symbol, or when symbol is null.
     [[nodiscard]] void *getSymbol(const char *symbol) const;
     // The library stays in the process for good, whoever closes it. The symbol says which image that is: the library's
@@ -36,10 +40,14 @@ private:
     std::string m_name;
     Scope m_scope;
     void *m_handle = nullptr;
+    Lookup m_lookup = nullptr;
 };
 
-// File names of the four libraries on this platform.
+// File names of the libraries on this platform. The host's OpenGL without its window system is null where it is not
+// apart; the look-up is for what it does not export.
 extern const char *const hostOpenGLLibraryName;
+extern const char *const hostPlainOpenGLLibraryName;
+[[nodiscard]] void *findUnexportedHostFunction(const char *name);
 extern const char *const es1LibraryName;
 extern const char *const es2LibraryName;
 

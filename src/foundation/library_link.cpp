@@ -12,7 +12,7 @@
 
 namespace {
 
-// A longer temporary directory opens nothing; callers rely on that limit.
+// Bytes of a directory for links; a longer temporary directory opens nothing.
 constexpr size_t parentLimit = 1024;
 
 void tellOnce(const std::string &parent, int reason) {

@@ -26,5 +26,5 @@ void logMessage(int32_t level, const char *format, ...) __attribute__((format(pr
 // "(Info) ", "(Warning) ", "(Error) ", or the empty text for any other level.
 [[nodiscard]] const char *levelPrefix(int32_t level);
 
-// The formatted text. A text of exactly strlen(format) + 12 characters loses its last one; readers rely on that cut.
+// The formatted text. A text of exactly strlen(format) + 12 characters loses its last one.
 [[nodiscard]] std::unique_ptr<char[]> formatVarArgs(const char *format, va_list arguments);

@@ -29,8 +29,8 @@ public:
     // Gives up the buffer for one of one byte.
     void clear();
     // Takes count characters out at position. A cut inside the text moves the tail and leaves the length field at its
-    // old value, so that it and strlen disagree from then on: callers rely on it. A cut up to or past the end shortens
-    // the text to position, and one that starts behind the end lengthens it to position with zero bytes.
+    // old value, so that it and strlen disagree from then on. A cut up to or past the end shortens the text to
+    // position, and one that starts behind the end lengthens it to position with zero bytes.
     void erase(uint64_t position, uint64_t count);
 
     // This text followed by the right one, in a buffer that fits. A null right side gives a copy.

@@ -21,7 +21,8 @@ Function resolveEntry(const GLEntryProxy &proxy, Function nothing) {
         logError(std::string("Attempted to call '") + proxy.name + "', but there is no current context.");
         return nothing;
     }
-    const Function answer = table.ask(table.context, proxy.name);
+    Function answer = table.ask(table.context, proxy.name);
+    if (recorder) answer = recorder(proxy.name, answer);
     // The back end may have called this very entry while it answered; the first answer stays.
     Function resolver = functionsWithoutContext.at(proxy.slot);
     const bool isKept = std::atomic_ref(table.slots[proxy.slot])

@@ -3,8 +3,8 @@
 
 #include <cstddef>
 
+#include "foundation/gl_types.h"
 #include "gl/function_table.h"
-#include "gl/gl_types.h"
 
 namespace gl {
 

@@ -9,6 +9,8 @@ namespace gl {
 
 constinit thread_local FunctionTable *currentFunctions = &functionsWithoutContext;
 
+constinit Recorder recorder = nullptr;
+
 namespace {
 
 struct Tables {

@@ -37,6 +37,11 @@ extern FunctionTable functionsWithoutContext;
 extern constinit thread_local FunctionTable *currentFunctions __asm__("zelvane_current_functions")
     __attribute__((tls_model("initial-exec")));
 
+// Puts a function of its own before each that a back end answers for a context, and may be told of null answers; null
+// keeps the answers as they are. Set before the first context is made, and not changed afterwards.
+using Recorder = Function (*)(const char *name, Function answer);
+extern constinit Recorder recorder;
+
 // The table of the context at that address. It stays for good: a context that is made at the address of a dead one
 // inherits its answers. Any thread.
 [[nodiscard]] FunctionTable &functionTableAt(void *context, FunctionTable::Ask ask);

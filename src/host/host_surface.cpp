@@ -2,6 +2,8 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
+#include "foundation/gl_types.h"
 #include "host/host_context.h"
 
 namespace {
@@ -9,10 +11,6 @@ namespace {
 using host::platform::NativeObject;
 using host::platform::operations;
 using host::platform::PixelBuffer;
-
-constexpr uint32_t glRgb = 0x1907;
-constexpr uint32_t glRgba = 0x1908;
-constexpr uint32_t glTexture2D = 0xDE1;
 
 // No view equals no object: a context without a view flushes for a surface without a native object.
 bool isViewOf(const host::platform::ContextContainer *container, const NativeObject &native) {
@@ -28,14 +26,14 @@ void flushIfBound(const NativeObject &native) {
 }
 
 // The two texture attributes are crossed over: the target's value becomes a colour format and the format's value a
-// target. Callers rely on it.
+// target.
 uint32_t bufferTarget(int32_t textureTarget) {
     switch (textureTarget) {
     case EGL_NO_TEXTURE:
     case EGL_TEXTURE_RGBA:
-        return glRgba;
+        return GL_RGBA;
     case EGL_TEXTURE_RGB:
-        return glRgb;
+        return GL_RGB;
     default:
         return static_cast<uint32_t>(textureTarget);
     }
@@ -43,7 +41,7 @@ uint32_t bufferTarget(int32_t textureTarget) {
 
 uint32_t bufferFormat(int32_t textureFormat) {
     const bool isPlain = textureFormat == EGL_NO_TEXTURE || textureFormat == EGL_TEXTURE_2D;
-    return isPlain ? glTexture2D : static_cast<uint32_t>(textureFormat);
+    return isPlain ? GL_TEXTURE_2D : static_cast<uint32_t>(textureFormat);
 }
 
 struct Size {
@@ -99,16 +97,31 @@ void PBufferSurface::swapBuffers() {
     flushIfBound(nativeHandle());
 }
 
+PixmapSurface::~PixmapSurface() {
+    operations.releasePixelBuffer(m_buffer);
+}
+
+int32_t PixmapSurface::width() const {
+    return sizeOf(m_buffer).width;
+}
+
+int32_t PixmapSurface::height() const {
+    return sizeOf(m_buffer).height;
+}
+
+void PixmapSurface::swapBuffers() {
+    const auto context = host::lockCurrentHostContext();
+    if (context) operations.flushBuffer(context->container());
+}
+
 } // namespace glove
 
 namespace host {
 
 PBufferRequest readPBufferRequest(const int32_t *attributes) {
     PBufferRequest request;
-    if (!attributes) return request;
-    for (; *attributes != EGL_NONE; attributes += 2) {
-        const int32_t value = attributes[1];
-        switch (*attributes) {
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        switch (name) {
         case EGL_WIDTH:
             request.width = value;
             break;
@@ -155,6 +168,28 @@ std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attribu
 
 std::shared_ptr<glove::ISurface> createHostPixmapSurface() {
     return nullptr;
+}
+
+std::shared_ptr<glove::ISurface> createHostPixmapSurface(uint64_t display, uint64_t pixmap,
+                                                         const platform::PixelFormat *format) {
+    auto *buffer = operations.createPixmapBuffer(display, pixmap, format);
+    return buffer ? std::make_shared<glove::PixmapSurface>(buffer) : nullptr;
+}
+
+PixmapFit pixmapFit(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format) {
+    const int32_t depth = operations.pixmapDepth(display, pixmap);
+    if (!depth) return PixmapFit::none;
+    const bool fits = format && operations.pixelFormatValue(format, platform::VisualDepth) == depth;
+    return fits ? PixmapFit::fits : PixmapFit::otherDepth;
+}
+
+bool copyToPixmap(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format) {
+    const auto context = lockCurrentHostContext();
+    auto *buffer = context ? operations.createPixmapBuffer(display, pixmap, format) : nullptr;
+    if (!buffer) return false;
+    const bool isCopied = operations.copyToPixmap(context->container(), buffer);
+    operations.releasePixelBuffer(buffer);
+    return isCopied;
 }
 
 } // namespace host

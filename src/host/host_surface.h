@@ -1,5 +1,5 @@
 // Host surfaces: what stands under an EGL surface. They answer size and title, flush, and name the native object that
-// a context is bound to. Pixmaps have none.
+// a context is bound to. Pixmaps have one for desktop clients alone.
 #pragma once
 
 #include <cstdint>
@@ -20,6 +20,7 @@ public:
     // Flushes the calling thread's current host context if this surface is its view; otherwise does nothing.
     virtual void swapBuffers() = 0;
     virtual int32_t isPBuffer() const = 0;
+    virtual bool isPixmap() const { return false; }
     virtual host::platform::NativeObject nativeHandle() const = 0;
 
 protected:
@@ -62,6 +63,27 @@ private:
     host::platform::PixelBuffer *m_buffer;
 };
 
+// What is drawn to it is in the pixmap after each swapBuffers.
+class PixmapSurface final : public ISurface {
+public:
+    // Takes over the buffer.
+    explicit PixmapSurface(host::platform::PixelBuffer *buffer) : m_buffer(buffer) {}
+    PixmapSurface(const PixmapSurface &) = delete;
+    PixmapSurface &operator=(const PixmapSurface &) = delete;
+    ~PixmapSurface();
+
+    int32_t width() const override;
+    int32_t height() const override;
+    std::string title() const override { return "pixmap"; }
+    void swapBuffers() override;
+    int32_t isPBuffer() const override { return 0; }
+    bool isPixmap() const override { return true; }
+    host::platform::NativeObject nativeHandle() const override { return {{}, m_buffer}; }
+
+private:
+    host::platform::PixelBuffer *m_buffer;
+};
+
 } // namespace glove
 
 namespace host {
@@ -89,7 +111,15 @@ void flushApplication(uint64_t display);
 // The buffer inside may be null when the host refuses the values.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
                                                                         const platform::PixelFormat *format = nullptr);
-// Always null: there is no host kind for pixmaps.
+// Always null: devices have no host kind for pixmaps.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPixmapSurface();
+// That of a desktop client; null when the host refuses the pixmap.
+[[nodiscard]] std::shared_ptr<glove::ISurface> createHostPixmapSurface(uint64_t display, uint64_t pixmap,
+                                                                       const platform::PixelFormat *format);
+// Whether the pixmap is there, and whether surfaces of the format can be made of it.
+enum class PixmapFit { none, otherDepth, fits };
+[[nodiscard]] PixmapFit pixmapFit(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format);
+// Copies what the calling thread's host context has drawn on its surface. False when the host refuses.
+[[nodiscard]] bool copyToPixmap(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format);
 
 } // namespace host

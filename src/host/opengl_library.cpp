@@ -9,4 +9,11 @@ DynamicLibrary openHostOpenGLLibrary() {
     return library;
 }
 
+DynamicLibrary openPlainHostOpenGLLibrary() {
+    if (!hostPlainOpenGLLibraryName) return openHostOpenGLLibrary();
+    DynamicLibrary library(hostPlainOpenGLLibraryName, DynamicLibrary::Scope::owner);
+    library.setLookup(findUnexportedHostFunction);
+    return library.open(hostLibrarySearchPaths()) ? library : openHostOpenGLLibrary();
+}
+
 } // namespace host

@@ -7,5 +7,7 @@ namespace host {
 
 // Looks beside this library, then in the system's library directories. The result may hold nothing: ask isLoaded().
 [[nodiscard]] DynamicLibrary openHostOpenGLLibrary();
+// Prefers the one without the window system.
+[[nodiscard]] DynamicLibrary openPlainHostOpenGLLibrary();
 
 } // namespace host

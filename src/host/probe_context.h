@@ -1,4 +1,4 @@
-// A short-lived core context with which the library looks at the host while no application context is current.
+// A short-lived core context with which the library looks at the host, whatever the thread has current.
 #pragma once
 
 #include <memory>

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-// Grows by the capacity and not by the size, which readers of long values rely on: an append as long as the two are
-// equal, but once they differ (from the fourth equal block on) a tail of zero bytes stays behind each block.
+// Grows by the capacity and not by the size: an append as long as the two are equal, but once they differ (from the
+// fourth equal block on) a tail of zero bytes stays behind each block.
 std::streamsize CVectorByteWrapper::xsputn(const char *text, std::streamsize count) {
     // A block of no bytes must not bring a tail along.
     if (count <= 0) return 0;

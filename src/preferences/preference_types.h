@@ -35,8 +35,8 @@ enum PreferenceResult : int32_t {
     RESULT_CRITICAL_ERROR = 4, // no document, or a reload or a stream failed
 };
 
-// The names are out of step with the codes from RESULT_BAD_KEY upwards, which readers of old reports rely on: code 2
-// is called INCORRECT_TYPE, code 3 CRITICAL_ERROR. Null for every other code.
+// The names are out of step with the codes from RESULT_BAD_KEY upwards: code 2 is called INCORRECT_TYPE, code 3
+// CRITICAL_ERROR. Null for every other code.
 [[nodiscard]] constexpr const char *resultName(int32_t code) {
     constexpr std::array names = {"SUCCESS", "NO_VALUE", "INCORRECT_TYPE", "CRITICAL_ERROR"};
     return code >= 0 && static_cast<size_t>(code) < names.size() ? names[static_cast<size_t>(code)] : nullptr;

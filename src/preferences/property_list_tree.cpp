@@ -38,7 +38,7 @@ XMLElement *appendSkeleton(XMLDocument &document, XMLNode &parent, const char *n
     return element;
 }
 
-// Values inside an array are not descended into: what is nested below one stays unchecked, and callers rely on it.
+// Values inside an array are not descended into: a list that is malformed below one is valid.
 bool validateArray(const XMLElement *element, std::string &error) {
     for (; element; element = element->NextSiblingElement()) {
         if (isNamed(*element, PreferenceType::key)) {

@@ -3,6 +3,8 @@
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 
+#include "foundation/attribute_list.h"
+
 namespace egl {
 
 namespace {
@@ -50,9 +52,8 @@ void Config::setAttribute(int32_t attribute, int32_t value) {
 }
 
 void Config::setAttributes(const int32_t *attributes) {
-    if (!attributes) return;
-    for (; *attributes != EGL_NONE; attributes += 2)
-        setAttribute(attributes[0], attributes[1]);
+    for (const auto &[name, value] : AttributeList(attributes))
+        setAttribute(name, value);
 }
 
 std::vector<int32_t> Config::toAttributeList() const {

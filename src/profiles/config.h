@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "host/platform/operations.h"
+#include "profiles/choice_account.h"
 
 namespace egl {
 
@@ -52,7 +54,9 @@ public:
     [[nodiscard]] const std::shared_ptr<osx::Config> &hostConfig() const { return m_hostConfig; }
 
     // Whether the config answers the application's list; config_match.cpp tells the rules.
-    [[nodiscard]] bool matches(const int32_t *attributes) const;
+    [[nodiscard]] bool matches(const int32_t *attributes) const { return !findFallOut(attributes); }
+    // What throws the config out of the list: the first pair that it does not answer. Nothing for one that matches.
+    [[nodiscard]] std::optional<FallOut> findFallOut(const int32_t *attributes) const;
     // major is an ES version: 1, 2 or 3. Any other is never supported.
     [[nodiscard]] bool supportsClientVersion(int32_t major) const;
 

@@ -3,6 +3,7 @@
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 
+#include "foundation/attribute_list.h"
 #include "host/pixel_format.h"
 #include "profiles/config_sort.h"
 #include "profiles/desktop_configs.h"
@@ -21,9 +22,9 @@ constexpr int32_t builtInConfigAttributes[] = {
 // What the host is asked for: the built-in config, without an id since it is none of the list's, and without pixmaps.
 std::vector<int32_t> hostProbeAttributes() {
     std::vector<int32_t> list;
-    for (const int32_t *pair = builtInConfigAttributes; *pair != EGL_NONE; pair += 2) {
-        if (pair[0] == EGL_CONFIG_ID) continue;
-        list.insert(list.end(), {pair[0], pair[0] == EGL_SURFACE_TYPE ? EGL_WINDOW_BIT | EGL_PBUFFER_BIT : pair[1]});
+    for (const auto &[name, value] : AttributeList(builtInConfigAttributes)) {
+        if (name == EGL_CONFIG_ID) continue;
+        list.insert(list.end(), {name, name == EGL_SURFACE_TYPE ? EGL_WINDOW_BIT | EGL_PBUFFER_BIT : value});
     }
     list.push_back(EGL_NONE);
     return list;
@@ -65,26 +66,40 @@ uint32_t ConfigList::listConfigs(void **out, int32_t size) const {
     return static_cast<uint32_t>(stored);
 }
 
-uint32_t ConfigList::chooseConfigs(const int32_t *attributes, void **out, int32_t size) const {
+uint32_t ConfigList::chooseConfigs(const int32_t *attributes, void **out, int32_t size, ChoiceAccount *account) const {
     std::vector<Config> matching;
     matching.reserve(m_configs.size());
     const bool isOfDesktop = m_kind == ConfigKind::ofDesktop;
     for (const auto &[handle, config] : m_configs) {
-        if (isOfDesktop ? matchesByStandard(config, attributes) : config.matches(attributes))
-            matching.push_back(config);
+        const auto reason = isOfDesktop ? findFallOutByStandard(config, attributes) : config.findFallOut(attributes);
+        if (!reason) matching.push_back(config);
+        if (reason && account) account->fallenOut.push_back({config.attributeOr0(EGL_CONFIG_ID), *reason});
     }
-    if (!out) return static_cast<uint32_t>(matching.size());
+    if (!out && !account) return static_cast<uint32_t>(matching.size());
     if (isOfDesktop) {
         sortByStandard(matching, attributes);
     } else {
         sortConfigs(matching, ConfigSortOrder(attributes));
     }
+    if (account) tellOrder(matching, attributes, *account);
+    if (!out) return static_cast<uint32_t>(matching.size());
     int32_t stored = 0;
     for (const Config &config : matching) {
         if (stored >= size) break;
         out[stored++] = toStored(config);
     }
     return static_cast<uint32_t>(stored);
+}
+
+void ConfigList::tellOrder(const std::vector<Config> &sorted, const int32_t *attributes, ChoiceAccount &account) const {
+    for (const Config &config : sorted)
+        account.order.push_back(config.attributeOr0(EGL_CONFIG_ID));
+    const ConfigSortOrder order(attributes);
+    for (size_t i = 1; i < sorted.size(); ++i) {
+        account.comparisons.push_back(m_kind == ConfigKind::ofDesktop
+                                          ? compareByStandard(sorted[i - 1], sorted[i], attributes)
+                                          : order.compare(sorted[i - 1], sorted[i]));
+    }
 }
 
 const Config *ConfigList::findConfig(uint64_t handle) const {

@@ -30,13 +30,16 @@ public:
     // Both store EGL_CONFIG_ID values, sign-extended, and return how many. A null out returns the number there are
     // and does not look at size.
     uint32_t listConfigs(void **out, int32_t size) const;
-    uint32_t chooseConfigs(const int32_t *attributes, void **out, int32_t size) const;
+    // account: filled with the reasons, which are those of the very same comparisons. Null where nobody asks.
+    uint32_t chooseConfigs(const int32_t *attributes, void **out, int32_t size, ChoiceAccount *account = nullptr) const;
     // By map key. Null for an unknown handle. Valid as long as the list.
     [[nodiscard]] const Config *findConfig(uint64_t handle) const;
     // Stands for a null config: a copy of config 1 with the id 0.
     [[nodiscard]] const Config &noConfig() const { return m_noConfig; }
 
 private:
+    void tellOrder(const std::vector<Config> &sorted, const int32_t *attributes, ChoiceAccount &account) const;
+
     const ConfigKind m_kind;
     std::map<uint64_t, Config> m_configs;
     Config m_noConfig;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include <tinyxml2.h>
@@ -19,8 +20,6 @@ public:
     bool VisitEnter(const tinyxml2::XMLElement &element, const tinyxml2::XMLAttribute *attribute) override;
     using tinyxml2::XMLVisitor::VisitEnter;
 
-    [[nodiscard]] Config &config() { return m_config; }
-
 private:
     Config &m_config;
 };
@@ -31,27 +30,23 @@ struct ConfigBitName {
 };
 
 struct ConfigElementRule {
-    using Reader = void (*)(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, ConfigMaker &maker);
+    using Reader = void (*)(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
 
     std::string_view name;
-    int32_t attribute = 0;                       // 0 marks a row that is passed over
-    const ConfigElementRule *children = nullptr; // of a group
-    int32_t childCount = 0;
-    const ConfigBitName *bitNames = nullptr; // of readBits
-    int32_t bitNameCount = 0;
-    Reader reader = nullptr;
+    int32_t attribute = 0;
+    Reader reader = nullptr;                         // null for a group, which is passed over
+    std::span<const ConfigBitName> bitNames = {};    // of readBits
+    std::span<const std::string_view> children = {}; // of a group: the elements that profiles have in it
 };
 
-// The row of this name among those for elements of a config. An empty row, without a reader, for any other name.
-[[nodiscard]] ConfigElementRule findElementRule(std::string_view name);
+// The row of this name among those for elements of a config. Null for any other name.
+[[nodiscard]] const ConfigElementRule *findElementRule(std::string_view name);
 
 // Sets the number that the text begins with, after white space; 0 without one.
-void readInteger(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, ConfigMaker &maker);
-// Sets 1 for exactly "EGL_TRUE", else 0: "1" is false too, and profiles rely on it.
-void readBoolean(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, ConfigMaker &maker);
-// Adds the bit of that name. Any other text, numbers too, leaves the attribute as it was: profiles rely on it.
-void readBits(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, ConfigMaker &maker);
-// Reads the first child element of each child row's name.
-void readGroup(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, ConfigMaker &maker);
+void readInteger(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
+// Sets 1 for exactly "EGL_TRUE", else 0: "1" is false too.
+void readBoolean(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
+// Adds the bit of that name. Any other text, numbers too, leaves the attribute as it was.
+void readBits(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
 
 } // namespace egl

@@ -5,6 +5,8 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
+
 namespace egl {
 
 namespace {
@@ -69,7 +71,7 @@ bool isValidPair(int32_t attribute, int32_t value) {
     case EGL_BIND_TO_TEXTURE_RGBA:
         return value == EGL_TRUE || value == EGL_FALSE || value == EGL_DONT_CARE;
     case EGL_TRANSPARENT_TYPE:
-        // EGL_DONT_CARE is refused here, other than for the caveat. Callers see the error.
+        // EGL_DONT_CARE is refused here, other than for the caveat.
         return value == EGL_NONE || value == EGL_TRANSPARENT_RGB;
     default:
         return true;
@@ -80,33 +82,29 @@ bool isValidPair(int32_t attribute, int32_t value) {
 
 // Attributes that the list leaves out are not tested: no default stands in for them, so that an empty list matches
 // every config, those without windows included.
-bool Config::matches(const int32_t *attributes) const {
-    if (!attributes) return true;
-    bool overall = true;
-    bool transparentOk = true;
+std::optional<FallOut> Config::findFallOut(const int32_t *attributes) const {
+    std::optional<FallOut> first;            // without the transparent colours
+    std::optional<FallOut> firstWithColours; // with them
     bool wantsTransparentRgb = false;
-    for (; *attributes != EGL_NONE; attributes += 2) {
+    for (const auto &[name, wanted] : AttributeList(attributes)) {
         int32_t offered = 0;
-        if (!getAttribute(attributes[0], &offered)) continue;
-        const int32_t wanted = attributes[1];
-        const MatchRule rule = findRule(attributes[0]);
+        if (!getAttribute(name, &offered)) continue;
+        const MatchRule rule = findRule(name);
         const bool ok = passes(rule.test, offered, wanted);
-        if (ok && rule.weight == Weight::alone) return true;
-        if (rule.weight == Weight::transparentOnly) {
-            transparentOk = transparentOk && ok;
-            continue;
-        }
+        if (ok && rule.weight == Weight::alone) return std::nullopt;
         // A failure does not end the walk: an id further on may still be the answer.
-        overall = overall && ok;
+        const FallOut reason{name, wanted, offered};
+        if (!ok && !firstWithColours) firstWithColours = reason;
+        if (rule.weight == Weight::transparentOnly) continue;
+        if (!ok && !first) first = reason;
         if (rule.weight == Weight::asksForRgb && wanted == EGL_TRANSPARENT_RGB) wantsTransparentRgb = true;
     }
-    return overall && (transparentOk || !wantsTransparentRgb);
+    return wantsTransparentRgb ? firstWithColours : first;
 }
 
 bool validateAttributeList(const int32_t *attributes) {
-    if (!attributes) return true;
-    for (; *attributes != EGL_NONE; attributes += 2)
-        if (!isValidPair(attributes[0], attributes[1])) return false;
+    for (const auto &[name, value] : AttributeList(attributes))
+        if (!isValidPair(name, value)) return false;
     return true;
 }
 

@@ -5,6 +5,7 @@
 
 #include <EGL/egl.h>
 
+#include "foundation/attribute_list.h"
 #include "profiles/partition_sort.h"
 
 namespace egl {
@@ -15,7 +16,7 @@ namespace {
 constexpr int32_t sizeKeys[] = {EGL_BUFFER_SIZE, EGL_SAMPLE_BUFFERS, EGL_SAMPLES, EGL_DEPTH_SIZE, EGL_STENCIL_SIZE};
 
 // Nothing when the caveats leave the order open, as an unknown one in a does. Beside EGL_NONE the two directions then
-// contradict: each may say that its a comes first. Callers rely on the lists that this gives.
+// contradict: each may say that its a comes first. The partition sort settles the order of such lists.
 std::optional<bool> compareCaveats(int32_t a, int32_t b) {
     if (a == b) return std::nullopt;
     if (a == EGL_NON_CONFORMANT_CONFIG) return false;
@@ -29,8 +30,8 @@ std::optional<bool> compareCaveats(int32_t a, int32_t b) {
 
 ConfigSortOrder::ConfigSortOrder(const int32_t *attributes) {
     std::map<int32_t, int32_t> requested;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        requested[attributes[0]] = attributes[1];
+    for (const auto &[name, value] : AttributeList(attributes))
+        requested[name] = value;
     for (const int32_t channel : {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE})
         if (requested[channel] != 0 && requested[channel] != EGL_DONT_CARE) m_channels.push_back(channel);
 }
@@ -43,14 +44,18 @@ uint32_t ConfigSortOrder::colourSum(const Config &config) const {
     return sum;
 }
 
-bool ConfigSortOrder::operator()(const Config &a, const Config &b) const {
-    const auto byCaveat = compareCaveats(a.attributeOr0(EGL_CONFIG_CAVEAT), b.attributeOr0(EGL_CONFIG_CAVEAT));
-    if (byCaveat) return *byCaveat;
-    // False in both directions: more colour bits are no advantage. Callers rely on the order that this leaves.
-    if (colourSum(a) != colourSum(b)) return false;
-    for (const int32_t key : sizeKeys)
-        if (a.attributeOr0(key) != b.attributeOr0(key)) return a.attributeOr0(key) < b.attributeOr0(key);
-    return a < b;
+Comparison ConfigSortOrder::compare(const Config &a, const Config &b) const {
+    const int32_t caveats[] = {a.attributeOr0(EGL_CONFIG_CAVEAT), b.attributeOr0(EGL_CONFIG_CAVEAT)};
+    const auto byCaveat = compareCaveats(caveats[0], caveats[1]);
+    if (byCaveat) return {*byCaveat, EGL_CONFIG_CAVEAT, caveats[0], caveats[1]};
+    // False in both directions: more colour bits are no advantage, and the partition sort settles the order.
+    const uint32_t sums[] = {colourSum(a), colourSum(b)};
+    if (sums[0] != sums[1]) return {false, colourBits, static_cast<int32_t>(sums[0]), static_cast<int32_t>(sums[1])};
+    for (const int32_t key : sizeKeys) {
+        const int32_t sizes[] = {a.attributeOr0(key), b.attributeOr0(key)};
+        if (sizes[0] != sizes[1]) return {sizes[0] < sizes[1], key, sizes[0], sizes[1]};
+    }
+    return {a < b, EGL_CONFIG_ID, a.attributeOr0(EGL_CONFIG_ID), b.attributeOr0(EGL_CONFIG_ID)};
 }
 
 void sortConfigs(std::vector<Config> &configs, const ConfigSortOrder &order) {

@@ -13,7 +13,8 @@ namespace egl {
 class ConfigSortOrder {
 public:
     explicit ConfigSortOrder(const int32_t *attributes);
-    [[nodiscard]] bool operator()(const Config &a, const Config &b) const;
+    [[nodiscard]] bool operator()(const Config &a, const Config &b) const { return compare(a, b).isBefore; }
+    [[nodiscard]] Comparison compare(const Config &a, const Config &b) const;
 
 private:
     [[nodiscard]] uint32_t colourSum(const Config &config) const;

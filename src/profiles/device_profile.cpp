@@ -2,19 +2,6 @@
 
 namespace egl {
 
-namespace {
-
-std::optional<EsVersion> findVersion(int32_t major, int32_t minor) {
-    if (major == 1) return ES1;
-    if (major == 2 && minor == 0) return ES2;
-    if (major == 3 && minor == 0) return ES3;
-    if (major == 3 && minor == 1) return ES31;
-    if (major == 3 && minor == 2) return ES32;
-    return std::nullopt;
-}
-
-} // namespace
-
 const DeviceProfile &defaultProfile = *new DeviceProfile;
 
 bool isDefaultProfile(const DeviceProfile &profile) {
@@ -29,8 +16,9 @@ std::optional<int32_t> highestEs3Minor(const DeviceProfile &profile) {
 }
 
 bool isEsVersionAllowed(const DeviceProfile &profile, int32_t major, int32_t minor) {
-    const auto version = findVersion(major, minor);
-    return version && (isDefaultProfile(profile) || profile.esVersions.contains(*version));
+    if (major == 2 && minor != 0) return false;
+    const auto version = capability::esVersionFromContext(major, minor);
+    return version && (isDefaultProfile(profile) || profile.esVersions.contains(version));
 }
 
 } // namespace egl

@@ -6,17 +6,16 @@
 #include <set>
 #include <string>
 
+#include "capability/versions.h"
 #include "profiles/config.h"
 
 namespace egl {
 
-enum EsVersion : int32_t { ES1 = 1, ES2, ES3, ES31, ES32 }; // ES 1.x, 2.0, 3.0, 3.1, 3.2
-
 struct DeviceProfile {
-    std::set<Config> configs;          // by id; of two with one id the first stays
-    std::string name;                  // the name it was asked for by; empty in defaultProfile
-    std::set<int32_t> esVersions;      // EsVersion values
-    bool hasConfigsOfHostOnly = false; // for desktop clients: configs that the host does not have are left out
+    std::set<Config> configs;                   // by id; of two with one id the first stays
+    std::string name;                           // the name it was asked for by; empty in defaultProfile
+    std::set<capability::EsVersion> esVersions; // that contexts may have
+    bool hasConfigsOfHostOnly = false;          // for desktop clients: configs that the host does not have are left out
 };
 
 // No device: one built-in config and every ES version. Never destroyed, since threads may ask while the process ends.
@@ -28,7 +27,8 @@ extern const DeviceProfile &defaultProfile;
 // The highest version of ES 3 that contexts may have: its minor number, or nothing. Every one without a device.
 [[nodiscard]] std::optional<int32_t> highestEs3Minor(const DeviceProfile &profile);
 
-// Whether a context of this version may be made. Versions that ES never had are refused under every profile.
+// Whether a context of this version may be made. Versions that ES never had are refused under every profile, but for
+// those with the major version 1.
 [[nodiscard]] bool isEsVersionAllowed(const DeviceProfile &profile, int32_t major, int32_t minor);
 
 } // namespace egl

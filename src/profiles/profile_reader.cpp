@@ -15,9 +15,10 @@ namespace {
 
 constexpr struct {
     int32_t version;
-    EsVersion token;
+    capability::EsVersion token;
 } versionTokens[] = {
-    {1, ES1}, {11, ES1}, {2, ES2}, {20, ES2}, {3, ES3}, {30, ES3}, {31, ES31}, {32, ES32},
+    {1, capability::es1_1}, {11, capability::es1_1}, {2, capability::es2_0},  {20, capability::es2_0},
+    {3, capability::es3_0}, {30, capability::es3_0}, {31, capability::es3_1}, {32, capability::es3_2},
 };
 
 std::optional<std::string> readFile(const std::string &path) {
@@ -73,7 +74,7 @@ bool loadDeviceProfile(DeviceProfile &profile, const CKZRTString &directory, con
     return true;
 }
 
-std::optional<EsVersion> findVersionToken(int32_t version) {
+std::optional<capability::EsVersion> findVersionToken(int32_t version) {
     for (const auto &row : versionTokens) {
         if (row.version == version) return row.token;
     }

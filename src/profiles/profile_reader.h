@@ -24,6 +24,6 @@ namespace egl {
                                      std::string *text = nullptr);
 
 // The version that an es block's attribute stands for: 1, 11, 2, 20, 3, 30, 31 or 32.
-[[nodiscard]] std::optional<EsVersion> findVersionToken(int32_t version);
+[[nodiscard]] std::optional<capability::EsVersion> findVersionToken(int32_t version);
 
 } // namespace egl

@@ -4,9 +4,10 @@
 #include <EGL/eglext.h>
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <span>
+
+#include "foundation/attribute_list.h"
 
 namespace egl {
 
@@ -38,8 +39,8 @@ using Request = std::map<int32_t, int32_t>;
 // The last of several values of an attribute counts.
 Request readRequest(const int32_t *attributes) {
     Request request;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        request[attributes[0]] = attributes[1];
+    for (const auto &[name, value] : AttributeList(attributes))
+        request[name] = value;
     return request;
 }
 
@@ -101,8 +102,8 @@ bool passes(Rule rule, int32_t offered, int32_t wanted) {
     return false;
 }
 
-int32_t caveatRank(const Config &config) {
-    switch (config.attributeOr0(EGL_CONFIG_CAVEAT)) {
+int32_t caveatRank(int32_t caveat) {
+    switch (caveat) {
     case EGL_SLOW_CONFIG:
         return 1;
     case EGL_NON_CONFORMANT_CONFIG:
@@ -113,55 +114,77 @@ int32_t caveatRank(const Config &config) {
 }
 
 // Of the sizes that the request asks for.
-int32_t colourBits(const Config &config, const Request &request) {
-    int32_t bits = 0;
+int32_t sumColourBits(const Config &config, const Request &request) {
+    uint32_t bits = 0; // profiles may hold sizes whose sum overflows
     for (const int32_t channel : {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE, EGL_LUMINANCE_SIZE}) {
         const int32_t wanted = valueOr(request, channel, 0);
-        if (wanted != 0 && wanted != EGL_DONT_CARE) bits += config.attributeOr0(channel);
+        if (wanted != 0 && wanted != EGL_DONT_CARE) bits += static_cast<uint32_t>(config.attributeOr0(channel));
     }
-    return bits;
+    return static_cast<int32_t>(bits);
 }
 
-// The smaller comes first.
-auto sortKey(const Config &config, const Request &request) {
-    constexpr int32_t sizes[] = {EGL_BUFFER_SIZE,        EGL_SAMPLE_BUFFERS, EGL_SAMPLES,
-                                 EGL_DEPTH_SIZE,         EGL_STENCIL_SIZE,   EGL_ALPHA_MASK_SIZE,
-                                 EGL_NATIVE_VISUAL_TYPE, EGL_CONFIG_ID};
-    std::array<int32_t, std::size(sizes) + 3> key{caveatRank(config), config.attributeOr0(EGL_COLOR_BUFFER_TYPE),
-                                                  -colourBits(config, request)};
-    for (size_t i = 0; i < std::size(sizes); ++i)
-        key[i + 3] = config.attributeOr0(sizes[i]);
-    return key;
+// In the order of their weight. The smaller comes first, but for colour bits.
+constexpr int32_t sortKeys[] = {EGL_CONFIG_CAVEAT,      EGL_COLOR_BUFFER_TYPE, colourBits,
+                                EGL_BUFFER_SIZE,        EGL_SAMPLE_BUFFERS,    EGL_SAMPLES,
+                                EGL_DEPTH_SIZE,         EGL_STENCIL_SIZE,      EGL_ALPHA_MASK_SIZE,
+                                EGL_NATIVE_VISUAL_TYPE, EGL_CONFIG_ID};
+
+int32_t keyValue(const Config &config, const Request &request, int32_t key) {
+    return key == colourBits ? sumColourBits(config, request) : config.attributeOr0(key);
+}
+
+int32_t rankOf(int32_t key, int32_t value) {
+    if (key == EGL_CONFIG_CAVEAT) return caveatRank(value);
+    return key == colourBits ? ~value : value; // a minus could overflow
+}
+
+Comparison compare(const Config &a, const Config &b, const Request &request) {
+    for (const int32_t key : sortKeys) {
+        const int32_t former = keyValue(a, request, key), latter = keyValue(b, request, key);
+        const int32_t formerRank = rankOf(key, former), latterRank = rankOf(key, latter);
+        if (formerRank != latterRank) return {formerRank < latterRank, key, former, latter};
+    }
+    return {false, EGL_CONFIG_ID, a.attributeOr0(EGL_CONFIG_ID), b.attributeOr0(EGL_CONFIG_ID)};
 }
 
 } // namespace
 
 bool isValidByStandard(const int32_t *attributes) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (!isKnown(attributes[0]) || !isValidValue(attributes[0], attributes[1])) return false;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (!isKnown(name) || !isValidValue(name, value)) return false;
     }
     return true;
 }
 
-bool matchesByStandard(const Config &config, const int32_t *attributes) {
+std::optional<FallOut> findFallOutByStandard(const Config &config, const int32_t *attributes) {
     const Request request = readRequest(attributes);
     // An id stands for itself alone.
     const int32_t id = valueOr(request, EGL_CONFIG_ID, EGL_DONT_CARE);
-    if (id != EGL_DONT_CARE) return config.attributeOr0(EGL_CONFIG_ID) == id;
+    if (id != EGL_DONT_CARE) {
+        const int32_t own = config.attributeOr0(EGL_CONFIG_ID);
+        return own == id ? std::nullopt : std::optional(FallOut{EGL_CONFIG_ID, id, own});
+    }
     for (const Choice &choice : choices) {
         int32_t offered = 0;
         if (!config.getAttribute(choice.attribute, &offered)) continue;
-        if (!passes(choice.rule, offered, valueOr(request, choice.attribute, choice.byDefault))) return false;
+        const int32_t wanted = valueOr(request, choice.attribute, choice.byDefault);
+        if (!passes(choice.rule, offered, wanted)) return FallOut{choice.attribute, wanted, offered};
     }
-    if (valueOr(request, EGL_TRANSPARENT_TYPE, EGL_NONE) != EGL_TRANSPARENT_RGB) return true;
-    return std::ranges::all_of(transparentColours, [&](int32_t colour) {
-        return passes(Rule::exact, config.attributeOr0(colour), valueOr(request, colour, EGL_DONT_CARE));
-    });
+    if (valueOr(request, EGL_TRANSPARENT_TYPE, EGL_NONE) != EGL_TRANSPARENT_RGB) return std::nullopt;
+    for (const int32_t colour : transparentColours) {
+        const int32_t offered = config.attributeOr0(colour), wanted = valueOr(request, colour, EGL_DONT_CARE);
+        if (!passes(Rule::exact, offered, wanted)) return FallOut{colour, wanted, offered};
+    }
+    return std::nullopt;
 }
 
 void sortByStandard(std::vector<Config> &configs, const int32_t *attributes) {
     const Request request = readRequest(attributes);
-    std::ranges::sort(configs, {}, [&](const Config &config) { return sortKey(config, request); });
+    std::ranges::sort(configs, [&](const Config &a, const Config &b) { return compare(a, b, request).isBefore; });
+}
+
+Comparison compareByStandard(const Config &a, const Config &b, const int32_t *attributes) {
+    return compare(a, b, readRequest(attributes));
 }
 
 } // namespace egl

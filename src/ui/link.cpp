@@ -37,35 +37,30 @@ void blockSignals() {
 } // namespace
 
 UiLink::UiLink(SetRenderMode setRenderMode)
-    : m_client(std::make_shared<KZRIPC::Client>(productName)), m_queue(std::make_shared<Queue>()),
-      m_isClosed(std::make_shared<std::atomic<bool>>(false)) {
-    std::thread(senderThread, m_client, m_queue, m_isClosed, setRenderMode).detach();
+    : m_client(std::make_shared<KZRIPC::Client>(productName)), m_queue(std::make_shared<Queue>()) {
+    if (isAttached()) std::thread(senderThread, m_client, m_queue, setRenderMode).detach();
 }
 
 void UiLink::post(const Message &message) const {
-    // Nobody would read it: the sender would drop it behind the others.
-    if (!isAttached() || m_isClosed->load(std::memory_order_relaxed)) return;
-    m_queue->push(message);
+    // Nobody would read it, and without a sender nobody would take it from the queue.
+    if (isAttached()) m_queue->push(message);
 }
 
 void UiLink::senderThread(const std::shared_ptr<KZRIPC::Client> &client, const std::shared_ptr<Queue> &queue,
-                          const std::shared_ptr<std::atomic<bool>> &isClosed, SetRenderMode setRenderMode) {
+                          SetRenderMode setRenderMode) {
     blockSignals();
     const auto send = [&](const Message &message) {
         if (client->isOpen()) client->send(&message, sizeof message);
     };
-    if (client->isOpen()) {
-        send(ui::messages::processHello(getpid()));
-        const auto receiverEnded = startReceiver(client, setRenderMode);
-        Message message = queue->pop();
-        for (; message.header.type != ZV_LINK_STOP; message = queue->pop()) {
-            if (isForwarded(message.header.type)) send(message);
-        }
-        send(message);
-        // Until the GUI closes the connection or says that it leaves.
-        if (receiverEnded.valid()) receiverEnded.wait();
+    send(ui::messages::processHello(getpid()));
+    const auto receiverEnded = startReceiver(client, setRenderMode);
+    Message message = queue->pop();
+    for (; message.header.type != ZV_LINK_STOP; message = queue->pop()) {
+        if (isForwarded(message.header.type)) send(message);
     }
-    isClosed->store(true, std::memory_order_relaxed);
+    send(message);
+    // Until the GUI closes the connection or says that it leaves.
+    if (receiverEnded.valid()) receiverEnded.wait();
 }
 
 std::future<void> UiLink::startReceiver(const std::shared_ptr<KZRIPC::Client> &client, SetRenderMode setRenderMode) {
@@ -85,8 +80,8 @@ void UiLink::receiverThread(const std::shared_ptr<KZRIPC::Client> &client, SetRe
     Message message{};
     while (client->isOpen()) {
         const int32_t received = client->receive(&message, sizeof message);
-        // Goes on with the type that it has, so that a GUI's last command is carried out once more at its end. GUIs
-        // rely on it. What is short is taken as a record, and what is not known as none.
+        // The buffer keeps the type of the record before, so that a GUI's last command is carried out once more at its
+        // end. A short block is taken for a record, and an unknown type is ignored.
         if (received <= 0) client->close();
         switch (message.header.type) {
         case ZV_GUI_DISCONNECT:

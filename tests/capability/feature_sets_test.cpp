@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "capability/feature_checks.h"
+#include "capability/es_gate.h"
 #include "capability/feature_texts.h"
 #include "capability/host_egl.h"
 #include "capability/scripted_host.h"
@@ -49,10 +49,10 @@ TEST(FeatureSets, ALevelBindsWhatIsItsOwnByTheNamesOfItsVariant) {
     const Es20Features es20(host.library);
     EXPECT_EQ(es20.shaderImageLoadStore.variant, -1);
     EXPECT_EQ(Es30Features(host.library).shaderImageLoadStore.variant, 1);
-    EXPECT_TRUE(es20.get.variant == -1 && featureAvailable(es20.get, descriptorOf(Feature::get))) << "mandatory";
-    EXPECT_EQ(es20.get.function<void *>(Feature::get, "glNoSuchName"), nullptr);
+    EXPECT_TRUE(es20.get.variant == -1 && featureAvailable(es20.get)) << "mandatory";
+    EXPECT_EQ(FeatureBinding<Feature::get>().function<void *>("glGetString"), nullptr) << "nothing is looked up";
     // All names lead to one function of the fake, apart from those that it really has.
-    EXPECT_EQ(es20.get.function<void *>(Feature::get, "glGetString"), host.library.getSymbol("glGetString"));
+    EXPECT_EQ(es20.get.function<void *>("glGetString"), host.library.getSymbol("glGetString"));
     EXPECT_EQ(es20.fenceSync.functions.at(3), host.library.getSymbol("glGetSynciv"));
 }
 
@@ -105,7 +105,7 @@ TEST(FeatureSets, NothingIsLookedUpInAClosedLibraryOrAgainstTheModel) {
     const DynamicLibrary closed("libGL.so.1");
     const Es31Features set(closed);
     EXPECT_EQ(hostGlVersion(set.view()), 0);
-    EXPECT_FALSE(missingBaseFeatures(set).empty());
+    EXPECT_FALSE(EsGate(set).of(es2_0).isPassed());
     const ScriptedHost old("2.1");
     EXPECT_EQ(host::EGL(old.library).glFenceSync, nullptr) << "decided by the model, not by the function pointer";
 }

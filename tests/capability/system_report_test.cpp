@@ -7,6 +7,7 @@
 #include "capability/feature_sets.h"
 #include "capability/format_system_report.h"
 #include "capability/scripted_host.h"
+#include "egl/report_message.h"
 #include "fakes/every_extension.h"
 #include "support/file_text.h"
 
@@ -19,7 +20,7 @@ const auto windowSystem = std::make_shared<glove::WSAPI>();
 // A record as one line.
 std::string lineOf(const ReportRecord &record) {
     std::ostringstream line;
-    line << reportRecordType(record);
+    line << egl::reportMessage(record).header.type;
     if (const auto *glVersion = std::get_if<GlVersionRecord>(&record)) line << " " << glVersion->version;
     if (const auto *extension = std::get_if<ExtensionRecord>(&record))
         line << " " << extension->extension << " " << extension->isPresent;

@@ -37,7 +37,8 @@ TEST_F(DesktopClients, FindWhatTheyExpect) {
         EXPECT_EQ(value, expected) << attribute;
     }
     EXPECT_STREQ(eglQueryString(nullptr, EGL_EXTENSIONS),
-                 "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
+                 "EGL_EXT_client_extensions EGL_EXT_device_base EGL_EXT_device_enumeration EGL_EXT_device_query "
+                 "EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
                  "EGL_MESA_platform_surfaceless EGL_KHR_client_get_all_proc_addresses ");
     EXPECT_EQ(eglGetProcAddress("eglCreateContext"), reinterpret_cast<void (*)()>(eglCreateContext));
 

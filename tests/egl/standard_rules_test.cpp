@@ -50,7 +50,7 @@ TEST_F(StandardRules, SwapsAreOfTheSurfaceThatIsDrawnTo) {
     EXPECT_THAT(takeLines("flush"), ElementsAre(StartsWith("flushApplication"), StartsWith("flushBuffer")))
         << "a frame of a window that is not mapped yet would be lost";
     EXPECT_FAILS(EGL_BAD_SURFACE, eglSwapBuffers(m_display, pbuffer()));
-    EXPECT_FAILS(EGL_BAD_NATIVE_PIXMAP, eglCopyBuffers(m_display, eglGetCurrentSurface(EGL_DRAW), 1));
+    EXPECT_FAILS(EGL_BAD_NATIVE_PIXMAP, eglCopyBuffers(m_display, eglGetCurrentSurface(EGL_DRAW), 0));
 }
 
 TEST_F(StandardRules, AttributesAreChecked) {
@@ -89,4 +89,23 @@ TEST_F(StandardRules, ReusableSyncsWaitForTheirSignal) {
     EXPECT_EQ(eglClientWaitSync(m_display, sync, 0, 1000), EGL_TIMEOUT_EXPIRED);
     EXPECT_SUCCEEDS(eglDestroySync(m_display, sync));
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglDestroySync(m_display, sync));
+}
+
+TEST_F(StandardRules, OneDeviceStandsForTheHost) {
+    const auto queryDevices = procAddress<PFNEGLQUERYDEVICESEXTPROC>("eglQueryDevicesEXT");
+    const auto queryString = procAddress<PFNEGLQUERYDEVICESTRINGEXTPROC>("eglQueryDeviceStringEXT");
+    const auto queryAttrib = procAddress<PFNEGLQUERYDEVICEATTRIBEXTPROC>("eglQueryDeviceAttribEXT");
+    const auto queryDisplay = procAddress<PFNEGLQUERYDISPLAYATTRIBEXTPROC>("eglQueryDisplayAttribEXT");
+    EGLDeviceEXT device = EGL_NO_DEVICE_EXT;
+    EGLint count = 0;
+    EXPECT_SUCCEEDS(queryDevices(1, &device, &count));
+    EXPECT_EQ(count, 1);
+    EGLAttrib value = 0;
+    EXPECT_SUCCEEDS(queryDisplay(initialised(), EGL_DEVICE_EXT, &value));
+    EXPECT_EQ(value, reinterpret_cast<EGLAttrib>(device));
+    EXPECT_TRUE(queryString(device, EGL_EXTENSIONS));
+    EXPECT_FAILS(EGL_BAD_ATTRIBUTE, queryAttrib(device, EGL_DEVICE_EXT, &value));
+    EXPECT_FAILS(EGL_BAD_PARAMETER, queryDevices(0, &device, &count));
+    EXPECT_EQ(queryString(EGL_NO_DEVICE_EXT, EGL_EXTENSIONS), nullptr);
+    EXPECT_EQ(eglGetError(), EGL_BAD_DEVICE_EXT);
 }

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <functional>
 #include <iterator>
+#include <limits>
 #include <malloc.h>
 #include <thread>
 
@@ -74,10 +75,13 @@ long windows() {
     return count;
 }
 
-// In whole hundreds.
+// In whole hundreds. What loses memory by rule ends early: an hour of it would not fit the machine.
 long roundsFor(const Kind &kind, std::chrono::milliseconds time) {
+    constexpr long mostBytes = 1 << 30;
+    const long most = kind.lostPerRound ? mostBytes / kind.lostPerRound : std::numeric_limits<long>::max();
     long rounds = 0;
-    for (const auto end = std::chrono::steady_clock::now() + time; std::chrono::steady_clock::now() < end;)
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (rounds < most && std::chrono::steady_clock::now() < end)
         for (long i = 0; i < 100; ++i, ++rounds)
             kind.round();
     return rounds;

@@ -20,13 +20,11 @@ constexpr gid_t keepers = 1;
 
 class ForeignRights : public testing::Test {
 protected:
-    ForeignRights() {
-        fs::permissions(directory, fs::perms::all);
-        fs::copy_file(ZELVANE_FOREIGN_RIGHTS_PROBE, program);
-    }
+    ForeignRights() { fs::permissions(directory, fs::perms::all); }
     ~ForeignRights() override { fs::remove_all(directory); }
 
-    std::string outputOf(mode_t mode) {
+    std::string outputOf(const char *probe, mode_t mode) {
+        fs::copy_file(probe, program, fs::copy_options::overwrite_existing);
         EXPECT_TRUE(chown(program.c_str(), 0, keepers) == 0 && chmod(program.c_str(), mode) == 0);
         const std::string output = directory + "/output";
         const pid_t child = fork();
@@ -57,11 +55,15 @@ TEST_F(ForeignRights, NoVariableCountsAndNoFileIsMade) {
                                   {"KZRTRACE_LIB_PATH", own},
                                   {"TMPDIR", own},
                                   {"ZELVANE_DESKTOP_CLIENTS", "1"}};
-    EXPECT_EQ(outputOf(02755), "1 back ends in 1, profiles in '', preferences in /nonexistent/.kzrconfig/Tarnwell "
-                               "Graphics, links in /tmp/, device client\n");
+    EXPECT_EQ(outputOf(ZELVANE_BACK_END_RIGHTS_PROBE, 02755), "device client\n");
+    EXPECT_EQ(outputOf(ZELVANE_BACK_END_RIGHTS_PROBE, 00755), "desktop client\n");
+    EXPECT_EQ(outputOf(ZELVANE_FOREIGN_RIGHTS_PROBE, 02755),
+              "1 back ends in 1, profiles in '', preferences in /nonexistent/.kzrconfig/Tarnwell "
+              "Graphics, links in /tmp/, device client\n");
     EXPECT_FALSE(fs::exists(own));
-    EXPECT_EQ(outputOf(00755), "1 back ends in 2, profiles in '" + own + "', preferences in " + own + ", links in " +
-                                   own + "/, desktop client\n");
+    EXPECT_EQ(outputOf(ZELVANE_FOREIGN_RIGHTS_PROBE, 00755), "1 back ends in 2, profiles in '" + own +
+                                                                 "', preferences in " + own + ", links in " + own +
+                                                                 "/, desktop client\n");
     EXPECT_TRUE(fs::exists(own));
 }
 

@@ -85,11 +85,12 @@ TEST(DeviceProfile, AllowsExactlyItsVersions) {
     };
     for (const auto &[major, minor, token] : rows) {
         EXPECT_EQ(egl::isEsVersionAllowed(egl::defaultProfile, major, minor), token != 0) << major << "." << minor;
-        for (int32_t only = egl::ES1; only <= egl::ES32; ++only)
+        for (int32_t only = capability::es1_1; only <= capability::es3_2; ++only)
             EXPECT_EQ(egl::isEsVersionAllowed({{}, "one version", {only}}, major, minor), token == only) << only;
     }
-    EXPECT_TRUE(egl::isEsVersionAllowed({{}, "", {egl::ES1}}, 3, 2)) << "versions do not tell the default profile";
-    EXPECT_FALSE(egl::isEsVersionAllowed({{egl::Config()}, "", {egl::ES1}}, 3, 2)) << "while configs do";
+    EXPECT_TRUE(egl::isEsVersionAllowed({{}, "", {capability::es1_1}}, 3, 2))
+        << "versions do not tell the default profile";
+    EXPECT_FALSE(egl::isEsVersionAllowed({{egl::Config()}, "", {capability::es1_1}}, 3, 2)) << "while configs do";
 }
 
 } // namespace

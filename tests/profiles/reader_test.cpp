@@ -34,7 +34,8 @@ TEST(ProfileReader, ReadsEachElementByItsKind) {
 }
 
 TEST(ProfileReader, TakesConfigsAndVersionsFromWhatIsAProfile) {
-    const std::tuple<std::string, const char *, bool, bool, std::vector<int32_t>, std::set<int32_t>> rows[] = {
+    using namespace capability;
+    const std::tuple<std::string, const char *, bool, bool, std::vector<int32_t>, std::set<EsVersion>> rows[] = {
 #define TEXT(...) {__VA_ARGS__},
 #include "profiles/data/texts.def"
     };
@@ -50,7 +51,7 @@ TEST(ProfileReader, TakesConfigsAndVersionsFromWhatIsAProfile) {
             EXPECT_EQ(config.attributeOr0(EGL_LEVEL), 0) << "not the first";
         }
         EXPECT_EQ(found, ids);
-        EXPECT_EQ(isEsVersionAllowed(profile, 1, 1), !storesName || versions.contains(ES1)) << "no default profile";
+        EXPECT_EQ(isEsVersionAllowed(profile, 1, 1), !storesName || versions.contains(es1_1)) << "no default profile";
     }
     std::string nested; // beyond what the parser takes
     for (int i = 0; i < 100000; ++i)

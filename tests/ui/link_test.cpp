@@ -29,6 +29,13 @@ protected:
     UiLink link{noteRenderMode};
 };
 
+// Of this process, in memory.
+size_t residentBytes() {
+    size_t all = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> all >> resident;
+    return resident * static_cast<size_t>(sysconf(_SC_PAGESIZE));
+}
+
 void post(const UiLink &link, uint32_t type) {
     Message message{};
     message.header.type = type;
@@ -98,6 +105,14 @@ TEST(LinkFaults, WithoutAGuiRecordsVanishAndALateOneGetsNewConnectionsAlone) {
         EXPECT_FALSE(gui.isConnectedWithin(0));
     }
     EXPECT_EQ(renderModes(0), "") << "nothing was received, so nothing is carried out";
+}
+
+TEST(LinkFaults, RecordsThatNobodyWouldReadAreNotKept) {
+    const UiLink link(noteRenderMode);
+    const size_t before = residentBytes();
+    for (int i = 0; i < 5000; ++i)
+        link.post(backEndMarker());
+    EXPECT_LT(residentBytes(), before + 5000 * sizeof(Message) / 2);
 }
 
 TEST_F(Link, AGuiThatDoesNotReadLosesNothingAndCanStillDisconnect) {

@@ -240,6 +240,16 @@ TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
         ES(glDrawArrays)(GL_POINTS, 0, 1);
     }
     EXPECT_EQ(pixel(3, 0), green);
+    // The index that restarts is no vertex.
+    startColumns(3, 0);
+    ES(glEnable)(GL_PRIMITIVE_RESTART_FIXED_INDEX);
+    const GLubyte restarting[] = {1, 255, 0};
+    setColumns(guardedCopy(columns.data(), 2 * sizeof(GLfloat), false));
+    const auto drawRestarting = [&] {
+        for (int time = 0; time < 8; ++time)
+            ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_BYTE, restarting);
+    };
+    EXPECT_EQ(drawn(drawRestarting), "01");
 }
 
 TEST_P(BackEndClientArrays, TheStateIsTheApplications) {

@@ -19,11 +19,19 @@ protected:
         ES(glBindFramebuffer)(target, framebuffer);
         return pixel(3, 3)[0];
     }
+    // What is deleted while it is bound leaves the surface in its place.
+    void bind(GLenum target, GLuint framebuffer) {
+        const GLuint deleted = 41;
+        const bool isByDeletion = framebuffer == 0 && bindsSurfaceByDeletion;
+        ES(glBindFramebuffer)(target, isByDeletion ? deleted : framebuffer);
+        if (isByDeletion) ES(glDeleteFramebuffers)(1, &deleted);
+    }
     void blit(GLuint from, GLuint to) {
-        ES(glBindFramebuffer)(GL_READ_FRAMEBUFFER, from);
-        ES(glBindFramebuffer)(GL_DRAW_FRAMEBUFFER, to);
+        bind(GL_READ_FRAMEBUFFER, from);
+        bind(GL_DRAW_FRAMEBUFFER, to);
         ES(glBlitFramebuffer)(0, 0, size, size, 0, 0, size, size, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     }
+    bool bindsSurfaceByDeletion = false;
 };
 
 } // namespace
@@ -37,9 +45,11 @@ TEST_F(BackEndFramebuffers, BlitsConvertWhatHasSrgbValuesAndNothingElse) {
     const struct {
         GLenum format;
         GLubyte fromSurface, toSurface; // what becomes of 128, as the image's values
-    } rows[] = {{GL_RGBA8, 128, 128}, {GL_SRGB8_ALPHA8, 188, 55}};
+        bool isByDeletion;
+    } rows[] = {{GL_RGBA8, 128, 128, false}, {GL_SRGB8_ALPHA8, 188, 55, false}, {GL_SRGB8_ALPHA8, 188, 55, true}};
     for (const auto &row : rows) {
-        SCOPED_TRACE(testing::Message() << std::hex << row.format);
+        SCOPED_TRACE(testing::Message() << std::hex << row.format << ' ' << row.isByDeletion);
+        bindsSurfaceByDeletion = row.isByDeletion;
         ES(glBindFramebuffer)(GL_FRAMEBUFFER, 0);
         clear(0.5F, 0.5F, 0.5F);
         drawToImage(row.format);
@@ -100,4 +110,18 @@ TEST_F(BackEndFramebuffers, KeepTheNamesOfWhatWasDeletedWhileAttached) {
     ES(glBindRenderbuffer)(GL_RENDERBUFFER, 51);
     ES(glGetRenderbufferParameteriv)(GL_RENDERBUFFER, GL_RENDERBUFFER_INTERNAL_FORMAT, &name);
     EXPECT_EQ(name, GL_RGBA4) << "before it holds anything";
+}
+
+TEST_F(BackEndFramebuffers, GiveTheirDepthInTheUpperBitsOfAnInteger) {
+    start(3, 0);
+    ES(glBindRenderbuffer)(GL_RENDERBUFFER, 61);
+    ES(glRenderbufferStorage)(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, size, size);
+    ES(glBindFramebuffer)(GL_FRAMEBUFFER, 60);
+    ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, 61);
+    ES(glClearDepthf)(0.75F);
+    ES(glClear)(GL_DEPTH_BUFFER_BIT);
+    GLuint depth = 0;
+    ES(glReadPixels)(0, 0, 1, 1, GL_DEPTH_COMPONENT, GL_UNSIGNED_INT_24_8, &depth);
+    EXPECT_EQ(error(), GL_NO_ERROR);
+    EXPECT_NEAR(depth >> 8, 0.75 * 0xFFFFFF, 1);
 }

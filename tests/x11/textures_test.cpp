@@ -65,6 +65,22 @@ TEST_F(BackEndTextures, FormatsThatOnlyEsHasAreWhatEsSays) {
     EXPECT_EQ(sampled()[0], 128);
 }
 
+TEST_F(BackEndTextures, TheHostEncodesPixelsWhereAnExtensionSaysSo) {
+    startTextured(3, 1);
+    constexpr GLint dxt3 = 0x83F2, signedRgtc2 = 0x8DBE, bptc = 0x8E8C, etc2 = 0x9278;
+    const std::vector<GLubyte> texels(64, 255);
+    const auto encode = [&](GLint internal, GLenum format, GLenum type) {
+        ES(glTexImage2D)(GL_TEXTURE_2D, 0, internal, 4, 4, 0, format, type, texels.data());
+        return error();
+    };
+    EXPECT_EQ(encode(dxt3, GL_RGBA, GL_UNSIGNED_BYTE), GL_NO_ERROR);
+    EXPECT_EQ(level(GL_TEXTURE_INTERNAL_FORMAT), dxt3);
+    EXPECT_EQ(sampled(), (Pixel{255, 255, 255, 255}));
+    EXPECT_EQ(encode(signedRgtc2, GL_RG, GL_BYTE), GL_NO_ERROR);
+    EXPECT_EQ(encode(bptc, GL_RGBA, GL_UNSIGNED_BYTE), GL_NO_ERROR);
+    EXPECT_NE(encode(etc2, GL_RGBA, GL_UNSIGNED_BYTE), GL_NO_ERROR) << "blocks alone";
+}
+
 TEST_F(BackEndTextures, StoragesAndPartsOfImagesHaveThemToo) {
     startTextured(3, 0);
     const GLubyte bytes[] = {51, 102};

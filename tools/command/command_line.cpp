@@ -103,6 +103,10 @@ Word Verb::word(const std::string &name, std::string &value, const std::string &
     return Word(*m_app->add_option(name, value, help)->type_name(""));
 }
 
+Word Verb::words(const std::string &name, std::vector<std::string> &values, const std::string &help) const {
+    return Word(*m_app->add_option(name, values, help)->type_name(""));
+}
+
 void Verb::action(const std::function<void()> &action) const {
     m_app->callback([app = m_app, action] {
         if (app->get_subcommands().empty()) action();

@@ -1,17 +1,25 @@
-// Pieces of JSON.
+// How the command writes JSON.
 #pragma once
 
 #include <string>
-#include <string_view>
 
-// A text in its quotes. What is no UTF-8, as where a text was cut, becomes the replacement character.
-[[nodiscard]] std::string jsonText(std::string_view text);
+#include <nlohmann/json.hpp>
 
-// The items, each made by the function, between "[]" or "{}".
+// Fields stay in the order in which they are added.
+using Json = nlohmann::ordered_json;
+
+// On one line. What is no UTF-8, as where a text was cut, becomes replacement characters.
+[[nodiscard]] std::string jsonLine(const Json &json);
+
+// An object with a field a line, for people as well as for programs. A list of the field rows, if one is named, has an
+// item a line.
+[[nodiscard]] std::string jsonFields(const Json &object, const std::string &rows = {});
+
+// What the function makes of each item.
 template <typename Items, typename Make>
-std::string jsonList(const char *brackets, const Items &items, Make make) {
-    std::string text(1, brackets[0]);
+Json jsonList(const Items &items, Make make) {
+    Json list = Json::array();
     for (const auto &item : items)
-        text += (text.size() > 1 ? ", " : "") + make(item);
-    return text + brackets[1];
+        list.push_back(make(item));
+    return list;
 }

@@ -53,6 +53,8 @@ public:
                        const std::string &help) const;
     // A word that is no option.
     Word word(const std::string &name, std::string &value, const std::string &help) const;
+    // Several of them.
+    Word words(const std::string &name, std::vector<std::string> &values, const std::string &help) const;
     // Runs when the verb was given and none below it.
     void action(const std::function<void()> &action) const;
 

@@ -7,6 +7,9 @@
 
 #include "tools/command/verb.h"
 
+void addExplainCommand(const Verb &top);
+// program: as that of run.
+void addLabCommand(const Verb &top, const std::vector<std::string> &program);
 void addMonitorCommand(const Verb &top);
 void addProfilesCommand(const Verb &top);
 void addReportCommand(const Verb &top);

@@ -8,6 +8,16 @@ _zelvane_profiles() {
     done < <(zelvane profiles --names 2>/dev/null)
 }
 
+_zelvane_attributes='
+    EGL_BUFFER_SIZE= EGL_RED_SIZE= EGL_GREEN_SIZE= EGL_BLUE_SIZE= EGL_LUMINANCE_SIZE= EGL_ALPHA_SIZE=
+    EGL_ALPHA_MASK_SIZE= EGL_BIND_TO_TEXTURE_RGB= EGL_BIND_TO_TEXTURE_RGBA= EGL_COLOR_BUFFER_TYPE=
+    EGL_COLOR_COMPONENT_TYPE_EXT= EGL_CONFIG_CAVEAT= EGL_CONFIG_ID= EGL_CONFORMANT= EGL_DEPTH_SIZE= EGL_LEVEL=
+    EGL_MATCH_NATIVE_PIXMAP= EGL_MAX_PBUFFER_WIDTH= EGL_MAX_PBUFFER_HEIGHT= EGL_MAX_PBUFFER_PIXELS=
+    EGL_MAX_SWAP_INTERVAL= EGL_MIN_SWAP_INTERVAL= EGL_NATIVE_RENDERABLE= EGL_NATIVE_VISUAL_ID=
+    EGL_NATIVE_VISUAL_TYPE= EGL_RENDERABLE_TYPE= EGL_SAMPLE_BUFFERS= EGL_SAMPLES= EGL_STENCIL_SIZE=
+    EGL_SURFACE_TYPE= EGL_TRANSPARENT_TYPE= EGL_TRANSPARENT_RED_VALUE= EGL_TRANSPARENT_GREEN_VALUE=
+    EGL_TRANSPARENT_BLUE_VALUE='
+
 # Completes the program of "run" and its words, which begin at the index.
 _zelvane_program() {
     local first=$1
@@ -24,7 +34,7 @@ _zelvane() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]} index
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'run profiles use strict report monitor --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'run lab explain profiles use strict report monitor --help --version' -- "$word")
         return
     fi
 
@@ -32,9 +42,16 @@ _zelvane() {
     [[ $word == = ]] && word=
     [[ $before == = ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
     case $verb:$before in
-    run:--profile) _zelvane_profiles "${word//\\/}"; return ;;
+    run:--profile | explain:--profile) _zelvane_profiles "${word//\\/}"; return ;;
     run:--backends | use:--directory) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
-    profiles:check) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+    lab:--devices | lab:--reference)
+        _zelvane_profiles "${word//\\/}"
+        [[ Desktop == "$word"* ]] && COMPREPLY+=(Desktop)
+        return
+        ;;
+    lab:--out) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
+    lab:--fail-on) mapfile -t COMPREPLY < <(compgen -W 'start error refusal lacking picture' -- "$word"); return ;;
+    profiles:check | run:--journal) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
     profiles:show) _zelvane_profiles "${word//\\/}"; return ;;
     monitor:--level) mapfile -t COMPREPLY < <(compgen -W 'info warning error' -- "$word"); return ;;
     monitor:--type)
@@ -46,11 +63,12 @@ _zelvane() {
     monitor:--process) mapfile -t COMPREPLY < <(compgen -W "$(ps -u "$UID" -o pid= 2>/dev/null)" -- "$word"); return ;;
     esac
 
-    if [[ $verb == run ]]; then
+    if [[ $verb == run || $verb == lab ]]; then
         for ((index = 2; index <= COMP_CWORD; ++index)); do
             case ${COMP_WORDS[index]} in
             --) _zelvane_program $((index + 1)); return ;;
-            --profile | --backends) [[ ${COMP_WORDS[index + 1]-} == = ]] && ((++index)); ((++index)) ;;
+            --profile | --backends | --journal | --devices | --frames | --seconds | --out | --jobs | --reference | --fail-on)
+                [[ ${COMP_WORDS[index + 1]-} == = ]] && ((++index)); ((++index)) ;;
             -*) ;;
             '') ((index < COMP_CWORD)) || { _zelvane_program "$index"; return; } ;;
             *) _zelvane_program "$index"; return ;;
@@ -59,9 +77,14 @@ _zelvane() {
     fi
     local words
     case $verb in
-    run) words='--profile --bare --strict --loose --backends --monitor --help' ;;
+    run) words='--profile --bare --strict --loose --backends --journal --monitor --help' ;;
+    lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
     profiles) words='show check --json --names --help' ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
+    explain)
+        words='--profile --bare --device-rules --json --help'
+        [[ $word == -* ]] || { compopt -o nospace; words=$_zelvane_attributes; }
+        ;;
     strict) words='on off --help' ;;
     report) words='--extensions --json --help' ;;
     monitor) words='--json --once --level --process --type --web --open --help' ;;

@@ -22,7 +22,7 @@ function __zelvane_profiles
     zelvane profiles --names 2>/dev/null
 end
 
-# The words of the program of "run", which begins with the first word that is no option.
+# The words of the program of "run" or "lab", which begins with the first word that is no option.
 function __zelvane_program
     set -l words (commandline -opc)
     set -e words[1..2]
@@ -31,7 +31,7 @@ function __zelvane_program
             case --
                 set -e words[1]
                 break
-            case --profile --backends
+            case --profile --backends --journal --devices --frames --seconds --out --jobs --reference --fail-on
                 set -e words[1..2]
             case '-*'
                 set -e words[1]
@@ -46,6 +46,8 @@ complete -c zelvane -f
 complete -c zelvane -n __zelvane_has_verb -l version -d 'Print the version'
 complete -c zelvane -s h -l help -d 'List the options'
 complete -c zelvane -n __zelvane_has_verb -a run -d 'Run a program on this library'
+complete -c zelvane -n __zelvane_has_verb -a lab -d 'Run a program on every device'
+complete -c zelvane -n __zelvane_has_verb -a explain -d 'Tell which configs a list gives, and why'
 complete -c zelvane -n __zelvane_has_verb -a profiles -d 'List the device profiles'
 complete -c zelvane -n __zelvane_has_verb -a use -d 'Choose the device that programs find from now on'
 complete -c zelvane -n __zelvane_has_verb -a strict -d 'Refuse contexts that the host cannot fully carry'
@@ -57,8 +59,34 @@ complete -c zelvane -n '__zelvane_has_verb run' -l strict -d 'Refuse contexts th
 complete -c zelvane -n '__zelvane_has_verb run' -l bare -d 'No device'
 complete -c zelvane -n '__zelvane_has_verb run' -l loose -d 'Accept contexts that the host does not wholly carry'
 complete -c zelvane -n '__zelvane_has_verb run' -l backends -xa '(__fish_complete_directories)' -d 'OpenGL ES libraries'
+complete -c zelvane -n '__zelvane_has_verb run' -l journal -rF -d 'The file of the journal'
 complete -c zelvane -n '__zelvane_has_verb run' -l monitor -d 'Show meanwhile what the monitor would'
 complete -c zelvane -n '__zelvane_has_verb run' -a '(__zelvane_program)'
+
+complete -c zelvane -n '__zelvane_has_verb lab' -l devices -xa 'Desktop (__zelvane_profiles)' -d 'These devices'
+complete -c zelvane -n '__zelvane_has_verb lab' -l all -d 'All devices'
+complete -c zelvane -n '__zelvane_has_verb lab' -l frames -x -d 'End each run with that frame'
+complete -c zelvane -n '__zelvane_has_verb lab' -l seconds -x -d 'Or so long after its first frame'
+complete -c zelvane -n '__zelvane_has_verb lab' -l out -xa '(__fish_complete_directories)' -d 'Where the files go'
+complete -c zelvane -n '__zelvane_has_verb lab' -l jobs -x -d 'Devices at a time'
+complete -c zelvane -n '__zelvane_has_verb lab' -l here -d 'Run on the present display'
+complete -c zelvane -n '__zelvane_has_verb lab' -l reference -xa 'Desktop (__zelvane_profiles)' -d 'Whose picture counts'
+complete -c zelvane -n '__zelvane_has_verb lab' -l fail-on -xa 'start error refusal lacking picture' -d 'What a device fails on'
+complete -c zelvane -n '__zelvane_has_verb lab' -a '(__zelvane_program)'
+
+complete -c zelvane -n '__zelvane_has_verb explain' -l profile -xa '(__zelvane_profiles)' -d 'The device'
+complete -c zelvane -n '__zelvane_has_verb explain' -l bare -d 'No device'
+complete -c zelvane -n '__zelvane_has_verb explain' -l device-rules -d 'Choose as the device does'
+complete -c zelvane -n '__zelvane_has_verb explain' -l json -d 'Print one JSON object'
+complete -c zelvane -n '__zelvane_has_verb explain' -a '
+    EGL_BUFFER_SIZE= EGL_RED_SIZE= EGL_GREEN_SIZE= EGL_BLUE_SIZE= EGL_LUMINANCE_SIZE= EGL_ALPHA_SIZE=
+    EGL_ALPHA_MASK_SIZE= EGL_BIND_TO_TEXTURE_RGB= EGL_BIND_TO_TEXTURE_RGBA= EGL_COLOR_BUFFER_TYPE=
+    EGL_COLOR_COMPONENT_TYPE_EXT= EGL_CONFIG_CAVEAT= EGL_CONFIG_ID= EGL_CONFORMANT= EGL_DEPTH_SIZE= EGL_LEVEL=
+    EGL_MATCH_NATIVE_PIXMAP= EGL_MAX_PBUFFER_WIDTH= EGL_MAX_PBUFFER_HEIGHT= EGL_MAX_PBUFFER_PIXELS=
+    EGL_MAX_SWAP_INTERVAL= EGL_MIN_SWAP_INTERVAL= EGL_NATIVE_RENDERABLE= EGL_NATIVE_VISUAL_ID=
+    EGL_NATIVE_VISUAL_TYPE= EGL_RENDERABLE_TYPE= EGL_SAMPLE_BUFFERS= EGL_SAMPLES= EGL_STENCIL_SIZE=
+    EGL_SURFACE_TYPE= EGL_TRANSPARENT_TYPE= EGL_TRANSPARENT_RED_VALUE= EGL_TRANSPARENT_GREEN_VALUE=
+    EGL_TRANSPARENT_BLUE_VALUE='
 
 complete -c zelvane -n '__zelvane_profiles_verb' -l json -d 'Print one JSON object'
 complete -c zelvane -n '__zelvane_profiles_verb' -l names -d 'Print the names alone'

@@ -1,56 +1,44 @@
 #include "tools/monitor/json_record.h"
 
-#include <chrono>
-#include <cstdio>
-
 #include "tools/command/json.h"
 #include "tools/monitor/record_fields.h"
+#include "tools/monitor/time_text.h"
 
 using ui::messages::Message;
 
 namespace {
 
 // A number that stands for nothing stays a number.
-std::string catalogueText(FieldKind kind, uint32_t value) {
+Json catalogueValue(FieldKind kind, uint32_t value) {
     const std::string name = valueName(kind, value);
-    return name.empty() ? std::to_string(value) : jsonText(name);
+    return name.empty() ? Json(value) : Json(name);
 }
 
-std::string valueText(const Message &message, const Field &field) {
+Json fieldValue(const Message &message, const Field &field) {
     switch (field.kind) {
     case FieldKind::Unsigned:
     case FieldKind::Unsigned64:
-        return std::to_string(numberAt(message, field));
+        return numberAt(message, field);
     case FieldKind::Signed:
-        return std::to_string(signedAt(message, field));
+        return signedAt(message, field);
     case FieldKind::Flag:
-        return numberAt(message, field) ? "true" : "false";
+        return numberAt(message, field) != 0;
     case FieldKind::Text:
-        return jsonText(textAt(message, field));
+        return textAt(message, field);
     case FieldKind::List:
     case FieldKind::HostExtensionList:
-        return jsonList("[]", listAt(message, field), [&](uint32_t value) { return catalogueText(field.kind, value); });
+        return jsonList(listAt(message, field), [&](uint32_t value) { return catalogueValue(field.kind, value); });
     default:
-        return catalogueText(field.kind, static_cast<uint32_t>(numberAt(message, field)));
+        return catalogueValue(field.kind, static_cast<uint32_t>(numberAt(message, field)));
     }
 }
 
-// In UTC, to the millisecond: "2031-12-24T18:00:00.000Z".
-std::string timeText() {
-    using namespace std::chrono;
-    const auto now = floor<milliseconds>(system_clock::now());
-    const time_t seconds = system_clock::to_time_t(now);
-    tm parts{};
-    gmtime_r(&seconds, &parts);
-    char text[32];
-    const size_t length = strftime(text, sizeof text, "%FT%T", &parts);
-    snprintf(text + length, sizeof text - length, ".%03dZ", static_cast<int>(now.time_since_epoch().count() % 1000));
-    return text;
-}
-
-std::string head(const MonitoredApplication &application, const std::string &type) {
-    return "{\"time\":\"" + timeText() + "\",\"pid\":" + std::to_string(application.processNumber()) +
-           ",\"command\":" + jsonText(application.commandName()) + ",\"type\":\"" + type + '"';
+// The time is in UTC: "2031-12-24T18:00:00.000Z".
+Json head(const MonitoredApplication &application, const std::string &type) {
+    return {{"time", timeTextNow(gmtime_r, "%FT%T") + "Z"},
+            {"pid", application.processNumber()},
+            {"command", application.commandName()},
+            {"type", type}};
 }
 
 } // namespace
@@ -58,14 +46,14 @@ std::string head(const MonitoredApplication &application, const std::string &typ
 std::string jsonRecord(const MonitoredApplication &application, const Message &message) {
     const uint32_t type = message.header.type;
     const RecordKind *kind = recordKind(type);
-    std::string line = head(application, recordName(type));
-    if (hasFrame(message)) line += ",\"frame\":" + std::to_string(message.header.frameStamp);
-    if (!kind) line += ",\"number\":" + std::to_string(type);
+    Json json = head(application, recordName(type));
+    if (hasFrame(message)) json["frame"] = message.header.frameStamp;
+    if (!kind) json["number"] = type;
     for (const Field &field : kind ? kind->fields : std::vector<Field>{})
-        line += std::string(",\"") + field.name + "\":" + valueText(message, field);
-    return line + '}';
+        json[field.name] = fieldValue(message, field);
+    return jsonLine(json);
 }
 
 std::string jsonEnd(const MonitoredApplication &application) {
-    return head(application, endedName) + '}';
+    return jsonLine(head(application, endedName));
 }

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <ctime>
 #include <fcntl.h>
 #include <fstream>
 #include <sys/file.h>
@@ -11,6 +10,7 @@
 
 #include "foundation/product.h"
 #include "tools/command/failure.h"
+#include "tools/monitor/time_text.h"
 
 namespace {
 
@@ -46,13 +46,6 @@ std::string processText(pid_t number) {
     return "process " + std::to_string(number) + (name.empty() ? "" : " (" + name + ")");
 }
 
-std::string timeText(time_t seconds) {
-    tm parts{};
-    localtime_r(&seconds, &parts);
-    char text[32];
-    return {text, strftime(text, sizeof text, "%F %T", &parts)};
-}
-
 // Connects as an application would, without waiting.
 void failIfSomebodyListens(const std::string &path, const struct stat &file) {
     sockaddr_un address{};
@@ -66,7 +59,7 @@ void failIfSomebodyListens(const std::string &path, const struct stat &file) {
     // A full queue is that of somebody who listens.
     if (error == 0 || error == EAGAIN) {
         failCommand(processText(listener) + " listens at \"" + path + "\" already, since " +
-                    timeText(file.st_mtim.tv_sec));
+                    timeText(localtime_r, "%F %T", file.st_mtim.tv_sec));
     }
     if (error == EACCES)
         failCommand("\"" + path + "\" is closed to us; it belongs to user " + std::to_string(file.st_uid));

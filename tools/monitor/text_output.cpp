@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <map>
 #include <unistd.h>
 
@@ -12,6 +11,7 @@
 #include "tools/monitor/output.h"
 #include "tools/monitor/received_report.h"
 #include "tools/monitor/record_fields.h"
+#include "tools/monitor/time_text.h"
 
 using ui::messages::Message;
 
@@ -72,19 +72,6 @@ Style styleOf(uint32_t type) {
     return type == ZV_LOG_ERROR ? Style::error : type == ZV_LOG_WARNING ? Style::warning : Style::plain;
 }
 
-// Local, to the millisecond.
-std::string clockText() {
-    using namespace std::chrono;
-    const auto now = floor<milliseconds>(system_clock::now());
-    const time_t seconds = system_clock::to_time_t(now);
-    tm parts{};
-    localtime_r(&seconds, &parts);
-    char text[16];
-    const size_t length = strftime(text, sizeof text, "%T", &parts);
-    snprintf(text + length, sizeof text - length, ".%03d", static_cast<int>(now.time_since_epoch().count() % 1000));
-    return text;
-}
-
 class TextOutput final : public MonitorOutput {
 public:
     void listening(const std::string &path, bool takesCommands) override {
@@ -119,8 +106,8 @@ private:
     void line(const MonitoredApplication &application, const std::string &text, Style style = Style::plain) const {
         const std::string name =
             std::to_string(application.processNumber()) + ' ' + printable(application.commandName());
-        printf("%s %s  %s\n", styled(clockText(), Style::faint).c_str(), styled(name, Style::name).c_str(),
-               styled(text, style).c_str());
+        printf("%s %s  %s\n", styled(timeTextNow(localtime_r, "%T"), Style::faint).c_str(),
+               styled(name, Style::name).c_str(), styled(text, style).c_str());
     }
 
     [[nodiscard]] std::string styled(const std::string &text, Style style) const {

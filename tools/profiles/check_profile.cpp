@@ -35,6 +35,11 @@ bool isNumber(const char *text) {
     return result.ec == std::errc() && result.ptr == end;
 }
 
+bool isChildOf(std::string_view container, std::string_view name) {
+    const egl::ConfigElementRule *const group = egl::findElementRule(container);
+    return group && std::ranges::find(group->children, name) != group->children.end();
+}
+
 class Check {
 public:
     Check(std::string_view text, const std::string &fileName) : m_text(text), m_fileName(fileName) {}
@@ -158,21 +163,19 @@ void Check::checkConfig(const XMLElement &config) {
 void Check::checkDescendants(const XMLElement &parent, const std::string &container, std::map<std::string, int> &seen) {
     for (auto *child = parent.FirstChildElement(); child; child = child->NextSiblingElement()) {
         const std::string name = child->Name();
-        const egl::ConfigElementRule rule = egl::findElementRule(name);
-        const egl::ConfigElementRule outer = egl::findElementRule(container);
+        const egl::ConfigElementRule *const rule = egl::findElementRule(name);
         const int line = child->GetLineNum();
-        if (rule.attribute != 0) {
+        if (rule && rule->reader) {
             if (!container.empty()) problem(line, name + " inside " + container + " counts as the config's own");
             const auto [last, isFirst] = seen.insert({name, line});
-            if (!isFirst && rule.reader != egl::readBits) {
+            if (!isFirst && rule->reader != egl::readBits) {
                 problem(last->second, name + " stands again further down, and the last one counts");
                 last->second = line;
             }
-            checkValue(rule, *child);
-        } else if (rule.reader) {
+            checkValue(*rule, *child);
+        } else if (rule) {
             note(line, name + " is never read: the library's own values stand");
-        } else if (std::none_of(outer.children, outer.children + outer.childCount,
-                                [&](const auto &known) { return known.name == name; })) {
+        } else if (!isChildOf(container, name)) {
             problem(line, name + " is no element of " + (container.empty() ? "config" : container) + ": ignored");
         }
         checkDescendants(*child, name, seen);
@@ -183,8 +186,7 @@ void Check::checkValue(const egl::ConfigElementRule &rule, const XMLElement &ele
     const std::string text = textOf(element);
     egl::Config config;
     config.setAttribute(rule.attribute, 0);
-    egl::ConfigMaker maker(config);
-    rule.reader(rule, element, maker);
+    rule.reader(rule, element, config);
     const int32_t value = config.attributeOr0(rule.attribute);
 
     std::string reading;

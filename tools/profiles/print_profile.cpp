@@ -82,14 +82,14 @@ void printBlock(const XMLElement &block) {
 
 } // namespace
 
-const char *versionName(int32_t version) {
+const char *versionName(capability::EsVersion version) {
     static constexpr const char *names[] = {"", "1.x", "2.0", "3.0", "3.1", "3.2"};
     return names[version];
 }
 
 std::string versionsText(const egl::DeviceProfile &profile) {
     std::string list;
-    for (const int32_t version : profile.esVersions)
+    for (const capability::EsVersion version : profile.esVersions)
         list += (list.empty() ? "" : ", ") + std::string(versionName(version));
     return list.empty() ? "none" : list;
 }

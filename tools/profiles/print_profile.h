@@ -6,8 +6,8 @@
 
 #include "profiles/device_profile.h"
 
-// Of an EsVersion: "1.x" or "2.0".
-[[nodiscard]] const char *versionName(int32_t version);
+// "1.x" or "2.0".
+[[nodiscard]] const char *versionName(capability::EsVersion version);
 
 // "1.x, 2.0", or "none".
 [[nodiscard]] std::string versionsText(const egl::DeviceProfile &profile);

@@ -47,17 +47,17 @@ std::string inForceText(const ProfileList &list) {
     return list.chosen;
 }
 
-std::string orNull(const std::string &text) {
-    return text.empty() ? "null" : jsonText(text);
+Json orNull(const std::string &text) {
+    return text.empty() ? Json(nullptr) : Json(text);
 }
 
-std::string jsonRow(const ListedProfile &listed) {
+Json jsonRow(const ListedProfile &listed) {
     static constexpr const char *places[] = {"built in", "file", "hidden file"};
-    std::string text = "{\"name\": " + jsonText(listed.name) + ", \"where\": \"" + places[listed.place] + '"';
-    if (listed.place == ListedProfile::hiddenFile) return text + '}';
-    text += ", \"esVersions\": " +
-            jsonList("[]", listed.profile.esVersions, [](int32_t version) { return jsonText(versionName(version)); });
-    return text + ", \"configs\": " + std::to_string(listed.profile.configs.size()) + '}';
+    Json json = {{"name", listed.name}, {"where", places[listed.place]}};
+    if (listed.place == ListedProfile::hiddenFile) return json;
+    json["esVersions"] = jsonList(listed.profile.esVersions, versionName);
+    json["configs"] = listed.profile.configs.size();
+    return json;
 }
 
 } // namespace
@@ -96,12 +96,11 @@ std::string listAsText(const ProfileList &list) {
 
 std::string listAsJson(const ProfileList &list) {
     const ListedProfile *inForce = list.inForce();
-    std::string text = "{\n  \"profilesDirectory\": " + orNull(list.directory) +
-                       ",\n  \"chosen\": " + orNull(list.chosen) +
-                       ",\n  \"inForce\": " + orNull(inForce ? inForce->name : "") + ",\n  \"profiles\": [";
-    for (const ListedProfile &listed : list.profiles)
-        text += (&listed == &list.profiles.front() ? "\n    " : ",\n    ") + jsonRow(listed);
-    return text + "\n  ]\n}\n";
+    return jsonFields({{"profilesDirectory", orNull(list.directory)},
+                       {"chosen", orNull(list.chosen)},
+                       {"inForce", orNull(inForce ? inForce->name : "")},
+                       {"profiles", jsonList(list.profiles, jsonRow)}},
+                      "profiles");
 }
 
 std::string listAsNames(const ProfileList &list) {

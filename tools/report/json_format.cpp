@@ -7,37 +7,38 @@ using namespace capability;
 
 namespace {
 
-std::string esVersion(EsVersion version) {
-    return version ? jsonText(esVersionName(version)) : "null";
+// A version that is refused is null.
+Json esVersion(EsVersion version) {
+    return version ? Json(esVersionName(version)) : Json(nullptr);
 }
 
-std::string extensionNames(const SystemReport &report) {
-    std::vector<HostExtension> present;
+Json extensionNames(const SystemReport &report) {
+    Json names = Json::array();
     for (const auto &[extension, isPresent] : report.extensions) {
-        if (isPresent) present.push_back(extension);
+        if (isPresent) names.push_back(hostExtensionName(extension));
     }
-    return jsonList("[]", present, [](HostExtension id) { return jsonText(hostExtensionName(id)); });
+    return names;
 }
 
 } // namespace
 
 std::string reportAsJson(const SystemReport &report, const VersionAnswers &answers, bool withExtensions) {
-    std::string text = "{\n  \"openGL\": " + jsonText(glVersionName(report.glVersion)) + ",\n  \"features\": ";
-    text += jsonList("{}", report.features, [](const auto &entry) {
-        return jsonText(entry.first) + ": " + (entry.second->available ? "true" : "false");
+    Json features = Json::object();
+    for (const auto &[name, feature] : report.features)
+        features[name] = feature->available;
+    Json json = {{"openGL", glVersionName(report.glVersion)}, {"features", features}};
+    json["requests"] = jsonList(answers.versions, [](const VersionAnswer &answer) -> Json {
+        return {{"requested", esVersion(answer.requested)},
+                {"loose", esVersion(answer.loose)},
+                {"strict", esVersion(answer.strict)}};
     });
-    // A version that is refused is null.
-    text += ",\n  \"requests\": " + jsonList("[]", answers.versions, [](const VersionAnswer &answer) {
-                return "{\"requested\": " + esVersion(answer.requested) + ", \"loose\": " + esVersion(answer.loose) +
-                       ", \"strict\": " + esVersion(answer.strict) + "}";
-            });
-    text += ",\n  \"heldBack\": " + jsonList("[]", answers.heldBack, [](const auto &entry) {
-                return "{\"feature\": " + jsonText(descriptorOf(entry.first).name) +
-                       ", \"versions\": " + jsonList("[]", entry.second, esVersion) +
-                       ", \"reason\": " + jsonText(failureOf(entry.first)) + "}";
-            });
-    if (withExtensions) text += ",\n  \"extensions\": " + extensionNames(report);
-    return text + "\n}\n";
+    json["heldBack"] = jsonList(answers.heldBack, [](const auto &entry) -> Json {
+        return {{"feature", descriptorOf(entry.first).name},
+                {"versions", jsonList(entry.second, esVersion)},
+                {"reason", failureOf(entry.first)}};
+    });
+    if (withExtensions) json["extensions"] = extensionNames(report);
+    return jsonFields(json);
 }
 
 } // namespace tools

@@ -18,6 +18,9 @@ public:
     // user's file cannot be read.
     explicit PrivatePreferences(const Wishes &wishes);
 
+    // Where the copy lies, and other files of the run.
+    [[nodiscard]] const std::string &directory() const { return m_directory.path(); }
+
 private:
     TemporaryDirectory m_directory;
 };

@@ -1,6 +1,7 @@
 // zelvane run: any program on this library, without installing it and without a trace in the user's preferences.
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <optional>
 #include <thread>
 #include <unistd.h>
@@ -9,6 +10,7 @@
 #include "tools/command/verbs.h"
 #include "tools/monitor/monitor.h"
 #include "tools/run/checks.h"
+#include "tools/run/held_refusals.h"
 #include "tools/run/libraries.h"
 #include "tools/run/private_preferences.h"
 #include "tools/run/program.h"
@@ -20,6 +22,7 @@ struct Options {
     bool strict = false;
     bool loose = false;
     std::string backEnds;
+    std::string journal; // a file
     bool monitor = false;
 };
 
@@ -57,12 +60,17 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
     setenv("LD_LIBRARY_PATH", path.c_str(), 1);
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+    // The program may change its directory before it asks for EGL.
+    if (!options.journal.empty()) setenv("ZELVANE_JOURNAL", std::filesystem::absolute(options.journal).c_str(), 1);
     checkXServer();
     checkProgram(words, libraries.directory());
 
+    const HeldRefusals refusals(preferences.directory());
     std::optional<WatchedRun> watched;
     if (options.monitor) watched.emplace();
-    return signals.relayTo(startProgram(words));
+    const int status = signals.relayTo(startProgram(words));
+    refusals.print();
+    return status;
 }
 
 } // namespace
@@ -82,6 +90,7 @@ void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
     const Word strict = run.flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
     run.flag("--loose", options->loose, "accept contexts that the host does not wholly carry").excludes(strict);
     run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries go before our own");
+    run.option("--journal", options->journal, "FILE", "add what happens at EGL to a file, a JSON object a line");
     run.flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
     run.action([options, &program] {
         if (program.empty()) throw UsageError{"PROGRAM is missing"};

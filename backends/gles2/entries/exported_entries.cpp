@@ -1,6 +1,6 @@
 // The plain names of OpenGL ES 2.0 to 3.2, for programs that link them. Each finds its function at its first call;
 // afterwards it costs one load and a jump. Without a host OpenGL they do nothing and give 0.
-#include "common/per_back_end/entry_lookup.h"
+#include "common/per_back_end/plain_names.h"
 
 #include <zelvane/back_end.h>
 
@@ -8,7 +8,7 @@
 
 #define EXPORT(result, name, parameters, arguments)                                                                    \
     extern "C" ZV_EXPORT result GL_APIENTRY name parameters {                                                          \
-        static const auto function = reinterpret_cast<decltype(&::name)>(resolveExport(#name));                        \
+        static const auto function = reinterpret_cast<decltype(&::name)>(resolvePlainName(#name));                        \
         return function ? function arguments : static_cast<result>(0);                                                 \
     }
 #include "data/exported_entries.def"

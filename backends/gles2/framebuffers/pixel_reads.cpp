@@ -61,6 +61,12 @@ GLenum readError(const EsContext &context, GLenum format, GLenum type) {
     return !isComplete() || isRead(context, format, type) ? GL_NO_ERROR : GL_INVALID_OPERATION;
 }
 
+// A depth in the upper 24 of 32 bits, which desktop OpenGL has with a stencil alone.
+GLenum hostReadType(GLenum format, GLenum type) {
+    const bool isDepth = format == GL_DEPTH_COMPONENT && type == GL_UNSIGNED_INT_24_8;
+    return isDepth ? GL_UNSIGNED_INT : hostType(type);
+}
+
 } // namespace
 
 namespace overrides {
@@ -69,7 +75,7 @@ void GL_APIENTRY readPixels(GLint x, GLint y, GLsizei width, GLsizei height, GLe
     EsContext *const context = EsContext::current();
     const GLenum error = context ? readError(*context, format, type) : GL_NO_ERROR;
     if (error != GL_NO_ERROR) return context->raise(error);
-    hostGl().readPixels(x, y, width, height, format, hostType(type), pixels);
+    hostGl().readPixels(x, y, width, height, format, hostReadType(format, type), pixels);
 }
 
 void GL_APIENTRY readnPixels(GLint x, GLint y, GLsizei width, GLsizei height, GLenum format, GLenum type,
@@ -77,7 +83,7 @@ void GL_APIENTRY readnPixels(GLint x, GLint y, GLsizei width, GLsizei height, GL
     EsContext *const context = EsContext::current();
     const GLenum error = context ? readError(*context, format, type) : GL_NO_ERROR;
     if (error != GL_NO_ERROR) return context->raise(error);
-    hostGl().readnPixels(x, y, width, height, format, hostType(type), bufSize, data);
+    hostGl().readnPixels(x, y, width, height, format, hostReadType(format, type), bufSize, data);
 }
 
 } // namespace overrides

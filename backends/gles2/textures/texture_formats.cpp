@@ -23,10 +23,15 @@ struct Sized {
 struct Client {
     GLenum format, hostFormat;
 };
+struct Encoded {
+    GLenum internal;
+    const char *extension;
+};
 
 #define UNSIZED(...)
 #define SIZED(...)
 #define CLIENT(...)
+#define ENCODED(...)
 
 #undef UNSIZED
 #define UNSIZED(format, type, hostInternal, hostFormat, swizzle) {format, type, hostInternal, hostFormat, swizzle},
@@ -49,6 +54,15 @@ constexpr Sized sizedFormats[] = {
 constexpr Client clientFormats[] = {
 #include "textures/texture_formats.def"
 };
+#undef CLIENT
+#define CLIENT(...)
+
+#undef ENCODED
+#define ENCODED(internal, extension) {internal, extension},
+constexpr Encoded encodedFormats[] = {
+#include "textures/texture_formats.def"
+};
+#undef ENCODED
 #undef CLIENT
 #undef SIZED
 #undef UNSIZED
@@ -98,6 +112,11 @@ HostTextureFormat hostTextureFormat(GLenum internal) {
     const auto row = std::ranges::find(sizedFormats, internal, &Sized::internal);
     if (row == std::end(sizedFormats)) return {internal, internal, GL_UNSIGNED_BYTE, plain};
     return {row->hostInternal, internal, GL_UNSIGNED_BYTE, row->swizzle};
+}
+
+const char *encodingExtension(GLenum internal) {
+    const auto row = std::ranges::find(encodedFormats, internal, &Encoded::internal);
+    return row == std::end(encodedFormats) ? nullptr : row->extension;
 }
 
 GLenum es2ImageError(GLenum internal, GLenum format, GLenum type) {

@@ -29,6 +29,9 @@ struct HostTextureFormat {
 // The host's name for the format of the application's pixels.
 [[nodiscard]] GLenum hostPixelFormat(GLenum format, GLenum type);
 
+// The extension with which the host encodes plain pixels in this compressed format, or null.
+[[nodiscard]] const char *encodingExtension(GLenum internal);
+
 // The error of ES for the formats of an image, or GL_NO_ERROR: the host takes far more of them. In ES 2 the two formats
 // are one of a few and the same.
 [[nodiscard]] GLenum es2ImageError(GLenum internal, GLenum format, GLenum type);

@@ -12,6 +12,9 @@ namespace {
 
 // The error of ES for an image of these formats, or GL_NO_ERROR.
 GLenum imageError(const EsContext &context, GLenum internal, GLenum format, GLenum type) {
+    const char *const encoding = encodingExtension(internal);
+    // The host judges the pixels that it encodes.
+    if (encoding && context.announced.hasOneOf(encoding)) return GL_NO_ERROR;
     return context.major < 3 ? es2ImageError(internal, format, type) : es3ImageError(internal, format, type);
 }
 

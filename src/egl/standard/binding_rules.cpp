@@ -5,6 +5,7 @@
 #include "egl/binding.h"
 #include "egl/context.h"
 #include "egl/entry_frame.h"
+#include "egl/refusal.h"
 
 namespace egl::standard {
 
@@ -26,14 +27,16 @@ bool isBoundElsewhere(const Context &context) {
 
 EGLint bindError(const Display &display, const BindRequest &request) {
     // Surfaces without a context, or one of them alone.
-    if (!request.context || !request.draw != !request.read) return EGL_BAD_MATCH;
+    if (!request.context || !request.draw != !request.read)
+        return refusals::because(refusals::Rule::surfacesWithoutContext, EGL_BAD_MATCH);
     const auto context = display.findContext(request.context);
     if (!context) return EGL_BAD_CONTEXT;
     if (isBoundElsewhere(*context)) return EGL_BAD_ACCESS;
     if (!request.draw) return EGL_SUCCESS;
     const auto draw = display.findSurface(request.draw), read = display.findSurface(request.read);
     if (!draw || !read) return EGL_BAD_SURFACE;
-    return fits(*context, *draw) && fits(*context, *read) ? EGL_SUCCESS : EGL_BAD_MATCH;
+    if (fits(*context, *draw) && fits(*context, *read)) return EGL_SUCCESS;
+    return refusals::because(refusals::Rule::otherConfig, EGL_BAD_MATCH);
 }
 
 bool isDrawnTo(const Surface &surface) {

@@ -1,13 +1,18 @@
 #include "egl/standard/context_rules.h"
 
+#include "egl/refusal.h"
 #include "egl/surface.h"
+#include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
 namespace {
 
+using refusals::because;
+using refusals::Facts;
+using refusals::Rule;
+
 constexpr EGLint debugFlag = EGL_CONTEXT_OPENGL_DEBUG_BIT_KHR;
-constexpr EGLint noErrorFlag = 8;
 constexpr EGLint robustFlag = EGL_CONTEXT_OPENGL_ROBUST_ACCESS_BIT_KHR;
 
 bool isBoolean(EGLint value) {
@@ -16,6 +21,7 @@ bool isBoolean(EGLint value) {
 
 // The error of one pair. Versions are checked together at the end.
 EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
+    const Facts pair{.attribute = attribute, .value = value};
     switch (attribute) {
     case EGL_CONTEXT_MAJOR_VERSION:
         attribs.requestedMajor = value;
@@ -25,43 +31,41 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
         return EGL_SUCCESS;
     case EGL_CONTEXT_FLAGS_KHR:
         // The others are of desktop OpenGL.
-        if (value & ~(debugFlag | noErrorFlag)) return EGL_BAD_ATTRIBUTE;
+        if (value & ~debugFlag) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.contextFlags = value;
-        if (value & noErrorFlag) attribs.noError = 1;
         return EGL_SUCCESS;
     case EGL_CONTEXT_OPENGL_DEBUG:
-        if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
+        if (!isBoolean(value)) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.contextFlags = value ? attribs.contextFlags | debugFlag : attribs.contextFlags & ~debugFlag;
         return EGL_SUCCESS;
     case EGL_CONTEXT_OPENGL_NO_ERROR_KHR:
-        if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
+        if (!isBoolean(value)) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.noError = static_cast<uint8_t>(value);
         return EGL_SUCCESS;
     case EGL_CONTEXT_OPENGL_ROBUST_ACCESS:
     case EGL_CONTEXT_OPENGL_ROBUST_ACCESS_EXT:
-        if (!isBoolean(value)) return EGL_BAD_ATTRIBUTE;
+        if (!isBoolean(value)) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.contextFlags = value ? attribs.contextFlags | robustFlag : attribs.contextFlags & ~robustFlag;
         return EGL_SUCCESS;
     case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY:
     case EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY_EXT:
-        if (value != EGL_NO_RESET_NOTIFICATION && value != EGL_LOSE_CONTEXT_ON_RESET) return EGL_BAD_ATTRIBUTE;
+        if (value != EGL_NO_RESET_NOTIFICATION && value != EGL_LOSE_CONTEXT_ON_RESET)
+            return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.resetStrategy = value == EGL_LOSE_CONTEXT_ON_RESET ? value : 0;
         return EGL_SUCCESS;
     case EGL_CONTEXT_PRIORITY_LEVEL_TWG:
         attribs.priority = value;
         return EGL_SUCCESS;
     default:
-        return EGL_BAD_ATTRIBUTE;
+        return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, pair);
     }
 }
 
 EGLint renderBuffer(const Context &context) {
     const auto &draw = context.surfaces.draw;
     if (!context.boundToThread || !draw) return EGL_NONE;
-    EGLint buffer = EGL_SINGLE_BUFFER; // of pixmaps
-    if (draw->hostSurface)
-        buffer = draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
-    return buffer;
+    if (!draw->hostSurface || draw->hostSurface->isPixmap()) return EGL_SINGLE_BUFFER;
+    return draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
 }
 
 } // namespace
@@ -79,20 +83,24 @@ host::Robustness robustnessOf(const ContextAttribs &attribs) {
 
 EGLint readContextAttributes(const Config &config, const DeviceProfile &profile, const EGLint *attributes,
                              ContextAttribs &attribs) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        const EGLint error = readPair(attributes[0], attributes[1], attribs);
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        const EGLint error = readPair(name, value, attribs);
         if (error != EGL_SUCCESS) return error;
     }
     attribs.esMajor = attribs.requestedMajor;
     const bool isAnEs1 = attribs.requestedMajor == 1 && (attribs.esMinor == 0 || attribs.esMinor == 1);
     const bool isAVersion =
         attribs.requestedMajor == 1 ? isAnEs1 : isEsVersionAllowed(profile, attribs.requestedMajor, attribs.esMinor);
-    if (!isAVersion) return EGL_BAD_MATCH;
+    if (!isAVersion) return refusals::becauseOfVersion(attribs.requestedMajor, attribs.esMinor, EGL_BAD_MATCH);
     const auto robustness = robustnessOf(attribs);
-    if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config)) return EGL_BAD_MATCH;
+    if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config))
+        return because(Rule::notRobust, EGL_BAD_MATCH);
     // One that checks nothing cannot promise anything.
-    if (robustness.isRobust && attribs.noError) return EGL_BAD_MATCH;
-    return config.supportsClientVersion(attribs.requestedMajor) ? EGL_SUCCESS : EGL_BAD_CONFIG;
+    if (attribs.noError && attribs.contextFlags) return because(Rule::flagsWithoutErrors, EGL_BAD_MATCH);
+    if (config.supportsClientVersion(attribs.requestedMajor)) return EGL_SUCCESS;
+    return because(
+        Rule::configWithoutVersion, EGL_BAD_CONFIG,
+        {.major = attribs.requestedMajor, .minor = attribs.esMinor, .config = config.attributeOr0(EGL_CONFIG_ID)});
 }
 
 EGLint queryContext(const Context &context, EGLint attribute, EGLint *value) {

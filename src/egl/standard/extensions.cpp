@@ -43,7 +43,8 @@ const char *kept(std::string text) {
 } // namespace
 
 const char *clientExtensions() {
-    return "EGL_EXT_client_extensions EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
+    return "EGL_EXT_client_extensions EGL_EXT_device_base EGL_EXT_device_enumeration EGL_EXT_device_query "
+           "EGL_EXT_platform_base EGL_EXT_platform_x11 EGL_KHR_platform_x11 "
            "EGL_MESA_platform_surfaceless EGL_KHR_client_get_all_proc_addresses ";
 }
 

@@ -1,15 +1,11 @@
 #include "egl/standard/host_fence.h"
 
 #include "egl/state.h"
+#include "foundation/gl_types.h"
 
 namespace egl::standard {
 
 namespace {
-
-constexpr uint32_t glCommandsComplete = 0x9117;
-constexpr uint32_t glAlreadySignaled = 0x911A;
-constexpr uint32_t glConditionSatisfied = 0x911C;
-constexpr uint64_t glTimeoutIgnored = ~uint64_t{0};
 
 void flush(const Context &context) {
     const auto glFlush = reinterpret_cast<void (*)()>(context.getExtProcAddress("glFlush"));
@@ -21,7 +17,7 @@ void flush(const Context &context) {
 std::unique_ptr<HostFence> HostFence::create(Context &current) {
     const host::EGL &host = state().hostEGL();
     if (!host.glFenceSync || !host.glClientWaitSync || !host.glDeleteSync) return nullptr;
-    const auto fence = host.glFenceSync(glCommandsComplete, 0);
+    const auto fence = host.glFenceSync(GL_SYNC_GPU_COMMANDS_COMPLETE, 0);
     if (!fence) return nullptr;
     // Another context may wait for it before this one draws again.
     flush(current);
@@ -36,16 +32,16 @@ HostFence::~HostFence() {
 }
 
 bool HostFence::wait(uint64_t timeoutNs) {
-    uint32_t result = glAlreadySignaled;
+    uint32_t result = GL_ALREADY_SIGNALED;
     m_group.run([&] { result = m_host.glClientWaitSync(m_fence, 0, timeoutNs); });
-    return result == glAlreadySignaled || result == glConditionSatisfied;
+    return result == GL_ALREADY_SIGNALED || result == GL_CONDITION_SATISFIED;
 }
 
 void HostFence::waitOnHost() {
     if (m_group.isSharedWithCurrent() && m_host.glWaitSync) {
-        m_host.glWaitSync(m_fence, 0, glTimeoutIgnored);
+        m_host.glWaitSync(m_fence, 0, GL_TIMEOUT_IGNORED);
     } else {
-        static_cast<void>(wait(glTimeoutIgnored));
+        static_cast<void>(wait(GL_TIMEOUT_IGNORED));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "egl/standard/platforms.h"
 
+#include "foundation/attribute_list.h"
+
 namespace egl::standard {
 
 namespace {
@@ -14,8 +16,8 @@ EGLint platformDisplayError(EGLenum platform, const void *nativeDisplay, const E
     const bool isSurfaceless = platform == EGL_PLATFORM_SURFACELESS_MESA;
     if (platform != EGL_PLATFORM_X11_KHR && !isSurfaceless) return EGL_BAD_PARAMETER;
     if (isSurfaceless && nativeDisplay) return EGL_BAD_PARAMETER;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (!isAttribute(platform, attributes[0])) return EGL_BAD_ATTRIBUTE;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        if (!isAttribute(platform, name)) return EGL_BAD_ATTRIBUTE;
     }
     return EGL_SUCCESS;
 }

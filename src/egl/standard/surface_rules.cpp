@@ -6,11 +6,16 @@
 #include <span>
 
 #include "egl/context.h"
+#include "egl/refusal.h"
 #include "egl/thread_record.h"
+#include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
 namespace {
+
+using refusals::because;
+using refusals::Rule;
 
 // What an attribute may be: one of some values, or anything where there are none.
 struct AttributeRule {
@@ -45,53 +50,71 @@ const AttributeRule pixmapRules[] = {
 };
 
 EGLint listError(std::span<const AttributeRule> rules, const EGLint *attributes) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        const auto rule = std::ranges::find(rules, attributes[0], &AttributeRule::attribute);
-        if (rule == rules.end()) return EGL_BAD_ATTRIBUTE;
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        const auto rule = std::ranges::find(rules, name, &AttributeRule::attribute);
+        if (rule == rules.end()) return because(Rule::unknownAttribute, EGL_BAD_ATTRIBUTE, {.attribute = name});
         const auto &values = rule->values;
-        const bool isTaken = values.size() == 0 || std::ranges::find(values, attributes[1]) != values.end();
-        if (!isTaken) return rule->error;
+        const bool isTaken = values.size() == 0 || std::ranges::find(values, value) != values.end();
+        if (!isTaken) return because(Rule::wrongValue, rule->error, {.attribute = name, .value = value});
     }
     return EGL_SUCCESS;
-}
-
-EGLint valueOr(const EGLint *attributes, EGLint name, EGLint otherwise) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        if (attributes[0] == name) otherwise = attributes[1];
-    }
-    return otherwise;
 }
 
 bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
 }
 
+refusals::Facts about(const Config &config) {
+    return {.config = config.attributeOr0(EGL_CONFIG_ID)};
+}
+
 bool isPbuffer(const Surface &surface) {
     return surface.hostSurface && surface.hostSurface->isPBuffer();
+}
+
+bool isPixmap(const Surface &surface) {
+    return surface.hostSurface && surface.hostSurface->isPixmap();
 }
 
 } // namespace
 
 EGLint windowSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(windowRules, attributes); error != EGL_SUCCESS) return error;
-    return hasSurfaceType(config, EGL_WINDOW_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+    if (hasSurfaceType(config, EGL_WINDOW_BIT)) return EGL_SUCCESS;
+    return because(Rule::configWithoutWindows, EGL_BAD_MATCH, about(config));
 }
 
 EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(pbufferRules, attributes); error != EGL_SUCCESS) return error;
-    if (!hasSurfaceType(config, EGL_PBUFFER_BIT)) return EGL_BAD_MATCH;
-    if (valueOr(attributes, EGL_WIDTH, 0) < 0 || valueOr(attributes, EGL_HEIGHT, 0) < 0) return EGL_BAD_PARAMETER;
-    const EGLint format = valueOr(attributes, EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE);
-    const EGLint target = valueOr(attributes, EGL_TEXTURE_TARGET, EGL_NO_TEXTURE);
-    if ((format == EGL_NO_TEXTURE) != (target == EGL_NO_TEXTURE)) return EGL_BAD_MATCH;
+    if (!hasSurfaceType(config, EGL_PBUFFER_BIT))
+        return because(Rule::configWithoutPbuffers, EGL_BAD_MATCH, about(config));
+    const AttributeList list(attributes);
+    if (list.valueOr(EGL_WIDTH, 0) < 0 || list.valueOr(EGL_HEIGHT, 0) < 0)
+        return because(Rule::negativeSize, EGL_BAD_PARAMETER);
+    const EGLint format = list.valueOr(EGL_TEXTURE_FORMAT, EGL_NO_TEXTURE);
+    const EGLint target = list.valueOr(EGL_TEXTURE_TARGET, EGL_NO_TEXTURE);
+    if ((format == EGL_NO_TEXTURE) != (target == EGL_NO_TEXTURE)) return because(Rule::textureHalves, EGL_BAD_MATCH);
     const bool canBind = (format != EGL_TEXTURE_RGB || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGB)) &&
                          (format != EGL_TEXTURE_RGBA || config.attributeOr0(EGL_BIND_TO_TEXTURE_RGBA));
-    return canBind ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
+    return canBind ? EGL_SUCCESS : because(Rule::configWithoutTextures, EGL_BAD_ATTRIBUTE, about(config));
 }
 
 EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes) {
     if (const EGLint error = listError(pixmapRules, attributes); error != EGL_SUCCESS) return error;
-    return hasSurfaceType(config, EGL_PIXMAP_BIT) ? EGL_SUCCESS : EGL_BAD_MATCH;
+    if (hasSurfaceType(config, EGL_PIXMAP_BIT)) return EGL_SUCCESS;
+    return because(Rule::configWithoutPixmaps, EGL_BAD_MATCH, about(config));
+}
+
+EGLint pixmapError(const Display &display, uint64_t pixmap, const host::platform::PixelFormat *format) {
+    switch (host::pixmapFit(display.nativeDisplay, pixmap, format)) {
+    case host::PixmapFit::none:
+        return EGL_BAD_NATIVE_PIXMAP;
+    case host::PixmapFit::otherDepth:
+        return EGL_BAD_MATCH;
+    case host::PixmapFit::fits:
+        break;
+    }
+    return EGL_SUCCESS;
 }
 
 EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
@@ -131,7 +154,7 @@ EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
         *value = surface.storedOr(attribute, EGL_VG_ALPHA_FORMAT_NONPRE);
         return EGL_SUCCESS;
     case EGL_RENDER_BUFFER:
-        *value = surface.hostSurface ? surface.storedOr(attribute, EGL_BACK_BUFFER) : EGL_SINGLE_BUFFER;
+        *value = isPixmap(surface) ? EGL_SINGLE_BUFFER : surface.storedOr(attribute, EGL_BACK_BUFFER);
         return EGL_SUCCESS;
     default:
         return surface.query(attribute, value);

@@ -1,6 +1,7 @@
 // Surfaces by the rules of the EGL standard, which desktop clients get in place of a device's.
 #pragma once
 
+#include "egl/display.h"
 #include "egl/egl_api.h"
 #include "egl/surface.h"
 #include "profiles/config.h"
@@ -11,6 +12,8 @@ namespace egl::standard {
 [[nodiscard]] EGLint windowSurfaceError(const Config &config, const EGLint *attributes);
 [[nodiscard]] EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes);
 [[nodiscard]] EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes);
+// Of a pixmap that what is drawn in the format should go to.
+[[nodiscard]] EGLint pixmapError(const Display &display, uint64_t pixmap, const host::platform::PixelFormat *format);
 
 // The error of eglQuerySurface. An attribute that does not apply to the kind of surface succeeds and stores nothing.
 [[nodiscard]] EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value);

@@ -8,6 +8,7 @@
 #include "egl/context.h"
 #include "egl/entry_frame.h"
 #include "egl/standard/host_fence.h"
+#include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
@@ -86,7 +87,7 @@ void Syncs::clear() {
 EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes, EGLint unknownType) {
     const bool isFence = type == EGL_SYNC_FENCE;
     if (!isFence && type != EGL_SYNC_REUSABLE_KHR) return fail(unknownType, EGL_NO_SYNC);
-    if (attributes && *attributes != EGL_NONE) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
+    if (!AttributeList(attributes).isEmpty()) return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
     std::unique_ptr<HostFence> fence;
     if (isFence) {
         if (!threadRecord.current || &display != threadRecord.currentDisplay) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);

@@ -51,6 +51,8 @@ enum PixelFormatAttribute : uint32_t {
     MaxPbufferHeight = 0x10005,
     MaxPbufferPixels = 0x10006,
     RobustContexts = 0x10007, // 0 where contexts cannot be robust, 1 where all are, 2 where they are on demand
+    VisualDepth = 0x10008,    // of the pixmaps that can be drawn to
+    SoftwareRenderer = 0x10009,
 
     // A format that stands for one config alone. Fit is 1 for the nearest that the host has, 2 for one of just these
     // sizes or none; 3 is for contexts that go with drawables of any format.
@@ -111,8 +113,10 @@ struct PlatformOperations {
     // Registers the context to follow the view's frame. Registrations add up, and none is ever removed.
     void (*observeViewFrame)(ContextContainer *container, const View &view);
 
-    // Shows what was drawn on the attached view.
+    // Shows what was drawn on the attached view or pixmap.
     void (*flushBuffer)(ContextContainer *container);
+    // Copies what the current context has drawn on its view or pixel buffer to a pixmap. False when the host refuses.
+    bool (*copyToPixmap)(ContextContainer *container, PixelBuffer *pixmap);
     // How many frames ago what is in the back buffer was drawn; 0 for contents that are not known.
     int32_t (*bufferAge)(ContextContainer *container);
     // Sends on what the application has asked of its own connection to the host; that of a View's display.
@@ -128,6 +132,11 @@ struct PlatformOperations {
     // Null when the host refuses the values. format: as of views.
     PixelBuffer *(*createPixelBuffer)(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
                                       int32_t height, const PixelFormat *format);
+    // A pixel buffer whose contents flushBuffer shows in a pixmap of the display's. Null when the host refuses; the
+    // pixmap has to be there and of the depth of the format's windows.
+    PixelBuffer *(*createPixmapBuffer)(uint64_t display, uint64_t pixmap, const PixelFormat *format);
+    // The depth of a pixmap of the display's; 0 where there is none.
+    int32_t (*pixmapDepth)(uint64_t display, uint64_t pixmap);
     // In pixels. Outputs may be null; a null buffer writes nothing.
     void (*pixelBufferSize)(const PixelBuffer *buffer, int32_t *width, int32_t *height);
     // Null is allowed.

@@ -3,11 +3,58 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <dlfcn.h>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "host/platform/x11/connection.h"
+#include "host/platform/x11/context.h"
+#include "host/platform/x11/pixel_format.h"
+#include "host/platform/x11/swap_control.h"
 #include "host/platform/x11/x_calls.h"
+
+namespace {
+
+// What the functions of GLX below say of a host.
+GLXFBConfig slowConfig = nullptr;
+const char *glxExtensions = nullptr; // null for the host's own
+bool refusesBind = false;            // the next one, and leaves nothing current
+std::vector<GLXDrawable> paced;      // that were given a swap interval
+
+template <typename Function>
+Function *next(Function *, const char *name) {
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+extern "C" int glXGetFBConfigAttrib(Display *display, GLXFBConfig config, int attribute, int *value) {
+    static const auto host = next(glXGetFBConfigAttrib, "glXGetFBConfigAttrib");
+    const int result = host(display, config, attribute, value);
+    if (config == slowConfig && attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+    return result;
+}
+
+extern "C" const char *glXQueryExtensionsString(Display *display, int screen) {
+    static const auto host = next(glXQueryExtensionsString, "glXQueryExtensionsString");
+    return glxExtensions ? glxExtensions : host(display, screen);
+}
+
+extern "C" Bool glXMakeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
+    static const auto host = next(glXMakeContextCurrent, "glXMakeContextCurrent");
+    if (!std::exchange(refusesBind, false)) return host(display, draw, read, context);
+    host(display, None, None, nullptr);
+    return False;
+}
+
+extern "C" void (*glXGetProcAddressARB(const GLubyte *name))() {
+    static const auto host = next(glXGetProcAddressARB, "glXGetProcAddressARB");
+    constexpr auto pace = [](Display *, GLXDrawable drawable, int) { paced.push_back(drawable); };
+    if (reinterpret_cast<const char *>(name) != std::string("glXSwapIntervalEXT")) return host(name);
+    return reinterpret_cast<void (*)()>(PFNGLXSWAPINTERVALEXTPROC(pace));
+}
 
 namespace {
 
@@ -77,6 +124,61 @@ TEST_F(OnX11, PixelBuffersOutliveTheirReleaseAndLeaveTheContextCurrent) {
     EXPECT_TRUE(operations.makeCurrent(made.get()));
 }
 
+TEST_F(OnX11, ViewThatTheHostRefusesLeavesTheOldOne) {
+    const auto made = context();
+    const View old = viewOf(window(64, 48));
+    ASSERT_TRUE(operations.setView(made.get(), old) && operations.makeCurrent(made.get()));
+    refusesBind = true;
+    EXPECT_FALSE(operations.setView(made.get(), viewOf(window(64, 48))));
+    EXPECT_EQ(operations.view(made.get()), old);
+    EXPECT_EQ(glXGetCurrentDrawable(), old.window);
+}
+
+// The window that an application destroys and the next that it makes may have one number.
+TEST_F(OnX11, WindowOfAKnownNumberIsAnother) {
+    static XID number;
+    number = XAllocID(application);
+    reinterpret_cast<_XPrivDisplay>(application)->resource_alloc = [](Display *) { return number; };
+    constexpr uint32_t list[] = {OpenGLProfile, profile3_2Core, SampleBuffers, 1, Samples, 4, 0};
+    for (const auto &made : {context(), context(list)}) {
+        for (const int width : {64, 32}) {
+            const View view = viewOf(window(width, 48));
+            XSync(application, False);
+            ASSERT_TRUE(operations.setView(made.get(), view) && operations.makeCurrent(made.get())) << width;
+            operations.flushBuffer(made.get());
+            unsigned drawn = 0;
+            glXQueryDrawable(glXGetCurrentDisplay(), glXGetCurrentDrawable(), GLX_WIDTH, &drawn);
+            EXPECT_EQ(drawn, width);
+            XDestroyWindow(application, view.window);
+            XSync(application, False);
+        }
+    }
+}
+
+TEST_F(OnX11, SlowConfigGivesWayToItsEqual) {
+    const x11::FormatSizes wanted = format()->config.sizes;
+    const x11::ChannelSizes channels = format()->config.channels;
+    const int screen = DefaultScreen(application);
+    slowConfig = x11::FbConfigs(application, screen).choose(wanted)->handle;
+    EXPECT_NE(x11::FbConfigs(application, screen).choose(wanted)->handle, slowConfig);
+    slowConfig = x11::FbConfigs(application, screen).chooseFitting(wanted, channels, true)->handle;
+    EXPECT_NE(x11::FbConfigs(application, screen).chooseFitting(wanted, channels, true)->handle, slowConfig);
+    slowConfig = nullptr;
+}
+
+TEST_F(OnX11, SwapIntervalIsForViewsAlone) {
+    glxExtensions = "GLX_EXT_swap_control";
+    static auto &connection = *new x11::Connection(XOpenDisplay(nullptr));
+    glxExtensions = nullptr;
+    const auto pixels = format();
+    ContextContainer container{connection, pixels->config, nullptr, 0, {}, 1};
+    for (const auto &attachment : {x11::Attachment{{}, nullptr, 0}, {{}, nullptr, 8}, {{0, 7}, nullptr, 9}}) {
+        container.attachment = attachment;
+        x11::applySwapInterval(container);
+    }
+    EXPECT_EQ(paced, std::vector<GLXDrawable>{9});
+}
+
 TEST_F(OnX11, TitleIsUtf8FromWhicheverPropertyThereIs) {
     const Window target = window(8, 8);
     XStoreName(application, target, "not sent yet");
@@ -92,11 +194,12 @@ int applicationErrors = 0;
 
 TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
     XSetErrorHandler([](Display *, XErrorEvent *) { return ++applicationErrors; });
-    XMapWindow(application, 0x12345); // still on its way when the trap is set
+    XUnmapWindow(application, 0x12345); // still on its way when the trap is set
     x11::ErrorTrap trap(application, X_UnmapWindow);
     EXPECT_EQ(applicationErrors, 1);
     XMapWindow(application, 0x12345); // another kind of request
     EXPECT_FALSE(trap.sawError());
+    EXPECT_EQ(applicationErrors, 2);
     XUnmapWindow(application, 0x12345);
     EXPECT_TRUE(trap.sawError());
     EXPECT_EQ(applicationErrors, 2);

@@ -70,14 +70,16 @@ void History::addRefusal(uint64_t number, const std::string &text, bool isForThe
     std::string who = "A connection";
     if (const auto found = m_applications.find(number); found != m_applications.end())
         who = found->second.shown.command + ' ' + std::to_string(found->second.shown.processNumber);
-    addNews(m_refusals, ",\"who\":" + jsonText(who) + ",\"time\":" + std::to_string(millisecondsNow()) +
-                            ",\"application\":" + std::to_string(number) + ",\"isForTheHost\":" +
-                            (isForTheHost ? "true" : "false") + ",\"text\":" + jsonText(text) + '}');
+    addNews(m_refusals, {{"who", who},
+                         {"time", millisecondsNow()},
+                         {"application", number},
+                         {"isForTheHost", isForTheHost},
+                         {"text", text}});
 }
 
 void History::addNotice(const std::string &text) {
     const std::lock_guard lock(m_mutex);
-    addNews(m_notices, ",\"text\":" + jsonText(text) + '}');
+    addNews(m_notices, {{"text", text}});
 }
 
 void History::clear() {
@@ -139,9 +141,11 @@ void History::changed(Entry &entry) {
     m_isChanged.notify_all();
 }
 
-void History::addNews(std::deque<News> &news, std::string json) {
+void History::addNews(std::deque<News> &news, const Json &fields) {
     ++m_version;
-    news.push_back({m_version, "{\"number\":" + std::to_string(m_version) + std::move(json)});
+    Json json = {{"number", m_version}};
+    json.update(fields);
+    news.push_back({m_version, jsonLine(json)});
     if (news.size() > mostNews) news.pop_front();
     m_isChanged.notify_all();
 }

@@ -9,6 +9,8 @@
 #include <mutex>
 #include <string>
 
+#include <nlohmann/json_fwd.hpp>
+
 #include "tools/monitor/web/bounded_lines.h"
 #include "tools/monitor/web/frame_curve.h"
 
@@ -88,7 +90,7 @@ private:
 
     [[nodiscard]] int64_t secondNow() const;
     void changed(Entry &entry);
-    void addNews(std::deque<News> &news, std::string json);
+    void addNews(std::deque<News> &news, const nlohmann::ordered_json &fields);
     void forgetEnded(size_t kept);
     // Pieces of an update: each appends what is new behind the cursor.
     void tellApplications(std::string &text, const Cursor &cursor) const;

@@ -2,10 +2,16 @@
 #include "foundation/platform/library_directories.h"
 
 const char *const hostOpenGLLibraryName = "libGL.dylib";
+const char *const hostPlainOpenGLLibraryName = nullptr;
+
+void *findUnexportedHostFunction(const char *) {
+    return nullptr;
+}
+
 const char *const es1LibraryName = "libGLESv1_CM.dylib";
 const char *const es2LibraryName = "libGLESv2.dylib";
 
-// The slash at the end makes two in a full path. Callers rely on the text as it is.
+// The slash at the end makes two in a full path, which opens all the same.
 std::vector<std::string> systemLibraryDirectories() {
     return {"/System/Library/Frameworks/OpenGL.framework/Libraries/"};
 }

@@ -23,7 +23,7 @@ bool setView(ContextContainer *container, const View &view) {
         NSOpenGLContext *context = [objectOf(container) m_context];
         const id object = objectOf(view);
         // An application may hand in a pixel buffer as its window. Any other object is not attached and no failure:
-        // the context is then made current with what it has. Applications rely on both.
+        // the context is then made current with what it has.
         if (!object || viewOf(view))
             attachView(context, view);
         else if ([object isKindOfClass:[NSOpenGLPixelBuffer class]])

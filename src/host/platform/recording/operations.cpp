@@ -258,6 +258,25 @@ PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t
     return buffer;
 }
 
+constexpr int32_t recordedSize = 16, recordedDepth = 24; // of every pixmap
+
+PixelBuffer *createPixmapBuffer(uint64_t display, uint64_t pixmap, const PixelFormat *format) {
+    const std::lock_guard lock(script().mutex);
+    auto *buffer = new PixelBuffer{"buffer" + std::to_string(++script().bufferCount), recordedSize, recordedSize};
+    note(call("createPixmapBuffer", display, pixmap) + " with " + text(format) + " = " + text(buffer));
+    return buffer;
+}
+
+int32_t pixmapDepth(uint64_t, uint64_t pixmap) {
+    return pixmap ? recordedDepth : 0;
+}
+
+bool copyToPixmap(ContextContainer *container, PixelBuffer *pixmap) {
+    const std::lock_guard lock(script().mutex);
+    note(call("copyToPixmap", container, pixmap));
+    return true;
+}
+
 void pixelBufferSize(const PixelBuffer *buffer, int32_t *width, int32_t *height) {
     const std::lock_guard lock(script().mutex);
     note(call("pixelBufferSize", buffer));
@@ -314,12 +333,15 @@ constinit const PlatformOperations operations = {
     .setPixelBuffer = recording::setPixelBuffer,
     .observeViewFrame = recording::observeViewFrame,
     .flushBuffer = recording::flushBuffer,
+    .copyToPixmap = recording::copyToPixmap,
     .bufferAge = recording::bufferAge,
     .flushApplication = recording::flushApplication,
     .setSwapInterval = recording::setSwapInterval,
     .saveBinding = recording::saveBinding,
     .restoreBinding = recording::restoreBinding,
     .createPixelBuffer = recording::createPixelBuffer,
+    .createPixmapBuffer = recording::createPixmapBuffer,
+    .pixmapDepth = recording::pixmapDepth,
     .pixelBufferSize = recording::pixelBufferSize,
     .releasePixelBuffer = recording::releasePixelBuffer,
     .viewSize = recording::viewSize,

@@ -5,6 +5,7 @@
 #include "host/platform/x11/context.h"
 #include "host/platform/x11/current.h"
 #include "host/platform/x11/pixel_format.h"
+#include "host/platform/x11/pixmap_copies.h"
 
 namespace host::platform::x11 {
 
@@ -66,6 +67,7 @@ void observeViewFrame(ContextContainer *, const View &) {
 void flushBuffer(ContextContainer *container) {
     const auto &attachment = container->attachment;
     auto &connection = container->connection;
+    if (attachment.pbuffers && attachment.pbuffers->pixmap) return showPixmap(*container);
     // GLX answers a swap of a pixel buffer with an error.
     if (!attachment.view.window) return;
     // Hosts would go on asking the server for the size of the drawable, and not look whether it answers.

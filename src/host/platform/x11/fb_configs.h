@@ -55,6 +55,7 @@ public:
     // these are wanted and no config has them.
     [[nodiscard]] const FbConfig *chooseFitting(const FormatSizes &wanted, const ChannelSizes &channels, bool exactly);
 
+private:
     const std::vector<FbConfig> &configs(); // read at the first call
     void read();
 

@@ -6,6 +6,7 @@
 #include "host/platform/x11/current.h"
 #include "host/platform/x11/pixel_buffer.h"
 #include "host/platform/x11/pixel_format.h"
+#include "host/platform/x11/pixmap_copies.h"
 #include "host/platform/x11/swap_control.h"
 #include "host/platform/x11/window_info.h"
 
@@ -26,12 +27,15 @@ constinit const PlatformOperations operations = {
     .setPixelBuffer = x11::setPixelBuffer,
     .observeViewFrame = x11::observeViewFrame,
     .flushBuffer = x11::flushBuffer,
+    .copyToPixmap = x11::copyToPixmap,
     .bufferAge = x11::bufferAge,
     .flushApplication = x11::flushApplication,
     .setSwapInterval = x11::setSwapInterval,
     .saveBinding = x11::saveBinding,
     .restoreBinding = x11::restoreBinding,
     .createPixelBuffer = x11::createPixelBuffer,
+    .createPixmapBuffer = x11::createPixmapBuffer,
+    .pixmapDepth = x11::pixmapDepth,
     .pixelBufferSize = x11::pixelBufferSize,
     .releasePixelBuffer = x11::releasePixelBuffer,
     .viewSize = x11::viewSize,

@@ -1,24 +1,57 @@
 #include "host/platform/x11/pixel_buffer.h"
 
+#include <optional>
+
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/x_calls.h"
 
 namespace host::platform::x11 {
 
+namespace {
+
+struct PixmapFacts {
+    int32_t width = 0;
+    int32_t height = 0;
+    int32_t depth = 0;
+};
+
+// Nothing where there is no such drawable, or it is a window.
+std::optional<PixmapFacts> findPixmap(uint64_t displayWord, Pixmap pixmap) {
+    auto *connection = Connection::open(displayWord);
+    if (!connection || connection->isLost() || !pixmap) return std::nullopt;
+    // The application may not have sent its request for the pixmap yet.
+    flushApplication(displayWord);
+    Display *display = connection->display();
+    const std::lock_guard lock(calls::trapMutex());
+    const ErrorTrap trap(display);
+    XWindowAttributes window;
+    if (XGetWindowAttributes(display, pixmap, &window)) return std::nullopt;
+    Window root = None;
+    int x = 0, y = 0;
+    unsigned width = 0, height = 0, border = 0, depth = 0;
+    if (!XGetGeometry(display, pixmap, &root, &x, &y, &width, &height, &border, &depth)) return std::nullopt;
+    return PixmapFacts{static_cast<int32_t>(width), static_cast<int32_t>(height), static_cast<int32_t>(depth)};
+}
+
+} // namespace
+
 Pbuffers::~Pbuffers() {
+    const auto destroy = pixmap ? glXDestroyPixmap : glXDestroyPbuffer;
     for (const auto &[key, buffer] : m_buffers) {
-        if (!key.first->isLost()) glXDestroyPbuffer(key.first->display(), buffer);
+        if (!key.first->isLost()) destroy(key.first->display(), buffer);
     }
 }
 
-GLXPbuffer Pbuffers::bufferFor(Connection &connection, const FbConfig &contextConfig) {
+GLXDrawable Pbuffers::bufferFor(Connection &connection, const FbConfig &contextConfig) {
     const FbConfig &config = m_own ? *m_own : contextConfig;
     const std::lock_guard lock(m_mutex);
     const std::pair key(&connection, &config);
     if (const auto known = m_buffers.find(key); known != m_buffers.end()) return known->second;
     const int attributes[] = {
         GLX_PBUFFER_WIDTH, m_width, GLX_PBUFFER_HEIGHT, m_height, GLX_PRESERVED_CONTENTS, True, 0};
-    const GLXPbuffer buffer = calls::createPbuffer(connection.display(), config.handle, attributes);
+    Display *display = connection.display();
+    const GLXDrawable buffer = pixmap ? calls::createPixmap(display, config.handle, pixmap)
+                                      : calls::createPbuffer(display, config.handle, attributes);
     if (buffer) m_buffers[key] = buffer;
     return buffer;
 }
@@ -29,6 +62,21 @@ PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t
     return new PixelBuffer{target,      internalFormat,
                            maxMipLevel, width,
                            height,      std::make_shared<Pbuffers>(width, height, format ? &format->config : nullptr)};
+}
+
+PixelBuffer *createPixmapBuffer(uint64_t display, uint64_t pixmap, const PixelFormat *format) {
+    const auto facts = findPixmap(display, pixmap);
+    if (!format || !facts || facts->depth != format->config.visual.depth) return nullptr;
+    return new PixelBuffer{
+        .width = facts->width,
+        .height = facts->height,
+        .pbuffers = std::make_shared<Pbuffers>(facts->width, facts->height, &format->config, pixmap),
+    };
+}
+
+int32_t pixmapDepth(uint64_t display, uint64_t pixmap) {
+    const auto facts = findPixmap(display, pixmap);
+    return facts ? facts->depth : 0;
 }
 
 void pixelBufferSize(const PixelBuffer *buffer, int32_t *width, int32_t *height) {

@@ -1,5 +1,6 @@
-// Pixel buffers: a record of what was asked, and the GLX buffers made of it for the contexts that attach it. Those go
-// when the owner has released the record and nothing is attached to it any more. Any thread.
+// Pixel buffers: a record of what was asked, and the GLX drawables made of it for the contexts that attach it, which
+// are pbuffers, or stand for a pixmap of the application's. Those go when the owner has released the record and nothing
+// is attached to it any more. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -17,25 +18,30 @@ namespace x11 {
 
 class Pbuffers {
 public:
-    // own: the config of every buffer; null for that of the context that attaches it.
-    Pbuffers(int32_t width, int32_t height, const FbConfig *own) : m_width(width), m_height(height), m_own(own) {}
+    // own: the config of every buffer; null for that of the context that attaches it. pixmap: None for pbuffers.
+    Pbuffers(int32_t width, int32_t height, const FbConfig *own, Pixmap pixmap = None)
+        : pixmap(pixmap), m_width(width), m_height(height), m_own(own) {}
     Pbuffers(const Pbuffers &) = delete;
     Pbuffers &operator=(const Pbuffers &) = delete;
     ~Pbuffers();
 
     // Made at the first call for the config. None when the host refuses.
-    [[nodiscard]] GLXPbuffer bufferFor(Connection &connection, const FbConfig &contextConfig);
+    [[nodiscard]] GLXDrawable bufferFor(Connection &connection, const FbConfig &contextConfig);
+
+    const Pixmap pixmap;
 
 private:
     const int32_t m_width;
     const int32_t m_height;
     const FbConfig *const m_own;
     std::mutex m_mutex;
-    std::map<std::pair<Connection *, const FbConfig *>, GLXPbuffer> m_buffers;
+    std::map<std::pair<Connection *, const FbConfig *>, GLXDrawable> m_buffers;
 };
 
 PixelBuffer *createPixelBuffer(uint32_t target, uint32_t internalFormat, int32_t maxMipLevel, int32_t width,
                                int32_t height, const PixelFormat *format);
+PixelBuffer *createPixmapBuffer(uint64_t display, uint64_t pixmap, const PixelFormat *format);
+int32_t pixmapDepth(uint64_t display, uint64_t pixmap);
 void pixelBufferSize(const PixelBuffer *buffer, int32_t *width, int32_t *height);
 void releasePixelBuffer(PixelBuffer *buffer);
 

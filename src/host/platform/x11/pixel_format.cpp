@@ -62,12 +62,14 @@ PixelFormat *choose(Connection *connection, const Request &request) {
                            .fitsAnyDrawable = request.fit == fitAnyDrawable};
 }
 
-// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server.
+// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server. Pixmaps are shown by a swap, which has
+// to keep what was drawn.
 int32_t drawableTypes(const PixelFormat &format) {
-    constexpr int32_t window = 4, preserved = 0x400;
+    constexpr int32_t pixmap = 2, window = 4, preserved = 0x400;
     const int32_t types = format.config.drawableTypes;
     const bool keepsFrames = format.config.copiesAtSwap || format.connection.isSoftware();
-    return types & window && keepsFrames ? types | preserved : types;
+    if (!keepsFrames || !(types & window)) return types & ~pixmap;
+    return types | preserved;
 }
 
 } // namespace
@@ -93,6 +95,10 @@ int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
         return config.visual.visualid ? config.visual.c_class : 0;
     case DrawableTypes:
         return drawableTypes(*format);
+    case SoftwareRenderer:
+        return format->connection.isSoftware();
+    case VisualDepth:
+        return config.visual.depth;
     case RobustContexts:
         return robustContexts(format->connection);
     case MaxSwapInterval:

@@ -40,6 +40,14 @@ inline GLXPbuffer createPbuffer(Display *display, GLXFBConfig config, const int 
     return trap.sawError() ? None : buffer;
 }
 
+// None when the host refuses the pixmap with the config.
+inline GLXPixmap createPixmap(Display *display, GLXFBConfig config, Pixmap pixmap) {
+    const std::lock_guard lock(trapMutex());
+    ErrorTrap trap(display);
+    const GLXPixmap drawable = glXCreatePixmap(display, config, pixmap, nullptr);
+    return trap.sawError() ? None : drawable;
+}
+
 // For displays of the application: the errors of this call are ours, and its handler gets none of them. No lock is
 // held, since earlier errors of the application may be delivered meanwhile.
 inline Bool makeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {

@@ -43,15 +43,12 @@ int takeOwnLosses(Display *display) {
 // The handler runs with the display locked, in whichever thread reads the error.
 struct ErrorTrap::Record {
     _XAsyncHandler handler{};
-    unsigned long firstSerial = 0;
     int majorOpcode = 0;
     std::atomic<bool> hasError = false;
 
-    static Bool take(Display *display, xReply *reply, char *, int, XPointer data) {
+    static Bool take(Display *, xReply *reply, char *, int, XPointer data) {
         auto &record = *reinterpret_cast<Record *>(data);
         if (reply->generic.type != X_Error) return False;
-        // GLX raises errors of its own with the serial of the last request, so the first serial counts too.
-        if (static_cast<long>(display->last_request_read - record.firstSerial) < 0) return False;
         if (record.majorOpcode != 0 && record.majorOpcode != reply->error.majorCode) return False;
         record.hasError = true;
         return True;
@@ -80,9 +77,10 @@ bool hasRequestsToSend(Display *display) {
 }
 
 ErrorTrap::ErrorTrap(Display *display, int majorOpcode) : m_display(display), m_record(std::make_unique<Record>()) {
+    // GLX raises errors of its own with the serial of the last request: Xlib would then take what the server says of
+    // earlier ones for lost.
     XSync(display, False);
     m_record->majorOpcode = majorOpcode;
-    m_record->firstSerial = XNextRequest(display) - 1;
     m_record->handler.handler = Record::take;
     m_record->handler.data = reinterpret_cast<XPointer>(m_record.get());
     addHandler(display, &m_record->handler);

@@ -1,4 +1,5 @@
-// The types of OpenGL ES, without the prototypes: the entries of those names are reached through their table alone.
+// The types and numbers of OpenGL ES, which the host shares, without the prototypes: functions are reached through
+// tables and pointers alone.
 #pragma once
 
 #define GL_GLES_PROTOTYPES 0

@@ -1,0 +1,36 @@
+// What of OpenGL ES each function and enumerant belongs to, whatever the device carries.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace journal {
+
+struct EsOrigin {
+    bool isInEs1;
+    int since;              // of ES 2 and 3: 20, 30, 31, 32; 0 for never
+    const char *extensions; // with a blank between
+};
+
+struct EsFunction {
+    const char *name;
+    EsOrigin origin;
+    const char *kinds; // a letter a parameter: enumerant, bits, int, unsigned, long, float, double, pointer
+};
+
+struct EsEnumerant {
+    uint32_t value;
+    const char *name;
+    EsOrigin origin;
+};
+
+// Null for a name that OpenGL ES has nowhere.
+[[nodiscard]] const EsFunction *findEsFunction(std::string_view name);
+// In the order of their values.
+[[nodiscard]] std::span<const EsEnumerant> esEnumerants();
+// "GL_TEXTURE_3D", or the number in hexadecimal.
+[[nodiscard]] std::string enumerantName(uint32_t value);
+
+} // namespace journal

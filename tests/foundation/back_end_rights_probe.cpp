@@ -1,0 +1,11 @@
+// What the ES back ends make of their variables, which they look up themselves; run as foreign_rights_probe is.
+#include <cstdio>
+#include <unistd.h>
+
+#include "common/desktop_clients.h"
+
+int main() {
+    std::puts(servesDesktopClients() ? "desktop client" : "device client");
+    std::fflush(stdout);
+    _exit(0); // the leak check may not look into such a process
+}

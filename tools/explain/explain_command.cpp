@@ -1,0 +1,49 @@
+// zelvane explain: which configs eglChooseConfig would give, and why, before a program runs.
+#include <iostream>
+#include <memory>
+
+#include "tools/command/failure.h"
+#include "tools/command/verbs.h"
+#include "tools/explain/criteria.h"
+#include "tools/explain/explanation.h"
+#include "tools/run/checks.h"
+#include "tools/run/private_preferences.h"
+
+namespace {
+
+struct Options {
+    DeviceWish device;
+    bool byDeviceRules = false;
+    bool asJson = false;
+    std::vector<std::string> words;
+};
+
+void explainChoice(const Options &options) {
+    const std::vector<int32_t> criteria = readCriteria(options.words);
+    const PrivatePreferences preferences({.device = options.device, .strict = {}});
+    // The configs of desktop programs tell what the host has behind them.
+    if (!options.byDeviceRules) checkXServer();
+    const auto rules = options.byDeviceRules ? egl::ConfigKind::ofDevice : egl::ConfigKind::ofDesktop;
+    const Explanation explanation = explain(criteria, rules);
+    std::cout << (options.asJson ? explanationAsJson(explanation) : explanationAsText(explanation));
+    if (explanation.account.order.empty()) throw Failure{1};
+}
+
+} // namespace
+
+void addExplainCommand(const Verb &top) {
+    const Verb explain = top.verb(
+        "explain", "Tell which configs eglChooseConfig takes for ATTRIBUTE=VALUE, and why not the others",
+        "Attributes and values as in EGL's header, with or without EGL_: DEPTH_SIZE=24\n"
+        "'SURFACE_TYPE=WINDOW_BIT|PBUFFER_BIT'. Exit status: 0 a config is taken, 1 none is or EGL refuses the\n"
+        "list, 2 the command line is wrong.");
+    auto options = std::make_shared<Options>();
+    const Word profile =
+        explain.option("--profile", options->device.profile, "NAME", "the device; without it that of \"zelvane run\"");
+    explain.flag("--bare", options->device.isBare, "no device: the built-in config").excludes(profile);
+    explain.flag("--device-rules", options->byDeviceRules,
+                 "choose as the device does, and not as the EGL standard does for \"zelvane run\"");
+    explain.flag("--json", options->asJson, "print one JSON object");
+    explain.words("criteria", options->words, "ATTRIBUTE=VALUE, in their order; a later value wins");
+    explain.action([options] { explainChoice(*options); });
+}

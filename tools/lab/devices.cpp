@@ -1,0 +1,34 @@
+#include "tools/lab/devices.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include "tools/command/failure.h"
+#include "tools/command/nearest.h"
+#include "tools/profiles/profile_list.h"
+
+namespace {
+
+constexpr char desktop[] = "Desktop";
+
+} // namespace
+
+std::vector<std::string> allDevices() {
+    std::vector<std::string> names = {desktop};
+    for (const ListedProfile &listed : listProfiles().profiles)
+        if (listed.place != ListedProfile::hiddenFile && listed.name != desktop) names.push_back(listed.name);
+    return names;
+}
+
+std::vector<std::string> readDevices(const std::string &names) {
+    const std::vector<std::string> known = allDevices();
+    std::vector<std::string> devices;
+    std::istringstream list(names);
+    for (std::string name; std::getline(list, name, ',');) {
+        if (std::ranges::find(known, name) == known.end())
+            failCommand("there is no device \"" + name + '"' + suggestion(name, known));
+        if (std::ranges::find(devices, name) == devices.end()) devices.push_back(name);
+    }
+    if (devices.empty()) failCommand("no device is named");
+    return devices;
+}

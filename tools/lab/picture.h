@@ -1,0 +1,31 @@
+// Pictures of frames, and how two of them differ.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<uint8_t> pixels; // RGB, the highest row first
+};
+
+// Of a PPM file with 8 bits a channel, as the library writes them. Nothing for another file.
+[[nodiscard]] std::optional<Picture> readPicture(const std::string &path);
+
+// The bytes of a PNG file. Empty when libpng cannot make one.
+[[nodiscard]] std::string pngOf(const Picture &picture);
+
+struct PictureDifference {
+    uint64_t pixels = 0; // that differ
+    double share = 0;    // of all, from 0 to 1
+    Picture picture;     // bright where they differ, a dark grey shadow of the reference elsewhere
+};
+
+// A pixel differs when one of its channels does by more than this; drivers round, and blend edges each in their way.
+inline constexpr int channelTolerance = 16;
+
+// Nothing for pictures of different sizes.
+[[nodiscard]] std::optional<PictureDifference> differenceOf(const Picture &reference, const Picture &picture);

@@ -1,0 +1,14 @@
+// The results as JSON: lab.json, and what the page is made of.
+#pragma once
+
+#include <vector>
+
+#include "tools/command/json.h"
+#include "tools/lab/device_result.h"
+#include "tools/lab/lab_options.h"
+
+// Names of pictures are paths below the directory of the lab.
+[[nodiscard]] Json resultsAsJson(const LabOptions &options, const std::vector<DeviceResult> &results);
+
+// For CI: a test case a device.
+[[nodiscard]] std::string resultsAsJunit(const LabOptions &options, const std::vector<DeviceResult> &results);
