@@ -7,6 +7,8 @@
 #include <utility>
 
 class BackEndContext {
+    const std::shared_ptr<const HostFeatures> m_host = HostFeatures::ofCurrentContext();
+
 public:
     // Keeps an error of our own for the application, unless one is pending.
     void raise(unsigned error) {
@@ -15,7 +17,7 @@ public:
     // The pending error, which is none afterwards; 0 without one.
     [[nodiscard]] unsigned takeError() { return std::exchange(m_error, 0u); }
 
-    const HostFeatures &host = HostFeatures::ofCurrentContext();
+    const HostFeatures &host = *m_host;
     RenderMode renderMode;
 
 private:

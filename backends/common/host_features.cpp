@@ -1,13 +1,13 @@
 #include "common/host_features.h"
 
 #include "common/host_library.h"
+#include "common/never_destroyed.h"
 
 #include <GLES3/gl3.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <map>
-#include <memory>
 #include <mutex>
 
 namespace {
@@ -43,16 +43,29 @@ std::string contextKind() {
     return version + '\n' + hostString(GL_RENDERER) + '\n' + std::to_string(count);
 }
 
+struct Known {
+    std::mutex mutex;
+    std::map<std::string, std::shared_ptr<const HostFeatures>> byKind; // guarded by mutex
+};
+
+// When the library is unloaded. Contexts that are there when the process ends keep what they have.
+const struct Forgetting {
+    ~Forgetting() {
+        Known &known = neverDestroyed<Known>();
+        const std::lock_guard lock(known.mutex);
+        known.byKind.clear();
+    }
+} forgetting;
+
 } // namespace
 
-const HostFeatures &HostFeatures::ofCurrentContext() {
-    static std::mutex mutex;
-    static auto &known = *new std::map<std::string, std::unique_ptr<const HostFeatures>>;
+std::shared_ptr<const HostFeatures> HostFeatures::ofCurrentContext() {
+    Known &known = neverDestroyed<Known>();
     const std::string kind = contextKind();
-    const std::lock_guard lock(mutex);
-    auto &features = known[kind];
+    const std::lock_guard lock(known.mutex);
+    auto &features = known.byKind[kind];
     if (!features) features.reset(new HostFeatures);
-    return *features;
+    return features;
 }
 
 HostFeatures::HostFeatures() {

@@ -1,6 +1,7 @@
 // What the host's context can carry. Constant once read, and used on any thread.
 #pragma once
 
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -8,8 +9,9 @@
 class HostFeatures {
 public:
     // Of the host context that is current on this thread. Lists are read once for each version and renderer that the
-    // process meets, and kept until it ends: a list takes the host longer than the rest of a back-end context.
-    static const HostFeatures &ofCurrentContext();
+    // process meets, and kept as long as the library is loaded: a list takes the host longer than the rest of a
+    // back-end context.
+    static std::shared_ptr<const HostFeatures> ofCurrentContext();
 
     // Such as 43 for 4.3; 0 when the host does not say.
     [[nodiscard]] int version() const { return m_version; }

@@ -5,6 +5,8 @@
 #include <memory>
 #include <mutex>
 
+#include "common/never_destroyed.h"
+
 template <typename Group>
 class ShareGroupMember {
 public:
@@ -34,11 +36,7 @@ private:
         std::mutex mutex;
         std::map<const void *, std::shared_ptr<Group>> groupOf; // by context; guarded by mutex
     };
-    // Contexts may end while the process does, so the table never ends.
-    static Table &table() {
-        static Table &all = *new Table;
-        return all;
-    }
+    static Table &table() { return neverDestroyed<Table>(); }
 
     const void *m_context;
     std::shared_ptr<Group> m_group;

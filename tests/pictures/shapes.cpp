@@ -15,6 +15,11 @@ void drawRectangle(Corner from, Corner to, GLfloat z) {
         gl.enableClientState(GL_TEXTURE_COORD_ARRAY);
     }
     gl.drawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    // The arrays end here, and other shapes have more corners.
+    for (const GLenum unit : {GL_TEXTURE1, GL_TEXTURE0}) {
+        gl.clientActiveTexture(unit);
+        gl.disableClientState(GL_TEXTURE_COORD_ARRAY);
+    }
 }
 
 void drawCell(int index, int columns, int rows) {
@@ -50,6 +55,8 @@ void drawSphere() {
     gl.enable(GL_CULL_FACE);
     gl.drawElements(GL_TRIANGLES, static_cast<GLsizei>(indices.size()), GL_UNSIGNED_BYTE, indices.data());
     gl.disable(GL_CULL_FACE);
+    for (const GLenum array : {GL_NORMAL_ARRAY, GL_TEXTURE_COORD_ARRAY})
+        gl.disableClientState(array);
 }
 
 void drawCorridor() {

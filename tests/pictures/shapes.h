@@ -1,4 +1,4 @@
-// Shapes that the scenes draw, from client arrays. Coordinates go from -1 to 1; what is enabled stays.
+// Shapes that the scenes draw, from client arrays. Coordinates go from -1 to 1.
 #pragma once
 
 #include "pictures/gl.h"

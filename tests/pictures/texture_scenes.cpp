@@ -67,10 +67,11 @@ void scenes::multitexture() {
         drawCell(cell, 2, 2);
     }
     // Without an array the coordinates are the current ones.
-    gl.clientActiveTexture(GL_TEXTURE1);
-    gl.disableClientState(GL_TEXTURE_COORD_ARRAY);
     gl.multiTexCoord4f(GL_TEXTURE1, 0.3f, 0.6f, 0, 1);
-    gl.scalef(0.4f, 0.4f, 1);
+    const GLfloat corners[] = {-0.4f, -0.4f, 0.4f, -0.4f, -0.4f, 0.4f, 0.4f, 0.4f};
+    gl.texCoordPointer(2, GL_FLOAT, 0, corners);
+    gl.enableClientState(GL_TEXTURE_COORD_ARRAY);
+    gl.vertexPointer(2, GL_FLOAT, 0, corners);
     gl.drawArrays(GL_TRIANGLE_STRIP, 0, 4);
 }
 

@@ -13,6 +13,6 @@ std::string reasonToRefuse(const ContextAttribs &) {
         return "the host's context is a core one, and ES 1 needs a compatibility context";
     }
     // Buffer objects, texture combiners and point parameters are there from 1.5 on.
-    if (HostFeatures::ofCurrentContext().version() < 15) return "the host's OpenGL is older than 1.5";
+    if (HostFeatures::ofCurrentContext()->version() < 15) return "the host's OpenGL is older than 1.5";
     return "";
 }
