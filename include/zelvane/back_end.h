@@ -107,7 +107,7 @@ ZV_EXPORT int32_t zvMakeImage(zvEsContext esContext, const zvImageSource *source
  */
 ZV_EXPORT void zvDropImage(const zvImage *image);
 
-/* The current contexts of one thread. The library writes the record at each bind and unbind; read-only for back ends. */
+/* The current contexts of one thread. The library writes it at each bind and unbind; read-only for back ends. */
 typedef struct zvThread {
     zvEsContext es1Context; /* the current context of the ES 1 back end; null if there is none or of another back end */
     zvEsContext esContext;  /* the same for the ES 2 and 3 back end */
