@@ -1,5 +1,5 @@
-// What the system report costs the first EGL call of a process. A process has one first call, so that each figure comes
-// from processes of its own: this program runs itself, and prints medians in milliseconds.
+// The cost of the system report in a process's first EGL call. A process has one first call, so each figure needs
+// processes of its own: this program runs itself, and prints medians in milliseconds.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>

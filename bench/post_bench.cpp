@@ -1,5 +1,5 @@
-// What a record costs the application's thread that posts it, without a GUI and with one that reads all the time. Do
-// not run it while a GUI listens. The queue is let run empty between the runs, so that its memory does not count.
+// The cost of a record for the application's thread that posts it, without a GUI and with one that reads all the time.
+// Do not run it while a GUI listens. The queue is emptied between the runs, so that its memory does not count.
 #include <benchmark/benchmark.h>
 
 #include <chrono>

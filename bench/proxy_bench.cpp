@@ -1,4 +1,4 @@
-// What a proxy adds to a call of the back end's function: the argument is the number
+// The cost that a proxy adds to a call of the back end's function: the argument is the number
 // of contexts that have called the name, 0 for the function without its proxy. Where it says Switching, another context
 // is current at every call.
 #include <benchmark/benchmark.h>

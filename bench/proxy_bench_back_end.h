@@ -1,4 +1,4 @@
-// Stands for a back end. In a file of its own, so that calls of it are real calls.
+// A fake back end. In a file of its own, so that calls of it are real calls.
 #pragma once
 
 #include "foundation/gl_types.h"

@@ -1,4 +1,4 @@
-// What the contexts of every back end have. Made and used on the thread that has the host context current.
+// The common part of every back end's contexts. Created and used on the thread that has the host context current.
 #pragma once
 
 #include "common/host_features.h"
@@ -10,11 +10,11 @@ class BackEndContext {
     const std::shared_ptr<const HostFeatures> m_host = HostFeatures::ofCurrentContext();
 
 public:
-    // Keeps an error of our own for the application, unless one is pending.
+    // Records an error of this library for the application, unless one is pending.
     void raise(unsigned error) {
         if (m_error == 0) m_error = error;
     }
-    // The pending error, which is none afterwards; 0 without one.
+    // Returns and clears the pending error; 0 without one.
     [[nodiscard]] unsigned takeError() { return std::exchange(m_error, 0u); }
 
     const HostFeatures &host = *m_host;

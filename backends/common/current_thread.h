@@ -1,10 +1,10 @@
-// What is current on the calling thread, as libEGL.so.1 writes it.
+// The calling thread's current context, as libEGL.so.1 records it.
 #pragma once
 
 #include <zelvane/back_end.h>
 
 // The calling thread's record; an empty one before the thread's first bind. Two loads find the current context, since
-// drawing asks at each call.
+// every draw needs it.
 extern constinit thread_local const zvThread *currentThread __attribute__((tls_model("initial-exec")));
 
 // Called at each bind.

@@ -1,4 +1,4 @@
-// What a device profile says of one ES version: the answers that the device gives to an application.
+// The part of a device profile for one ES version: the strings and limits that the device reports to an application.
 #pragma once
 
 #include <map>
@@ -11,13 +11,13 @@ struct EsBlock {
     std::string vendor;                      // of the profile; empty when it has none
     std::string renderer;                    // of the profile; empty when it has none
     std::vector<std::string> extensionNames; // in the profile's order, always with "GL_" in front, each once
-    // The numbers of each element, under its name. An element that repeats adds to the list; one with children has
-    // theirs, in order.
+    // The numbers of each element, by its name. A repeated element adds to the list; one with children
+    // uses theirs, in order.
     std::map<std::string, std::vector<double>, std::less<>> limits;
-    // A desktop's block: what it lists no extension or number for is the host's, where a device has nothing.
+    // A desktop's block: extensions and numbers that it does not list are the host's, where a device has none.
     bool isDesktop = false;
 
-    // Whether the block decides which extensions there are.
+    // Whether the block defines the extensions.
     [[nodiscard]] bool listsExtensions() const { return !isDesktop || !extensionNames.empty(); }
 
     // The first number of an element, or nothing.
@@ -25,6 +25,6 @@ struct EsBlock {
 };
 
 // The block for a context of that version: of the blocks of its major version the highest that is not above it, else
-// the lowest. Nothing for an empty or malformed text and where the profile has no block of the major version; the host
-// alone decides then.
+// the lowest. Nothing for an empty or malformed text, or a profile without a block of the major version; the host's
+// values apply then.
 [[nodiscard]] std::optional<EsBlock> readEsBlock(std::string_view profileText, int major, int minor);

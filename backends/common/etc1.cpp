@@ -7,7 +7,7 @@ namespace {
 
 using Color = std::array<int, 3>;
 
-// What a texel's two bits add to the colour of its half, by the table number of the half.
+// The values that a texel's two bits add to the colour of its half, by the table number of the half.
 constexpr int modifiers[8][4] = {
     {2, 8, -2, -8},     {5, 17, -5, -17},   {9, 29, -9, -29},     {13, 42, -13, -42},
     {18, 60, -18, -60}, {24, 80, -24, -80}, {33, 106, -33, -106}, {47, 183, -47, -183},

@@ -12,7 +12,7 @@
 
 namespace {
 
-// A reference to the function itself would ask the back end for a name that it may not have.
+// A direct reference to the function would look up a name that the back end may not have.
 template <typename Function>
 Function host(const char *name) {
     return reinterpret_cast<Function>(hostFunction(name));

@@ -2,6 +2,6 @@
 // Any thread.
 #pragma once
 
-// The host's function, or null. A pointer says nothing about what the host can carry: its loader has a stub for nearly
-// any name. host_features.h knows.
+// The host's function, or null. A non-null result does not mean that the host supports it: its loader has a stub for
+// nearly any name. host_features.h reports support.
 [[nodiscard]] void *hostFunction(const char *name);

@@ -1,7 +1,7 @@
-// The size of one index of a list.
+// The size of one index of an index list.
 #pragma once
 
-// In bytes, by the type that a draw names; 0 for a type that is none.
+// In bytes, by the type argument of a draw; 0 for an invalid type.
 constexpr int indexSize(unsigned type) {
     switch (type) {
     case 0x1401: // GL_UNSIGNED_BYTE

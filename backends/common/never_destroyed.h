@@ -1,5 +1,5 @@
-// The one object of a type that lasts as long as the library is loaded: threads may use it while the process ends, and
-// a library that is unloaded leaves nothing of it behind but what it holds.
+// The one object of a type that lives as long as the library is loaded: threads may use it while the process ends, and
+// unloading the library leaks only what the object owns.
 #pragma once
 
 #include <cstddef>

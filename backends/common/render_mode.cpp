@@ -11,7 +11,7 @@ constexpr unsigned frontAndBack = 0x0408;
 constexpr unsigned polygonLine = 0x1B01;
 constexpr unsigned polygonFill = 0x1B02;
 
-// The frames below it have their marker, or drew nothing.
+// The earlier frames have their marker, or drew nothing.
 std::atomic<uint64_t> nextMarkedFrame = 0;
 
 void setPolygonMode(unsigned mode) {

@@ -1,4 +1,4 @@
-// A context's membership in its share group, whose members own it together. Any thread.
+// A context's membership in its share group, which its members own together. Any thread.
 #pragma once
 
 #include <map>
@@ -27,7 +27,7 @@ public:
     ShareGroupMember &operator=(const ShareGroupMember &) = delete;
 
     [[nodiscard]] Group &operator*() const { return *m_group; }
-    // For what outlives the context.
+    // For objects that outlive the context.
     [[nodiscard]] const std::shared_ptr<Group> &group() const { return m_group; }
     [[nodiscard]] Group *operator->() const { return m_group.get(); }
 

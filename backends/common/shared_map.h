@@ -1,4 +1,4 @@
-// Notes about the objects of a share group, by name. Any thread; looking costs no lock while there are none.
+// Per-name data about the objects of a share group. Any thread; a lookup takes no lock while the map is empty.
 #pragma once
 
 #include "es_gl.h"

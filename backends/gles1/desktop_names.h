@@ -1,4 +1,4 @@
-// Enumerants of desktop OpenGL that the headers of ES lack. Those headers and the desktop's cannot stand in one file.
+// Enumerants of desktop OpenGL that the ES headers lack. Those and the desktop's headers cannot be included together.
 #pragma once
 
 namespace desktop {
@@ -19,7 +19,7 @@ constexpr unsigned textureGenT = 0x0C61;
 constexpr unsigned textureGenR = 0x0C62;
 constexpr unsigned streamDraw = 0x88E0;
 
-// Groups of state for glPushAttrib.
+// Attribute groups for glPushAttrib.
 constexpr unsigned currentBit = 0x00000001;
 constexpr unsigned polygonBit = 0x00000008;
 constexpr unsigned viewportBit = 0x00000800;

@@ -1,11 +1,11 @@
 // OpenGL ES 3.2 with its extensions.
 #pragma once
 
-// The names of extensions have prototypes too.
+// Makes the headers declare prototypes for extensions too.
 #define GL_GLEXT_PROTOTYPES
 #include <GLES3/gl32.h>
 
-// gl2ext.h repeats names of gl32.h in the same words.
+// gl2ext.h repeats names of gl32.h with the same values.
 #include <GLES2/gl2ext.h>
 
 // Functions of desktop OpenGL that extensions of ES have under another name.

@@ -1,9 +1,9 @@
-// Types of vertices and pixels that the host numbers otherwise.
+// Vertex and pixel types with different values on the host.
 #pragma once
 
 #include "es_gl.h"
 
-// The extensions of ES 2 have a number of their own for half floats.
+// The extensions of ES 2 have their own value for half floats.
 [[nodiscard]] constexpr GLenum hostType(GLenum type) {
     return type == GL_HALF_FLOAT_OES ? GLenum(GL_HALF_FLOAT) : type;
 }

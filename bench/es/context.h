@@ -1,13 +1,13 @@
-// What one side of es_bench measures: a current context of 64 x 64 pixels and its functions.
+// The context that one side of es_bench measures: current, with 64 x 64 pixels, and its functions.
 #pragma once
 
 enum class Side {
     Host,        // desktop OpenGL by GLX, core profile
-    BackEnd,     // the function that libGLESv2.so.2 hands out, past the proxy of libEGL.so.1
-    Application, // what eglGetProcAddress gives
+    BackEnd,     // the function that libGLESv2.so.2 returns, past the proxy of libEGL.so.1
+    Application, // the result of eglGetProcAddress
 };
 
-// Makes a context and binds it for the rest of the process. Ends the process with a word when there is none.
+// Creates a context and binds it for the rest of the process. Ends the process with a message when there is none.
 // major: of OpenGL ES.
 void openContext(Side side, int major);
 

@@ -1,4 +1,4 @@
-// One side of bench/es_bench, which starts it and asks for rows. Usage: es_bench_side host|back-end|application [MAJOR]
+// One side of bench/es_bench, which starts it and requests rows. Usage: es_bench_side host|back-end|application [MAJOR]
 // Answers each line of standard input, the name of a row, with a line of nanoseconds and user instructions of one call;
 // "-" where the side has no such call. The line "rows" lists the names.
 #include "measure.h"

@@ -1,4 +1,4 @@
-// The host's context: of the version and profile that libEGL.so.1 asks GLX for.
+// The host's context: of the version and profile that libEGL.so.1 requests from GLX.
 #include "context.h"
 
 #include <GL/glx.h>

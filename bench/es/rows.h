@@ -14,5 +14,5 @@ struct Row {
 
 [[nodiscard]] std::span<const Row> allRows();
 
-// Whose objects the bodies use from now on.
+// Selects the context whose objects the bodies use from now on.
 void setScene(const Scene &scene);

@@ -1,4 +1,4 @@
-// The objects that the rows of es_bench work on, and the functions that they call.
+// The objects that the rows of es_bench use, and the functions that they call.
 #pragma once
 
 #include "context.h"
@@ -29,7 +29,7 @@ constexpr GLsizei largeImage = 512;
 struct Scene {
     explicit Scene(Side side);
 
-    // The state that every row starts from: the surface, object 0 or what stands for it, no buffers, no arrays.
+    // The initial state of every row: the surface, object 0 or its replacement, no buffers, no arrays.
     void reset() const;
     // The three attributes of a vertex, from the bound buffer (base null) or from memory.
     void pointAt(const Vertex *base) const;

@@ -1,5 +1,5 @@
-// A triangle with GLFW: an OpenGL ES 2 context through GLFW's EGL interface. Links GLFW alone, which opens the libEGL
-// and libGLESv2 that the loader finds, so "zelvane run -- glfw_triangle" puts it on Zelvane.
+// A triangle with GLFW: an OpenGL ES 2 context through GLFW's EGL interface. Links only GLFW, which opens the libEGL
+// and libGLESv2 that the loader finds, so "zelvane run -- glfw_triangle" runs it on Zelvane.
 // Usage: glfw_triangle [SECONDS]     (default: until the window is closed)
 #define GLFW_INCLUDE_ES2
 #include <GLFW/glfw3.h>

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Throws what failed with EGL's reason.
+// Throws the failed call with EGL's error.
 [[noreturn]] void fail(const std::string &what) {
     char code[16];
     std::snprintf(code, sizeof code, "0x%04X", static_cast<unsigned>(eglGetError()));

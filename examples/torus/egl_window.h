@@ -16,7 +16,7 @@ struct Size {
 
 class EglWindow {
 public:
-    // Opens the window, waits until it is shown and binds the context. Throws std::runtime_error, telling what failed.
+    // Opens the window, waits until it is shown and binds the context. Throws std::runtime_error naming the failure.
     EglWindow(const char *title, Size size, EGLint samples);
     ~EglWindow();
     EglWindow(const EglWindow &) = delete;
@@ -24,10 +24,10 @@ public:
 
     // The functions of the current context.
     [[nodiscard]] GlFunctions loadFunctions() const;
-    // The surface's size now. It follows the window.
+    // The surface's current size, which follows the window.
     [[nodiscard]] Size surfaceSize() const;
     void resize(Size size);
-    // Takes in what the user did. False once the window was closed.
+    // Handles window events. False once the window was closed.
     [[nodiscard]] bool handleEvents();
     void swapBuffers();
 

@@ -1,5 +1,5 @@
 // A turning torus in OpenGL ES 2: opens a window, draws some frames, makes the window larger half-way, saves the last
-// frame as a picture and tells what it ran on.
+// frame as a picture and prints the EGL and GL strings that it ran with.
 #include "egl_window.h"
 #include "picture.h"
 #include "scene.h"

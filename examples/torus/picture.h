@@ -6,5 +6,5 @@
 #include <string>
 #include <vector>
 
-// pixels: RGBA, 8 bits each, rows from the bottom up. The alpha is left out. Throws std::runtime_error.
+// pixels: RGBA, 8 bits each, rows from the bottom up. Alpha is ignored. Throws std::runtime_error.
 void writePng(const std::string &file, Size size, const std::vector<GLubyte> &pixels);

@@ -50,7 +50,7 @@ void main() {
 }
 )";
 
-// Column by column, as glUniformMatrix4fv takes it.
+// Column-major, as glUniformMatrix4fv expects it.
 using Matrix = std::array<GLfloat, 16>;
 
 Matrix perspective(float aspect) {

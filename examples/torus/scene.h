@@ -1,4 +1,4 @@
-// A lit torus with a checker on it that turns. What a frame shows depends on the frame's number alone.
+// A rotating lit torus with a checker texture. The picture depends on the frame number only.
 #pragma once
 
 #include "egl_window.h"
@@ -14,7 +14,7 @@ public:
     Scene &operator=(const Scene &) = delete;
 
     void draw(int frame, Size size);
-    // What was drawn last: RGBA, 8 bits each, rows from the bottom up.
+    // The last frame: RGBA, 8 bits each, rows from the bottom up.
     [[nodiscard]] std::vector<GLubyte> readPixels(Size size) const;
 
 private:

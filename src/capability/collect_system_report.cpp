@@ -23,8 +23,8 @@ void sendFeature(SystemReportReceiver &receiver, const FeatureBinding<feature> &
     }
 }
 
-// Asking for each extension of the catalogue apart walks the host's list hundreds of times, for tens of milliseconds in
-// the first call of a process. A list is walked once here; the answers are those of hostHasExtensionId.
+// Querying each extension of the catalogue separately walks the host's list hundreds of times, which takes tens of
+// milliseconds in a process's first call. A list is walked once here; the results equal those of hostHasExtensionId.
 std::vector<bool> extensionsPresent(const HostGlView &view) {
     std::vector<bool> isPresent(hostExtensionCount + 1);
     if (!view.listsExtensions(hostGlVersion(view))) {

@@ -11,8 +11,8 @@
 
 namespace capability {
 
-// Works under a probing context on the calling thread. A host that gives none is reported by the end record alone.
-// Gives the gate by the same look at the host.
+// Probes with a context on the calling thread. When the host has none, the end record is all that is sent.
+// Returns the gate of the same probe.
 std::optional<EsGate> collectSystemReport(const DynamicLibrary &library,
                                           const std::shared_ptr<glove::WSAPI> &windowSystem,
                                           SystemReportReceiver &receiver);

@@ -12,7 +12,7 @@ namespace capability {
 
 struct EntryPointRow {
     Feature feature;
-    std::array<const char *, 3> names; // by family; alone, the first one stands for all
+    std::array<const char *, 3> names; // by family; a single name serves all
 
     [[nodiscard]] const char *nameIn(size_t family) const { return names[1] ? names[family] : names[0]; }
 };
@@ -27,7 +27,7 @@ inline constexpr auto entryPoints = std::to_array<EntryPointRow>({
 #undef FAMILY
 });
 
-// The place of a function among those of its feature, found while compiling by its name in the feature's first family.
+// The index of a function among those of its feature, found at compile time by its name in the feature's first family.
 template <Feature feature>
 class EntryPoint {
 public:

@@ -44,7 +44,7 @@ void addMissing(EsVersion version, const Es31Features &set, std::vector<Feature>
     if (version != base) addMissing(std::ranges::find(gates, version, &Gate::version)->below, set, missing);
 }
 
-// What promises each minor version of ES 3, the highest first.
+// What guarantees each minor version of ES 3, the highest first.
 constexpr struct {
     int32_t minor;
     GlVersion glVersion; // that has it in its core

@@ -1,5 +1,5 @@
-// A feature is a named host facility that can be satisfied in one or more alternative ways. The table of all of them is
-// data/features.def; it is constant and may be read from any thread.
+// A feature is a named host capability that can be satisfied in one or more alternative ways. All of them are in
+// data/features.def; the table is constant and may be read from any thread.
 #pragma once
 
 #include <cstdint>

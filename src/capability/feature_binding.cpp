@@ -8,7 +8,7 @@ namespace capability {
 
 namespace {
 
-// The two look-ups are one on this platform. They are kept apart so that each family says which it wants.
+// The two lookups are the same on this platform. They are kept apart so that each family names the one that it needs.
 using Lookup = void *(*)(const DynamicLibrary &library, const char *name);
 
 void *core(const DynamicLibrary &library, const char *name) {

@@ -1,4 +1,4 @@
-// A feature on one host: which alternative was selected, and the host functions that go with it.
+// A feature on one host: the selected alternative, and its host functions.
 #pragma once
 
 #include <vector>
@@ -12,21 +12,21 @@ namespace capability {
 
 constexpr int32_t noVariant = -1;
 
-// What a binding holds, whatever its feature.
+// The contents of a binding, whatever its feature.
 struct Binding {
     int32_t variant = noVariant;
-    // Only of texture storage: whether the last three functions may be called.
+    // For texture storage only: whether the last three functions may be called.
     bool hasDirectStorage = false;
-    // In the order of the table; a null one where the host lacks the function, which does not make the feature missing.
-    // Empty while nothing was looked up.
+    // In the order of the table; null where the host lacks the function, which does not make the feature missing.
+    // Empty before the lookup.
     std::vector<void *> functions;
 };
 
-// Of this feature and no other.
+// For this feature only.
 template <Feature feature>
 struct FeatureBinding : Binding {
-    // The function of this name in the feature's first family, whatever family was selected. Null when nothing was
-    // looked up.
+    // The function of this name in the feature's first family, whatever family was selected. Null before the
+    // lookup.
     template <typename Function>
     [[nodiscard]] Function function(EntryPoint<feature> entry) const {
         return reinterpret_cast<Function>(entry.place() < functions.size() ? functions[entry.place()] : nullptr);
@@ -41,8 +41,8 @@ template <Feature feature>
     return isAvailable(feature, binding);
 }
 
-// Selects the variant and looks the functions up; those of an unknown variant stay as they are. Tells whether it looked
-// anything up, or, for a feature without functions, whether it is available.
+// Selects the variant and looks the functions up; those of an unknown variant stay as they are. Returns whether it
+// looked anything up, or, for a feature without functions, whether it is available.
 bool bind(Feature feature, Binding &binding, const HostGlView &view, const DynamicLibrary &library);
 
 template <Feature feature>

@@ -1,6 +1,6 @@
 // The bindings that an OpenGL ES level needs, made for the host context that is current on the calling thread. A set
-// belongs to that thread and speaks for that context; nothing in it is ever refreshed. The library must outlive it.
-// Each level adds its bindings behind those of the level below; ES 3.2 has no set of its own and uses that of ES 3.1.
+// belongs to that thread and describes that context; nothing in it is ever refreshed. The library must outlive it.
+// Each level adds its bindings after those of the level below; ES 3.2 has no set of its own and uses that of ES 3.1.
 #pragma once
 
 #include <vector>
@@ -16,7 +16,7 @@ struct EsBaseFeatures {
     explicit EsBaseFeatures(const DynamicLibrary &library);
 
 #include "capability/data/es_base_features.def"
-    // 0 until they are asked for.
+    // 0 until they are queried.
     GlVersion glVersion = noGlVersion;
     GlslVersion glslVersion = noGlslVersion;
 
@@ -46,10 +46,10 @@ struct Es31Features : Es30Features {
 #undef BIND
 #undef FIELD
 
-// Asked of the host once; a host that gives no text is asked again.
+// Queried from the host once; a host that returns no text is queried again.
 [[nodiscard]] GlVersion cachedGlVersion(EsBaseFeatures &set);
 [[nodiscard]] GlslVersion cachedGlslVersion(EsBaseFeatures &set);
-// The host's extensions in its own order, repeats kept. Names that the catalogue lacks are left out.
+// The host's extensions in its own order, with repeats. Names that are not in the catalogue are left out.
 [[nodiscard]] std::vector<HostExtension> hostExtensionIds(EsBaseFeatures &set);
 
 } // namespace capability

@@ -26,7 +26,7 @@ std::string describeAlternatives(std::span<const FeatureAlternative> alternative
 
 std::string describeRequirements(std::span<const FeatureAlternative> alternatives, uint32_t variant) {
     const auto found = std::ranges::find(alternatives, variant, &FeatureAlternative::variant);
-    // 0 asks for all, so that the core form cannot be described alone.
+    // 0 describes all, so the core form cannot be described on its own.
     if (variant == 0 || found == alternatives.end()) return describeAlternatives(alternatives);
     return describeAlternative(*found);
 }

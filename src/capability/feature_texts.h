@@ -1,4 +1,4 @@
-// A shortfall in words, for whoever has to explain a missing feature.
+// Descriptions of what a missing feature requires.
 #pragma once
 
 #include <span>
@@ -8,11 +8,11 @@
 
 namespace capability {
 
-// Empty for an alternative without any condition.
+// Empty for an alternative without a condition.
 [[nodiscard]] std::string describeAlternative(const FeatureAlternative &alternative);
-// A line "OR" stands behind every alternative, the last one too.
+// A line "OR" follows every alternative, the last one too.
 [[nodiscard]] std::string describeAlternatives(std::span<const FeatureAlternative> alternatives);
-// The first alternative of this variant alone; all of them for variant 0 and for one that there is not.
+// Only the first alternative of this variant; all of them for variant 0 and for an unknown one.
 [[nodiscard]] std::string describeRequirements(std::span<const FeatureAlternative> alternatives, uint32_t variant);
 [[nodiscard]] std::string describeFeatureFailure(const FeatureDescriptor &descriptor, uint32_t variant);
 

@@ -93,7 +93,7 @@ std::string formatSystemReport(const SystemReport &report, bool withExtensions) 
     std::string text = std::string("OpenGL Version: ") + glVersionName(report.glVersion) + "\n\n";
     std::vector<SystemReportSection> kept;
 
-    // What holds back a version holds back every higher one, though its own list may be complete.
+    // A version that is not supported excludes every higher one, even if the list of that is complete.
     bool isHeldBack = false;
     for (const auto &row : sectionRows) {
         kept.push_back(buildSection(report, report.esRequirements, row.key, row.name));

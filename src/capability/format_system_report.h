@@ -1,4 +1,4 @@
-// The system report as text: the only explanation that a user in a terminal gets of a context that was refused.
+// The system report as text: the only explanation that a terminal user gets for a refused context.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace capability {
 
-// One heading of the text. Lives while the text is made.
+// One section of the text. Exists while the text is built.
 struct SystemReportSection {
     std::string name;
     std::vector<std::shared_ptr<SystemReport::Feature>> supported;
@@ -22,15 +22,15 @@ struct SystemReportSection {
 // withExtensions adds the list of the host's extensions.
 [[nodiscard]] std::string formatSystemReport(const SystemReport &report, bool withExtensions);
 
-// Empty for a key without requirements. A feature that is required twice stands there twice, and one that the report
-// does not know is passed over.
+// Empty for a key without requirements. A feature that is required twice is listed twice, and one that the report
+// does not know is skipped.
 [[nodiscard]] SystemReportSection buildSection(const SystemReport &report,
                                                const std::map<int32_t, std::vector<std::string>> &requirements,
                                                int32_t key, const std::string &name);
 [[nodiscard]] std::string formatMissingFeatures(std::span<const SystemReportSection> sections);
-// indent: in tabs. Ends in an empty line.
+// indent: in tabs. Ends with an empty line.
 [[nodiscard]] std::string formatFeature(const SystemReport::Feature &feature, size_t indent);
-// Ends its line.
+// Ends with a line feed.
 [[nodiscard]] std::string formatAlternative(const SystemReport::Alternative &alternative);
 [[nodiscard]] std::string formatExtensionList(std::span<const HostExtension> extensions);
 

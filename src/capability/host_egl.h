@@ -1,4 +1,4 @@
-// The host functions that the library calls by itself, from the features that they belong to. Made with a host context
+// The host functions that the library itself calls, from the features that they belong to. Created with a host context
 // current. A function that the host lacks, or whose feature it lacks, is null.
 #pragma once
 
@@ -13,7 +13,7 @@ struct EGL {
     EGL() = default;
     explicit EGL(const DynamicLibrary &library);
 
-    // Whether a host context was there to look at.
+    // Whether a host context was current for the lookup.
     [[nodiscard]] bool hasHost() const { return m_hasHost; }
 
     capability::FeatureBinding<capability::Feature::fenceSync> fenceSync;
@@ -33,7 +33,7 @@ struct EGL {
                              int32_t width, int32_t height, int32_t border) = nullptr;
     void (*glBindTexture)(uint32_t target, uint32_t texture) = nullptr;
 
-    // Takes one error that is pending on the host.
+    // Clears one pending error of the host.
     void sweepError() const {
         if (glGetError) glGetError();
     }

@@ -1,5 +1,5 @@
-// What the host says about itself: every question goes through the bindings of the features "get" and "opengl".
-// Speaks for the context that is current on the calling thread, and keeps nothing of the answers.
+// Queries of the host: each uses the bindings of the features "get" and "opengl".
+// Describes the context that is current on the calling thread, and caches no result.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +13,8 @@ namespace capability {
 template <Feature feature>
 struct FeatureBinding;
 
-// By a pair of bindings. A view without them cannot ask, and assumes everything. Good as long as the library that the
-// bindings were looked up in.
+// From a pair of bindings. A view without them cannot query, and assumes every capability. Valid as long as the library
+// that the bindings were looked up in.
 class HostGlView {
 public:
     HostGlView() = default;
@@ -26,7 +26,7 @@ public:
     // From OpenGL 3.0 on the host lists its extensions one by one, if it has the function.
     [[nodiscard]] bool listsExtensions(GlVersion version) const { return version >= gl3_0 && m_getStringi; }
     [[nodiscard]] int32_t listedExtensionCount() const;
-    // Only where the host lists them.
+    // Only if the host lists them.
     [[nodiscard]] const char *listedExtension(int32_t index) const;
 
 private:
@@ -36,11 +36,11 @@ private:
     void (*m_getIntegerv)(uint32_t name, int32_t *value) = nullptr;
 };
 
-// Unknown, which passes every test, for a view that cannot ask.
+// The unknown version, which passes every test, if the view cannot query.
 [[nodiscard]] GlVersion hostGlVersion(const HostGlView &view);
 
-// Where the host does not list its extensions, a name counts as present wherever it stands in the extension text, be it
-// the beginning of a longer name.
+// If the host does not list its extensions, a name is found anywhere in the extension text, even as the beginning of a
+// longer name.
 [[nodiscard]] bool hostHasExtension(const HostGlView &view, const char *name);
 [[nodiscard]] bool hostHasExtensionId(const HostGlView &view, HostExtension id);
 

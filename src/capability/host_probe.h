@@ -1,4 +1,4 @@
-// A probing context for the length of one look at the host, on the calling thread.
+// A probing context for one query of the host, on the calling thread.
 #pragma once
 
 #include <memory>
@@ -16,7 +16,7 @@ public:
     HostProbe &operator=(const HostProbe &) = delete;
     ~HostProbe() { host::destroyHostProbeContext(std::move(m_context)); }
 
-    // False when the host gives no context; nothing may be asked then.
+    // False when the host has no context; queries are not allowed then.
     [[nodiscard]] bool isCurrent() const { return host::isHostProbeCurrent(*m_context); }
 
 private:

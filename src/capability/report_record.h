@@ -1,4 +1,4 @@
-// The records of the system report, each one fact about the host. They travel in this form to whoever receives them.
+// The records of the system report, each one fact about the host, in the form in which they are sent.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@
 
 namespace capability {
 
-// A text as a record can carry it: at most 511 characters, the rest is cut silently.
+// A text in a record: at most 511 characters, the rest is cut silently.
 class ReportText {
 public:
     ReportText(const char *text) : m_text(text, strnlen(text, maxLength)) {}
@@ -42,7 +42,7 @@ struct FeatureRecord {
 struct FeatureAlternativeRecord {
     ReportText feature;
     GlVersion minVersion;
-    std::vector<HostExtension> extensions; // a 0 ends the list for the receiver
+    std::vector<HostExtension> extensions; // ended by a 0 for the receiver
 };
 
 struct EsRequirementRecord {

@@ -1,4 +1,4 @@
-// What the host can and cannot do for each OpenGL ES version. For reading only: the verdicts gate nothing.
+// The host's capabilities for each OpenGL ES version. For information only: the results decide nothing.
 // Filled once, on one thread, and only read after that.
 #pragma once
 
@@ -19,7 +19,7 @@ struct SystemReport {
         std::vector<HostExtension> extensions;
     };
 
-    // Shared by the report and the sections that are made of it.
+    // Shared by the report and the sections that are built from it.
     struct Feature {
         std::string name;
         bool available;
@@ -40,12 +40,12 @@ public:
     virtual void receive(const ReportRecord &record) = 0;
 };
 
-// Fills a report and passes every record on. Lives for one collection; takes nothing more after the end record.
+// Fills a report and passes every record on. Used for one collection; accepts nothing after the end record.
 class SystemReportFiller : public SystemReportReceiver {
 public:
     using Forward = std::function<void(const ReportRecord &record)>;
 
-    // forward may be empty. It must not wait.
+    // forward may be empty. It must not block.
     explicit SystemReportFiller(SystemReport &report, Forward forward = {});
     void receive(const ReportRecord &record) override;
 

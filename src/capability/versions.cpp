@@ -48,7 +48,7 @@ auto findValue(const Rows &rows, int32_t value) {
     return std::ranges::find(rows, value, &Rows::value_type::value);
 }
 
-// The value of the first row whose text the given text begins with.
+// The value of the first row whose text is a prefix of the given text.
 template <typename Rows>
 int32_t parseVersion(const Rows &rows, const char *text, int32_t none, int32_t unknown) {
     if (!text) return none;

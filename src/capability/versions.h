@@ -1,5 +1,5 @@
-// Numbers for versions of OpenGL, GLSL and OpenGL ES, and the texts that stand for them. Pure; any thread.
-// Texts compare byte by byte, without a locale. Name functions answer any value with a constant text.
+// Numbers for versions of OpenGL, GLSL and OpenGL ES, and their texts. Pure; any thread.
+// Texts compare byte by byte, without a locale. Name functions return a constant text for any value.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ constexpr EsVersion es3_0 = 3;
 constexpr EsVersion es3_1 = 4;
 constexpr EsVersion es3_2 = 5;
 
-// Only the beginning of the text counts, so that a driver may write what it likes behind the number. Null is no text.
+// Only the beginning of the text is compared, so that a driver may append anything to the number. Null is no text.
 [[nodiscard]] GlVersion parseGlVersion(const char *text);
 [[nodiscard]] const char *glVersionName(GlVersion value);
 
@@ -32,7 +32,7 @@ constexpr EsVersion es3_2 = 5;
 [[nodiscard]] const char *glslVersionName(GlslVersion value, bool isShort);
 
 [[nodiscard]] const char *esVersionName(EsVersion value);
-// 0 for a version that there is not. Major versions 1 and 2 take any minor version.
+// 0 for an unknown version. Major versions 1 and 2 accept any minor version.
 [[nodiscard]] EsVersion esVersionFromContext(int32_t major, int32_t minor);
 
 } // namespace capability

@@ -1,4 +1,4 @@
-// What back ends call: what is current, and the settings behind their opaque pointer.
+// The functions that back ends call: they return what is current, and the settings behind their opaque pointer.
 #include "egl/context.h"
 #include "egl/display.h"
 #include "egl/gui_link.h"

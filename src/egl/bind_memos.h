@@ -1,4 +1,4 @@
-// The last binds of one thread, so that binding the same objects again looks no handle up.
+// The last binds of one thread, so that binding the same objects again needs no handle lookup.
 #pragma once
 
 #include <array>
@@ -20,23 +20,23 @@ struct BindRequest {
     bool operator==(const BindRequest &) const = default;
 };
 
-// What a request was found to mean.
+// The objects that a request resolved to.
 struct BindMemo {
     BindRequest request{};
-    uint64_t version = 0; // of the display's handles, from before they were looked up
+    uint64_t version = 0; // of the display's handles, read before they were looked up
     std::weak_ptr<Context> context;
-    const Surface *draw = nullptr; // for comparing: the context keeps its last surfaces alive
+    const Surface *draw = nullptr; // only compared: the context keeps its last surfaces alive
     const Surface *read = nullptr;
 };
 
 class BindMemos {
 public:
-    // Null when nothing is known of the request, and when a handle of the display may have become unknown since.
+    // Null for an unknown request, and when a handle of the display may have become invalid since.
     [[nodiscard]] const BindMemo *find(const BindRequest &request) const;
     void note(BindMemo memo);
 
 private:
-    // By the number of the context, so that programs that go between a few contexts find them all.
+    // Indexed by the context's number, so that programs that alternate between a few contexts find them all.
     static constexpr size_t count = 4;
     static size_t placeOf(EGLContext context) { return reinterpret_cast<uintptr_t>(context) % count; }
 

@@ -15,7 +15,7 @@ namespace {
 
 using refusals::Rule;
 
-// Nothing of it changes whether a bind fails; callers give the error.
+// Records the rule only: whether the bind fails is decided elsewhere, and callers set the error.
 bool refuseBind(Rule rule, const Context &context) {
     refusals::lastNote = {rule, {.major = context.attribs.esMajor, .minor = context.attribs.esMinor}};
     return false;

@@ -9,18 +9,18 @@
 
 namespace egl {
 
-// A bind's claim on its context. Gives up what it took unless the bind succeeds.
+// A bind's claim on its context. The destructor releases it unless the bind succeeded.
 class BindClaim {
 public:
-    // Waits for the first bind of another context of the share group where this is the context's first bind, too.
+    // If this is the context's first bind, waits for the first bind of any other context of the share group.
     explicit BindClaim(Context &context);
     BindClaim(const BindClaim &) = delete;
     BindClaim &operator=(const BindClaim &) = delete;
     ~BindClaim();
 
-    // False when another thread has the context. A context that is current here is claimed already.
+    // False when another thread has claimed the context. A context that is current here is claimed already.
     [[nodiscard]] bool isHeld() const { return m_isTaken || m_isCurrent; }
-    // The bind has succeeded: unbinding gives the claim up.
+    // Marks the bind as successful: the claim is then released at the unbind.
     void keep() { m_isTaken = false; }
 
 private:
@@ -30,16 +30,16 @@ private:
     bool m_isTaken;
 };
 
-// Ends the thread's binding on the EGL side and does what eglDestroyContext put off. The host binding stays. The
-// display is the entry's and not the context's own: a doomed context of another display is looked up in the wrong
-// table.
+// Ends the thread's binding on the EGL side and runs a deferred eglDestroyContext. The host binding stays. The display
+// is the entry's and not the context's own: a context of another display with a pending destroy is looked up in the
+// wrong table.
 void unbindCurrent(Display &display);
 
-// What the current context has drawn goes to the pixmap of its surface, if that has one.
+// Copies what the current context has drawn to the pixmap of its surface, if it has one.
 void showPixmap(const Context &current);
 
-// The caller has claimed the context and prepared the thread. False leaves the thread without a current context if it
-// had another one.
+// The caller has claimed the context and prepared the thread. On failure the thread has no current context, even if it
+// had another one before.
 [[nodiscard]] bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces);
 
 // Binds with a surface of the library's own, which stays in the display's table until eglTerminate.

@@ -22,7 +22,7 @@ namespace {
 using journal::attributesJson;
 using journal::Json;
 
-// Of calls that programs try until one is taken, a refusal may be no more than a step. The log tells of some itself.
+// step: programs retry the call with other values until one succeeds. logged: the call writes a log line of its own.
 enum class Kind { step, end, logged };
 
 uint64_t number(const void *handle) {

@@ -1,5 +1,5 @@
-// What is told of calls beside their answers: the lines of the journal, and refusals in words. Entries hand their
-// answers through; where nobody listens that costs one test of a bool.
+// Reports about EGL calls beside their results: journal lines, and readable refusals. Entries pass their results
+// through; with no journal and no reader that costs one test of a bool.
 #pragma once
 
 #include "egl/egl_api.h"
@@ -15,7 +15,7 @@ namespace egl::reports {
     return on;
 }
 
-// The calls that are told of. Each reads the calling thread's EGL error and the note of the rule behind it.
+// The reported calls. Each reads the calling thread's EGL error and the note of the rule behind it.
 void initialize(EGLBoolean answer, EGLDisplay dpy);
 void choice(EGLBoolean answer, const EGLint *attributes, EGLint found, const ChoiceAccount &account);
 void context(EGLContext answer, EGLDisplay dpy, EGLConfig config, EGLContext share, const EGLint *attributes);
@@ -26,7 +26,7 @@ void bindApi(EGLBoolean answer, EGLenum api);
 void lookup(__eglMustCastToProperFunctionPointerType answer, const char *name);
 void swap(EGLBoolean answer, EGLSurface surface);
 
-// Hands the answer through and tells of the call.
+// Reports the call and returns its result.
 template <typename Answer, typename Tell, typename... Arguments>
 [[nodiscard]] Answer told(Answer answer, Tell tell, Arguments... arguments) {
     if (isOn()) [[unlikely]]

@@ -1,4 +1,4 @@
-// Entries about configs. The lists are told by the device profile; for devices the host is never asked.
+// Entries about configs. The device profile defines the lists; the host is not queried for devices.
 #include "egl/call_reports.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"

@@ -20,7 +20,7 @@ ContextAttribs withHandle(ContextAttribs attribs, uint64_t handle) {
 std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &config, const Context *share,
                                                               const ContextAttribs &attribs) {
     host::HostContextRequest request;
-    // A config that no profile has carries no host format; the bind then finds no context.
+    // A config that no profile has carries no host format, so the bind fails for lack of a host context.
     request.format = config.hostConfig() ? config.hostConfig()->format() : nullptr;
     request.legacy = attribs.legacyClient;
     if (desktop_clients::isOn()) request.robustness = standard::robustnessOf(attribs);

@@ -22,50 +22,50 @@ struct SurfacePair {
     std::shared_ptr<Surface> read;
 };
 
-// What contexts that share objects have in common.
+// State shared by the contexts of a share group.
 struct ContextGroup {
-    // Held for the first bind of each: it makes the back-end contexts of those that it shares with. Recursive, since a
-    // back end may call entries while it makes a context.
+    // Held during each context's first bind, which creates the back-end contexts of those that it shares with.
+    // Recursive, since a back end may call entries while it creates a context.
     std::recursive_mutex firstBinds;
 
-    // For threads that have none of the group current and ask the host for an object of the group. Made when needed.
+    // For threads that have no context of the group current and query a host object of the group. Created on demand.
     std::mutex helperMutex; // held while the context is current
     std::unique_ptr<host::HostContextHandle> helper;
 };
 
-// Held by shared pointer; the address is stable for its life and is what its table of functions goes by.
+// Held by shared pointer; the address is stable for the context's life and identifies its function table.
 //
-// One thread at a time has a claim on a context, from before a bind to the unbind, or for deleting it. What is bound to
-// it is touched by the thread that has the claim alone.
+// One thread at a time has a claim on a context, from before a bind to the unbind, or for deleting it. Only the thread
+// that has the claim may access what is bound to it.
 class Context : public std::enable_shared_from_this<Context> {
 public:
-    // Opens the back-end library and makes the host context. Neither failure shows here: the first bind tells.
+    // Opens the back-end library and creates the host context. A failure of either is reported by the first bind.
     Context(Display &display, uint64_t handle, std::shared_ptr<const Config> config, std::shared_ptr<Context> share,
             const ContextAttribs &attribs);
     Context(const Context &) = delete;
     Context &operator=(const Context &) = delete;
-    // Leaves the host context behind unless deleteEsContext has ended it: a context that goes with eglTerminate may
-    // still carry objects that others share.
+    // Leaks the host context unless deleteEsContext has destroyed it: a context that eglTerminate releases may still
+    // own objects that others share.
     ~Context();
 
-    // The back end's function of this name, or null. Asks the back end at every call.
+    // The back end's function of this name, or null. Queries the back end at every call.
     [[nodiscard]] void *getExtProcAddress(const char *name) const;
-    // Ends the host context and the back-end context; later, if another thread has the context current. False when the
-    // back end cannot delete; the host context is gone all the same. Any thread.
+    // Destroys the host context and the back-end context; deferred if another thread has the context current. False
+    // when the back end cannot delete; the host context is destroyed all the same. Any thread.
     [[nodiscard]] bool deleteEsContext();
-    // The same, but not before a thread that has it current lets it go, this one too.
+    // The same, but deferred until the thread that has it current releases it, even if that is the calling thread.
     void deleteOnceLetGo();
-    // Hands a render mode to the back end. False when it takes none.
+    // Passes a render mode to the back end. False when it accepts none.
     bool setRenderMode(uint8_t mode) const;
 
-    // False when a thread has it already, this one too.
+    // False when any thread, the calling one included, has claimed it already.
     [[nodiscard]] bool claim() { return !boundToThread.exchange(true); }
-    // Gives the claim up, and deletes what another thread meant to delete meanwhile.
+    // Releases the claim, and runs a deletion that another thread requested meanwhile.
     void letGo();
 
     // Null once deleteEsContext has run. Any thread.
     [[nodiscard]] std::shared_ptr<host::HostContextHandle> hostContext() const;
-    // The same for the thread that has the claim.
+    // The same, for the thread that has the claim only.
     [[nodiscard]] const host::HostContextHandle *claimedHostContext() const { return m_hostContext.get(); }
 
     // Constant after construction.
@@ -80,13 +80,13 @@ public:
     std::atomic<zvEsContext> esContext = nullptr; // null until the first bind and once the back end has deleted it
 
     std::atomic<bool> boundToThread = false;
-    std::atomic<bool> pendingDestroy = false; // destroyed while bound: goes when it is unbound
+    std::atomic<bool> pendingDestroy = false; // destroyed while bound: deleted when it is unbound
 
-    // Of the thread that has the claim. Surfaceless is set during a bind without the application's surfaces, and stays
-    // after a failed one.
+    // Used by the thread that has the claim. Surfaceless is set during a bind without the application's surfaces, and
+    // stays set after a failed one.
     ContextAttribs attribs;
     SurfacePair surfaces;                           // of the last bind; they outlive an unbind
-    std::shared_ptr<glove::ISurface> privateBuffer; // what binds without surfaces draw to; made for the first of them
+    std::shared_ptr<glove::ISurface> privateBuffer; // the drawable of binds without surfaces; created by the first
 
 private:
     friend class SharedEsContext;
@@ -97,17 +97,17 @@ private:
 
     mutable std::atomic<bool> m_keepsLibrary = false;
 
-    // Another display's context of the same number, destroyed in its stead while a thread has it.
+    // Another display's context of the same number, destroyed in its place while a thread has it current.
     std::atomic<bool> m_deletesWhenLetGo = false;
 
-    mutable std::mutex m_mutex; // guards what is below
+    mutable std::mutex m_mutex; // guards the fields below
     std::shared_ptr<host::HostContextHandle> m_hostContext;
-    int m_sharers = 0; // back-end contexts that are being made with this one
+    int m_sharers = 0; // back-end contexts that are being created with this one as share context
     bool m_deletesWithoutSharers = false;
 };
 
-// The back-end context of a context that another shares with, for as long as the back end needs it: one that is deleted
-// meanwhile on another thread goes with this.
+// Keeps a share context's back-end context alive while the back end needs it. If another thread deletes the context
+// meanwhile, this destructor completes the deletion.
 class SharedEsContext {
 public:
     // Null stands for no context.
@@ -116,7 +116,7 @@ public:
     SharedEsContext &operator=(const SharedEsContext &) = delete;
     ~SharedEsContext();
 
-    // Null when there is none, and when it is deleted already.
+    // Null when there is none, and when it has been deleted.
     [[nodiscard]] zvEsContext get() const { return m_esContext; }
 
 private:

@@ -1,5 +1,5 @@
-// Memory of contexts. GL proxies know a context by its address and go on giving a dead one's answers to the next at
-// that address, so memory goes round within one back-end library alone: ES 1 answers never reach an ES 2 context.
+// Memory of contexts. GL proxies identify a context by its address and reuse a dead one's functions for the next at
+// that address, so memory is reused only within one back-end library: ES 1 functions never reach an ES 2 context.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ namespace egl {
 
 enum class BackEndKind { Es1, Es2 };
 
-// For std::allocate_shared, which asks for one object at a time. Any thread.
+// For std::allocate_shared, which allocates one object at a time. Any thread.
 template <typename Object>
 class ContextAllocator {
 public:
@@ -31,7 +31,7 @@ public:
         return memory;
     }
 
-    // Kept for the next context of the kind and never given back.
+    // Kept for the next context of the kind and never freed.
     void deallocate(Object *memory, size_t) {
         Pool &pool = poolOf(m_kind);
         const std::lock_guard lock(pool.mutex);

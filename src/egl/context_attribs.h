@@ -1,4 +1,4 @@
-// The attribute list of eglCreateContext, read into the record that back ends get.
+// The attribute list of eglCreateContext, parsed into the record that is passed to back ends.
 #pragma once
 
 #include "egl/egl_api.h"

@@ -1,4 +1,4 @@
-// eglMakeCurrent and what is current.
+// eglMakeCurrent, and the queries of what is current.
 #include "egl/bind_memos.h"
 #include "egl/binding.h"
 #include "egl/call_reports.h"

@@ -31,7 +31,7 @@ void Display::initialize(const DeviceProfile &profile) {
 }
 
 void Display::terminate() {
-    // What the tables let go of dies after the lock is released.
+    // Objects removed from the tables are destroyed after the lock is released.
     std::shared_ptr<const ConfigList> configs;
     std::vector<std::shared_ptr<EglImage>> images;
     std::map<uint64_t, std::shared_ptr<Context>> contexts;

@@ -1,5 +1,5 @@
 // One display: its configs, contexts, surfaces, images and syncs. Never freed before the process ends, so that a
-// handle stays valid. Every operation takes the display's lock for its own length; entries hold none between them.
+// handle stays valid. Every operation locks the display for its own duration; entries hold no lock between them.
 #pragma once
 
 #include <atomic>
@@ -39,23 +39,23 @@ public:
 
     // Does nothing on a display that is initialised.
     void initialize(const DeviceProfile &profile);
-    // Lets go of everything without a call into a back end or the host. Handles go on counting afterwards.
+    // Removes all objects without calling a back end or the host. Handles are not reused afterwards.
     void terminate();
     // Takes no lock.
     [[nodiscard]] bool isInitialized() const { return m_initialized.load(std::memory_order_acquire); }
-    // Changes whenever a handle that was known may have become unknown. Takes no lock.
+    // Changes whenever a valid handle may have become invalid. Takes no lock.
     [[nodiscard]] uint64_t handlesVersion() const { return m_handlesVersion.load(std::memory_order_acquire); }
 
-    // The config stays good as long as the result. Null for an unknown handle.
+    // The config is valid as long as the result is held. Null for an unknown handle.
     [[nodiscard]] std::shared_ptr<const Config> findConfig(EGLConfig handle) const;
-    // What a null config stands for. Null on a display that is not initialised.
+    // The config used for a null config. Null on a display that is not initialised.
     [[nodiscard]] std::shared_ptr<const Config> noConfig() const;
     [[nodiscard]] EGLint listConfigs(EGLConfig *out, EGLint size) const;
-    // account: as ConfigList::chooseConfigs.
+    // account: see ConfigList::chooseConfigs.
     [[nodiscard]] EGLint chooseConfigs(const EGLint *attributes, EGLConfig *out, EGLint size,
                                        ChoiceAccount *account = nullptr) const;
 
-    // A context or surface that has left its table is still found on the thread that has it current.
+    // A context or surface that was removed from its table is still found on the thread that has it current.
     [[nodiscard]] std::shared_ptr<Context> findContext(EGLContext handle) const;
     // In handle order.
     [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts() const;
@@ -65,11 +65,11 @@ public:
     bool destroyContext(uint64_t handle);
 
     [[nodiscard]] std::shared_ptr<Surface> findSurface(EGLSurface handle) const;
-    // Null when the host surface cannot be made; the handle is used up all the same.
+    // Null when the host surface cannot be created; the handle is consumed all the same.
     [[nodiscard]] std::shared_ptr<Surface> createWindowSurface(const Config &config, uint64_t window,
                                                                const EGLint *attributes);
     [[nodiscard]] std::shared_ptr<Surface> createPbufferSurface(const Config &config, const EGLint *attributes);
-    // For a bind without surfaces: a new handle at each call, around the one host buffer of the context.
+    // For a bind without surfaces: a new handle at each call, for the one host buffer of the context.
     [[nodiscard]] std::shared_ptr<Surface> createPrivateSurface(Context &context);
     [[nodiscard]] std::shared_ptr<Surface> createPixmapSurface(const Config &config, uint64_t pixmap,
                                                                const EGLint *attributes);
@@ -83,15 +83,15 @@ public:
     [[nodiscard]] bool isKnownSync(EGLSync sync) const;
     void destroySync(const host::EGL &hostEGL, EGLSync sync);
 
-    // Of desktop clients, in place of those above.
+    // For desktop clients, in place of those above.
     standard::Images standardImages;
     standard::Syncs standardSyncs;
 
-    const uint64_t nativeDisplay; // the host's word for it; handed to the host layer
+    const uint64_t nativeDisplay; // the host's display value; passed to the host layer
     Display *const older;
 
 private:
-    // After handles have become unknown.
+    // Called after handles have become invalid.
     void forgetMemos();
     // The caller holds m_displayMutex.
     std::shared_ptr<Surface> insertSurface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface,
@@ -100,7 +100,7 @@ private:
     std::atomic<bool> m_initialized = false; // written with the mutex held
     std::atomic<uint64_t> m_handlesVersion = 0;
 
-    mutable std::mutex m_displayMutex;           // guards all below
+    mutable std::mutex m_displayMutex;           // guards all fields below
     std::shared_ptr<const ConfigList> m_configs; // shared with contexts, whose configs point into it
     ObjectTable<Context> m_contexts;
     std::vector<std::shared_ptr<EglImage>> m_images;

@@ -1,4 +1,4 @@
-// Entries that belong to a display as a whole.
+// Entries that concern a display as a whole.
 #include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"

@@ -1,5 +1,5 @@
-// The EGL headers as every file of the library sees them: exported entries carry default visibility, the entries that
-// are reached through eglGetProcAddress alone have no prototypes here.
+// The EGL headers as every file of the library includes them: exported entries have default visibility, entries that
+// are only reached through eglGetProcAddress have no prototypes here.
 #pragma once
 
 #define EGLAPI extern __attribute__((visibility("default")))
@@ -15,7 +15,7 @@
 #define EGL_CONTEXT_PRIORITY_MEDIUM_TWG 0x3102
 #define EGL_CONTEXT_PRIORITY_LOW_TWG 0x3103
 
-// The native types are pointers on one platform and numbers on another; the layers below take each as a word.
+// The native types are pointers on one platform and integers on another; the layers below take each as an integer.
 template <typename Native>
 uint64_t hostWord(Native native) {
     if constexpr (std::is_pointer_v<Native>)

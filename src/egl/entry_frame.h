@@ -1,4 +1,4 @@
-// What every entry that takes a display has in common: the order of its first checks and how it ends.
+// The common part of every entry that takes a display: the order of its first checks, and setting the error.
 #pragma once
 
 #include "egl/display.h"
@@ -13,19 +13,19 @@ template <typename Result>
     return result;
 }
 
-// Success clears a pending error without looking at it.
+// Success clears a pending error without reporting it.
 template <typename Result>
 [[nodiscard]] Result succeed(Result result) {
     threadRecord.error = EGL_SUCCESS;
     return result;
 }
 
-// Of a call that says nothing but whether it went well.
+// For a call whose result is only success or failure.
 [[nodiscard]] inline EGLBoolean finish(EGLint error) {
     return error == EGL_SUCCESS ? succeed<EGLBoolean>(EGL_TRUE) : fail<EGLBoolean>(error, EGL_FALSE);
 }
 
-// Runs body(display) once the process is loaded and dpy is a display that is initialised.
+// Runs body(display) once the library is loaded and dpy is an initialised display.
 template <typename Result, typename Body>
 [[nodiscard]] Result entry(EGLDisplay dpy, Result failure, Body body) {
     if (!ensureLoaded()) return fail(EGL_NOT_INITIALIZED, failure);
@@ -35,7 +35,7 @@ template <typename Result, typename Body>
     return body(*display);
 }
 
-// Handles are numbers of the display's tables.
+// Handles are the numbers from the display's tables.
 template <typename Handle>
 [[nodiscard]] Handle asHandle(uint64_t number) {
     return reinterpret_cast<Handle>(static_cast<uintptr_t>(number));

@@ -1,4 +1,4 @@
-// The road from the state to a back-end library. Which library it is follows from the ES major version alone.
+// Loads and calls back-end libraries for the state. The ES major version alone decides which library is used.
 #include <atomic>
 
 #include "egl/es_library.h"

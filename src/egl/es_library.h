@@ -6,7 +6,7 @@
 
 namespace egl {
 
-// A function that the library lacks is null, as all are when it could not be opened.
+// A function that the library lacks is null; all are null when the library could not be opened.
 struct EsLibrary {
     explicit EsLibrary(DynamicLibrary opened);
 

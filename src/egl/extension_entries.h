@@ -1,24 +1,24 @@
-// Entries that applications reach through eglGetProcAddress alone, where they differ from an exported one.
+// Entries that are only reached through eglGetProcAddress, where they differ from an exported one.
 #pragma once
 
 #include "egl/egl_api.h"
 
 namespace egl {
 
-// Widens its list and goes on as eglCreateSync.
+// Converts its list to EGLAttrib and calls eglCreateSync.
 EGLSync EGLAPIENTRY createSyncKHR(EGLDisplay dpy, EGLenum type, const EGLint *attributes);
 // Stores 32 bits, also after a failure.
 EGLBoolean EGLAPIENTRY getSyncAttribKHR(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLint *value);
-// Handed out for desktop clients alone: widens its list and goes on as eglCreateImage.
+// Returned to desktop clients only: converts its list to EGLAttrib and calls eglCreateImage.
 EGLImage EGLAPIENTRY createImageKHR(EGLDisplay dpy, EGLContext ctx, EGLenum target, EGLClientBuffer buffer,
                                     const EGLint *attributes);
-// eglSwapBuffers; the rectangles are not read.
+// Calls eglSwapBuffers; the rectangles are ignored.
 EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface, const EGLint *rects, EGLint count);
 EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *rects, EGLint count);
-// For devices it takes every platform and reads no attribute.
+// For devices, every platform is accepted and the attributes are ignored.
 EGLDisplay EGLAPIENTRY getPlatformDisplayEXT(EGLenum platform, void *nativeDisplay, const EGLint *attributes);
-// Handed out for desktop clients alone, and behind the core entry: eglCreateWindowSurface, with the window behind what
-// desktop_clients::windowOf is given.
+// Returned to desktop clients only, and used by the core entry: eglCreateWindowSurface, with the window that
+// desktop_clients::windowOf returns for the argument.
 EGLSurface EGLAPIENTRY createPlatformPixmapSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativePixmap,
                                                       const EGLint *attributes);
 EGLSurface EGLAPIENTRY createPlatformWindowSurfaceEXT(EGLDisplay dpy, EGLConfig config, void *nativeWindow,

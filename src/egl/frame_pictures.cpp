@@ -53,7 +53,7 @@ private:
     }
 };
 
-// What a read of the surface depends on, put back at the end.
+// The state that a read of the surface depends on; the destructor restores it.
 class ReadState {
 public:
     explicit ReadState(const HostFunctions &host) : m_host(host) {

@@ -1,5 +1,5 @@
-// How applications reach everything but the core EGL functions. Looks at no display, context or profile: a name that
-// the back end lacks gives its proxy too, and the failure shows at the call.
+// eglGetProcAddress: reaches everything but the core EGL functions. Independent of display, context and profile: a name
+// that the back end lacks has a proxy too, and the failure shows at the call.
 #include <cstring>
 
 #include "egl/call_reports.h"

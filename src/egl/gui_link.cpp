@@ -10,7 +10,7 @@ namespace egl {
 
 namespace {
 
-// Null until the state is made.
+// Null until the state is created.
 constinit std::atomic<State *> attachedState = nullptr;
 
 ui::messages::Message logLine(int32_t level, const char *text) {

@@ -1,4 +1,4 @@
-// EGL images: records that the back end reads. A device never looks at the attribute list.
+// EGL images: records that the back end reads. For devices the attribute list is ignored.
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"

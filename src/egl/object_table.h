@@ -21,7 +21,7 @@ public:
         return found == m_objects.end() ? nullptr : found->second;
     }
 
-    // Hands the table's reference out. Null for an unknown handle.
+    // Removes the object and returns the table's reference. Null for an unknown handle.
     [[nodiscard]] std::shared_ptr<Object> take(uint64_t handle) {
         auto node = m_objects.extract(handle);
         return node.empty() ? nullptr : std::move(node.mapped());
@@ -35,7 +35,7 @@ public:
         return objects;
     }
 
-    // Hands all references out, for the caller to drop without a lock. Numbering goes on where it was.
+    // Empties the table and returns all references, for the caller to drop without a lock. Numbering continues.
     [[nodiscard]] std::map<uint64_t, std::shared_ptr<Object>> takeAll() { return std::exchange(m_objects, {}); }
 
 private:

@@ -1,4 +1,4 @@
-// The entries of EGL 1.5 that take a platform: what the EXT forms do, with lists of 64-bit pairs.
+// The platform entries of EGL 1.5: they do what the EXT functions do, with lists of EGLAttrib pairs.
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"

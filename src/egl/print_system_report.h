@@ -1,9 +1,9 @@
-// What the host can and cannot do, on standard error, for whoever reads why a context was refused.
+// Prints what the host supports to standard error, to explain why a context was refused.
 #pragma once
 
 namespace egl {
 
-// Prints the system report of the state, at most once for the process, whichever failure asks first. Any thread.
+// Prints the system report of the state, at most once per process, at the first failure that calls it. Any thread.
 void printSystemReportOnce();
 
 } // namespace egl

@@ -1,4 +1,4 @@
-// Host buffers for contexts that are bound without surfaces. A context that ends leaves its buffer to the next one.
+// Host buffers for contexts that are bound without surfaces. A context's buffer is reused by the next context.
 #pragma once
 
 #include <memory>
@@ -11,12 +11,12 @@ class ISurface;
 
 namespace egl {
 
-// Made where there is none to take. Any thread.
+// Created when no unused one is left. Any thread.
 [[nodiscard]] std::shared_ptr<glove::ISurface> takePrivateBuffer();
-// Null is allowed.
+// Returns a buffer for reuse. Null is allowed.
 void leavePrivateBuffer(std::shared_ptr<glove::ISurface> buffer);
 
-// What such a buffer is made of, as the list of its surface.
+// The attribute list of such a buffer's surface.
 inline constexpr EGLint privateBufferAttributes[] = {
     EGL_WIDTH, 1, EGL_HEIGHT, 1, EGL_LARGEST_PBUFFER, 1, EGL_NONE,
 };

@@ -21,7 +21,7 @@ namespace {
 
 using journal::Json;
 
-// The file of the program; empty where the system does not tell it.
+// The path of the program's file; empty where the system does not report it.
 std::string programPath() {
     char path[4096];
     const ssize_t length = readlink("/proc/self/exe", path, sizeof path);

@@ -5,7 +5,7 @@ namespace egl {
 
 class State;
 
-// Once the state is loaded, and once a process. Does nothing without a journal.
+// Called after the state is loaded, once a process. Does nothing without a journal.
 void beginJournal(const State &state);
 
 } // namespace egl

@@ -1,4 +1,4 @@
-// What the journal tells of the names that a program looks up and of the frames that it shows.
+// Journal lines about the names that a program looks up and the frames that it shows.
 #include <algorithm>
 #include <atomic>
 #include <chrono>

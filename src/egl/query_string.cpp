@@ -1,4 +1,4 @@
-// eglQueryString. All texts are constant, so they live for the process and depend on nothing.
+// eglQueryString. All strings are constant, so they live as long as the process and depend on no state.
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
 #include "egl/standard/extensions.h"

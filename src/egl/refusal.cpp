@@ -47,7 +47,7 @@ std::string highestVersion(const DeviceProfile &profile) {
     return isEsVersionAllowed(profile, 2, 0) ? "2.0" : "1.1";
 }
 
-// Of those that carry more, the nearest to a device.
+// The option with more capabilities that is the nearest to a device.
 const char *widerOption(const DeviceProfile &profile) {
     return profile.name == "Desktop" ? "--bare" : "--profile Desktop";
 }

@@ -1,4 +1,4 @@
-// Refused calls in words: which rule refused, why, and what would help.
+// Explanations of refused calls: which rule refused, why, and what would help.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ enum class Rule {
 #undef REFUSAL_RULE
 };
 
-// What the words of a rule are about, as far as it says.
+// The values that a rule's text names; 0 for those that do not apply.
 struct Facts {
     EGLint attribute = 0;
     EGLint value = 0;
@@ -31,16 +31,16 @@ struct Note {
     Facts facts;
 };
 
-// Of the calling thread: the last rule that refused, until a call is told of.
+// The last rule that refused a call on the calling thread; cleared when a call is reported.
 extern constinit thread_local Note lastNote __attribute__((tls_model("initial-exec")));
 
-// Gives the error back, for the place that refuses; whoever tells of the call finds the rule. Costs a few stores.
+// Notes the rule for the later report and returns the error. Costs a few stores.
 [[nodiscard]] inline EGLint because(Rule rule, EGLint error, const Facts &facts = {}) {
     lastNote = {rule, facts};
     return error;
 }
 
-// For a version that the device in force does not carry.
+// For a version that the device in use does not support.
 [[nodiscard]] EGLint becauseOfVersion(EGLint major, EGLint minor, EGLint error);
 
 struct Words {
@@ -49,7 +49,7 @@ struct Words {
     std::string help;
 };
 
-// Takes the note. error: the call's, for refusals without a note.
+// Takes and clears the note. error: the call's, used for refusals without a note.
 [[nodiscard]] Words takeWords(EGLint error);
 
 } // namespace refusals

@@ -1,4 +1,4 @@
-// A fact of the system report in the form in which a GUI gets it.
+// A fact of the system report as a record for a GUI.
 #pragma once
 
 #include "capability/report_record.h"

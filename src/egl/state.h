@@ -1,4 +1,4 @@
-// The state of the process: made and loaded by the first EGL call that needs it, and never unloaded.
+// The state of the process: created and loaded by the first EGL call that needs it, and never unloaded.
 #pragma once
 
 #include <atomic>
@@ -32,31 +32,31 @@ public:
     State &operator=(const State &) = delete;
     ~State() = delete;
 
-    // Does what is left to do of the load. Nothing remembers a failure: the next call tries again from the start.
+    // Runs the remaining steps of the load. A failure is not remembered: the next call tries again from the start.
     // The caller holds stateMutex.
     [[nodiscard]] bool load();
 
-    // Null for an unknown handle, which is compared and never followed. Takes no lock.
+    // Null for an unknown handle; the handle is compared and never dereferenced. Takes no lock.
     [[nodiscard]] Display *findDisplay(EGLDisplay handle) const;
     [[nodiscard]] Display *findDisplayByNativeId(uint64_t nativeId);
-    // The display of that native id, made now if there is none. hostDisplay is what the host layer is given.
+    // The display of that native id, created on demand. hostDisplay is passed to the host layer.
     [[nodiscard]] Display &createDisplay(uint64_t nativeId, uint64_t hostDisplay);
 
-    // Those of all displays as they are now: displays in key order, contexts in handle order.
+    // A snapshot of all displays' contexts: displays in key order, contexts in handle order.
     [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts();
 
     // The host functions, looked up at the first use with a host context current and kept for the life of the state.
-    // All null until then. canLookUp: whether a context of ours is current on the host.
+    // All null until then. canLookUp: whether one of our contexts is current on the host.
     [[nodiscard]] const host::EGL &hostEGL(bool canLookUp = true);
 
-    // What the host can carry: looked at during the load, or at the first call when it could not be then. Null when
-    // nobody can look at it. Any thread.
+    // What the host supports: probed during the load, or at the first call if that was not possible. Null when the host
+    // cannot be probed. Any thread.
     [[nodiscard]] const capability::EsGate *esGate();
 
-    // False where the embedding tool forces loose contexts, whatever the settings say.
+    // False where the embedding tool forces loose contexts, whatever the settings are.
     [[nodiscard]] bool isStrictContextMode() const;
 
-    // The back-end library for this major version, or logs that it cannot be loaded and gives one that holds nothing.
+    // The back-end library for this major version. Logs a failure to load it and returns an empty library then.
     [[nodiscard]] static DynamicLibrary loadEsLibrary(int32_t major);
     // Null when the library or its function is missing, or when the back end fails.
     [[nodiscard]] zvEsContext createEsContext(const EsLibrary &library, const ContextAttribs &attribs,
@@ -93,13 +93,13 @@ private:
     std::atomic<const host::EGL *> m_hostEGL = nullptr;
 };
 
-// The head of nearly every entry: makes the state and loads it. False when the load fails.
+// The start of nearly every entry: creates the state and loads it. False when the load fails.
 [[nodiscard]] bool ensureLoaded();
 
-// Guards the creation and load of the state, and three entries wholly. Taken before every other mutex.
+// Guards the creation and load of the state, and three whole entries. Taken before every other mutex.
 [[nodiscard]] std::mutex &stateMutex();
 
-// The state. Only after ensureLoaded() has run once in the process.
+// The state. Valid only after ensureLoaded() has run once in the process.
 [[nodiscard]] State &state();
 
 } // namespace egl

@@ -32,7 +32,7 @@ Surface::Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, 
 EGLint Surface::query(EGLint name, EGLint *value) {
     const bool isOfHost = name == EGL_WIDTH || name == EGL_HEIGHT || name == EGL_BUFFER_AGE_KHR;
     if (!isOfHost && !m_attributes.contains(name)) {
-        // A surface without a largest-pbuffer attribute succeeds and writes nothing.
+        // Without that attribute, EGL_LARGEST_PBUFFER succeeds and writes nothing.
         return name == EGL_LARGEST_PBUFFER ? EGL_SUCCESS : EGL_BAD_ATTRIBUTE;
     }
     if (!value) return EGL_BAD_PARAMETER;

@@ -1,4 +1,4 @@
-// The EGL side of a surface: a map of attributes around a host surface.
+// The EGL side of a surface: an attribute map and a host surface.
 #pragma once
 
 #include <array>
@@ -16,41 +16,41 @@
 
 namespace egl {
 
-// What of a config contexts and surfaces have to have in common.
+// The config sizes that must be equal for a context and a surface to be compatible.
 using DrawableSizes = std::array<EGLint, 7>;
 [[nodiscard]] DrawableSizes drawableSizes(const Config &config);
-// That surfaces of the config have of their own; null where it is that of the context that draws to them.
+// The config's own format for surfaces; null where surfaces use the format of the context that draws to them.
 [[nodiscard]] const host::platform::PixelFormat *surfaceFormat(const Config &config);
 
 class Surface {
 public:
-    // Takes every pair of the list, whatever the attribute; a null list is an empty one. Pixmaps have no host surface.
+    // Stores every pair of the list, whatever the attribute; a null list is an empty one. Pixmaps have no host surface.
     Surface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface, const Config &config,
             const EGLint *attributes);
 
-    // As eglQuerySurface answers: the error, and value untouched where there is one.
+    // Returns the error of eglQuerySurface; value is written on success only.
     [[nodiscard]] EGLint query(EGLint attribute, EGLint *value);
     // The stored value or 0; the size comes from the host at every call, and is 0 without a host surface.
     [[nodiscard]] EGLint attribute(EGLint attribute);
-    // The value of the list, or of what stands for it without one.
+    // The value in the attribute list, or the given default without one.
     [[nodiscard]] EGLint storedOr(EGLint attribute, EGLint otherwise) const;
-    // 1 if the last frame is still in the back buffer of a surface that can preserve it, 0 if nothing is known of it.
+    // 1 if the last frame is still in the back buffer of a surface that can preserve it, 0 if its contents are unknown.
     [[nodiscard]] EGLint age();
-    // Shows the surface and begins a new frame of it.
+    // Swaps the buffers and begins a new frame.
     void swap();
 
     const uint64_t handle;
     const bool isSrgb;
     const DrawableSizes sizes;
     const host::platform::PixelFormat *const format;
-    const bool canPreserve; // what is drawn stays over a swap, if the application asks for that
+    const bool canPreserve; // the contents survive a swap, if the application requests that
     const std::shared_ptr<glove::ISurface> hostSurface;
 
     // Since the last swap.
     std::atomic<bool> damageRegionSet = false;
     std::atomic<bool> bufferAgeQueried = false;
 
-    // As eglSurfaceAttrib has set them for desktop clients.
+    // Set by eglSurfaceAttrib for desktop clients.
     std::atomic<EGLint> mipmapLevel = 0;
     std::atomic<EGLint> multisampleResolve = EGL_MULTISAMPLE_RESOLVE_DEFAULT;
     std::atomic<EGLint> swapBehavior = EGL_BUFFER_DESTROYED;
@@ -61,7 +61,7 @@ private:
 
     std::map<EGLint, EGLint> m_attributes; // constant after construction
     std::mutex m_frameMutex;
-    std::optional<Size> m_frameSize; // of the last frame; only for surfaces that were asked for their age
+    std::optional<Size> m_frameSize; // of the last frame; only for surfaces whose age was queried
     bool m_countsFrames = false;
 };
 

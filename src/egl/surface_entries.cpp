@@ -1,4 +1,4 @@
-// Entries that make, destroy and ask surfaces.
+// Entries that create, destroy and query surfaces.
 #include "egl/call_reports.h"
 #include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"

@@ -1,4 +1,4 @@
-// Swapping, damage and copying.
+// Entries for swapping, damage and copying.
 #include "egl/call_reports.h"
 #include "egl/context.h"
 #include "egl/desktop_clients.h"

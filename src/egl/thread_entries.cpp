@@ -1,4 +1,4 @@
-// Entries that look at the calling thread alone. None of them loads anything.
+// Entries that use the state of the calling thread only. None of them loads anything.
 #include "egl/binding.h"
 #include "egl/call_reports.h"
 #include "egl/context.h"

@@ -13,8 +13,8 @@ constinit thread_local ThreadRecord threadRecord;
 
 namespace {
 
-// Of the exit handlers that a thread has by pthread_key_create, which run in rounds for as long as values are set
-// again. An application's may release a context, so that ours gives way to them until the last round.
+// pthread_key_create's exit handlers run in rounds for as long as values are set again. An application's handler may
+// release a context, so ours sets its value again and acts in the last round only.
 void endThread(void *value);
 
 pthread_key_t exitKey() {

@@ -5,11 +5,11 @@
 
 #include <EGL/egl.h>
 
-// Word: EGLint or EGLAttrib. The list belongs to the caller and outlives the range.
+// Word: EGLint or EGLAttrib. The list belongs to the caller and must outlive the range.
 template <typename Word>
 class AttributeList {
 public:
-    // References, so that nothing behind a name is read before it is asked for.
+    // References, so that a value is not read before it is used.
     struct Pair {
         const Word &name;
         const Word &value;
@@ -29,14 +29,14 @@ public:
         const Word *m_at;
     };
 
-    // Ended by EGL_NONE in the place of a name; null is an empty list.
+    // Ended by EGL_NONE in place of a name; null is an empty list.
     explicit constexpr AttributeList(const Word *list) : m_list(list) {}
 
     [[nodiscard]] constexpr Iterator begin() const { return Iterator(m_list); }
     [[nodiscard]] constexpr std::default_sentinel_t end() const { return {}; }
     [[nodiscard]] constexpr bool isEmpty() const { return begin() == end(); }
 
-    // The value of the last pair of this name; without one, what is given.
+    // The value of the last pair of this name, or the given default without one.
     [[nodiscard]] constexpr Word valueOr(Word name, Word otherwise) const {
         for (const auto &[key, value] : *this) {
             if (key == name) otherwise = value;

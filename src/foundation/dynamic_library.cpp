@@ -14,8 +14,8 @@
 
 namespace {
 
-// The link that each file was loaded through. The loader keeps every name of a library for as long as that is loaded,
-// and compares them all at each open: a file that is loaded still is opened by the name that it has.
+// The link through which each file was loaded. The loader keeps every name of a loaded library and compares them all at
+// each open: a file that is still loaded is opened by the name that it has already.
 class LinkNames {
 public:
     // Null when the file is not loaded by a name of ours.

@@ -1,4 +1,4 @@
-// A library opened at run time through a temporary symbolic link, so that the loader never meets the name of a library
+// A library opened at run time through a temporary symbolic link, so that the loader does not see the name of a library
 // that the application may have loaded already. Copies share one handle, and the last one closes it. The use count is
 // plain: keep an object and its copies on one thread at a time.
 #pragma once
@@ -10,27 +10,27 @@
 
 class DynamicLibrary {
 public:
-    // Who finds the library's symbols: everybody in the process, or we alone.
+    // Who can find the library's symbols: the whole process, or only we.
     enum class Scope { everybody, owner };
 
-    // name is the file name without a directory. Opens nothing.
+    // name is the file name without a directory. Does not open the library.
     explicit DynamicLibrary(std::string name, Scope scope = Scope::everybody);
     DynamicLibrary(const DynamicLibrary &other);
-    // Takes over the other's handle and count and closes nothing: the old handle stays open for good.
+    // Takes over the other's handle and count and closes nothing: the old handle stays open until the process ends.
     DynamicLibrary &operator=(const DynamicLibrary &other);
     ~DynamicLibrary();
 
-    // Tries each directory in turn; a relative one has nothing. Closes a handle that is held first, but leaves it to
-    // the copies if there are any. False when nothing could be opened.
+    // Tries each directory in turn; relative ones are skipped. Closes a handle that is held first, but leaves it open
+    // for copies if there are any. False when nothing could be opened.
     bool open(const std::vector<std::string> &searchPaths);
-    // Who knows what a library has and does not export; null for nothing. Symbols that the library lacks are asked of
-    // it.
+    // Finds symbols that the library has but does not export; null for no such lookup. Called for symbols that the
+    // library lacks.
     using Lookup = void *(*)(const char *symbol);
     void setLookup(Lookup lookup) { m_lookup = lookup; }
     // Null when nothing is loaded, when the library lacks the symbol, or when symbol is null.
     [[nodiscard]] void *getSymbol(const char *symbol) const;
-    // The library stays in the process for good, whoever closes it. The symbol says which image that is: the library's
-    // own and not one of its dependencies'. Does nothing when nothing is loaded or the library lacks the symbol.
+    // Keeps the library loaded for the life of the process, whoever closes it. The symbol identifies the image: its
+    // own, not one of its dependencies'. Does nothing when nothing is loaded or the library lacks the symbol.
     void keepLoaded(const char *ownSymbol) const;
     [[nodiscard]] bool isLoaded() const { return m_handle != nullptr; }
     [[nodiscard]] const std::string &name() const { return m_name; }
@@ -43,8 +43,8 @@ private:
     Lookup m_lookup = nullptr;
 };
 
-// File names of the libraries on this platform. The host's OpenGL without its window system is null where it is not
-// apart; the look-up is for what it does not export.
+// File names of the libraries on this platform. The host's OpenGL without its window system is null where the two are
+// one library; the lookup is for symbols that it does not export.
 extern const char *const hostOpenGLLibraryName;
 extern const char *const hostPlainOpenGLLibraryName;
 [[nodiscard]] void *findUnexportedHostFunction(const char *name);
@@ -52,12 +52,12 @@ extern const char *const es1LibraryName;
 extern const char *const es2LibraryName;
 
 // The directory of this library, then $KZRTRACE_LIB_PATH where it is set. The variable is read at every call; a
-// relative one counts from getFirstWorkingDirectory().
+// relative one is resolved against getFirstWorkingDirectory().
 [[nodiscard]] std::vector<std::string> esLibrarySearchPaths();
 // The directory of this library, then the system's library directories.
 [[nodiscard]] std::vector<std::string> hostLibrarySearchPaths();
 
-// Opens the library, or logs why not and gives it back with nothing loaded.
+// Opens the library. On failure logs the reason and returns it with nothing loaded.
 [[nodiscard]] DynamicLibrary openEsLibrary(const char *name, const std::vector<std::string> &searchPaths);
 
 // "failed to ACTION 'NAME'"

@@ -1,5 +1,5 @@
-// The types and numbers of OpenGL ES, which the host shares, without the prototypes: functions are reached through
-// tables and pointers alone.
+// The types and enumerants of OpenGL ES, which the host shares, without the prototypes: functions are called through
+// tables and pointers only.
 #pragma once
 
 #define GL_GLES_PROTOTYPES 0

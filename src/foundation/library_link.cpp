@@ -12,7 +12,7 @@
 
 namespace {
 
-// Bytes of a directory for links; a longer temporary directory opens nothing.
+// Buffer size for the directory of links; with a longer temporary directory nothing is opened.
 constexpr size_t parentLimit = 1024;
 
 void tellOnce(const std::string &parent, int reason) {

@@ -1,4 +1,4 @@
-// The one way out for diagnostics: a prefixed line on a standard stream, and the same text to whoever listens.
+// The only output for diagnostics: a prefixed line on a standard stream, and the same text to a listener.
 // Any thread may log at any time.
 #pragma once
 
@@ -16,11 +16,11 @@ enum LogLevel : int32_t {
 // Receives each text that was printed, without its prefix. Must be callable from any thread.
 using LogListener = void (*)(int32_t level, const char *text);
 
-// Hands in the listener; null means nobody listens, which is how the process starts.
+// Sets the listener; null removes it, which is the initial state.
 void setLogListener(LogListener listener);
 
-// Prints one line: warnings and information on standard output, errors on standard error. Nothing escapes a "%" in
-// format. A level other than the three does nothing at all.
+// Prints one line: warnings and information on standard output, errors on standard error. A "%" in format is not
+// escaped. A level other than the three does nothing.
 void logMessage(int32_t level, const char *format, ...) __attribute__((format(printf, 2, 3)));
 
 // "(Info) ", "(Warning) ", "(Error) ", or the empty text for any other level.

@@ -1,4 +1,4 @@
-// From a name to its row in a constant table, by a hash that the compiler lays out.
+// Maps a name to its row in a constant table, by a hash table built at compile time.
 #pragma once
 
 #include <array>
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    // At most half of the places are taken, so that every search ends.
+    // At most half full, so that every search terminates.
     static constexpr size_t placeCount = std::bit_ceil(rowCount * 2 + 1);
     static_assert(rowCount < UINT16_MAX);
 

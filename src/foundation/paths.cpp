@@ -12,7 +12,7 @@
 
 namespace {
 
-// Kept for good: threads and exit handlers ask while the process ends.
+// Never destroyed: threads and exit handlers use it while the process ends.
 const std::string &keep(std::string path) {
     return *new std::string(std::move(path));
 }

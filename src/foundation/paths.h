@@ -1,12 +1,12 @@
-// Where this library, the user's files and temporary files lie. Variables count as findVariable finds them. All of it
+// The paths of this library, the user's files and temporary files. Variables are read by findVariable. All of it
 // may be called from any thread that does not change the environment at the same time.
 #pragma once
 
 #include <cstdio>
 #include <string>
 
-// Directory of this library without a trailing slash, found when the library is loaded. Empty when the loader cannot
-// tell.
+// Directory of this library without a trailing slash, determined when the library is loaded. Empty when the loader
+// cannot report it.
 [[nodiscard]] const std::string &getOwnDirectory();
 
 // The working directory at the first call. Empty when there was none.
@@ -21,11 +21,11 @@
 // $ZELVANE_PROFILE_PATH. False, with path untouched, when the variable is not set.
 [[nodiscard]] bool getProfilePathFromEnvironment(std::string &path);
 
-// The platform's directory for temporary files, ended by a slash. On Linux $TMPDIR or /tmp, with a slash added where
+// The platform's directory for temporary files, with a trailing slash. On Linux $TMPDIR or /tmp, with a slash added if
 // the variable has none. Empty when the platform has none.
 [[nodiscard]] std::string getTemporaryDirectory();
 
-// Null, with errno set, when the file cannot be opened or is no regular one (ENOTSUP; EISDIR for a directory): a pipe
-// would wait for its writer, and a device may have no end. A process with foreign rights opens its user's own files
-// alone (EACCES). The caller closes the stream.
+// Null, with errno set, when the file cannot be opened or is not a regular one (ENOTSUP; EISDIR for a directory): a
+// pipe would block, and a device may have no end. A privileged process opens files of its own user only (EACCES). The
+// caller closes the stream.
 [[nodiscard]] FILE *openForReading(const std::string &path);

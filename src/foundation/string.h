@@ -1,5 +1,5 @@
-// A small text with a malloc buffer of its own, which the profile loader takes its directory and file name in. The
-// buffer always fits the text exactly: there is no spare room. An object belongs to one thread at a time.
+// A small text with a malloc buffer of its own, used by the profile loader for its directory and file name. The buffer
+// always fits the text exactly: there is no spare room. An object belongs to one thread at a time.
 #pragma once
 
 #include <cstdint>
@@ -22,18 +22,18 @@ public:
     [[nodiscard]] uint64_t capacity() const { return m_capacity; }
     [[nodiscard]] bool empty() const { return m_length == 0; }
 
-    // The buffer is replaced when its capacity is not greater than the count. Without memory the text stays as it is.
+    // The buffer is replaced when its capacity is not greater than the count. Out of memory, the text is unchanged.
     void assign(const char *text, uint64_t count = npos);
     void append(const char *text, uint64_t count = npos);
     void append(const CKZRTString &other) { append(other.data(), other.m_length); }
-    // Gives up the buffer for one of one byte.
+    // Replaces the buffer with one of one byte.
     void clear();
-    // Takes count characters out at position. A cut inside the text moves the tail and leaves the length field at its
-    // old value, so that it and strlen disagree from then on. A cut up to or past the end shortens the text to
-    // position, and one that starts behind the end lengthens it to position with zero bytes.
+    // Removes count characters at position. A cut inside the text moves the tail and leaves the length field at its old
+    // value, so that it and strlen differ from then on. A cut up to or past the end shortens the text to position, and
+    // one that starts after the end lengthens it to position with zero bytes.
     void erase(uint64_t position, uint64_t count);
 
-    // This text followed by the right one, in a buffer that fits. A null right side gives a copy.
+    // This text followed by the right one, in a buffer that fits. A null right side returns a copy.
     [[nodiscard]] CKZRTString concat(const char *right) const;
     [[nodiscard]] CKZRTString concat(const CKZRTString &right) const;
 

@@ -8,8 +8,8 @@
 
 #include "gl/entry_proxy.h"
 
-// An entry for each dynamic slot, 32 bytes apart, and its resolver, 16 bytes apart. A resolver keeps whatever registers
-// arguments can be in while it asks for the function.
+// An entry for each dynamic slot, 32 bytes apart, and its resolver, 16 bytes apart. A resolver saves all registers that
+// can hold arguments while it looks up the function.
 static_assert(offsetof(gl::FunctionTable, slots) == 16 && gl::firstDynamicSlot == 665 && gl::dynamicNameCount == 512,
               "the numbers are written out below");
 asm(R"(

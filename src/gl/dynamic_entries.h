@@ -1,5 +1,5 @@
-// Entries for names that no table has, made while the process runs. They jump as all entries do, and so need to know
-// nothing of the arguments.
+// Entries for names that are in no table, assigned at run time. They jump as all entries do, and so are independent of
+// the arguments.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace gl {
 
-// The entry of that name, the same one at each call. Null when too many names have one already, and on machines that
-// this library has no such entries for. Any thread.
+// The entry of that name, the same one at each call. Null when too many names have one already, and on machines for
+// which this library has no such entries. Any thread.
 [[nodiscard]] Function dynamicEntry(const char *name);
 
 } // namespace gl

@@ -8,7 +8,7 @@ namespace gl {
 
 namespace {
 
-// The text is put together first: the log cuts the last character of some texts with a longer format.
+// The text is formatted first: the log cuts the last character of some texts with a longer format.
 void logError(const std::string &text) {
     logMessage(LogError, "%s", text.c_str());
 }

@@ -1,4 +1,4 @@
-// The entries that applications get for GL names: one generic definition over the record and signature of a name.
+// The entries that applications get for GL names: one generic definition, given the record and signature of a name.
 #pragma once
 
 #include <cstddef>
@@ -10,13 +10,13 @@ namespace gl {
 
 // The record of one exposed name.
 struct GLEntryProxy {
-    const char *name; // also the name that the back end is asked for
+    const char *name; // also the name that is looked up in the back end
     size_t slot;      // in every function table
 };
 
-// What an entry calls while its slot is open: asks the current context's back end and keeps the answer, null too. Gives
-// nothing, with a line in the log, without a current context and for a name that the back end lacks; the latter is
-// logged once for a name and context. Leaves the EGL error alone. Any thread.
+// Called by an entry while its slot is open: looks the function up in the current context's back end and stores the
+// result, null too. Returns nothing, with a log line, without a current context and for a name that the back end lacks;
+// the latter is logged once per name and context. Leaves the EGL error unchanged. Any thread.
 [[nodiscard, gnu::cold]] Function resolveEntry(const GLEntryProxy &proxy, Function nothing);
 
 template <const GLEntryProxy &proxy, typename Signature>
@@ -29,7 +29,7 @@ struct Entry<proxy, Result(Parameters...)> {
         return typed(currentFunctions->at(proxy.slot))(arguments...);
     }
 
-    // In a slot until its name is asked for.
+    // In a slot until its name is looked up.
     [[gnu::cold]] static Result GL_APIENTRY resolve(Parameters... arguments) {
         return typed(resolveEntry(proxy, reinterpret_cast<Function>(&nothing)))(arguments...);
     }
@@ -39,7 +39,7 @@ private:
 
     static Typed typed(Function function) { return reinterpret_cast<Typed>(function); }
 
-    // A call with nothing to call is dropped: the application sees only the zero.
+    // A call without a function is dropped: the application gets 0.
     static Result GL_APIENTRY nothing(Parameters...) { return Result(); }
 };
 

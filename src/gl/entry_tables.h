@@ -1,4 +1,4 @@
-// The proxies that eglGetProcAddress hands out.
+// The proxies that eglGetProcAddress returns.
 #pragma once
 
 #include <array>
@@ -9,15 +9,15 @@ namespace gl {
 
 struct ProcTableRow {
     const char *name;
-    Function function; // of the type that the name has
+    Function function; // of the name's own type
 };
 
-// Extensions, then the debug entries that go through to the back end.
+// Extensions, then the debug entries that are passed to the back end.
 extern const std::array<ProcTableRow, extensionNameCount> extensionTable;
-// OpenGL ES 1, 2 and 3. glPointSizePointerOES stands in both tables, with a proxy in each.
+// OpenGL ES 1, 2 and 3. glPointSizePointerOES is in both tables, with a proxy in each.
 extern const std::array<ProcTableRow, baseNameCount> baseTable;
 
-// The entry of this name, of the extension table where both have it. Null when none has.
+// The entry of this name, from the extension table if both have it. Null when neither has.
 [[nodiscard]] Function findEntry(const char *name);
 
 } // namespace gl

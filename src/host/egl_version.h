@@ -1,4 +1,4 @@
-// The EGL version that the library speaks.
+// The EGL version that the library implements.
 #pragma once
 
 namespace host {

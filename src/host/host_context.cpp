@@ -11,7 +11,7 @@ using host::platform::ContextContainer;
 using host::platform::NativeObject;
 using host::platform::operations;
 
-// The contexts that live. Never destroyed, since applications swap in their exit handlers too.
+// The live contexts. Never destroyed, since applications swap in their exit handlers too.
 struct LiveContexts {
     std::mutex mutex;
     std::map<uint64_t, std::weak_ptr<glove::GLContext>> byNumber;

@@ -1,4 +1,4 @@
-// Host contexts: the desktop OpenGL context under an EGL context, and which one a thread has current.
+// Host contexts: the desktop OpenGL context behind an EGL context, and which one a thread has current.
 #pragma once
 
 #include <cstdint>
@@ -10,20 +10,20 @@
 
 namespace glove {
 
-// Owns one host context. Null container when the host gave none; everything then treats it as no context.
+// Owns one host context. The container is null when the host returned none; it is then treated as no context.
 class GLContext {
 public:
-    // Takes the container over and enters it among those that live.
+    // Takes ownership of the container and registers the context as live.
     [[nodiscard]] static std::shared_ptr<GLContext> create(host::platform::ContextContainer *container);
 
-    // For create.
+    // Used by create.
     GLContext(host::platform::ContextContainer *container, uint64_t number);
     GLContext(const GLContext &) = delete;
     GLContext &operator=(const GLContext &) = delete;
     ~GLContext();
 
     [[nodiscard]] host::platform::ContextContainer *container() const { return m_container; }
-    // Never used again, so that a number of a dead context stands for no other. 0 without a container.
+    // Never reused, so that a dead context's number stands for no other context. 0 without a container.
     [[nodiscard]] uint64_t number() const { return m_number; }
 
 private:
@@ -35,7 +35,7 @@ private:
 
 namespace host {
 
-// What an EGL context keeps of its host context.
+// The host side of an EGL context.
 struct HostContextHandle {
     std::shared_ptr<glove::GLContext> context;
 };
@@ -47,30 +47,30 @@ struct HostContextRequest {
     std::shared_ptr<glove::GLContext> share = nullptr;
 };
 
-// Always gives a handle: a host that refuses shows at the first bind. Each call loses the format that it derives.
+// Always returns a handle: a failure on the host shows at the first bind. Each call leaks the format that it derives.
 [[nodiscard]] std::unique_ptr<HostContextHandle> createHostContext(const HostContextRequest &request);
 
 enum class HostBinding {
     failed,
-    detached, // the context has lost its view and is not made current: what was current stays
-    current,  // or nothing is, as asked
+    detached, // the context has lost its view and is not made current: the current context stays
+    current,  // the context is current, or none is, as requested
 };
 
 // Binds the context to the surface on the calling thread; null means none. A context without a surface, or with one
 // that has no native object, is only detached.
 [[nodiscard]] HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface);
 
-// Makes it current with nothing to draw to but framebuffer objects.
+// Makes it current without a default framebuffer.
 [[nodiscard]] HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostContext);
 
-// How many frames ago the contents of the back buffer were drawn that the context has; 0 for contents that are not
+// The age in frames of the contents of the context's back buffer; 0 for undefined contents.
 // known.
 [[nodiscard]] int32_t hostBufferAge(const HostContextHandle *hostContext);
 
-// Unclamped, in frames per swap. Does nothing without a context.
+// Not clamped, in frames per swap. Does nothing without a context.
 void setHostSwapInterval(const HostContextHandle *hostContext, int32_t interval);
 
-// Has a context current without a drawable while it lives, and puts back what was current before.
+// Keeps a context current without a drawable while it lives, then restores the previous one.
 class BorrowedBinding {
 public:
     explicit BorrowedBinding(const HostContextHandle &hostContext);
@@ -87,15 +87,15 @@ private:
 };
 
 // The number of the context that this layer last made current on the thread, 0 for none. After a probe it may be a dead
-// one's.
+// context's.
 [[nodiscard]] uint64_t currentHostContext();
-// The live context of that number. Null when it is dead, or when there is none.
+// The live context of that number. Null when it is dead, or for 0.
 [[nodiscard]] std::shared_ptr<glove::GLContext> lockCurrentHostContext();
 
-// Makes the context current with what is attached to it unless it is already. One without a container clears the
-// current context.
+// Makes the context current with what is attached to it unless it is already current. A context without a container
+// clears the current context.
 [[nodiscard]] bool makeHostContextCurrentAsIs(const glove::GLContext &context);
-// Only for those who make contexts current by that.
+// For use by the functions that make contexts current only.
 void setCurrentHostContext(uint64_t number);
 
 } // namespace host

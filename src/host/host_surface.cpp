@@ -12,7 +12,7 @@ using host::platform::NativeObject;
 using host::platform::operations;
 using host::platform::PixelBuffer;
 
-// No view equals no object: a context without a view flushes for a surface without a native object.
+// No view equals no object: a surface without a native object flushes a context without a view.
 bool isViewOf(const host::platform::ContextContainer *container, const NativeObject &native) {
     if (native.isPixelBuffer()) return false; // a pixel buffer is nobody's view
     // The window alone counts: another display may name the same one.

@@ -1,5 +1,5 @@
-// Host surfaces: what stands under an EGL surface. They answer size and title, flush, and name the native object that
-// a context is bound to. Pixmaps have one for desktop clients alone.
+// Host surfaces: the host side of EGL surfaces. They return size and title, flush, and name the native object that a
+// context is bound to. Pixmaps have one for desktop clients only.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ namespace glove {
 // No virtual destructor: the shared pointer that holds a surface destroys the concrete type.
 class ISurface {
 public:
-    // In pixels, asked anew at every call. 0 where the host cannot tell.
+    // In pixels, queried at every call. 0 where the host does not report it.
     virtual int32_t width() const = 0;
     virtual int32_t height() const = 0;
     virtual std::string title() const = 0;
@@ -46,7 +46,7 @@ private:
 
 class PBufferSurface final : public ISurface {
 public:
-    // Takes over the buffer, which may be null.
+    // Takes ownership of the buffer, which may be null.
     explicit PBufferSurface(host::platform::PixelBuffer *buffer) : m_buffer(buffer) {}
     PBufferSurface(const PBufferSurface &) = delete;
     PBufferSurface &operator=(const PBufferSurface &) = delete;
@@ -63,10 +63,10 @@ private:
     host::platform::PixelBuffer *m_buffer;
 };
 
-// What is drawn to it is in the pixmap after each swapBuffers.
+// Each swapBuffers copies what was drawn to the pixmap.
 class PixmapSurface final : public ISurface {
 public:
-    // Takes over the buffer.
+    // Takes ownership of the buffer.
     explicit PixmapSurface(host::platform::PixelBuffer *buffer) : m_buffer(buffer) {}
     PixmapSurface(const PixmapSurface &) = delete;
     PixmapSurface &operator=(const PixmapSurface &) = delete;
@@ -88,7 +88,7 @@ private:
 
 namespace host {
 
-// The values of a pixel buffer as an EGL attribute list gives them.
+// The values of a pixel buffer, from an EGL attribute list.
 struct PBufferRequest {
     uint32_t target = 0;
     uint32_t internalFormat = 0;
@@ -97,29 +97,29 @@ struct PBufferRequest {
     int32_t maxMipLevel = 0;
 };
 
-// Reads the five attributes that matter and passes over all others. A null list is an empty one.
+// Reads the five relevant attributes and ignores all others. A null list is an empty one.
 [[nodiscard]] PBufferRequest readPBufferRequest(const int32_t *attributes);
 
-// format: that the surface has of its own; null for that of the context that draws to it.
+// format: the surface's own; null for that of the context that draws to it.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostWindowSurface(uint64_t display, uint64_t nativeWindow,
                                                                        const platform::PixelFormat *format = nullptr);
-// Whether the host tells the size of such a window.
+// Whether the host reports the size of such a window.
 [[nodiscard]] bool isHostWindow(const platform::View &view);
-// What the application has asked of its own connection goes to the host: programs map a window and count on the swap of
+// Flushes the requests of the application's own connection to the host: programs map a window and rely on the swap of
 // a driver that uses their connection.
 void flushApplication(uint64_t display);
-// The buffer inside may be null when the host refuses the values.
+// The buffer inside may be null when the host rejects the values.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPBufferSurface(const int32_t *attributes,
                                                                         const platform::PixelFormat *format = nullptr);
-// Always null: devices have no host kind for pixmaps.
+// Always null: devices have no host object for pixmaps.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPixmapSurface();
-// That of a desktop client; null when the host refuses the pixmap.
+// For desktop clients; null when the host rejects the pixmap.
 [[nodiscard]] std::shared_ptr<glove::ISurface> createHostPixmapSurface(uint64_t display, uint64_t pixmap,
                                                                        const platform::PixelFormat *format);
-// Whether the pixmap is there, and whether surfaces of the format can be made of it.
+// Whether the pixmap exists and surfaces of the format can be created for it.
 enum class PixmapFit { none, otherDepth, fits };
 [[nodiscard]] PixmapFit pixmapFit(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format);
-// Copies what the calling thread's host context has drawn on its surface. False when the host refuses.
+// Copies what the calling thread's host context has drawn to its surface. False when the host fails.
 [[nodiscard]] bool copyToPixmap(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format);
 
 } // namespace host

@@ -3,7 +3,7 @@
 namespace host {
 
 DynamicLibrary openHostOpenGLLibrary() {
-    // The host's OpenGL has names of OpenGL ES too: who looks one up in the process must not find the host's.
+    // The host's OpenGL has OpenGL ES names too: a lookup in the whole process must not find them.
     DynamicLibrary library(hostOpenGLLibraryName, DynamicLibrary::Scope::owner);
     library.open(hostLibrarySearchPaths());
     return library;

@@ -1,13 +1,13 @@
-// The host's OpenGL library, opened by name and looked up by name. A name that it lacks gives null.
+// The host's OpenGL library, opened by name and searched by name. A name that it lacks is null.
 #pragma once
 
 #include "foundation/dynamic_library.h"
 
 namespace host {
 
-// Looks beside this library, then in the system's library directories. The result may hold nothing: ask isLoaded().
+// Searches the directory of this library, then the system's library directories. May be empty: check isLoaded().
 [[nodiscard]] DynamicLibrary openHostOpenGLLibrary();
-// Prefers the one without the window system.
+// Prefers the library without the window system.
 [[nodiscard]] DynamicLibrary openPlainHostOpenGLLibrary();
 
 } // namespace host

@@ -16,7 +16,7 @@ void append(std::vector<uint32_t> &list, uint32_t attribute, int32_t value) {
     list.push_back(static_cast<uint32_t>(value));
 }
 
-// All but those of red, green and blue.
+// All sizes but those of red, green and blue.
 void appendOtherSizes(std::vector<uint32_t> &list, const PixelFormatRequest &request) {
     append(list, AlphaSize, request.alphaSize);
     append(list, DepthSize, request.depthSize);

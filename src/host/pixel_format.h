@@ -1,5 +1,5 @@
-// Pixel format attribute lists: which format the configs share, or each has; the probe's, and the one that a context
-// gets.
+// Pixel format attribute lists: the format that the configs share, or each config's own; the probe's, and that of a
+// context.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace host {
 
-// Sizes in bits, as the config that stands for the host says them.
+// Sizes in bits, from the config that stands for the host.
 struct PixelFormatRequest {
     uint64_t display = 0;
     bool hasWindowBit = false;
@@ -17,21 +17,21 @@ struct PixelFormatRequest {
     int32_t sampleBuffers = 0, samples = 0;
 };
 
-// What a context promises when a program reads out of bounds, or the host is reset.
+// The robustness that a context has when a program reads out of bounds, or the host is reset.
 struct Robustness {
     bool isRobust = false;
     bool losesContextOnReset = false;
 };
 
-// Null when the host has nothing fitting.
+// Null when the host has no matching format.
 [[nodiscard]] platform::PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request);
-// A format for this config alone: the nearest that the host has, or one of just these sizes. Null when there is none.
+// A format for one config only: the host's nearest, or one of exactly these sizes. Null when there is none.
 [[nodiscard]] platform::PixelFormat *makeFittingPixelFormat(const PixelFormatRequest &request, bool exactly);
-// A format for contexts that go with drawables of any config. Null when the host gives none.
+// A format for contexts that can draw to drawables of any config. Null when the host has none.
 [[nodiscard]] platform::PixelFormat *makeConfiglessPixelFormat(uint64_t display);
-// A core format on the default display with nothing else asked for.
+// A core format on the default display with no other attributes.
 [[nodiscard]] platform::PixelFormat *makeProbePixelFormat();
-// Reads the format's values back and asks for them again, always double-buffered, with the profile that is wanted.
+// Reads the format's values and requests them again, always double-buffered, with the given profile.
 [[nodiscard]] platform::PixelFormat *deriveContextPixelFormat(const platform::PixelFormat *format, bool legacy,
                                                               const Robustness &robustness = {});
 

@@ -1,4 +1,4 @@
-// The reasons of a choice of configs as JSON, with EGL's own names.
+// The reasons of a config choice as JSON, with EGL's own names.
 #pragma once
 
 #include "journal/journal.h"
@@ -6,9 +6,9 @@
 
 namespace journal {
 
-// An object of attribute and value for each pair; empty for a null list.
+// An object of attributes and values; empty for a null list.
 [[nodiscard]] Json attributesJson(const int32_t *attributes);
-// "fallenOut", "order" and "comparisons", as docs/journal.md tells them.
+// "fallenOut", "order" and "comparisons", as docs/journal.md describes them.
 [[nodiscard]] Json choiceJson(const egl::ChoiceAccount &account);
 
 } // namespace journal

@@ -1,4 +1,4 @@
-// What the device of a context carries, as the context itself tells a program.
+// The capabilities of a context's device, as the context reports them to a program.
 #pragma once
 
 #include <bitset>
@@ -16,24 +16,24 @@
 
 namespace journal {
 
-// Made with the context of the table current, and asked on the threads that have it current alone.
+// Created with the table's context current, and used only on threads that have it current.
 class DeviceView {
 public:
     explicit DeviceView(const gl::FunctionTable &table);
 
-    // Whether the version or an announced extension has it.
+    // Whether the version or an advertised extension has it.
     [[nodiscard]] bool carries(const EsOrigin &origin) const;
-    // An enumerant that OpenGL ES has and this device does not. Unknown ones are not judged.
+    // An enumerant that OpenGL ES has and this device lacks. False for unknown ones.
     [[nodiscard]] bool lacksEnumerant(uint64_t value) const {
         return value < m_lacking.size() && m_lacking[static_cast<size_t>(value)];
     }
     [[nodiscard]] bool announcesCompressedFormat(uint32_t format) const;
-    // Nothing where the context does not tell the limit.
+    // Nothing if the context does not report the limit.
     [[nodiscard]] std::optional<int32_t> limit(uint32_t name);
     // 0 when no error is pending on the context.
     [[nodiscard]] uint32_t takeError() const { return m_getError ? m_getError() : 0; }
 
-    // What it tells of itself, for the journal.
+    // The context's description, for the journal.
     [[nodiscard]] Json words() const;
 
 private:

@@ -1,4 +1,4 @@
-// What of OpenGL ES each function and enumerant belongs to, whatever the device carries.
+// The versions and extensions that define each OpenGL ES function and enumerant, whatever the device supports.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace journal {
 struct EsOrigin {
     bool isInEs1;
     int since;              // of ES 2 and 3: 20, 30, 31, 32; 0 for never
-    const char *extensions; // with a blank between
+    const char *extensions; // separated by blanks
 };
 
 struct EsFunction {
@@ -26,7 +26,7 @@ struct EsEnumerant {
     EsOrigin origin;
 };
 
-// Null for a name that OpenGL ES has nowhere.
+// Null for a name that is not in OpenGL ES.
 [[nodiscard]] const EsFunction *findEsFunction(std::string_view name);
 // In the order of their values.
 [[nodiscard]] std::span<const EsEnumerant> esEnumerants();

@@ -18,8 +18,8 @@ namespace journal {
 
 namespace {
 
-// Kept by every process that execs nothing; what a program starts opens the file itself. A pipe that nobody reads is
-// refused, where a plain open would wait.
+// Kept open by the process; closed at exec, and a started program opens the file itself. A pipe without a reader is
+// rejected, where a plain open would block.
 int openFile() {
     const char *path = findVariable("ZELVANE_JOURNAL");
     if (!path || !*path) return -1;

@@ -1,4 +1,4 @@
-// The arguments of a call, whatever its signature: the registers and the stack as the caller left them.
+// The arguments of a call of any signature: the registers and the stack as the caller left them.
 #pragma once
 
 #include <cstdint>
@@ -8,9 +8,9 @@
 
 namespace journal {
 
-// As recording_thunks.cpp saves them on the stack; its numbers are written out there.
+// The layout that recording_thunks.cpp saves on the stack; it has these offsets as numbers.
 struct SavedCall {
-    double floats[8][2]; // of each register the lower half counts, and a float fills half of that
+    double floats[8][2]; // the lower half of each register; a float uses half of that
     uint64_t unused;
     uint64_t floatCount;
     uint64_t integers[6];
@@ -18,15 +18,15 @@ struct SavedCall {
     uint64_t callerRbx;
     uint64_t callerRbp;
     uint64_t returnAddress;
-    uint64_t stack[1]; // as many as there are
+    uint64_t stack[1]; // of variable length
 };
 
-// Those of a function by their kinds.
+// The arguments of a function, by their kinds.
 class RecordedArguments {
 public:
     RecordedArguments(const SavedCall &call, const char *kinds) : m_call(call), m_kinds(kinds) {}
 
-    // By the place in the signature, from 0. Of a kind other than float and double.
+    // By position in the signature, from 0. For kinds other than float and double.
     [[nodiscard]] uint64_t integer(size_t place) const;
     // "GL_TEXTURE_2D, 0, 0.5": pointers as hexadecimal numbers.
     [[nodiscard]] std::string text() const;

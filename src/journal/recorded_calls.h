@@ -1,5 +1,5 @@
-// GL calls as the journal sees them: a function stands before each that a back end answers, whatever its signature,
-// looks at the arguments, and asks for errors afterwards.
+// GL calls in the journal: a function wraps each that a back end returns, of any signature, checks the arguments, and
+// queries errors afterwards.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace journal {
 
-// How a bound reaches.
+// How the limit bounds the argument.
 enum class Reach { upTo, below, unitBelow };
 
 struct LimitRow {
@@ -23,19 +23,19 @@ struct LimitRow {
     uint32_t target; // 0 for every
 };
 
-// One function of one back end under one name. Constant once it is handed out.
+// One function of one back end under one name. Constant once it is returned.
 struct RecordedCall {
     uint32_t number;
     const char *name;
     gl::Function function;
-    const EsFunction *es; // null for a name that OpenGL ES has nowhere
+    const EsFunction *es; // null for a name that is not in OpenGL ES
     std::vector<const LimitRow *> limits;
-    int formatArgument; // -1 where no compressed format stands
+    int formatArgument; // -1 without a compressed format
 };
 
-// What to call in place of the function: one that records and calls it. The function itself where nothing can be put
-// before it: on other machines than x86-64, and for those that come after thousands of others. A null function is noted
-// as lacking and stays null. Any thread.
+// The wrapper to call in place of the function, which records and calls it. The function itself if it cannot be
+// wrapped: on machines other than x86-64, and after thousands of other functions. A null function is recorded as
+// lacking and stays null. Any thread.
 [[nodiscard]] gl::Function recorded(const char *name, gl::Function function);
 
 } // namespace journal

@@ -1,4 +1,4 @@
-// What the journal keeps of one context: its device, and the errors that it took before the program asked.
+// The journal's record of one context: its device, and the errors that were read before the program queried them.
 #pragma once
 
 #include <cstdint>
@@ -15,16 +15,16 @@ class RecordedContext {
 public:
     explicit RecordedContext(const gl::FunctionTable &table) : device(table) {}
 
-    // Null without a current context. Made at the first question, which writes what the device tells.
+    // Null without a current context. Created at the first call, which writes the device's line.
     [[nodiscard]] static RecordedContext *current();
-    // A new context lives at the address of the table's.
+    // Called when a new context gets the address of a recorded one.
     static void forget(void *context);
 
-    // Whether the device lacks the function; asked once for each recorded call.
+    // Whether the device lacks the function; checked once for each recorded call.
     [[nodiscard]] bool lacks(const RecordedCall &call);
-    // The error that the last call left on the host, kept for the program. 0 for none.
+    // The error that the last call left on the host, stored for the program. 0 for none.
     [[nodiscard]] uint32_t collectError();
-    // As glGetError answers the program.
+    // The result of glGetError for the program.
     [[nodiscard]] uint32_t giveError();
 
     DeviceView device;

@@ -1,4 +1,4 @@
-// Functions that stand before others without knowing their arguments, and what they call.
+// Wrappers that work without knowing the arguments, and what they call.
 #pragma once
 
 #include <cstddef>
@@ -11,10 +11,10 @@ namespace journal {
 
 inline constexpr size_t thunkCount = 4096;
 
-// The thunk of that number; the function itself on machines that this library has none for.
+// The thunk of that number; the function itself on machines for which this library has no thunks.
 [[nodiscard]] gl::Function thunk(uint32_t number, gl::Function function);
 
-// What a thunk calls before the function, which this gives, and after it. recorded_calls.cpp has both.
+// Called by a thunk before the function, which this returns, and after it. Both are in recorded_calls.cpp.
 [[nodiscard]] gl::Function beginCall(uint32_t number, const SavedCall &saved);
 void endCall(uint32_t number, const SavedCall &saved);
 

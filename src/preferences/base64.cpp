@@ -27,7 +27,7 @@ void put(uint32_t sextet, std::string &text) {
     text += alphabet[sextet];
 }
 
-// Hands the source to step in blocks and writes what step made of each.
+// Passes the source to step in blocks and writes the result of each.
 template <typename Step>
 bool codeBlocks(std::istream &source, std::ostream &sink, size_t roomPerBlock, Step step) {
     std::string block(blockSize, '\0');

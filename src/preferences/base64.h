@@ -1,5 +1,5 @@
-// Base64 as the preferences file holds it: lines of 72 characters, each ended by a line feed, and one more line feed
-// at the end of all. Both coders keep their state between blocks, so that text may come in pieces of any size.
+// Base64 in the format of the preferences file: lines of 72 characters, each ended by a line feed, and one more line
+// feed at the end. Both coders keep their state between blocks, so that text may come in pieces of any size.
 #pragma once
 
 #include <cstdint>
@@ -11,16 +11,16 @@
 class Base64Encoder {
 public:
     void encode(std::string_view bytes, std::string &text);
-    // Pads the group that is open and ends the last line.
+    // Pads the open group and ends the last line.
     void finish(std::string &text);
 
 private:
     uint32_t m_phase = 0; // bytes of the open group
-    uint32_t m_held = 0;  // bits of the last byte that are not written yet, in their place in the next character
+    uint32_t m_held = 0;  // the unwritten bits of the last byte, shifted to their place in the next character
     uint32_t m_groupsOnLine = 0;
 };
 
-// Skips every character outside the alphabet, the pad included. A last group that is cut gives no byte for its rest.
+// Skips every character outside the alphabet, padding included. The rest of an incomplete last group is dropped.
 class Base64Decoder {
 public:
     void decode(std::string_view text, std::string &bytes);

@@ -4,7 +4,7 @@
 #include <cstring>
 
 // Grows by the capacity and not by the size: an append as long as the two are equal, but once they differ (from the
-// fourth equal block on) a tail of zero bytes stays behind each block.
+// fourth equal block on) each block is followed by zero bytes.
 std::streamsize CVectorByteWrapper::xsputn(const char *text, std::streamsize count) {
     // A block of no bytes must not bring a tail along.
     if (count <= 0) return 0;

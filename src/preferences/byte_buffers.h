@@ -1,11 +1,11 @@
-// Stream buffers over bytes in memory, between which base64 data is coded. Each belongs to one stream and one thread.
+// Stream buffers over bytes in memory, for coding base64 data. Each belongs to one stream and one thread.
 #pragma once
 
 #include <cstdint>
 #include <streambuf>
 #include <vector>
 
-// Collects what is written. Takes whole blocks only: a stream that puts single characters into it fails.
+// Collects what is written. Accepts whole blocks only: a stream that puts single characters into it fails.
 class CVectorByteWrapper : public std::streambuf {
 public:
     [[nodiscard]] const std::vector<uint8_t> &bytes() const { return m_bytes; }
@@ -15,11 +15,11 @@ protected:
 
 private:
     std::vector<uint8_t> m_bytes;
-    // The room that the growth rule counts with, which the vector's own capacity may exceed.
+    // The capacity that the growth rule uses, which the vector's own capacity may exceed.
     uint32_t m_capacity = 0;
 };
 
-// Reads the caller's bytes from begin up to end without copying them; they must outlive it.
+// Reads the caller's bytes in [begin, end) without copying them; they must outlive it.
 class CImmutableByteWrapper : public std::streambuf {
 public:
     CImmutableByteWrapper(const uint8_t *begin, const uint8_t *end) : m_begin(begin), m_end(end), m_current(begin) {}

@@ -1,4 +1,4 @@
-// FNV-1 in 32 bits: multiply first, then exclusive-or the byte. Compares element names and stamps files.
+// FNV-1 in 32 bits: multiply first, then exclusive-or the byte. Used for element names and file stamps.
 #pragma once
 
 #include <cstdint>

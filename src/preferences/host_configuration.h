@@ -1,4 +1,4 @@
-// The word ZelvaneConfiguration that a tool which embeds the library may export.
+// The symbol ZelvaneConfiguration that a tool which embeds the library may export.
 #pragma once
 
 #include <cstdint>
@@ -9,5 +9,5 @@ enum HostConfigurationBit : uint32_t {
     CONFIG_NO_WINDOW_TITLE = 8,
 };
 
-// 0 when the process exports no such word. Looked up once; safe against concurrent first calls.
+// 0 when the process exports no such symbol. Looked up once; safe for concurrent first calls.
 [[nodiscard]] uint32_t getHostConfiguration();

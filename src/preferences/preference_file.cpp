@@ -28,7 +28,7 @@ std::string fileIn(const std::string &directory, const std::string &name) {
     return directory + "/com.tarnlight." + name + ".plist";
 }
 
-// Only the last step counts: a directory on the way may exist already or be closed to us.
+// Only the last step is checked: a directory on the way may exist already or be inaccessible.
 bool makeDirectories(const std::string &directory) {
     size_t slash = directory.find('/');
     while ((slash = directory.find('/', slash + 1)) != std::string::npos) {

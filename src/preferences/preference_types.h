@@ -1,4 +1,4 @@
-// The elements that a preferences file is made of, and the codes that its accessors answer with.
+// The element types of a preferences file, and the result codes of its accessors.
 #pragma once
 
 #include <array>
@@ -32,10 +32,10 @@ enum PreferenceResult : int32_t {
     RESULT_NO_VALUE = 1,       // the path leads to no value, or the value is empty
     RESULT_BAD_KEY = 2,        // the key is empty; setters only
     RESULT_INCORRECT_TYPE = 3, // another type than asked for, or a text that does not parse
-    RESULT_CRITICAL_ERROR = 4, // no document, or a reload or a stream failed
+    RESULT_CRITICAL_ERROR = 4, // no document, or a failed reload or stream
 };
 
-// The names are out of step with the codes from RESULT_BAD_KEY upwards: code 2 is called INCORRECT_TYPE, code 3
+// The names do not match the codes from RESULT_BAD_KEY upwards: code 2 is called INCORRECT_TYPE, code 3
 // CRITICAL_ERROR. Null for every other code.
 [[nodiscard]] constexpr const char *resultName(int32_t code) {
     constexpr std::array names = {"SUCCESS", "NO_VALUE", "INCORRECT_TYPE", "CRITICAL_ERROR"};

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Points text at the text of a value of the type; the document keeps it.
+// Sets text to the text of a value of the type; the document owns it.
 PreferenceResult findText(tinyxml2::XMLDocument &document, const std::string &key, PreferenceType type,
                           const char *&text) {
     const auto *element = findValue(document, splitKey(key));

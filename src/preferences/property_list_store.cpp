@@ -6,7 +6,7 @@
 
 namespace {
 
-// Longer details of the parser are cut to this.
+// Longer parser messages are cut to this.
 constexpr size_t errorDetailLimit = 1023;
 
 } // namespace

@@ -1,4 +1,4 @@
-// How values stand in the text of a property list. The application's global locale has no say in it.
+// How values are written in a property list, independent of the application's global locale.
 #pragma once
 
 #include <locale>
@@ -9,7 +9,7 @@
     return value;
 }
 
-// As a default-formatted stream writes it, a bool as a word.
+// The output of a default-formatted stream, a bool as a word.
 template <typename T>
 [[nodiscard]] std::string textOf(const T &value) {
     std::ostringstream stream;
@@ -23,8 +23,8 @@ inline bool parseText(const std::string &text, std::string &value) {
     return true;
 }
 
-// Skips leading white space and ignores what follows the value. A failure leaves what the extraction left, or zero
-// where there was nothing to extract from.
+// Skips leading white space and ignores what follows the value. A failure returns what the extraction left, or zero
+// if there was nothing to extract.
 template <typename T>
 [[nodiscard]] bool parseText(const std::string &text, T &value) {
     std::istringstream stream(text);

@@ -15,7 +15,7 @@ bool Settings::load(std::string &error) {
 
     const std::string directoryKey = settingKey("profiles_directory");
     getString(directoryKey, &m_profilesDirectory, std::string());
-    // The variable seeds the setting once; from then on the file wins.
+    // The variable sets the initial value only; afterwards the file decides.
     if (m_profilesDirectory.empty() && getProfilePathFromEnvironment(m_profilesDirectory)) {
         setString(directoryKey, m_profilesDirectory);
         save(true);

@@ -6,16 +6,16 @@
 
 #include "preferences/property_list_store.h"
 
-// The path of a setting in the store. Every one lies in the section of this version.
+// The path of a setting in the store. All settings are in the section of this version.
 [[nodiscard]] std::string settingKey(const char *name);
 
 class Settings : public KZRPreferences {
 public:
-    // Touches no file.
+    // Does not access the file.
     Settings();
 
-    // Reads the file, creating it where there is none. False, with the reason appended to error, when it cannot be
-    // read or made; a key that is missing or of a wrong type leaves its default.
+    // Reads the file, creating it if there is none. False, with the reason appended to error, when it cannot be
+    // read or created; a key that is missing or of a wrong type leaves its default.
     [[nodiscard]] bool load(std::string &error);
 
     [[nodiscard]] bool isLoaded() const { return m_loaded; }
@@ -29,5 +29,5 @@ private:
     std::string m_currentProfile;
     std::string m_profilesDirectory;
     bool m_strictContextMode = false;
-    bool m_radeonHdHack = false; // steers nothing here; kept so that the key keeps a meaning
+    bool m_radeonHdHack = false; // has no effect; kept so that the key keeps a meaning
 };

@@ -1,4 +1,4 @@
-// What a choice of configs tells beside its answer: why a config fell out, and what decided the order of the others.
+// The details of a config choice: why each config was rejected, and what decided the order of the others.
 #pragma once
 
 #include <cstdint>
@@ -6,21 +6,21 @@
 
 namespace egl {
 
-// The first attribute that threw a config out.
+// The first attribute that rejected a config.
 struct FallOut {
     int32_t attribute;
     int32_t wanted;
     int32_t had;
 };
 
-// Stands for an attribute where the colour bits decide: the sum of the colour sizes that the list asks for.
+// Stands for an attribute when the colour bits decide: the sum of the colour sizes that the list requests.
 inline constexpr int32_t colourBits = 0;
 
-// What two configs were compared by.
+// The first difference between two configs in the sort order.
 struct Comparison {
-    bool isBefore;  // the former comes before the latter
-    int32_t key;    // the attribute that told them apart, or colourBits
-    int32_t former; // the two values of it
+    bool isBefore;  // the former is sorted before the latter
+    int32_t key;    // the attribute that differs, or colourBits
+    int32_t former; // former, latter: its two values
     int32_t latter;
 };
 
@@ -29,10 +29,10 @@ struct ChoiceAccount {
         int32_t id;
         FallOut reason;
     };
-    std::vector<FallenOut> fallenOut; // in the order of the ids
-    std::vector<int32_t> order;       // the ids of those that match
-    // Of each of the order and the one behind it. Where none is before, their rules leave the pair open, and the steps
-    // of the sort settled it.
+    std::vector<FallenOut> fallenOut; // in the order of EGL_CONFIG_ID
+    std::vector<int32_t> order;       // the ids of the matching configs
+    // Each config of the order, compared with the next. Where neither is before the other, the rules leave the pair
+    // open, and the steps of the sort decided.
     std::vector<Comparison> comparisons;
 };
 

@@ -15,18 +15,18 @@ namespace egl {
 
 namespace osx {
 
-// The host pixel format behind a config list, or behind one config. It is never released: contexts of the process go on
-// using it.
+// The host pixel format of a config list, or of one config. It is never released: contexts of the process may still use
+// it.
 class Config {
 public:
     explicit Config(host::platform::PixelFormat *format, bool isOwn = false) : m_format(format), m_isOwn(isOwn) {}
     [[nodiscard]] host::platform::PixelFormat *format() const { return m_format; } // may be null
-    // That of surfaces, where they have one of their own; otherwise null: they are drawn to with the context's.
+    // The format for surfaces, if it differs; otherwise null: surfaces are drawn to with the context's format.
     [[nodiscard]] host::platform::PixelFormat *surfaceFormat() const { return m_isOwn ? m_format : nullptr; }
 
 private:
     host::platform::PixelFormat *m_format;
-    bool m_isOwn; // of one config alone
+    bool m_isOwn; // used by one config only
 };
 
 } // namespace osx
@@ -36,10 +36,10 @@ class Config {
 public:
     // The defaults that every config starts from, without a host format.
     Config();
-    // The defaults, then each pair of the list, where a later pair wins.
+    // The defaults, then each pair of the list; a later pair replaces an earlier one.
     Config(std::shared_ptr<osx::Config> hostConfig, const int32_t *attributes);
 
-    // Same attributes and the very same host format.
+    // Equal attributes and the identical host format.
     bool operator==(const Config &other) const;
     // By EGL_CONFIG_ID; an absent id counts as 0.
     bool operator<(const Config &other) const;
@@ -53,11 +53,11 @@ public:
     [[nodiscard]] std::vector<int32_t> toAttributeList() const;
     [[nodiscard]] const std::shared_ptr<osx::Config> &hostConfig() const { return m_hostConfig; }
 
-    // Whether the config answers the application's list; config_match.cpp tells the rules.
+    // Whether the config matches the application's list; the rules are in config_match.cpp.
     [[nodiscard]] bool matches(const int32_t *attributes) const { return !findFallOut(attributes); }
-    // What throws the config out of the list: the first pair that it does not answer. Nothing for one that matches.
+    // The first pair of the list that the config does not match. Nothing for a config that matches.
     [[nodiscard]] std::optional<FallOut> findFallOut(const int32_t *attributes) const;
-    // major is an ES version: 1, 2 or 3. Any other is never supported.
+    // major is an ES version: 1, 2 or 3. Any other is unsupported.
     [[nodiscard]] bool supportsClientVersion(int32_t major) const;
 
 private:
@@ -65,7 +65,7 @@ private:
     std::shared_ptr<osx::Config> m_hostConfig;
 };
 
-// Whether eglChooseConfig takes the list at all.
+// Whether eglChooseConfig accepts the list at all.
 [[nodiscard]] bool validateAttributeList(const int32_t *attributes);
 
 } // namespace egl

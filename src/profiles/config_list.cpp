@@ -19,7 +19,7 @@ constexpr int32_t builtInConfigAttributes[] = {
 #undef CONFIG_ATTRIBUTE
     EGL_NONE};
 
-// What the host is asked for: the built-in config, without an id since it is none of the list's, and without pixmaps.
+// The attributes requested from the host: the built-in config, without an id since it is not listed, without pixmaps.
 std::vector<int32_t> hostProbeAttributes() {
     std::vector<int32_t> list;
     for (const auto &[name, value] : AttributeList(builtInConfigAttributes)) {

@@ -57,7 +57,7 @@ const ConfigElementRule *findElementRule(std::string_view name) {
 }
 
 void readInteger(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config) {
-    // A number too large keeps its low 32 bits.
+    // A number that is too large keeps its low 32 bits.
     const auto value = static_cast<int32_t>(strtol(textOf(element).data(), nullptr, 10));
     config.setAttribute(rule.attribute, value);
 }

@@ -1,5 +1,5 @@
-// Fills a config from its element in a device profile. The walk goes over all descendants of the element, so that an
-// element counts wherever it stands below the config.
+// Fills a config from its element in a device profile. All descendants of the element are read, so that an element
+// counts at any depth below the config.
 #pragma once
 
 #include <cstdint>
@@ -34,19 +34,19 @@ struct ConfigElementRule {
 
     std::string_view name;
     int32_t attribute = 0;
-    Reader reader = nullptr;                         // null for a group, which is passed over
-    std::span<const ConfigBitName> bitNames = {};    // of readBits
-    std::span<const std::string_view> children = {}; // of a group: the elements that profiles have in it
+    Reader reader = nullptr;                         // null for a group, which is ignored itself
+    std::span<const ConfigBitName> bitNames = {};    // for readBits
+    std::span<const std::string_view> children = {}; // for a group: the elements that profiles put in it
 };
 
-// The row of this name among those for elements of a config. Null for any other name.
+// The table row for a config's child element of this name. Null for any other name.
 [[nodiscard]] const ConfigElementRule *findElementRule(std::string_view name);
 
-// Sets the number that the text begins with, after white space; 0 without one.
+// Sets the number at the start of the text, after white space; 0 without one.
 void readInteger(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
-// Sets 1 for exactly "EGL_TRUE", else 0: "1" is false too.
+// Sets 1 for exactly "EGL_TRUE", otherwise 0: "1" is false too.
 void readBoolean(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
-// Adds the bit of that name. Any other text, numbers too, leaves the attribute as it was.
+// Adds the bit of that name. Any other text, numbers too, leaves the attribute unchanged.
 void readBits(const ConfigElementRule &rule, const tinyxml2::XMLElement &element, Config &config);
 
 } // namespace egl

@@ -71,7 +71,7 @@ bool isValidPair(int32_t attribute, int32_t value) {
     case EGL_BIND_TO_TEXTURE_RGBA:
         return value == EGL_TRUE || value == EGL_FALSE || value == EGL_DONT_CARE;
     case EGL_TRANSPARENT_TYPE:
-        // EGL_DONT_CARE is refused here, other than for the caveat.
+        // EGL_DONT_CARE is rejected here, except for the caveat.
         return value == EGL_NONE || value == EGL_TRANSPARENT_RGB;
     default:
         return true;

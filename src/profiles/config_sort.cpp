@@ -12,7 +12,7 @@ namespace egl {
 
 namespace {
 
-// The smaller comes first, in this order of weight.
+// The smaller value comes first; the attributes are in order of significance.
 constexpr int32_t sizeKeys[] = {EGL_BUFFER_SIZE, EGL_SAMPLE_BUFFERS, EGL_SAMPLES, EGL_DEPTH_SIZE, EGL_STENCIL_SIZE};
 
 // Nothing when the caveats leave the order open, as an unknown one in a does. Beside EGL_NONE the two directions then

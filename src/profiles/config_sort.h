@@ -1,4 +1,4 @@
-// The order in which eglChooseConfig lists what matches.
+// The order in which eglChooseConfig returns matching configs.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace egl {
 
-// Whether a comes before b for the application's list. Two configs that differ in the colour bits that the list asks
-// for are neither before nor after one another, so this is no strict weak order: never give it to std::sort.
+// Whether a comes before b for the application's list. Configs that differ in the colour bits that the list requests
+// are unordered, so this is no strict weak order: never pass it to std::sort.
 class ConfigSortOrder {
 public:
     explicit ConfigSortOrder(const int32_t *attributes);
@@ -19,7 +19,7 @@ public:
 private:
     [[nodiscard]] uint32_t colourSum(const Config &config) const;
 
-    std::vector<int32_t> m_channels; // the colour sizes that the list asks for
+    std::vector<int32_t> m_channels; // the colour sizes that the list requests
 };
 
 void sortConfigs(std::vector<Config> &configs, const ConfigSortOrder &order);

@@ -1,5 +1,5 @@
-// Configs as programs of the desktop expect them: each with a host format of its own, and with what the host alone can
-// tell of it.
+// Configs as programs of the desktop expect them: each with a host format of its own, and with the attributes that
+// depend on the host.
 #pragma once
 
 #include <cstdint>
@@ -10,11 +10,11 @@
 
 namespace egl {
 
-// The configs of the profile. Where that asks for the host's only, those that the host does not have just so are left
-// out; otherwise each gets the nearest format.
+// The configs of the profile. If it requests the host's only, those without an exact match on the host are left out;
+// otherwise each gets the nearest format.
 [[nodiscard]] std::vector<Config> makeDesktopConfigs(const DeviceProfile &profile, uint64_t nativeDisplay);
 
-// Stands for a null config: its contexts draw to surfaces of any config.
+// Used for a null config: its contexts draw to surfaces of any config.
 [[nodiscard]] Config makeConfiglessConfig(const Config &first, uint64_t nativeDisplay);
 
 } // namespace egl

@@ -4,7 +4,7 @@
 
 #include "read_only_bytes.h" // of the platform that the build is for
 
-// The bytes of each file between two symbols. The build knows that this object depends on the files.
+// The bytes of each file between two symbols. The build declares that this object depends on the files.
 #define EMBEDDED_PROFILE(file)                                                                                         \
     asm(READ_ONLY_SECTION READ_ONLY_SYMBOL(                                                                            \
         "zelvane_profile_" #file) ".incbin \"" ZELVANE_PROFILE_DATA "/" #file                                          \

@@ -1,5 +1,5 @@
 // The device profiles inside the library. Filled before the first EGL call, constant afterwards,
-// and never destroyed, since threads may look while the process ends.
+// and never destroyed, since threads may read them while the process ends.
 #pragma once
 
 #include <string>
@@ -8,11 +8,11 @@
 
 namespace egl {
 
-// XML texts, in the order in which a name is looked for.
+// XML texts, in the order in which a name is searched.
 extern const std::vector<std::string_view> &embeddedProfiles;
 
-// The name that a profile text is chosen by: its device, or "Generic " and its renderer. Empty when it has neither or
-// does not parse.
+// The name that selects a profile text: its device, or "Generic " and its renderer. Empty when it has neither or does
+// not parse.
 [[nodiscard]] std::string profileDisplayName(std::string_view text);
 
 // The first text of that name; empty if there is none. Parses the texts at every call.

@@ -1,5 +1,5 @@
-// The sort behind config lists, written out: the order of configs is not transitive, so that the result depends on
-// every step, and applications see it. Stays inside the range and ends whatever the order says.
+// The sort of config lists, written out: the order of configs is not transitive, so the result depends on every step,
+// and applications see it. Stays inside the range and terminates for any order.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 
 namespace egl {
 
-// before(a, b) says whether a comes before b. Places are indices; a range is [first, last).
+// before(a, b) returns whether a comes before b. Positions are indices; a range is [first, last).
 template <typename Record, typename Before>
 class PartitionSort {
 public:
@@ -58,7 +58,7 @@ private:
                     continue;
                 }
             }
-            // The nested call takes the smaller side, which bounds the depth by the logarithm of the size.
+            // Recurses into the smaller side, which bounds the depth by the logarithm of the size.
             if (split - first < last - split) {
                 sort(first, split);
                 first = split + 1;
@@ -70,7 +70,7 @@ private:
         insert(first, last, noLimit);
     }
 
-    // Puts a few records in order and returns the place of the middle one.
+    // Sorts a few records and returns the position of the middle one.
     size_t arrangePivot(size_t first, size_t last) {
         const size_t middle = first + (last - first) / 2;
         if (last - first < fivePlaceMin) {
@@ -102,7 +102,7 @@ private:
                 swap(places[k], places[k - 1]);
     }
 
-    // The highest place below the last whose record comes before the pivot; first when there is none.
+    // The highest position below the last whose record comes before the pivot; first when there is none.
     size_t lastBefore(size_t first, size_t last, size_t pivot) const {
         size_t j = last - 2;
         while (j > first && !comesBefore(j, pivot))
@@ -110,8 +110,8 @@ private:
         return j;
     }
 
-    // For a range in which nothing comes before the pivot: gathers the records that the first one comes before at the
-    // top and returns where they start, last when there are none. What lies below stays as it is.
+    // For a range in which nothing comes before the pivot: moves the records that the first one comes before to the end
+    // and returns where they start, last when there are none. The records below are not moved.
     size_t moveLaterToTop(size_t first, size_t last) {
         size_t i = first + 1;
         size_t j = last;
@@ -125,7 +125,7 @@ private:
         }
     }
 
-    // The first record comes before the pivot, and none above upper is asked. Returns the place between the two sides.
+    // The first record comes before the pivot, and none above upper is compared. Returns the position between them.
     size_t partition(size_t first, size_t upper, size_t pivot) {
         size_t i = first + 1;
         size_t j = upper;
@@ -144,7 +144,7 @@ private:
         return i;
     }
 
-    // Sorts by insertion. False when it gave up with records left to look at, after limit of them had to be moved.
+    // Insertion sort. False when it gave up with records left, after limit of them had to be moved.
     bool insert(size_t first, size_t last, size_t limit) {
         size_t next = first + 1;
         if (last - first >= 3) {
@@ -163,7 +163,7 @@ private:
 
     std::span<Record> m_records;
     const Before &m_before;
-    size_t m_swaps = 0; // since the pivot of the range at hand was chosen
+    size_t m_swaps = 0; // since the pivot of the current range was chosen
 };
 
 } // namespace egl

@@ -30,7 +30,7 @@ constexpr Choice choices[] = {
 constexpr int32_t transparentColours[] = {EGL_TRANSPARENT_RED_VALUE, EGL_TRANSPARENT_GREEN_VALUE,
                                           EGL_TRANSPARENT_BLUE_VALUE};
 
-// The standard has these in lists and takes no notice of them.
+// The standard allows these in lists and ignores them.
 constexpr int32_t passedOver[] = {EGL_MAX_PBUFFER_WIDTH, EGL_MAX_PBUFFER_HEIGHT, EGL_MAX_PBUFFER_PIXELS,
                                   EGL_NATIVE_VISUAL_ID};
 

@@ -15,7 +15,7 @@ constexpr uint32_t bits(int first, int last) {
     return ((1u << (last + 1)) - 1) & ~((1u << first) - 1);
 }
 
-// Bit numbers are types. The others that a queue may hold are the link's own or the GUI's.
+// Bit numbers are record types. The other types that a queue may hold are the link's own or the GUI's.
 constexpr uint32_t forwardedTypes =
     bits(ZV_WINDOW_TITLE, ZV_BACK_END_LISTS) | bits(ZV_SYSTEM_REPORT_GL_VERSION, ZV_SYSTEM_REPORT_END);
 static_assert(forwardedTypes == 2082812);

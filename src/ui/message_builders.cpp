@@ -21,7 +21,7 @@ Message withoutFrame(zvMessageType type) {
     return message;
 }
 
-// The field is zero before, so that its last byte stays so.
+// The field was zeroed, so its last byte remains a terminator.
 template <size_t size>
 void copyText(char (&field)[size], std::string_view text) {
     text.copy(field, size - 1);

@@ -1,5 +1,5 @@
-// Makes the records of the GUI link, one builder a type. Everything behind a payload is zero.
-// Texts and lists that do not fit their field are cut.
+// Builds the records of the GUI link, one builder per type. All bytes after a payload are zero.
+// Texts and lists that exceed their field are cut.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ using List = std::span<const uint32_t>;
     return message.header.type;
 }
 
-// Of the library.
+// Sent by the library.
 [[nodiscard]] Message processHello(int32_t processNumber);
 [[nodiscard]] Message linkStop();
 [[nodiscard]] Message windowTitle(std::string_view title);
@@ -25,7 +25,7 @@ using List = std::span<const uint32_t>;
 [[nodiscard]] Message logWarning(std::string_view text);
 [[nodiscard]] Message logError(std::string_view text);
 
-// Of back ends. The frame number is the poster's to write.
+// Sent by back ends. The sender of the record sets the frame number.
 [[nodiscard]] Message backEndText(uint32_t first, uint32_t second, std::string_view text);
 [[nodiscard]] Message backEndMarker();
 [[nodiscard]] Message backEndRecord(const uint32_t (&values)[4], std::string_view text);
@@ -41,12 +41,12 @@ struct BackEndLists {
 };
 [[nodiscard]] Message backEndLists(const BackEndLists &lists);
 
-// Of the GUI.
+// Sent by the GUI.
 [[nodiscard]] Message guiDisconnect();
 [[nodiscard]] Message guiRenderModeOn();
 [[nodiscard]] Message guiRenderModeOff();
 
-// Of the System Report. All but the end leave frameStamp 0.
+// System report records. All but the end record leave frameStamp 0.
 [[nodiscard]] Message systemReportGlVersion(uint32_t version);
 [[nodiscard]] Message systemReportExtension(uint32_t extension, bool isAvailable);
 [[nodiscard]] Message systemReportFeature(std::string_view name, bool isAvailable);

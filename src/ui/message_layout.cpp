@@ -1,4 +1,4 @@
-// The wire format: GUIs are built apart from the library, so a field that moves must not compile.
+// The wire format: GUIs are built separately from the library, so a moved field must fail to compile.
 #include <cstddef>
 
 #include "zelvane/messages.h"

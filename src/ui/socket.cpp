@@ -30,7 +30,7 @@ bool setBlocking(int descriptor, bool isBlocking) {
     return flags >= 0 && fcntl(descriptor, F_SETFL, isBlocking ? flags & ~O_NONBLOCK : flags | O_NONBLOCK) == 0;
 }
 
-// Anybody may listen in the temporary directory; records are for this user's eyes.
+// Any user can listen in the temporary directory; records are for this user only.
 bool isTrusted(int descriptor) {
     const auto user = peerUser(descriptor);
     return user && (*user == geteuid() || *user == 0);

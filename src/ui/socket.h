@@ -1,5 +1,5 @@
-// The transport of the GUI link: a Unix domain socket of the stream type. It moves blocks of bytes and knows nothing of
-// what they mean. The library is a client; the listening side is here for GUIs.
+// The transport of the GUI link: a Unix domain stream socket. It transfers blocks of bytes and does not interpret them.
+// The library is a client; the listening side is here for GUIs.
 #pragma once
 
 #include <atomic>
@@ -13,12 +13,12 @@
 
 namespace KZRIPC {
 
-// "/tmp/NAME", whoever the user is: one GUI serves every process of the machine. Whatever links this code says where
-// the socket lies: the library and the command link socket_path.cpp.
+// "/tmp/NAME", for every user: one GUI serves every process of the machine. The program that links this code defines
+// the path: the library and the command link socket_path.cpp.
 [[nodiscard]] std::string socketPath(std::string_view name);
 
-// A descriptor that clients share. The number is given back only when the last call on it has ended, so that no thread
-// meets one that the process uses for something else by then. Left open unless somebody closes it.
+// A descriptor that clients share. The number is freed only when the last call on it has returned, so that no thread
+// uses a number that the process has reused. Stays open unless it is closed explicitly.
 class Descriptor {
 public:
     explicit Descriptor(int number) : m_number(number) {}
@@ -27,7 +27,7 @@ public:
     ~Descriptor();
 
     [[nodiscard]] int number() const { return m_number; }
-    // Ends the traffic at once, on every thread that is waiting in a call.
+    // Shuts the connection down at once, for every thread that is blocked in a call.
     void close();
 
 private:
@@ -40,9 +40,9 @@ class ServerSocket;
 // One end of a connection. Copies use the same descriptor.
 class Socket {
 public:
-    // Connects without waiting; failed() tells whether there is a listener of this user or of root who takes us.
+    // Connects without waiting; failed() returns whether no listener of this user or of root accepted.
     explicit Socket(const std::string &path);
-    // Takes an accepted descriptor over.
+    // Takes ownership of an accepted descriptor.
     explicit Socket(int descriptor);
     Socket(const Socket &other);
     Socket &operator=(const Socket &) = delete;
@@ -61,26 +61,26 @@ private:
     std::shared_ptr<Descriptor> m_descriptor;
 };
 
-// Sends and receives blocks; neither repeats what was short. A send to a peer that has gone raises SIGPIPE where the
+// Sends and receives blocks; neither retries after a short transfer. A send to a closed peer raises SIGPIPE if the
 // thread has not blocked it. One thread may send while another receives or closes.
 class Client {
 public:
     explicit Client(std::string_view name);
     // Waits for an application to connect.
     explicit Client(const ServerSocket &server);
-    // Both clients then use one descriptor. What assignment replaces stays open, and so does what a destructor leaves.
+    // Both clients then use one descriptor. A replaced or destroyed client leaves its descriptor open.
     Client(const Client &other);
     Client &operator=(const Client &other);
 
     [[nodiscard]] bool failed() const { return m_failed; }
-    // Says that nobody has closed this client, and not that there is a peer.
+    // True while nobody has closed this client, which does not mean that there is a peer.
     [[nodiscard]] bool isOpen() const { return m_socket->isOpen(); }
     // Bytes sent, or a negative number. Senders take turns.
     int32_t send(const void *bytes, size_t count);
     // Bytes received, 0 at the end of the stream, or a negative number.
     [[nodiscard]] int32_t receive(void *bytes, size_t count);
     void close() { m_socket->close(); }
-    // For poll(). Negative once closed; good until then.
+    // For poll(). Negative once closed; valid until then.
     [[nodiscard]] int descriptor() const;
 
 private:
@@ -89,8 +89,8 @@ private:
     std::mutex m_sendLock;
 };
 
-// Listens. A socket file that a former run left is replaced, and so is that of a listener that still runs. Nothing here
-// removes the file at the end.
+// Listens. An existing socket file is replaced, whether left by an earlier run or used by a running listener. The file
+// is not removed at the end.
 class ServerSocket {
 public:
     ServerSocket(std::string_view name, int backlog);

@@ -8,7 +8,7 @@
 template <typename T>
 class SyncQueue {
 public:
-    // Waits for nothing but the copies of others.
+    // Waits only for the copies of other threads.
     void push(const T &element) {
         const std::lock_guard lock(m_mutex);
         m_elements.push_back(element);

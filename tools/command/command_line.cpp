@@ -29,7 +29,7 @@ std::vector<std::string> verbNames(const CLI::App &app) {
     return names;
 }
 
-// What is wrong with a word that nothing takes. speaker: the verb with the verbs before it.
+// The error for an unexpected word. speaker: the verb with the verbs before it.
 std::string mistakeOf(const std::string &word, const CLI::App &app, const std::string &speaker) {
     const std::string quoted = '"' + word + '"';
     if (isOption(word)) {

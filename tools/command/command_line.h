@@ -1,4 +1,4 @@
-// The words that the command is given, from the first to the action of a verb.
+// Parses the command line and runs the action of a verb.
 #pragma once
 
 #include <memory>
@@ -15,11 +15,11 @@ public:
     ~CommandLine();
 
     [[nodiscard]] Verb top() const;
-    // Takes the program of the verb and all that follows it off the words, exactly as they are: the parser would look
-    // for verbs and lists among them. It begins behind "--", or with the first word that is no option.
+    // Removes the verb's program and all that follows it from the words, unchanged: the parser would look for verbs and
+    // lists among them. It begins after "--", or with the first word that is not an option.
     [[nodiscard]] std::vector<std::string> takeProgram(std::vector<std::string> &words, const std::string &verb) const;
-    // Runs the action of the verb. False when the words are wrong, which has been said to standard error with what may
-    // have been meant.
+    // Runs the action of the verb. False when the words are invalid; the error is printed on standard error, with a
+    // suggestion.
     [[nodiscard]] bool run(std::vector<std::string> words) const;
 
 private:

@@ -1,9 +1,9 @@
-// How a verb ends before its end.
+// How a verb ends early.
 #pragma once
 
 #include <string>
 
-// Thrown by a verb that has said why on standard error: the exit status of the command.
+// Thrown by a verb that has printed its error on standard error: the exit status of the command.
 struct Failure {
     int status;
 };

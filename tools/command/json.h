@@ -1,4 +1,4 @@
-// How the command writes JSON.
+// JSON output of the command.
 #pragma once
 
 #include <string>
@@ -8,14 +8,14 @@
 // Fields stay in the order in which they are added.
 using Json = nlohmann::ordered_json;
 
-// On one line. What is no UTF-8, as where a text was cut, becomes replacement characters.
+// On one line. Bytes that are not UTF-8, as after a cut in a text, become replacement characters.
 [[nodiscard]] std::string jsonLine(const Json &json);
 
-// An object with a field a line, for people as well as for programs. A list of the field rows, if one is named, has an
-// item a line.
+// An object with one field per line, for people as well as for programs. A list of the field rows, if one is named, has
+// one item per line.
 [[nodiscard]] std::string jsonFields(const Json &object, const std::string &rows = {});
 
-// What the function makes of each item.
+// The array of the function's results for the items.
 template <typename Items, typename Make>
 Json jsonList(const Items &items, Make make) {
     Json list = Json::array();

@@ -9,7 +9,7 @@ char lower(char character) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
 }
 
-// Letters that are missing, too many, wrong, or swapped with their neighbour; capitals do not count.
+// Counts missing, extra, wrong and transposed letters, ignoring case.
 size_t mistakes(std::string_view word, std::string_view meant) {
     std::vector<std::vector<size_t>> counts(word.size() + 1, std::vector<size_t>(meant.size() + 1));
     const auto same = [&](size_t row, size_t column) { return lower(word[row - 1]) == lower(meant[column - 1]); };

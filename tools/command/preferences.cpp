@@ -63,7 +63,7 @@ void ToolPreferences::setStrict(bool strict) {
 }
 
 void ToolPreferences::storeString(const char *name, const std::string &value) {
-    // A value that is a dict or an array takes no text, and the store does not say so.
+    // A value that is a dict or an array accepts no text, and the store reports no error.
     std::string stored;
     m_store.setString(settingKey(name), value);
     m_store.getString(settingKey(name), &stored, std::string());

@@ -1,4 +1,4 @@
-// The user's preferences file as the verbs see it: the same settings that the library reads.
+// The user's preferences file for the verbs: the same settings that the library reads.
 #pragma once
 
 #include <string>
@@ -7,18 +7,18 @@
 
 class ToolPreferences {
 public:
-    // Reads the file, creating it where there is none. Fails the verb when it cannot be read whole: writing it back
-    // would lose what lies behind the fault.
+    // Reads the file, creating it if there is none. Fails the verb when it cannot be read completely: writing it back
+    // would lose what follows the error.
     ToolPreferences();
 
     [[nodiscard]] std::string storedDirectory();
-    // The directory that the library would take: the stored one, else $ZELVANE_PROFILE_PATH. Empty without both.
+    // The directory that the library would use: the stored one, else $ZELVANE_PROFILE_PATH. Empty without both.
     [[nodiscard]] std::string profilesDirectory();
     // As stored; the library reads it only when there is a directory.
     [[nodiscard]] std::string currentProfile();
     [[nodiscard]] bool isStrict();
 
-    // Each writes the file. All other keys stay. A failure fails the verb.
+    // Each writes the file; other keys are unchanged. A failure fails the verb.
     void setProfile(const std::string &directory, const std::string &name);
     void removeProfile();
     void setStrict(bool strict);

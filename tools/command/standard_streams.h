@@ -4,10 +4,10 @@
 // The exit status when the output cannot be written.
 inline constexpr int outputFailure = 3;
 
-// Puts something in the place of standard streams that are closed, which cannot be used in the way of the stream: the
-// files and sockets of a verb get other numbers, and what is written fails.
+// Opens a placeholder for each closed standard stream that fails in its direction: the files and sockets of a verb
+// then get other numbers, and writes fail.
 void occupyStandardStreams();
 
-// Writes what is left of the output. Gives the status, or outputFailure with a message when all went well but the
-// output. A reader that has gone is no failure.
+// Flushes the output. Returns the status, or outputFailure with a message when only the output has failed. A reader
+// that has closed its end is no failure.
 [[nodiscard]] int finishOutput(int status);

@@ -1,4 +1,4 @@
-// A directory of this process's own that goes, with all that is in it, at the end of the scope.
+// A temporary directory of this process, removed with its contents at the end of the scope.
 #pragma once
 
 #include <cstdlib>

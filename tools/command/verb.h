@@ -1,5 +1,5 @@
-// The verbs of the command and the words that they take. A cover of the parser, which costs seconds to compile: the
-// verbs see nothing but this.
+// The verbs of the command and their arguments. Wraps the parser, which takes seconds to compile: the verbs include
+// only this header.
 #pragma once
 
 #include <functional>
@@ -12,12 +12,12 @@ class App;
 class Option;
 } // namespace CLI
 
-// Thrown by an action whose words make no sense together: what is missing or too many.
+// Thrown by an action when its arguments do not fit together: what is missing or too many.
 struct UsageError {
     std::string text;
 };
 
-// An option or a word of a verb. Copies are the same word.
+// An option or argument of a verb. Copies refer to the same one.
 class Word {
 public:
     explicit Word(CLI::Option &option) : m_option(&option) {}
@@ -25,35 +25,35 @@ public:
     Word required() const;
     Word excludes(const Word &other) const;
     Word oneOf(const std::vector<std::string> &values) const;
-    // whatIsWrong gives a sentence about a value, or nothing.
+    // whatIsWrong returns an error sentence about a value, or nothing.
     Word checkedBy(const std::function<std::string(const std::string &value)> &whatIsWrong) const;
 
 private:
     CLI::Option *m_option;
 };
 
-// Copies are the same verb. Values are written when the words have been parsed, and have to live until then.
+// Copies refer to the same verb. Values are written when the words have been parsed, and must live until then.
 class Verb {
 public:
     explicit Verb(CLI::App &app) : m_app(&app) {}
 
-    // A verb below this one. Its footer comes last in its help, with the exit status.
+    // A verb below this one. Its footer is printed last in its help, with the exit status.
     Verb verb(const std::string &name, const std::string &help, const std::string &footer) const;
-    // This one does without any of the verbs below it.
+    // The verb may be used without any of the verbs below it.
     void canStandAlone() const;
     Word flag(const std::string &name, bool &value, const std::string &help) const;
-    // placeholder: what the help calls the value.
+    // placeholder: the name of the value in the help.
     Word option(const std::string &name, std::string &value, const std::string &placeholder,
                 const std::string &help) const;
     // May be given more than once.
     Word option(const std::string &name, std::vector<std::string> &values, const std::string &placeholder,
                 const std::string &help) const;
-    // Its value may be left out, and is empty then. Without the option there is no value.
+    // The value may be omitted, and is empty then. Without the option there is no value.
     Word optionalValue(const std::string &name, std::optional<std::string> &value, const std::string &placeholder,
                        const std::string &help) const;
-    // A word that is no option.
+    // A positional argument.
     Word word(const std::string &name, std::string &value, const std::string &help) const;
-    // Several of them.
+    // Several positional arguments.
     Word words(const std::string &name, std::vector<std::string> &values, const std::string &help) const;
     // Runs when the verb was given and none below it.
     void action(const std::function<void()> &action) const;

@@ -1,9 +1,9 @@
-// The words ATTRIBUTE=VALUE as an attribute list of EGL.
+// Arguments ATTRIBUTE=VALUE as an attribute list of EGL.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-// Pairs, ended by EGL_NONE. Throws a UsageError for a word that is none, with the name that may be meant.
+// Pairs, ended by EGL_NONE. Throws a UsageError for an invalid argument, with a suggestion.
 [[nodiscard]] std::vector<int32_t> readCriteria(const std::vector<std::string> &words);

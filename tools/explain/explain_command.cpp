@@ -1,4 +1,4 @@
-// zelvane explain: which configs eglChooseConfig would give, and why, before a program runs.
+// zelvane explain: which configs eglChooseConfig would return, and why, before a program runs.
 #include <iostream>
 #include <memory>
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-// As the library reads it: without a directory there is no device.
+// As in the library: without a directory there is no device.
 egl::DeviceProfile readChosenProfile() {
     ToolPreferences preferences;
     const std::string name = preferences.currentProfile(), directory = preferences.profilesDirectory();

@@ -1,4 +1,4 @@
-// A choice of configs with its reasons, as the library makes it.
+// A config choice with its reasons, computed by the library's code.
 #pragma once
 
 #include <cstdint>
@@ -12,14 +12,14 @@ struct Explanation {
     std::string device; // empty for none
     egl::ConfigKind rules;
     std::vector<int32_t> criteria;
-    std::vector<int32_t> ids; // of all configs, in their order
+    std::vector<int32_t> ids; // of all configs, in order
     egl::ChoiceAccount account;
 };
 
-// Of the device that this process's preferences choose. Fails the command for a list that eglChooseConfig refuses, and
-// when the profile cannot be read.
+// For the device in this process's preferences. Fails the command for a list that eglChooseConfig rejects, and when the
+// profile cannot be read.
 [[nodiscard]] Explanation explain(const std::vector<int32_t> &criteria, egl::ConfigKind rules);
 
-// A table of the configs and the order, and one object with the same.
+// The configs and the order as a table, and as one JSON object.
 [[nodiscard]] std::string explanationAsText(const Explanation &explanation);
 [[nodiscard]] std::string explanationAsJson(const Explanation &explanation);

@@ -1,4 +1,4 @@
-// A process with a group of its own, so that it goes with all that it started.
+// A child process in its own process group, so that all processes that it started can be ended with it.
 #pragma once
 
 #include <optional>
@@ -8,9 +8,9 @@
 
 class ChildProcess {
 public:
-    // Looked for in PATH. environment: "NAME=VALUE", in place of ours where a name stands in both. output: a file for
-    // both streams; empty for none. kept: a descriptor that the process gets at the same number, or -1. isStarted()
-    // tells whether it could be started.
+    // Searched in PATH. environment: "NAME=VALUE", replacing ours where a name is in both. output: a file for both
+    // streams; empty for none. kept: a descriptor that the process gets at the same number, or -1. isStarted() returns
+    // whether it could be started.
     ChildProcess(const std::vector<std::string> &words, const std::vector<std::string> &environment,
                  const std::string &output, int kept = -1);
     ChildProcess(const ChildProcess &) = delete;
@@ -19,9 +19,9 @@ public:
     ~ChildProcess() { end(); }
 
     [[nodiscard]] bool isStarted() const { return m_process > 0; }
-    // As waitpid gives it, once it has ended.
+    // The status of waitpid, once it has ended.
     [[nodiscard]] std::optional<int> poll();
-    // Asks the process to end, and after two seconds does not ask the group any more.
+    // Sends the process SIGTERM, and after two seconds SIGKILL to the group.
     void end();
 
 private:

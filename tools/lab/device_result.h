@@ -1,4 +1,4 @@
-// What a run on one device came to.
+// The result of a run on one device.
 #pragma once
 
 #include <cstdint>
@@ -25,9 +25,9 @@ struct LabGlError {
 
 struct DeviceResult {
     std::string device;
-    // From the journal. A program that never got a context has none of the first four.
+    // From the journal. The first four are empty for a program that never got a context.
     std::string esVersion, renderer, host;
-    std::string config; // its id and sizes in words
+    std::string config; // its id and sizes as text
     bool hasContext = false;
     uint64_t frames = 0;
     double framesPerSecond = 0;
@@ -36,13 +36,13 @@ struct DeviceResult {
     std::vector<LabGlError> glErrors;
     // Of the run.
     double seconds = 0;
-    std::string end; // in words
+    std::string end; // as text
     bool endedWell = false;
     std::string logTail;
     std::optional<Picture> picture;              // of the last frame
     std::optional<PictureDifference> difference; // to the reference
-    std::string differenceProblem;               // why there is none, in words
-    // The kinds of failing that the run has, whether or not they are asked for.
+    std::string differenceProblem;               // why there is none, as text
+    // The kinds of failures of the run, whether or not they are selected by --fail-on.
     std::vector<std::string> faults;
     bool passes = false;
 };

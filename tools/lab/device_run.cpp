@@ -21,7 +21,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// How long a program may take to its first frame, and to its last one where frames are counted.
+// The time limits for a program's first frame, and for its last one if frames are counted.
 constexpr double startSeconds = 10;
 constexpr double framesSeconds = 60;
 // After so long without a frame a program is taken to wait for its user.

@@ -7,10 +7,10 @@
 #include "tools/lab/device_result.h"
 #include "tools/lab/lab_options.h"
 
-// A name for files: letters, digits and lines for whatever the device's has besides.
+// A file name: the device's letters, digits and dots, with "-" for all other characters.
 [[nodiscard]] std::string fileNameOf(const std::string &device);
 
-// Leaves "journal" and "log" in the directory, which is there. isStopped: set when the lab is to end; the run then ends
-// soon, and its result is of what was done until then. Threads may run devices beside one another.
+// Writes "journal" and "log" to the directory, which exists. isStopped: set when the lab is to end; the run then ends
+// soon, and its result covers the time until then. Threads may run devices concurrently.
 [[nodiscard]] DeviceResult runOnDevice(const LabOptions &options, const std::string &device,
                                        const std::string &directory, const std::atomic<bool> &isStopped);

@@ -1,4 +1,4 @@
-// The devices that a lab can run a program on.
+// The devices on which a lab can run a program.
 #pragma once
 
 #include <string>
@@ -7,5 +7,5 @@
 // "Desktop", the built-in ones, and the profile files of the user's directory.
 [[nodiscard]] std::vector<std::string> allDevices();
 
-// Of names with commas between. Fails the command for one that there is not.
+// From names separated by commas. Fails the command for an unknown one.
 [[nodiscard]] std::vector<std::string> readDevices(const std::string &names);

@@ -40,7 +40,7 @@ private:
 
     void readDevice(const Json &line) {
         m_result.hasContext = true;
-        // Up to the words in brackets, which tell the host.
+        // The text before the brackets, which name the host.
         const std::string version = line["version"];
         m_result.esVersion = version.substr(0, version.find(" Zelvane"));
         m_result.renderer = line["renderer"];

@@ -46,7 +46,7 @@ std::string progressLine(const DeviceResult &result) {
     return text.str();
 }
 
-// The workers take devices until none is left. Signals stay with the thread that waits for them.
+// Each worker takes the next device until none is left. Only the waiting thread handles signals.
 class Workers {
 public:
     Workers(const LabOptions &options, std::vector<DeviceResult> &results) : m_options(options), m_results(results) {

@@ -1,4 +1,4 @@
-// The runs of a lab, and the files that it leaves.
+// The runs of a lab, and the files that it writes.
 #pragma once
 
 #include <vector>

@@ -1,4 +1,4 @@
-// zelvane lab: a program on every device, and one page of what became of it.
+// zelvane lab: runs a program on every device, and writes one page with the results.
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>

@@ -1,4 +1,4 @@
-// What a user asks of the lab.
+// The user's options of the lab.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 struct LabOptions {
     std::vector<std::string> devices; // in the order of the table
-    std::string reference;            // one of them, which the others' pictures are held against
-    uint64_t frames = 0;              // 0: until so many seconds
+    std::string reference;            // one of them, to which the others' pictures are compared
+    uint64_t frames = 0;              // 0: the limit is a number of seconds
     double seconds = 0;
     std::string out;     // a directory
     unsigned jobs = 1;   // devices at a time

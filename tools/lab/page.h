@@ -1,4 +1,4 @@
-// The page of the lab: one HTML file that stands alone, with its pictures inside.
+// The page of the lab: one self-contained HTML file, with its pictures inside.
 #pragma once
 
 #include <string>

@@ -5,7 +5,7 @@
 
 namespace {
 
-// From the outermost values to the item at hand.
+// From the outermost values to the current item.
 using Scopes = std::vector<const Json *>;
 
 const Json &find(const Scopes &scopes, const std::string &name) {

@@ -1,4 +1,4 @@
-// Pictures of frames, and how two of them differ.
+// Pictures of frames, and comparison of two of them.
 #pragma once
 
 #include <cstdint>
@@ -12,10 +12,10 @@ struct Picture {
     std::vector<uint8_t> pixels; // RGB, the highest row first
 };
 
-// Of a PPM file with 8 bits a channel, as the library writes them. Nothing for another file.
+// Reads a PPM file with 8 bits a channel, as the library writes it. Nothing for any other file.
 [[nodiscard]] std::optional<Picture> readPicture(const std::string &path);
 
-// The bytes of a PNG file. Empty when libpng cannot make one.
+// The bytes of a PNG file. Empty when libpng fails.
 [[nodiscard]] std::string pngOf(const Picture &picture);
 
 struct PictureDifference {
@@ -24,7 +24,7 @@ struct PictureDifference {
     Picture picture;     // bright where they differ, a dark grey shadow of the reference elsewhere
 };
 
-// A pixel differs when one of its channels does by more than this; drivers round, and blend edges each in their way.
+// A pixel differs when one of its channels differs by more than this; drivers round and blend edges differently.
 inline constexpr int channelTolerance = 16;
 
 // Nothing for pictures of different sizes.

@@ -1,4 +1,4 @@
-// The results as JSON: lab.json, and what the page is made of.
+// The results as JSON: lab.json, and the data of the page.
 #pragma once
 
 #include <vector>

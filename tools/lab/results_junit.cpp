@@ -9,7 +9,7 @@ namespace {
 
 using Printer = tinyxml2::XMLPrinter;
 
-// XML has no place for most control characters, nor for what is no UTF-8.
+// XML cannot contain most control characters, nor bytes that are not UTF-8.
 std::string printable(const std::string &given) {
     std::string text = Json::parse(jsonLine(given));
     for (char &letter : text)

@@ -14,7 +14,7 @@ bool VirtualServer::isThere() {
     return false;
 }
 
-// The server chooses a number that is free and tells it through the pipe, once it is ready.
+// The server chooses a free display number and writes it to the pipe once it is ready.
 VirtualServer::VirtualServer() {
     int ends[2] = {-1, -1};
     if (pipe2(ends, O_CLOEXEC) != 0) return;

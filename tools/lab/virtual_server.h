@@ -11,7 +11,7 @@ public:
     // Whether Xvfb is in PATH.
     [[nodiscard]] static bool isThere();
 
-    // Waits until it takes connections, ten seconds at most. display() is empty when it does not.
+    // Waits until it accepts connections, ten seconds at most. display() is empty when it does not.
     VirtualServer();
 
     [[nodiscard]] const std::string &display() const { return m_display; }

@@ -1,4 +1,4 @@
-// One application that is connected: puts its records together from what arrives, and sends it commands.
+// One connected application: assembles its records from the received bytes, and sends it commands.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 class MonitoredApplication {
 public:
-    // Takes the connection over.
+    // Takes ownership of the connection.
     explicit MonitoredApplication(const KZRIPC::Client &client) : m_client(client) {}
     MonitoredApplication(const MonitoredApplication &) = delete;
     MonitoredApplication &operator=(const MonitoredApplication &) = delete;
@@ -18,14 +18,14 @@ public:
 
     // For poll(); negative once the connection has ended.
     [[nodiscard]] int descriptor() const { return m_client.descriptor(); }
-    // Takes what has arrived, without waiting, and gives the record that it completes. Notices the end.
+    // Reads what has arrived, without waiting, and returns the record that it completes. Detects the connection's end.
     [[nodiscard]] std::optional<ui::messages::Message> receive();
-    // False when the application does not take it now. Never waits.
+    // False when the application does not accept it now. Never waits.
     bool send(const ui::messages::Message &command);
 
     // 0 and empty before the hello.
     [[nodiscard]] int32_t processNumber() const { return m_processNumber; }
-    // As the system knows the command; empty where it does not say.
+    // The command name that the system reports; empty if it does not.
     [[nodiscard]] const std::string &commandName() const { return m_commandName; }
 
 private:

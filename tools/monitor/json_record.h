@@ -1,4 +1,4 @@
-// A record as one JSON object, without the end of its line.
+// A record as one JSON object, without a line feed.
 #pragma once
 
 #include <string>
@@ -7,5 +7,5 @@
 #include "ui/message_builders.h"
 
 [[nodiscard]] std::string jsonRecord(const MonitoredApplication &application, const ui::messages::Message &message);
-// The one object that is no record: the connection has ended.
+// The one object that is not a record: the connection has ended.
 [[nodiscard]] std::string jsonEnd(const MonitoredApplication &application);

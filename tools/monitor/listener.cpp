@@ -14,8 +14,8 @@
 
 namespace {
 
-// Monitors look at the socket file and replace it under this lock of its directory, which leaves no file of its own.
-// Somebody who holds it for long is not waited for.
+// Monitors check the socket file and replace it under this lock of its directory, which creates no file of its own. A
+// lock that is held for long is not waited for.
 class DirectoryLock {
 public:
     explicit DirectoryLock(const std::string &path)

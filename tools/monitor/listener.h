@@ -1,4 +1,4 @@
-// The monitor's place at the socket of the GUI link. It is taken from nobody who lives, and given back at the end.
+// The monitor's listening socket of the GUI link. It never replaces a live listener, and is removed at the end.
 #pragma once
 
 #include <optional>
@@ -9,23 +9,23 @@
 
 class Listener {
 public:
-    // Fails the command when somebody listens there already, and says who, or when there is a file that is no socket. A
-    // socket without a listener is replaced. Every user may connect: who it is tells accept().
+    // Fails the command when another process listens there, naming it, or when there is a file that is not a socket. A
+    // socket without a listener is replaced. Every user may connect: accept() checks the user.
     Listener();
     Listener(const Listener &) = delete;
     Listener &operator=(const Listener &) = delete;
-    // Removes the socket file, unless another listener has put its own there.
+    // Removes the socket file, unless another listener has created its own there.
     ~Listener();
 
     [[nodiscard]] const std::string &path() const { return m_server->path(); }
-    // Readable when somebody waits.
+    // Readable when a connection is waiting.
     [[nodiscard]] int descriptor() const { return m_server->descriptor(); }
 
     struct Arrival {
-        std::optional<KZRIPC::Client> client; // empty when no descriptor was left or the process was sent away
-        std::string refusal;                  // whom accept() has sent away; empty for nobody
+        std::optional<KZRIPC::Client> client; // empty when no descriptor was left or the process was rejected
+        std::string refusal;                  // the process that accept() has rejected; empty for none
     };
-    // Takes who waits. Applications of our own user are welcome; with root, all are.
+    // Accepts a waiting connection. Applications of our own user are accepted; with root, all are.
     [[nodiscard]] Arrival accept() const;
 
 private:

@@ -16,7 +16,7 @@ constexpr char help[] = "w, wire on [PROCESS]   switch the wireframe on, for one
                         "d [PROCESS]            disconnect\n"
                         "q                      quit";
 
-// How long applications that found no descriptor wait before the next look.
+// How long applications wait for the next check when no descriptor is free.
 constexpr int fullPauseMs = 1000;
 
 std::optional<Message> commandFor(const std::string &verb, const std::string &argument) {

@@ -15,29 +15,29 @@ struct MonitorOptions {
     bool takesCommands = false;    // reads lines of standard input as commands
     bool endsWithTheFirst = false; // of the applications that the filter follows
     RecordFilter filter = {};
-    MonitorOutput *page = nullptr; // is told everything, whatever the filter shows; stays the caller's
-    int pageCommands = -1;         // a pipe with lines as a user types them; stays the caller's
+    MonitorOutput *page = nullptr; // receives everything, whatever the filter shows; owned by the caller
+    int pageCommands = -1;         // a pipe with lines as a user types them; owned by the caller
 };
 
 class Monitor {
 public:
-    // ending: a descriptor that is readable when the monitor is to end; it stays the caller's. Fails the command when
-    // the socket cannot be had.
+    // ending: a descriptor that is readable when the monitor is to end; owned by the caller. Fails the command when the
+    // socket cannot be opened.
     Monitor(std::unique_ptr<MonitorOutput> output, int ending, MonitorOptions options);
     Monitor(const Monitor &) = delete;
     Monitor &operator=(const Monitor &) = delete;
 
-    // Until the user, the descriptor or the end of the first application ends it. What applications that are gone by
-    // then have left is still shown. SIGPIPE must be ignored: an output that nobody takes ends the monitor.
+    // Runs until the user, the descriptor or the end of the first application ends it. Data that disconnected
+    // applications have sent is still shown. SIGPIPE must be ignored: an output without a reader ends the monitor.
     void run();
 
 private:
-    // False when no descriptor is left for who waits.
+    // False when no descriptor is left for a waiting connection.
     bool accept();
     void readRecord(MonitoredApplication &application);
     void dropEnded();
     void readWhatIsLeft();
-    // Lines that are commands, and where they come from.
+    // Command lines, and their source.
     struct CommandInput {
         int descriptor;    // negative when there are none, or no more
         std::string typed; // a line that is not complete yet

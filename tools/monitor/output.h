@@ -1,4 +1,4 @@
-// How the monitor shows what happens: for people, or one JSON object a line for other tools.
+// The monitor's output: for people, or one JSON object a line for other tools.
 #pragma once
 
 #include <memory>
@@ -13,11 +13,11 @@ public:
     virtual void listening(const std::string &path, bool takesCommands) = 0;
     virtual void record(const MonitoredApplication &application, const ui::messages::Message &message) = 0;
     virtual void ended(const MonitoredApplication &application) = 0;
-    // An answer to a command.
+    // The response to a command.
     virtual void notice(const std::string &text) = 0;
-    // Somebody who wanted to connect was not let in; the text says who.
+    // A connection was rejected; the text names the process.
     virtual void sentAway(const std::string &text) { notice(text); }
-    // A command has gone to the application.
+    // A command was sent to the application.
     virtual void commanded(const MonitoredApplication &, const ui::messages::Message &) {}
 };
 

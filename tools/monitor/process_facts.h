@@ -1,4 +1,4 @@
-// What the system and the preferences tell of a running program, beyond its own records.
+// Facts about a running program from the system and the preferences, beyond its own records.
 #pragma once
 
 #include <cstdint>
@@ -11,5 +11,5 @@ struct ProcessFacts {
     std::string device;  // the device profile that the preferences of its environment choose; empty for none
 };
 
-// To be asked early: the preferences may be others later, and those of "zelvane run" go with the program.
+// Call it early: the preferences may change later, and those of "zelvane run" are removed with the program.
 [[nodiscard]] ProcessFacts readProcessFacts(pid_t process);

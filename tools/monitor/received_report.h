@@ -1,4 +1,4 @@
-// The System Report of one application, put together from its records as they come.
+// The System Report of one application, assembled from its records.
 #pragma once
 
 #include <string>
@@ -8,10 +8,10 @@
 
 class ReceivedReport {
 public:
-    // Far more than a report has: who sends without an end does not fill the memory.
+    // Far more than a report has: a sender without an end must not fill the memory.
     static constexpr size_t mostRecords = 4096;
 
-    // Types 14 to 19. A record that makes no sense, or is one too many, is passed over: whoever connects may send it.
+    // Types 14 to 19. An invalid or surplus record is ignored: any connected process may send it.
     void take(const ui::messages::Message &message);
     [[nodiscard]] const capability::SystemReport &report() const { return m_report; }
     [[nodiscard]] std::string text() const;

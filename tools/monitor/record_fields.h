@@ -1,4 +1,4 @@
-// What each type of record is called and carries, for everybody who shows records.
+// The names and fields of each record type, for all code that shows records.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ enum class FieldKind {
     Flag,
     Text,
     List,
-    // Numbers of the catalogues, which valueName() knows.
+    // Numbers of the catalogues, for which valueName() has names.
     GlVersion,
     HostExtension,
     HostExtensionList,
@@ -36,21 +36,21 @@ struct RecordKind {
     std::vector<Field> fields;
 };
 
-// Null for a type that no record has.
+// Null for an unknown type.
 [[nodiscard]] const RecordKind *recordKind(uint32_t type);
 
 // The name of the type, or "unknown".
 [[nodiscard]] std::string recordName(uint32_t type);
-// What the end of a connection is called, which no record tells.
+// The name for the end of a connection, which is not a record.
 inline constexpr char endedName[] = "ended";
-// All names, endedName with them.
+// All names, including endedName.
 [[nodiscard]] std::vector<std::string> recordNames();
 
 [[nodiscard]] bool hasFrame(const ui::messages::Message &message);
 [[nodiscard]] uint64_t numberAt(const ui::messages::Message &message, const Field &field);
 [[nodiscard]] int32_t signedAt(const ui::messages::Message &message, const Field &field);
-// Up to the zero, or all the room where a sender forgot it.
+// Up to the terminator, or the whole field if the sender left it out.
 [[nodiscard]] std::string_view textAt(const ui::messages::Message &message, const Field &field);
-// What a number of a catalogue stands for; empty where it stands for nothing.
+// The name of a number of a catalogue; empty for an unknown number.
 [[nodiscard]] std::string valueName(FieldKind kind, uint32_t value);
 [[nodiscard]] std::vector<uint32_t> listAt(const ui::messages::Message &message, const Field &field);

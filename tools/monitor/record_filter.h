@@ -18,5 +18,5 @@ struct RecordFilter {
     [[nodiscard]] bool showsEnd(const MonitoredApplication &application) const;
 };
 
-// Whether the name is one that RecordFilter::types may have.
+// Whether RecordFilter::types accepts the name.
 [[nodiscard]] bool isRecordName(const std::string &name);

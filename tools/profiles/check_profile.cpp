@@ -26,7 +26,7 @@ std::string textOf(const XMLElement &element) {
     return text ? text : "";
 }
 
-// A whole number in 32 bits and nothing beside it.
+// A 32-bit integer with no other text.
 bool isNumber(const char *text) {
     if (!text) return false;
     int32_t value = 0;

@@ -1,4 +1,4 @@
-// Tells the writer of a profile where the reader does something else than the text seems to say.
+// Reports where the reader of a profile does not do what its text seems to say.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 struct ProfileFinding {
     std::string lines; // "12" or "12,40,68"
     std::string text;
-    bool isProblem; // else it tells what is never read, in any profile
+    bool isProblem; // otherwise it names content that is never read, in any profile
 };
 
 struct ProfileFindings {
@@ -17,5 +17,5 @@ struct ProfileFindings {
     [[nodiscard]] bool hasProblems() const;
 };
 
-// fileName is what the profile is chosen by.
+// fileName is the name that selects the profile.
 [[nodiscard]] ProfileFindings checkProfile(std::string_view text, const std::string &fileName);

@@ -1,4 +1,4 @@
-// The profiles that there are, and the one that programs find.
+// The existing profiles, and the one that programs use.
 #pragma once
 
 #include <string>
@@ -18,18 +18,18 @@ struct ProfileList {
     std::string directory; // empty when none is set
     std::string chosen;    // as stored; empty for none
     std::vector<ListedProfile> profiles;
-    size_t otherFiles = 0; // of the directory, which are no profiles
+    size_t otherFiles = 0; // in the directory, which are not profiles
 
     // Without a directory no profile is read.
     [[nodiscard]] bool isRead() const { return !directory.empty() && !chosen.empty(); }
-    // Null when none is in force, or when the one that is read is none: then EGL fails.
+    // Null when none is in use, or when the one that is read is invalid: then EGL fails.
     [[nodiscard]] const ListedProfile *inForce() const;
 };
 
 [[nodiscard]] ProfileList listProfiles();
 
 [[nodiscard]] std::string listAsText(const ProfileList &list);
-// One object; the configs of a profile are a number.
+// One object; the configs of a profile are a count.
 [[nodiscard]] std::string listAsJson(const ProfileList &list);
-// A name a line, of those that can be chosen.
+// The selectable names, one per line.
 [[nodiscard]] std::string listAsNames(const ProfileList &list);

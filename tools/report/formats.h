@@ -1,4 +1,4 @@
-// The two forms in which `zelvane report` prints.
+// The two output formats of `zelvane report`.
 #pragma once
 
 #include <string>
@@ -10,11 +10,11 @@ namespace tools {
 
 [[nodiscard]] std::string reportAsText(const capability::SystemReport &report, const VersionAnswers &answers,
                                        bool withExtensions);
-// One object; every name in it is plain ASCII.
+// One object; all names are plain ASCII.
 [[nodiscard]] std::string reportAsJson(const capability::SystemReport &report, const VersionAnswers &answers,
                                        bool withExtensions);
 
-// Why the feature is missing, in words.
+// Why the feature is missing, as text.
 [[nodiscard]] std::string failureOf(capability::Feature feature);
 
 } // namespace tools

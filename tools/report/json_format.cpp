@@ -7,7 +7,7 @@ using namespace capability;
 
 namespace {
 
-// A version that is refused is null.
+// A refused version is null.
 Json esVersion(EsVersion version) {
     return version ? Json(esVersionName(version)) : Json(nullptr);
 }

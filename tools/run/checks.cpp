@@ -12,7 +12,7 @@
 #include "tools/run/elf_program.h"
 #include "tools/run/loader_trace.h"
 
-// Defines short macros; it has to come last.
+// Defines short macros; must be included last.
 #include <X11/Xlib.h>
 
 namespace fs = std::filesystem;

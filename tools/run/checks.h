@@ -1,5 +1,5 @@
-// What can be known before a program runs of why it will not run on this library. Each check fails the command with a
-// sentence about it; what may do no harm is said as a warning.
+// Checks, before a program runs, whether it can use this library. Each check fails the command with an explanation, or
+// prints a warning if the problem may be harmless.
 #pragma once
 
 #include <string>
@@ -7,6 +7,6 @@
 
 void checkXServer();
 
-// words: the program and its arguments. libraries: where it is to find EGL and OpenGL ES, already first in
-// LD_LIBRARY_PATH. Scripts pass: what they start is not known.
+// words: the program and its arguments. libraries: the directory of EGL and OpenGL ES, already first in
+// LD_LIBRARY_PATH. Scripts pass: the programs that they start are unknown.
 void checkProgram(const std::vector<std::string> &words, const std::string &libraries);

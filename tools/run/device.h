@@ -1,4 +1,4 @@
-// The device that a program finds: the one that is asked for, the user's, or the desktop that ships with the command.
+// The device of a run: the requested one, the user's, or the desktop that is installed with the command.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ struct DeviceWish {
     bool isBare = false; // no device at all
 };
 
-// Writes it into the preferences that this process points to. standIn: a directory for a built-in profile where the
-// user has no directory of profiles. Fails the command when the profile that is asked for cannot be read; of the user's
-// own it warns.
+// Writes it into the preferences that this process uses. standIn: a directory for a built-in profile when the user has
+// no directory of profiles. Fails the command when the requested profile cannot be read; for the user's own it prints a
+// warning.
 void settleDevice(const DeviceWish &wish, const std::string &standIn);

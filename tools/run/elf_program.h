@@ -1,4 +1,4 @@
-// The little of a program's file that says how it will be loaded.
+// The parts of a program file that determine how it is loaded.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 struct ElfProgram {
     enum Kind { notElf, otherMachine, fixed, dynamic };
     Kind kind = notElf;      // fixed: linked statically, so that no loader runs
-    std::string interpreter; // the loader that a dynamic one asks for
+    std::string interpreter; // the loader of a dynamic program
 };
 
 [[nodiscard]] ElfProgram readElfProgram(const std::string &file);

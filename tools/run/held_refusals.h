@@ -1,15 +1,15 @@
-// What the library holds back of refused calls until the program has ended: of calls that programs try in turn, nothing
-// is said where one was taken at last.
+// Refused calls that the library holds back until the program has ended: for calls that programs retry, no refusal is
+// printed if one succeeded in the end.
 #pragma once
 
 #include <string>
 
 class HeldRefusals {
 public:
-    // Points what this process starts to a list in the directory. A list that cannot be made is done without.
+    // Points started programs to a list in the directory. Continues without a list if it cannot be created.
     explicit HeldRefusals(const std::string &directory);
 
-    // Writes what no later call of that name made good to standard error, a line each, once the program has ended.
+    // Prints the lines without a later success of that name on standard error, once the program has ended.
     void print() const;
 
 private:

@@ -1,4 +1,4 @@
-// The directory that a program is to find its EGL and OpenGL ES libraries in.
+// The directory of the EGL and OpenGL ES libraries that a program loads.
 #pragma once
 
 #include <optional>
@@ -8,9 +8,9 @@
 
 class RunLibraries {
 public:
-    // Of back ends in another directory, whole or in part, and our own for the rest; empty for our own alone. The
-    // library looks for back ends beside itself first, so a mixture is laid out in links beside a link to it. Fails the
-    // command when our library is not where it was installed, or the directory has no back end.
+    // With back ends from another directory, all or some, and our own for the rest; empty for our own only. The library
+    // searches its own directory for back ends first, so a mixture is a directory of links beside a link to it. Fails
+    // the command when our library is not where it was installed, or the directory has no back end.
     explicit RunLibraries(const std::string &backEnds);
 
     [[nodiscard]] const std::string &directory() const { return m_directory; }

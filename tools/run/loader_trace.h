@@ -1,4 +1,4 @@
-// What the loader finds for a program, without running it.
+// The libraries that the loader finds for a program, without running it.
 #pragma once
 
 #include <map>
@@ -6,7 +6,7 @@
 #include <vector>
 
 struct LoaderTrace {
-    std::map<std::string, std::string> libraries; // from the name asked for to the file; empty for one that is missing
+    std::map<std::string, std::string> libraries; // from the requested name to the file; empty for a missing one
     std::vector<std::string> missingSymbols;
 };
 

@@ -1,4 +1,4 @@
-// The preferences of one run: a copy of the user's with what the run wants changed, in a directory that goes with it.
+// The preferences of one run: a copy of the user's with the run's changes, in a directory that is removed with it.
 #pragma once
 
 #include <optional>
@@ -14,11 +14,11 @@ public:
         std::optional<bool> strict;
     };
 
-    // Points this process, and what it starts, to the copy. Fails the command when there is no such profile or the
+    // Sets this process, and its children, to use the copy. Fails the command when there is no such profile or the
     // user's file cannot be read.
     explicit PrivatePreferences(const Wishes &wishes);
 
-    // Where the copy lies, and other files of the run.
+    // The directory of the copy and other files of the run.
     [[nodiscard]] const std::string &directory() const { return m_directory.path(); }
 
 private:

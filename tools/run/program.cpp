@@ -19,7 +19,7 @@ pid_t startProgram(const std::vector<std::string> &words) {
         arguments.push_back(const_cast<char *>(word.c_str()));
     arguments.push_back(nullptr);
 
-    // What we block and ignore ourselves would be the program's lot too.
+    // Signals that we block or ignore would be blocked or ignored in the program too.
     posix_spawnattr_t attributes;
     sigset_t none, ignored;
     sigemptyset(&none);

@@ -1,4 +1,4 @@
-// Starts a program and stands in for it towards whoever started us.
+// Starts a program and acts for it towards our parent process.
 #pragma once
 
 #include <csignal>
@@ -9,11 +9,11 @@
 // The exit status when the program was not started.
 inline constexpr int runFailure = 125;
 
-// Looked for in PATH, with our environment and the signal mask that a program of the shell has. Fails the command when
-// it cannot be started.
+// Searched in PATH, with our environment and the signal mask of a program started by a shell. Fails the command when it
+// cannot be started.
 [[nodiscard]] pid_t startProgram(const std::vector<std::string> &words);
 
-// While it lives, signals that end or steer a program are kept for relayTo().
+// While it lives, signals that end or control a program are held for relayTo().
 class SignalRelay {
 public:
     SignalRelay();
@@ -21,7 +21,7 @@ public:
     SignalRelay &operator=(const SignalRelay &) = delete;
     ~SignalRelay();
 
-    // Waits for the program's end and passes signals on to it meanwhile. The exit status, or 128 and the signal.
+    // Waits for the program's end and forwards signals to it meanwhile. Returns the exit status, or 128 and the signal.
     [[nodiscard]] int relayTo(pid_t program) const;
 
 private:

@@ -1,4 +1,4 @@
-// zelvane run: any program on this library, without installing it and without a trace in the user's preferences.
+// zelvane run: any program on this library, without installing it and without changing the user's preferences.
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>

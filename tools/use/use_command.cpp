@@ -29,7 +29,7 @@ void useProfile(const std::string &name, std::string directory) {
     ToolPreferences preferences;
     const bool isGiven = !directory.empty();
     if (isGiven) {
-        // The setting is read by programs that run elsewhere.
+        // The setting is read by programs that are started elsewhere.
         directory = std::filesystem::absolute(directory);
         if (!std::filesystem::is_directory(directory)) failCommand("\"" + directory + "\" is no directory");
     } else {

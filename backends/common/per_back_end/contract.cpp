@@ -1,4 +1,4 @@
-// What libEGL.so.1 asks of a back end.
+// The functions of a back end that libEGL.so.1 calls.
 #include "common/current_thread.h"
 #include "common/per_back_end/entry_lookup.h"
 #include "common/refusal.h"

@@ -22,7 +22,7 @@ constexpr HostName hostNames[] = {
 #undef HOST_NAME
 };
 
-// The debug names that reach the host's function as it is.
+// The debug names that return the host's function itself.
 constexpr HostName debugNames[] = {
 #define DEBUG_NAME(name, hostName) {#name, #hostName},
 #include "data/debug_names.def"

@@ -25,7 +25,7 @@ const HostGl *findHostGl() {
 }
 
 void sweepHostErrors() {
-    // A lost context reports an error for ever.
+    // A lost context returns errors without end.
     for (int count = 0; count < 16 && hostGl().getError() != GL_NO_ERROR; ++count) {
     }
 }

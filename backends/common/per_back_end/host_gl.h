@@ -1,4 +1,4 @@
-// What this library itself calls on the host: the rows of the back end's data/host_calls.def. Any thread.
+// The host functions that this library itself calls: the rows of the back end's data/host_calls.def. Any thread.
 #pragma once
 
 #include "es_gl.h"
@@ -13,16 +13,16 @@ struct HostGl {
 #undef HOST_CALL
 };
 
-// Null when the host has no OpenGL library or the library lacks one of the functions; nothing works then.
+// Null when the host has no OpenGL library or the library lacks one of the functions; the back end is unusable then.
 [[nodiscard]] const HostGl *findHostGl();
 
 // Filled by the first findHostGl(); read through hostGl().
 extern HostGl hostGlTable;
 
-// For code that runs only once findHostGl() has answered: overrides, which are handed out after it, and contexts.
+// Valid only after findHostGl() has succeeded: for overrides, which are returned after it, and for contexts.
 [[nodiscard]] inline const HostGl &hostGl() {
     return hostGlTable;
 }
 
-// Applications check for errors from their first call on and must not meet ours. With the host context current.
+// Clears the errors of our own calls, which applications must not see. Requires a current host context.
 void sweepHostErrors();

@@ -1,4 +1,4 @@
-// The rules by which pixels lie in memory.
+// Pixel storage modes.
 #pragma once
 
 #include "es_gl.h"
@@ -6,7 +6,7 @@
 #include <array>
 #include <cstddef>
 
-// While it lives, pixels go to and come from plain memory, packed; then the application's rules come back.
+// While it lives, pixels are transferred to and from client memory, packed; then the application's modes are restored.
 class PackedPixels {
 public:
     PackedPixels();

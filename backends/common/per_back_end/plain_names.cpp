@@ -5,7 +5,7 @@
 
 #include <zelvane/back_end.h>
 
-// Weak: a test stands in for libEGL.so.1 and has no such entry.
+// Weak: a test replaces libEGL.so.1 and has no such entry.
 extern "C" __attribute__((weak)) void (*eglGetProcAddress(const char *name))();
 
 namespace {

@@ -1,6 +1,6 @@
 // The functions behind the exported plain names.
 #pragma once
 
-// As resolveExport; with a journal, a function of libEGL's that records the calls and goes on to that one. name ends in
-// a 0.
+// As resolveExport; with a journal, a function of libEGL's that records the calls and calls that one. name is
+// zero-terminated.
 [[nodiscard]] void *resolvePlainName(const char *name);

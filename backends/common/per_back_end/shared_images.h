@@ -1,5 +1,5 @@
-// The EGL images of a share group: which textures share an image's storage, and the storages that nobody needs any
-// more. Any thread.
+// The EGL images of a share group: which textures share an image's storage, and the storages that are no longer used.
+// Any thread.
 #pragma once
 
 #include "common/shared_map.h"
@@ -11,24 +11,24 @@
 
 struct ImageSibling {
     uint64_t image;
-    bool isMutable; // to the application: it takes a storage of its own when it gets another image
+    bool isMutable; // for the application: gets a storage of its own when another image is specified
 };
 
 class SharedImages {
 public:
-    // An image of this number is there from now on.
+    // Registers a new image of this number.
     void begin(uint64_t image);
-    // The image is no more; its siblings go on. storage: the host's texture.
+    // The image is destroyed; its siblings remain. storage: the host's texture.
     void end(uint64_t image, GLuint storage);
-    // The storages of images that have ended, for the caller to delete.
+    // The storages of destroyed images, for the caller to delete.
     [[nodiscard]] std::vector<GLuint> takeEnded();
-    // Whether the texture, by the host's name, is a sibling of an image that is still there.
+    // Whether the texture, by the host's name, is a sibling of an existing image.
     [[nodiscard]] bool isTaken(GLuint texture) const;
 
     SharedMap<ImageSibling> siblings; // by the host's name
 
 private:
-    mutable std::mutex m_mutex; // guards what is below
+    mutable std::mutex m_mutex; // guards the fields below
     std::unordered_set<uint64_t> m_live;
     std::vector<GLuint> m_ended;
 };

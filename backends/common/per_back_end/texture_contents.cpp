@@ -10,7 +10,7 @@ namespace {
 
 namespace enums {
 
-// Not all headers of ES have these names.
+// Not all ES headers define these names.
 constexpr GLenum stencilIndex = 0x1901, depthComponent = 0x1902, depthStencil = 0x84F9, rgbaInteger = 0x8D99;
 constexpr GLenum signedInteger = 0x1404, unsignedInteger = 0x1405, unsignedNormalized = 0x8C17,
                  floatsAndStencils = 0x8DAD;

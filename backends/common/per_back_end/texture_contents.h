@@ -1,4 +1,4 @@
-// What a texture of two dimensions or a cube map holds, all of it.
+// The complete contents of a two-dimensional texture or a cube map.
 #pragma once
 
 #include "es_gl.h"
@@ -6,21 +6,21 @@
 #include <optional>
 #include <vector>
 
-// Of the texture that is bound to a whole target.
+// Of the texture that is bound to a texture target, which is not a cube face.
 struct TextureShape {
     GLenum target;
     GLsizei width;
     GLsizei height;
     GLint levels;
-    GLenum internal; // with a size, as a storage takes it; GL_NONE for a compressed one
+    GLenum internal; // sized, as texture storage requires; GL_NONE for a compressed one
 
     [[nodiscard]] GLint faces() const { return target == GL_TEXTURE_2D ? 1 : 6; }
 };
 
-// Nothing where images are missing or do not fit together.
+// Nothing when images are missing or inconsistent.
 [[nodiscard]] std::optional<TextureShape> boundTextureShape(GLenum target);
 
-// While it lives, a texture is bound to the target on the host; then what was bound before.
+// While it lives, a texture is bound to the target on the host; then the previous one is bound again.
 class BoundTexture {
 public:
     BoundTexture(GLenum target, GLuint texture);
@@ -33,14 +33,14 @@ private:
     GLint m_before = 0;
 };
 
-// The texels of all images of the texture that is bound. Throws std::bad_alloc.
+// The texels of all images of the bound texture. Throws std::bad_alloc.
 class TextureContents {
 public:
     explicit TextureContents(const TextureShape &shape);
 
-    // Into the storage of the same shape that is bound now.
+    // Into the bound storage of the same shape.
     void fill() const;
-    // Makes such images of the texture that is bound now, but not the one of this face, counted from 0, and level.
+    // Specifies such images in the bound texture, except the one of this face, counted from 0, and level.
     void defineAllBut(GLint face, GLint level) const;
 
 private:
@@ -56,6 +56,6 @@ private:
     std::vector<Image> m_images;
 };
 
-// Gives the texture that is bound a storage that cannot change, so that views can share it; what it holds stays. Throws
-// std::bad_alloc.
+// Replaces the bound texture's images with an immutable storage, so that views can share it; the contents are kept.
+// Throws std::bad_alloc.
 void makeShareable(const TextureShape &shape);

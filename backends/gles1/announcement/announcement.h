@@ -1,5 +1,5 @@
-// What a context tells of itself: from the device profile in force, cut to what the host can carry, or from the host
-// alone. Constant once made, with the host context current.
+// The version, strings, extensions and limits that a context reports: from the device profile in use, limited to what
+// the host supports, or from the host only. Constant once created, with the host context current.
 #pragma once
 
 #include "announcement/device_limits.h"
@@ -14,7 +14,7 @@ public:
     const std::string version;
     const std::string vendor;
     const std::string renderer;
-    const std::string extensions; // with a blank between
+    const std::string extensions; // separated by blanks
     const Limits limits;
 
 private:

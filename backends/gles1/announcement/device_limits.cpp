@@ -47,7 +47,7 @@ constexpr CompressedFormat hostsFormats[] = {
     {GL_COMPRESSED_RGBA_S3TC_DXT5, "GL_ANGLE_texture_compression_dxt5"},
 };
 
-// The numbers of an element; null where the device does not tell them all.
+// The numbers of an element; null if the device does not define them all.
 const std::vector<double> *told(const std::optional<EsBlock> &device, std::string_view element, size_t count) {
     if (!device) return nullptr;
     const auto found = device->limits.find(element);

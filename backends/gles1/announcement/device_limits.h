@@ -1,4 +1,4 @@
-// The limits that an application is told: the device's, as far as the host can carry them.
+// The limits that are reported to an application: the device's, as far as the host supports them.
 #pragma once
 
 #include "es_gl.h"
@@ -11,7 +11,7 @@ public:
     // With the host context current.
     Limits(const HostFeatures &host, const std::optional<EsBlock> &device);
 
-    // Null where the host's own answer holds.
+    // Null where the host's own value applies.
     [[nodiscard]] const std::vector<double> *find(GLenum pname) const;
 
 private:

@@ -1,12 +1,12 @@
-// The extensions of ES 1 that this library carries, on its own or by what the host has.
+// The extensions of ES 1 that this library supports, on its own or through the host.
 #pragma once
 
 #include "common/es_block.h"
 #include "common/host_features.h"
 
-// True for an extension that an ES 1 context on this host may announce.
+// True for an extension that an ES 1 context on this host may advertise.
 [[nodiscard]] bool carriesExtension(const HostFeatures &host, std::string_view name);
 
-// What a context announces, with a blank between: of the device's extensions those that are carried, in the device's
-// order; all that are carried without a device.
+// The extensions that a context advertises, separated by blanks: the supported ones of the device, in the device's
+// order; all supported ones without a device.
 [[nodiscard]] std::string announcedExtensions(const HostFeatures &host, const std::optional<EsBlock> &device);

@@ -1,4 +1,4 @@
-// What an application asks about its context.
+// Queries of an application about its context.
 #include "announcement/queries.h"
 
 #include "common/per_back_end/host_gl.h"

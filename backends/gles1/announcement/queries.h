@@ -1,4 +1,4 @@
-// The answers to glGet that do not come from the host.
+// The results of glGet that do not come from the host.
 #pragma once
 
 #include "es_gl.h"
@@ -8,5 +8,5 @@
 
 class EsContext;
 
-// Of the vertex arrays that the host does not hold; nothing where the host's answer is right.
+// For vertex arrays that the host does not hold; nothing where the host's value is right.
 [[nodiscard]] std::optional<GLint> ownArrayState(const EsContext &context, GLenum pname);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The extension of cube maps has another default than desktop OpenGL, in every unit.
+// The cube map extension has another default than desktop OpenGL, in every unit.
 void setTextureGenerationModes() {
     const HostGl &gl = hostGl();
     GLint units = 0;

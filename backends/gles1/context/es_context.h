@@ -1,5 +1,5 @@
-// One context of this back end: the rooms, each with what ES 1 has and the host's context does not. Made and changed on
-// the thread that has the host context current; used there.
+// One context of this back end: a part for each folder, with the state that ES 1 has and the host's context lacks.
+// Created and changed on the thread that has the host context current; used there.
 #pragma once
 
 #include "announcement/announcement.h"
@@ -17,16 +17,16 @@
 
 class EsContext : public BackEndContext {
 public:
-    // Sets the host context up so that an application finds the state that ES promises. settings and share may be null;
-    // a share context of another back end is none.
+    // Sets the host context to the initial state that ES defines. settings and share may be null; a share context of
+    // another back end counts as none.
     EsContext(const ContextAttribs &attribs, const void *settings, const void *share);
     EsContext(const EsContext &) = delete;
     EsContext &operator=(const EsContext &) = delete;
 
-    // The calling thread's, or null: without a context, or when the context is another back end's.
+    // The calling thread's context, or null: without a context, or when it is another back end's.
     [[nodiscard]] static EsContext *current() { return static_cast<EsContext *>(currentThread->es1Context); }
 
-    // The surface may have another colour space than at the last bind.
+    // Called when the surface may have another colour space than at the last bind.
     void setAttribs(const ContextAttribs &attribs);
 
     // Constant after construction.
@@ -38,10 +38,10 @@ public:
     TextureCrop cropOfTextureZero = {}; // which no two contexts share
 };
 
-// The error of the current context, if there is one.
+// Raises an error in the current context, if there is one.
 void raise(GLenum error);
 
-// Runs what may need memory. Nothing may be thrown into an application.
+// Runs code that may run out of memory. No exception may reach the application.
 template <typename Work>
 void reportingMemory(EsContext &context, Work work) {
     try {

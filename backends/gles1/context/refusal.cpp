@@ -6,7 +6,7 @@
 std::string reasonToRefuse(const ContextAttribs &) {
     const HostGl *const gl = findHostGl();
     if (!gl) return "the host's OpenGL library is missing or lacks functions";
-    // A core context has no list of this form: it lacks the fixed function.
+    // A core context has no extension string of this form: it lacks the fixed-function pipeline.
     if (!gl->getString(GL_EXTENSIONS)) {
         while (gl->getError() == GL_INVALID_ENUM) {
         }

@@ -1,4 +1,4 @@
-// What the contexts of a share group have in common. They own it together. Any thread.
+// The shared state of a share group's contexts, which own it together. Any thread.
 #pragma once
 
 #include "common/per_back_end/shared_images.h"

@@ -1,4 +1,4 @@
-// What glEnable takes: the list of ES 1, and not whatever else the host could switch.
+// The capabilities of glEnable: those of ES 1, and not all that the host has.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// What desktop OpenGL takes in double precision alone: depths and clip planes.
+// Functions that desktop OpenGL has in double precision only: depths and clip planes.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "fixed_function/fixed_point.h"

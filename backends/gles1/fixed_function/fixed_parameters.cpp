@@ -1,4 +1,4 @@
-// The entries of fixed point that name a parameter by an enumerant.
+// Fixed-point functions with a parameter name.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// The entries of fixed point whose arguments are numbers alone.
+// Fixed-point functions whose arguments are numbers only.
 #include "fixed_function/fixed_point.h"
 
 #include "common/per_back_end/host_gl.h"

@@ -1,4 +1,4 @@
-// Numbers of 16.16 bits.
+// Fixed-point numbers in 16.16 format.
 #pragma once
 
 #include "es_gl.h"
@@ -16,7 +16,7 @@ inline constexpr double fixedOne = 65536.0;
     return static_cast<GLfloat>(preciseFromFixed(number));
 }
 
-// To the nearest integer; a number past the end of the type gives the end, and no number gives 0.
+// Rounds to the nearest integer, clamped to the range of the type; NaN returns 0.
 [[nodiscard]] inline GLint toInteger(double number) {
     if (std::isnan(number)) return 0;
     return static_cast<GLint>(std::lround(std::clamp(number, -2147483648.0, 2147483647.0)));

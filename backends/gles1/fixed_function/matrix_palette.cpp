@@ -24,7 +24,7 @@ Matrix hostMatrix(GLenum name) {
     return matrix;
 }
 
-// change: of the host's current matrix, which stands in for one of the palette.
+// change: changes the host's current matrix, which replaces the palette's for the call.
 template <typename Change>
 void changeMatrix(Change change) {
     EsContext *const context = contextInPaletteMode();

@@ -1,30 +1,30 @@
-// The matrices of OES_matrix_palette. Hosts have none; the draws move the vertices by them themselves.
+// The matrices of OES_matrix_palette. Hosts lack them; draws transform the vertices by them in software.
 #pragma once
 
 #include "es_gl.h"
 
 #include <array>
 
-using Matrix = std::array<GLfloat, 16>; // column by column
+using Matrix = std::array<GLfloat, 16>; // column-major
 
-// Those of one context. Used on the context's thread.
+// The palette of one context. Used on the context's thread.
 struct MatrixPalette {
     static constexpr GLuint matrixCount = 32;
-    static constexpr GLint unitCount = 4; // matrices that move one vertex
+    static constexpr GLint unitCount = 4; // matrices per vertex
 
     MatrixPalette();
 
     std::array<Matrix, matrixCount> matrices;
     GLuint current = 0;
     bool isOn = false;
-    bool isMode = false; // what changes a matrix changes the current one here; the host's mode is that of the modelview
+    bool isMode = false; // matrix functions act on the palette here; the host's mode is then the modelview
 };
 
-// The matrix that the application's mode names.
+// The matrix of the application's matrix mode.
 [[nodiscard]] Matrix currentMatrix();
 [[nodiscard]] Matrix modelview();
 
-// While it lives, the host's modelview is another one; the application's mode stays.
+// While it lives, the host has another modelview matrix; the application's mode is unchanged.
 class OtherModelview {
 public:
     explicit OtherModelview(const Matrix &matrix);

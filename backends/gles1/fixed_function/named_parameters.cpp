@@ -1,4 +1,4 @@
-// The parameters that ES 1 names are fewer than those of the host.
+// ES 1 accepts fewer parameter names than the host.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

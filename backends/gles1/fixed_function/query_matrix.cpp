@@ -1,4 +1,4 @@
-// The current matrix as mantissas of fixed point and exponents.
+// glQueryMatrix: the current matrix as fixed-point mantissas and exponents.
 #include "common/per_back_end/overrides.h"
 #include "fixed_function/fixed_point.h"
 #include "fixed_function/matrix_palette.h"

@@ -1,4 +1,4 @@
-// ES sets the generation of texture coordinates for s, t and r at once, and only the modes for cube maps.
+// ES sets the texture coordinate generation of s, t and r at once, and allows only the cube map modes.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// Paletted and ETC1 textures, which hosts need not have, are decoded here. The rest goes to the host.
+// Paletted and ETC1 textures are decoded here, since hosts may lack them. Other formats are passed to the host.
 #include "common/etc1.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"

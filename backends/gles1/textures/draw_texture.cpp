@@ -1,5 +1,5 @@
-// A rectangle of the textures that are on, drawn straight in window coordinates. The host draws a quad with the
-// transformation set aside.
+// glDrawTex: a rectangle of the enabled textures in window coordinates. The host draws a quad with the transformations
+// disabled.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,5 +1,5 @@
 // EGL images of desktop programs: a texture gets a storage that views can share, the image is a view, and so is every
-// texture that is made of it.
+// texture that is created from it.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "common/per_back_end/texture_contents.h"

@@ -44,7 +44,7 @@ void rebindUnits(GLenum target, GLuint old, GLuint fresh) {
     gl.activeTexture(static_cast<GLenum>(active));
 }
 
-// Of the framebuffer that is bound.
+// For the bound framebuffer.
 void swapAttached(GLuint old, GLuint fresh) {
     const HostGl &gl = hostGl();
     GLint bound = 0;

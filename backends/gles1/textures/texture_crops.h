@@ -1,4 +1,4 @@
-// The rectangles of textures that glDrawTex draws. Textures are shared by contexts, and their rectangles with them.
+// The texture crop rectangles that glDrawTex uses. Textures are shared by contexts, and their rectangles with them.
 #pragma once
 
 #include "es_gl.h"
@@ -13,7 +13,7 @@ using TextureCrop = std::array<GLint, 4>; // left, bottom, width, height in texe
 class TextureCrops {
 public:
     void set(GLuint texture, const TextureCrop &crop);
-    // Zeros for a texture that never got one.
+    // Zeros for a texture without one.
     [[nodiscard]] TextureCrop get(GLuint texture);
     void forget(GLuint texture);
 
@@ -24,5 +24,5 @@ private:
 
 class EsContext;
 
-// Of the texture that is bound to the active unit. With the host context current.
+// For the texture that is bound to the active unit. With the host context current.
 [[nodiscard]] TextureCrop boundTextureCrop(EsContext &context);

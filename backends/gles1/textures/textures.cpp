@@ -1,4 +1,4 @@
-// Images of textures. ES 1 takes fewer formats than the host, and wants the internal format to be the format.
+// Texture images. ES 1 accepts fewer formats than the host, and requires that internal format and format are equal.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

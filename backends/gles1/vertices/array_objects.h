@@ -1,4 +1,4 @@
-// Vertex arrays that the host cannot hold, since it lacks their types, and those that it lacks altogether: point sizes,
+// Vertex arrays that the host cannot hold, since it lacks their types, and those that it lacks completely: point sizes,
 // matrix indices and weights. Each vertex array object has its own.
 #pragma once
 
@@ -6,22 +6,22 @@
 
 #include <map>
 
-// What is kept of an array: as the application gave it.
+// The state of an array, as the application specified it.
 struct OwnArray {
     GLint size = 4;
     GLenum type = GL_FLOAT;
     GLsizei stride = 0;
-    const void *pointer = nullptr; // an offset where there is a buffer
+    const void *pointer = nullptr; // an offset if there is a buffer
     GLuint buffer = 0;             // 0 for client memory
 
     [[nodiscard]] GLsizei elementSize() const;
     [[nodiscard]] GLsizei distance() const { return stride == 0 ? elementSize() : stride; }
 };
 
-// The host's arrays in one row: those of texture coordinates stand at the end, one a unit.
+// The host's arrays in one row: texture coordinate arrays are at the end, one a unit.
 enum ArraySlot : unsigned { VertexSlot, NormalSlot, ColorSlot, TexCoordSlot };
 
-// One that the host lacks altogether.
+// An array that the host lacks completely.
 struct EsArray {
     OwnArray array;
     bool isOn = false;
@@ -33,7 +33,7 @@ struct ArrayObject {
     EsArray matrixIndices = {.array = {.size = 0, .type = GL_UNSIGNED_BYTE}};
     EsArray weights = {.array = {.size = 0}};
 
-    // By the name that glEnableClientState takes. Null for those of the host.
+    // By the array name of glEnableClientState. Null for arrays of the host.
     [[nodiscard]] EsArray *find(GLenum name);
 };
 
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] bool isDefaultBound() const { return m_bound == &m_default; }
 
     void bind(GLuint name);
-    // One that is bound gives way to the default.
+    // Deleting the bound one binds the default.
     void erase(GLuint name);
 
 private:

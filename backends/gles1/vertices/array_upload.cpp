@@ -44,7 +44,7 @@ private:
     GLint m_before = 0;
 };
 
-// The bytes of an array that a draw reads, in client memory or copied out of the buffer.
+// The bytes of an array that a draw reads, in client memory or read back from the buffer.
 class ArrayBytes {
 public:
     ArrayBytes(const OwnArray &array, const VerticesRead &vertices)

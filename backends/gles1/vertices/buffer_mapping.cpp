@@ -1,4 +1,4 @@
-// Mapping of buffers: ES 1 has write access alone.
+// Buffer mapping: ES 1 has write access only.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// Where vertices lie. The host has neither bytes nor fixed point for most arrays: such an array is kept here and
+// Vertex array pointers. The host has neither bytes nor fixed point for most arrays: such an array is held here and
 // uploaded as floats when it is drawn from.
 #include "announcement/queries.h"
 #include "common/per_back_end/host_gl.h"

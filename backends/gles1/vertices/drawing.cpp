@@ -1,4 +1,4 @@
-// The draws: arrays that the host cannot hold are brought to it first, vertices that the palette moves with them, and
+// Draw calls: arrays that the host cannot hold are uploaded first, vertices of the matrix palette are transformed, and
 // points with sizes of their own are drawn in runs of one size.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"

@@ -1,4 +1,4 @@
-// The indices of one draw, wherever they lie.
+// The indices of one draw, in client memory or a buffer.
 #pragma once
 
 #include "common/index_size.h"
@@ -7,5 +7,5 @@
 #include <optional>
 #include <vector>
 
-// Of client memory, or of the bound element buffer. Nothing where the buffer ends before the list does. count: above 0.
+// From client memory, or the bound element buffer. Nothing if the buffer is too small for the list. count: above 0.
 [[nodiscard]] std::optional<std::vector<GLuint>> readIndices(GLsizei count, GLenum type, const void *indices);

@@ -30,7 +30,7 @@ OwnArray hostArray(GLint size, GLenum type, GLenum stride, GLenum pointer, GLenu
     return array;
 }
 
-// The application's array, and whether the host has it.
+// The application's array, and whether the host holds it.
 std::pair<OwnArray, bool> arrayOf(const ArrayObject &object, unsigned slot) {
     if (const auto own = object.own.find(slot); own != object.own.end()) return {own->second, false};
     if (slot == VertexSlot) {

@@ -1,4 +1,4 @@
-// Vertices that matrices of the palette move, before the host sees them.
+// Transforms vertices by the matrix palette in software, before the host draws them.
 #pragma once
 
 #include "fixed_function/matrix_palette.h"
@@ -9,11 +9,11 @@
 
 class EsContext;
 
-// Whether draws move their vertices: the palette is on, and the arrays that say how.
+// Whether draws transform their vertices: the palette is enabled, with its index and weight arrays.
 [[nodiscard]] bool isSkinning(const EsContext &context);
 
-// While it lives, the host's modelview leaves vertices alone, and the context has arrays of its own that hold positions
-// and normals as the eye sees them; then the application's come back.
+// While it lives, the host's modelview is the identity, and the context has arrays of its own that hold positions and
+// normals in eye coordinates; then the application's are restored.
 class SkinnedArrays {
 public:
     SkinnedArrays(EsContext &context, const VerticesRead &vertices);
@@ -22,7 +22,7 @@ public:
     SkinnedArrays &operator=(const SkinnedArrays &) = delete;
 
 private:
-    // The application's array of a slot, and whether it is the host's.
+    // The application's array of a slot, and whether the host holds it.
     struct Saved {
         unsigned slot;
         OwnArray array;

@@ -1,5 +1,5 @@
-// What a context tells of itself: from the device profile in force, cut to what the host can carry, or from the host
-// alone. Constant once made, with the host context current.
+// The version, strings, extensions and limits that a context reports: from the device profile in use, limited to what
+// the host supports, or from the host only. Constant once created, with the host context current.
 #pragma once
 
 #include "common/es_block.h"
@@ -15,7 +15,7 @@ struct Announcement {
     // profileText: as zvSettingsProfileText gives it; null and the empty text mean no profile.
     Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor);
 
-    // names: of extensions, with a blank between.
+    // names: of extensions, separated by blanks.
     [[nodiscard]] bool hasOneOf(std::string_view names) const;
 
     std::string version;
@@ -23,13 +23,13 @@ struct Announcement {
     std::string vendor;
     std::string renderer;
     std::vector<std::string> extensionNames;
-    std::string extensions; // with a blank between
+    std::string extensions; // separated by blanks
     std::vector<double> compressedFormats;
 
-    // Where the profile says anything of the limit; null where the host's own answer holds.
+    // Set if the profile defines the limit; null where the host's own value applies.
     [[nodiscard]] const std::vector<double> *limit(GLenum pname) const;
 
-    // How much of it an application may use: what limit() says, or more than any host has, which holds its own.
+    // How much of it an application may use: the value of limit(), or more than any host has where that is null.
     [[nodiscard]] GLint most(GLenum pname) const;
     [[nodiscard]] bool hasLimits() const { return !m_limits.empty(); }
 

@@ -1,4 +1,4 @@
-// What an application asks about its context. An ES context tells what it is, not what carries it.
+// Queries of an application about its context. They return the state of the ES context, not of the host's.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Names that the headers of ES lack.
+// Names that the ES headers lack.
 constexpr GLenum programPointSize = 0x8642;
 constexpr GLenum textureCubeMapSeamless = 0x884F;
 

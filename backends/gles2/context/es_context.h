@@ -1,5 +1,5 @@
-// One context of this back end: the rooms, each with what ES has and the host's context does not. Made and changed on
-// the thread that has the host context current; used there.
+// One context of this back end: a part for each folder, with the state that ES has and the host's context lacks.
+// Created and changed on the thread that has the host context current; used there.
 #pragma once
 
 #include "announcement/announcement.h"
@@ -16,14 +16,14 @@
 
 class EsContext : public BackEndContext {
 public:
-    // Sets the host context up so that an application finds the state that ES promises.
+    // Sets the host context to the initial state that ES defines.
     // settings: for the zvSettings functions. share: a context to share objects with, or null.
     EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share);
     ~EsContext();
     EsContext(const EsContext &) = delete;
     EsContext &operator=(const EsContext &) = delete;
 
-    // The calling thread's, or null: without a context, or when the context is another back end's.
+    // The calling thread's context, or null: without a context, or when it is another back end's.
     [[nodiscard]] static EsContext *current() { return static_cast<EsContext *>(currentThread->esContext); }
 
     // Called at every bind.
@@ -32,8 +32,8 @@ public:
     // Constant after construction.
     const GLint major;
     const GLint minor;
-    const GLuint robustAccess;  // 1 when the application asked for it
-    const GLenum resetStrategy; // as glGetIntegerv gives it
+    const GLuint robustAccess;  // 1 when the application requested it
+    const GLenum resetStrategy; // as glGetIntegerv returns it
     const Announcement announced;
     const ShareGroupMember<ShareGroup> shared;
 

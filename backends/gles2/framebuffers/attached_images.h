@@ -1,4 +1,4 @@
-// What is attached to the framebuffers that are bound, as the application knows it.
+// The attachments of the bound framebuffers, by the application's names.
 #pragma once
 
 #include "es_gl.h"
@@ -11,9 +11,9 @@ struct AttachedImage {
     GLenum kind = GL_NONE; // GL_TEXTURE or GL_RENDERBUFFER; GL_NONE without one
     GLuint hostName = 0;
     GLint level = 0;
-    GLint layer = 0; // or the face of a cube
+    GLint layer = 0; // or the face of a cube map
     bool isSrgb = false;
-    // Nothing from here on of an object that was deleted since.
+    // The fields below are unset for an object that was deleted since.
     GLenum internal = GL_NONE;
     GLenum hostInternal = GL_NONE;
     GLint width = 0;
@@ -25,6 +25,6 @@ struct AttachedImage {
     }
 };
 
-// target: GL_DRAW_FRAMEBUFFER or GL_READ_FRAMEBUFFER, with a framebuffer of the application's. Nothing where the host
-// cannot be asked of objects that are not bound.
+// target: GL_DRAW_FRAMEBUFFER or GL_READ_FRAMEBUFFER, with a framebuffer of the application's. Nothing if the host
+// cannot query objects that are not bound.
 [[nodiscard]] std::optional<AttachedImage> attachedImage(const EsContext &context, GLenum target, GLenum attachment);

@@ -1,4 +1,4 @@
-// Attachments whose object gets another one of the host's.
+// Replaces attached host objects by others.
 #pragma once
 
 #include "es_gl.h"
@@ -10,6 +10,6 @@ struct HostImage {
     GLuint name; // the host's
 };
 
-// Every framebuffer of the context that has the one attached gets the other, at the same level and face. A texture is
-// one of two dimensions or a cube map.
+// Every framebuffer of the context with the one attached gets the other, at the same level and face. A texture is
+// a two-dimensional texture or a cube map.
 void swapAttached(EsContext &context, const HostImage &from, const HostImage &to);

@@ -1,4 +1,4 @@
-// What is attached to framebuffers, by the application's names.
+// Framebuffer attachments, by the application's names.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

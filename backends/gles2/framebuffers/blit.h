@@ -1,4 +1,4 @@
-// A copy between the framebuffers that are bound, in the words of glBlitFramebuffer.
+// A copy between the bound framebuffers, with the parameters of glBlitFramebuffer.
 #pragma once
 
 #include "es_gl.h"
@@ -18,5 +18,5 @@ struct Blit {
     GLenum filter;
 };
 
-// Whether ES refuses a copy that the host takes. Both framebuffers are complete.
+// Whether ES rejects a copy that the host accepts. Both framebuffers are complete.
 [[nodiscard]] bool isRefused(const EsContext &context, const Blit &blit);

@@ -1,4 +1,4 @@
-// ES refuses copies into several samples, of formats that differ where they must not, and of an image to itself.
+// ES rejects copies into multisampled images, between certain formats that differ, and of an image to itself.
 #include "common/per_back_end/host_gl.h"
 #include "context/es_context.h"
 #include "framebuffers/blit.h"

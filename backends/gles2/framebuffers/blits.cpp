@@ -1,6 +1,6 @@
-// Copies between framebuffers. The host may take the surface for one of sRGB values though the application's is linear,
-// and has one switch for what is read and what is drawn to, so copies between the surface and an image that does have
-// such values go through a linear image.
+// Copies between framebuffers. The host may treat the surface as sRGB though the application's is linear, and has one
+// switch for reading and drawing, so copies between the surface and an image that is really sRGB go through a linear
+// image.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// Whether a framebuffer can be drawn to: ES refuses formats that the host draws to, and ES 2 images of several sizes.
+// Framebuffer completeness: ES rejects formats that the host can draw to, and ES 2 rejects images of different sizes.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

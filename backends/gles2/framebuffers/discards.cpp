@@ -1,4 +1,4 @@
-// Contents of a framebuffer that are no longer wanted, by EXT_discard_framebuffer.
+// EXT_discard_framebuffer: contents of a framebuffer that are no longer needed.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,10 +1,10 @@
-// The formats that can be drawn to. Pure.
+// The color-renderable formats and renderbuffer formats. Pure.
 #pragma once
 
 #include "es_gl.h"
 
-// Whether a renderbuffer of this version of ES may hold the format; the host judges what it cannot hold itself.
+// Whether a renderbuffer of this version of ES may have the format; the host rejects what it does not support itself.
 [[nodiscard]] bool isRenderbufferFormat(GLenum internal, GLint major);
 
-// Whether ES draws to textures of this format where the host does.
+// Whether ES can draw to textures of this format where the host can.
 [[nodiscard]] bool isDrawnFormat(GLenum internal);

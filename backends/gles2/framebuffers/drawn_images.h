@@ -1,12 +1,12 @@
-// The images of the framebuffers that are bound which are read and drawn to.
+// The read and draw images of the bound framebuffers.
 #pragma once
 
 #include "framebuffers/attached_images.h"
 
 #include <vector>
 
-// Nothing of the surface, and where nothing is read.
+// Nothing for the surface, and without a read buffer.
 [[nodiscard]] std::optional<AttachedImage> imageRead(const EsContext &context);
 
-// Nothing of the surface.
+// Nothing for the surface.
 [[nodiscard]] std::vector<AttachedImage> imagesDrawn(const EsContext &context);

@@ -1,5 +1,5 @@
-// The buffer that a context draws to and reads from. Hosts settle it when their context is first made current, which
-// may be without a surface, and then draw nowhere ever after; a context of ES draws to the first surface that it gets.
+// The draw and read buffers of a context. Hosts fix them when a context is first made current; if that is without a
+// surface, they stay GL_NONE for good. A context of ES draws to the first surface that it gets.
 #pragma once
 
 class FirstSurface {

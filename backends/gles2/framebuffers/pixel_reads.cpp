@@ -1,4 +1,4 @@
-// Pixels that come back from a framebuffer: in one form for each kind of image, and one that the host names.
+// Pixel reads: ES allows one format for each kind of image, and one that the host chooses.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,20 +1,20 @@
-// Renderbuffers whose storage is that of an EGL image: on the host a texture stands for each.
+// Renderbuffers whose storage is that of an EGL image: each is a texture on the host.
 #pragma once
 
 #include "common/shared_map.h"
 
 class EsContext;
 
-// Those of a share group. Any thread.
+// The renderbuffers of a share group. Any thread.
 struct RenderbufferImages {
     SharedMap<GLuint> textures;      // by the renderbuffer, all by the host's names
-    SharedMap<GLuint> renderbuffers; // the other way round
+    SharedMap<GLuint> renderbuffers; // the inverse
 };
 
-// The texture takes the place of the renderbuffer, or of the texture that stood for it. It is hidden in the table of
-// names, and goes with the renderbuffer's storage.
+// The texture replaces the renderbuffer, or the texture that replaced it before. It is hidden in the table of names,
+// and is deleted with the renderbuffer's storage.
 void standFor(EsContext &context, GLuint renderbuffer, GLuint texture);
-// The renderbuffer gets a storage of its own, or goes.
+// Called when the renderbuffer gets a storage of its own, or is deleted.
 void endStandIn(EsContext &context, GLuint renderbuffer);
-// What glGetRenderbufferParameteriv is to tell of the renderbuffer. False for one that stands for itself.
+// The result of glGetRenderbufferParameteriv for the renderbuffer. False for one that no texture replaces.
 bool askStandIn(const EsContext &context, GLuint renderbuffer, GLenum pname, GLint *value);

@@ -25,7 +25,7 @@ void leaveStandIn(EsContext &context) {
     if (!context.shared->renderbufferImages.textures.isEmpty()) endStandIn(context, boundRenderbuffer());
 }
 
-// store: takes the host's format.
+// store: called with the host's format.
 template <typename Store>
 void storeAs(GLenum format, GLsizei width, GLsizei height, GLsizei samples, Store store) {
     EsContext *const context = EsContext::current();

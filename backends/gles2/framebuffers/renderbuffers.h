@@ -3,5 +3,5 @@
 
 #include "es_gl.h"
 
-// The host's name for the application's, which gets an object if it is new.
+// The host's name for the application's; a new name gets an object.
 [[nodiscard]] GLuint hostRenderbuffer(GLuint name);

@@ -1,4 +1,4 @@
-// The application's switch for sRGB writes, which the host's stands for only while what is drawn to has that colour
+// The application's switch for sRGB writes, which is set on the host only while the draw framebuffer has that colour
 // space.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"

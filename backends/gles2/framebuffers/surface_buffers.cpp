@@ -1,4 +1,4 @@
-// The surface has one colour buffer, which ES calls GL_BACK whatever the host has.
+// The surface has one colour buffer, which ES names GL_BACK whatever the host's buffers are.
 #include "framebuffers/surface_buffers.h"
 
 #include "common/per_back_end/host_gl.h"

@@ -1,4 +1,4 @@
-// Viewports as large as the device has them, and their ranges of depth, which desktop OpenGL takes in double precision.
+// Viewports with the device's maximum size, and depth ranges, which desktop OpenGL takes in double precision.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -36,7 +36,7 @@ void NameTable::set(GLuint name, GLuint hostName) {
     (*chunk)[name % chunkSize].store(hostName, std::memory_order_relaxed);
 }
 
-// A host name that is good as a name for the application: one that it has not made up.
+// A host name that can be the application's name too: one that the application has not chosen itself.
 GLuint NameTable::generateUnknown(Generate *generate) {
     for (;;) {
         GLuint name = 0;

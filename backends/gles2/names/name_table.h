@@ -1,6 +1,6 @@
-// From the names that an application uses for objects of one kind to those of the host. ES lets an application make
-// names up; a core context takes only those that it generated itself. A generated name is the same on both sides.
-// Any thread; the host context that the names belong to must be current where something is made.
+// Maps the names that an application uses for objects of one kind to those of the host. ES lets an application choose
+// names itself; a core context accepts only those that it generated. A generated name is the same on both sides.
+// Any thread; the host context that the names belong to must be current where an object is created.
 #pragma once
 
 #include "es_gl.h"
@@ -24,8 +24,8 @@ public:
 
     // The host's name, or 0. Takes no lock for names below a million.
     [[nodiscard]] GLuint find(GLuint name) const { return isLow(name) ? findLow(name) : findHigh(name); }
-    // As find(); a name that is not known is one that the application made up, and gets an object. 0 stays 0.
-    // isObject: how to tell an object that a context of another back end in the share group made.
+    // As find(); an unknown name is one that the application has chosen, and gets an object. 0 stays 0.
+    // isObject: detects an object that a context of another back end in the share group created.
     GLuint findOrMake(GLuint name, Generate *generate, IsObject *isObject) {
         if (name == 0) return 0;
         const GLuint known = find(name);
@@ -33,23 +33,23 @@ public:
     }
     // New names for the application.
     void generate(GLsizei count, GLuint *names, Generate *generate);
-    // A host object for this library's own use. Applications never meet it.
+    // A host object for this library's own use, invisible to applications.
     GLuint generateHidden(Generate *generate);
-    // The host is about to delete it.
+    // Called before the host deletes it.
     void forgetHidden(GLuint hostName);
 
-    // Makes one name mean the object of another.
+    // Maps one name to the object of another.
     void alias(GLuint name, GLuint hostName);
-    // The same for one whose object the host is about to delete.
+    // The same for a name whose object the host is about to delete.
     void replace(GLuint name, GLuint hostName);
-    // Forgets a name. Gives the host's name when no other name means it any more, otherwise 0.
+    // Removes a name. Returns the host's name when no other name maps to it any more, otherwise 0.
     GLuint remove(GLuint name);
 
-    // Of all objects that the application knows.
+    // All objects that the application knows.
     [[nodiscard]] std::vector<GLuint> hostNames() const;
 
-    // What the application calls the host's object, or called it before it was deleted: it may still be attached. 0 for
-    // one that it does not know.
+    // The application's name of the host's object, or its name before it was deleted: it may still be attached. 0 for
+    // an object that it does not know.
     [[nodiscard]] GLuint nameOf(GLuint hostName) const;
 
 private:
@@ -72,11 +72,11 @@ private:
     GLuint generateUnknown(Generate *generate);
 
     std::array<std::atomic<Chunk *>, chunkCount> m_chunks = {};
-    mutable std::mutex m_mutex;                     // guards changes and what is below
-    std::unordered_map<GLuint, GLuint> m_highNames; // those past the chunks
+    mutable std::mutex m_mutex;                     // guards changes and the fields below
+    std::unordered_map<GLuint, GLuint> m_highNames; // names beyond the chunks
     // Names by host name, where the two differ: 0 for hidden objects. An object may have several.
     std::unordered_multimap<GLuint, GLuint> m_otherNames;
     std::unordered_map<GLuint, GLuint> m_lastNames; // by host name: of removed objects, where the two differ
-    std::vector<GLuint> m_spare;                    // host names that an application made up for other objects
+    std::vector<GLuint> m_spare;                    // host names that an application has chosen for other objects
     std::atomic<bool> m_hasOthers = false;
 };

@@ -1,5 +1,5 @@
-// What the calls that generate and delete objects have in common, for every kind whose names the application may make
-// up. table is null where no context of this back end is current; the host judges malformed calls.
+// The common part of calls that generate and delete objects, for every kind whose names the application may choose.
+// table is null when no context of this back end is current; the host raises the errors of malformed calls.
 #pragma once
 
 #include "names/name_table.h"
@@ -11,7 +11,7 @@ inline void generateNames(NameTable *table, GLsizei n, GLuint *names, NameTable:
     table->generate(n, names, host);
 }
 
-// forget: called with the host's name of each object that ends, before the host deletes it.
+// forget: called with the host's name of each deleted object, before the host deletes it.
 template <typename Forget>
 void deleteNames(NameTable *table, GLsizei n, const GLuint *names, DeleteNames *host, Forget forget) {
     if (!table || n < 0 || !names) return host(n, names);

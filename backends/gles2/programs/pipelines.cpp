@@ -30,7 +30,7 @@ GLuint programOf(GLuint pipeline, GLenum stage) {
     return static_cast<GLuint>(program);
 }
 
-// Another bind or another program may have mended or broken it.
+// Another bind or another program may have made it valid or invalid.
 void forgetPipeline() {
     if (EsContext *const context = EsContext::current()) context->programs.forgetPipeline();
 }

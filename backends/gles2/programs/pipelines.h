@@ -1,13 +1,13 @@
-// Pipelines of separable programs. ES draws nothing where a vertex and a fragment program do not agree in what lies
-// between them, which the host does not look at.
+// Pipelines of separable programs. ES requires that the interfaces between a vertex and a fragment program match, which
+// the host does not check.
 #pragma once
 
 #include "programs/shared_programs.h"
 
 class EsContext;
 
-// What a separable program of one stage declares towards the other; empty where it does not tell.
+// The interface of a separable program of one stage to the other; empty where it cannot be determined.
 [[nodiscard]] ProgramEnd declaredEnd(GLuint program);
 
-// Whether the programs of the pipeline disagree.
+// Whether the interfaces of the pipeline's programs do not match.
 [[nodiscard]] bool isPipelineBroken(SharedPrograms &shared, GLuint pipeline);

@@ -14,7 +14,7 @@ ProgramInputs askProgramInputs(GLuint program) {
     GLint count = 0;
     GLint longest = 0;
     gl.getProgramiv(program, GL_LINK_STATUS, &isLinked);
-    // What was linked before is still in use.
+    // After a failed link the earlier executable is still in use.
     if (!isLinked) return {};
     gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTES, &count);
     gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTE_MAX_LENGTH, &longest);

@@ -1,4 +1,4 @@
-// What a program reads of the vertices.
+// The vertex inputs of a program.
 #pragma once
 
 #include "es_gl.h"
@@ -10,5 +10,5 @@ struct ProgramInputs {
     bool readsVertexId = true; // gl_VertexID
 };
 
-// Of a linked program; everything where the host does not tell. With the host context current.
+// For a linked program; everything if the host does not report it. With the host context current.
 [[nodiscard]] ProgramInputs askProgramInputs(GLuint program);

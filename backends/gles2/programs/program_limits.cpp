@@ -17,7 +17,7 @@ struct Variable {
     bool isOfVertices, isOfFragments; // which shaders read it
 };
 
-// Rows of four components, packed as the shading language says: what is wider first, then narrower beside it.
+// Rows of four components, packed as the shading language defines: wide variables first, then narrow ones beside them.
 class PackedRows {
 public:
     void add(const VariableType &type, GLint count) {

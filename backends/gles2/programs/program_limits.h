@@ -1,10 +1,10 @@
-// What a device takes of a program, where it takes less than the host.
+// The limits of programs where the device's are lower than the host's.
 #pragma once
 
 #include "es_gl.h"
 
 class EsContext;
 
-// Of a linked program, with the host context current. A host that does not tell what its programs use holds its own
-// limits alone.
+// For a linked program, with the host context current. If the host does not report what its programs use, only its own
+// limits apply.
 [[nodiscard]] bool isWithinLimits(const EsContext &context, GLuint program);

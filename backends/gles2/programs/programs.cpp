@@ -1,4 +1,4 @@
-// Programs. ES takes one shader of a stage, and a vertex and a fragment shader together; desktop OpenGL takes several,
+// Programs. ES allows one shader per stage, and needs a vertex and a fragment shader; desktop OpenGL allows several,
 // and either alone.
 #include "programs/programs.h"
 #include "common/per_back_end/host_gl.h"

@@ -12,7 +12,7 @@ bool isOfWord(char character) {
     return std::isalnum(static_cast<unsigned char>(character)) || character == '_';
 }
 
-// Behind a comment or a directive that the text begins with; the text itself where it begins with none.
+// After a comment or directive at the start of the text; the text itself if it starts with none.
 std::string_view behindNoise(std::string_view text) {
     if (text.starts_with("/*")) return text.substr(std::min(text.find("*/", 2), text.size() - 2) + 2);
     const bool isLine = text.starts_with("//") || text.starts_with('#');

@@ -1,5 +1,5 @@
-// What a shader gives to the next one or takes from the one before, as its text declares it. The host tells names,
-// types and places of it alone, and shaders of two programs have to agree in precision and interpolation too. Pure.
+// The outputs and inputs of a shader towards its neighbours, as its text declares them. The host reports only their
+// names, types and locations, and shaders of two programs have to match in precision and interpolation too. Pure.
 #pragma once
 
 #include "es_gl.h"
@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-// By place where the text gives one, otherwise by name: all that has to be the same on both sides.
+// By location if the text has one, otherwise by name: all qualifiers that must match on both sides.
 using ShaderInterface = std::map<std::string, std::string, std::less<>>;
 
 // stage: GL_VERTEX_SHADER or GL_FRAGMENT_SHADER. direction: "in" or "out". Nothing for a text with macros or
-// conditions, which only a compiler can read.
+// conditions, which only a compiler can evaluate.
 [[nodiscard]] std::optional<ShaderInterface> declaredInterface(std::string_view source, GLenum stage,
                                                                std::string_view direction);

@@ -15,7 +15,7 @@ void skip(std::string_view &text, std::string_view characters) {
     text.remove_prefix(std::min(text.find_first_not_of(characters), text.size()));
 }
 
-// What follows blanks and comments.
+// The text after blanks and comments.
 std::string_view firstToken(std::string_view source) {
     for (;;) {
         skip(source, blanks);

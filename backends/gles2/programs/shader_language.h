@@ -1,4 +1,4 @@
-// The shading language of ES on the host's compiler, which takes it but for a few words. Pure.
+// Translates ES shading language for the host's compiler, which accepts most of it. Pure.
 #pragma once
 
 #include "es_gl.h"
@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-// What the host is to compile for a source of an ES context of this version: the source itself wherever that is
-// possible. ES takes a source without "#version" as version 100, desktop OpenGL as 1.10; a version that the context
-// does not have must not compile; an external sampler is one of two dimensions. Line numbers stay.
+// The source to compile on the host for a source of an ES context of this version: the same source if that is possible.
+// ES treats a source without "#version" as version 100, desktop OpenGL as 1.10; a version that the context lacks must
+// not compile; an external sampler is a two-dimensional one. Line numbers are kept.
 [[nodiscard]] std::string hostShaderSource(std::string_view source, GLint major, GLint minor);
 
-// Puts the replacement in the place of every whole word.
+// Replaces every whole word.
 void replaceWords(std::string &source, std::string_view word, std::string_view replacement);

@@ -1,4 +1,4 @@
-// Sources go to the host in the form that it compiles, and come back to the application as it gave them.
+// Translates sources for the host's compiler; queries return them to the application as it passed them.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// What a share group keeps of programs and shaders. Any thread.
+// A share group's data about programs and shaders. Any thread.
 #pragma once
 
 #include "common/shared_map.h"
@@ -8,20 +8,20 @@
 #include <atomic>
 #include <string>
 
-// What a separable program of one stage has towards another.
+// The interface of a separable program of one stage.
 struct ProgramEnd {
     GLenum stage = GL_NONE;
     std::optional<ShaderInterface> interface;
 };
 
 struct SharedPrograms {
-    SharedMap<ProgramInputs> inputs;      // of programs that drew from the application's memory
-    std::atomic<uint32_t> changes = 0;    // of inputs; tells contexts to look again
+    SharedMap<ProgramInputs> inputs;      // of programs that drew from client memory
+    std::atomic<uint32_t> changes = 0;    // of inputs; makes contexts query them again
     SharedMap<bool> separable;            // of programs that are to be linked for pipelines
     SharedMap<ProgramEnd> ends;           // of separable programs
-    SharedMap<std::string> shaderSources; // of shaders: as the application gave them, where the host has another form
+    SharedMap<std::string> shaderSources; // of shaders: as passed by the application, if the host's differ
 
-    // The program may read others from now on.
+    // Called when the inputs of the program may have changed.
     void forgetInputs(GLuint program) {
         inputs.remove(program);
         ++changes;

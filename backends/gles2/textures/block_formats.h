@@ -1,11 +1,11 @@
-// Formats whose texels lie in compressed blocks, as far as copies of them are of ES alone: ETC2 and ASTC. Pure.
+// Compressed formats whose image copies desktop OpenGL does not define: ETC2 and ASTC. Pure.
 #pragma once
 
 #include "es_gl.h"
 
 struct BlockFormat {
     GLenum format;
-    GLenum relative; // one that the same blocks can be copied to
+    GLenum relative; // the format with the same block layout
     GLsizei bytes;
     GLsizei width, height; // in texels
 };
@@ -13,5 +13,5 @@ struct BlockFormat {
 // Null for every other format.
 [[nodiscard]] const BlockFormat *findBlockFormat(GLenum format);
 
-// The bytes of a texel of a format that blocks can be copied from and to; 0 for others.
+// The bytes of a texel of a format that is copy-compatible with blocks; 0 for others.
 [[nodiscard]] GLsizei blockTexelSize(GLenum format);

@@ -1,4 +1,4 @@
-// Textures that are cleared without a framebuffer.
+// Clears textures without a framebuffer.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,5 +1,5 @@
 // Copies from the framebuffer into textures whose format a core context lacks. The host would copy red where such a
-// texture has alpha, so the pixels go through memory.
+// texture has alpha, so the pixels are read back and specified again.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "common/per_back_end/pixel_store.h"

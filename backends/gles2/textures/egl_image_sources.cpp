@@ -1,5 +1,5 @@
-// What EGL images of desktop programs are made of. A texture or renderbuffer gets a storage that views can share, where
-// it has none; the image is a view, and so is every texture that is made of it.
+// The sources of EGL images of desktop programs. A texture or renderbuffer gets a storage that views can share, where
+// it has none; the image is a view, and so is every texture that is created from it.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/texture_contents.h"
 #include "context/es_context.h"

@@ -1,6 +1,6 @@
-// EGL images become the storage of textures and renderbuffers. A desktop program's image has a storage of its own,
-// which a view of the host shares; any other is a record of the texture that it was made of, and the two names then
-// mean the same object of the host.
+// EGL images as the storage of textures and renderbuffers. A desktop program's image has a storage of its own, which a
+// view of the host shares; any other is a record of the texture that it was created from, and the two names then map to
+// the same host object.
 #include "common/desktop_clients.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"

@@ -1,6 +1,6 @@
-// Copies from image to image. The host copies between formats of compressed blocks and others only where desktop OpenGL
-// has those formats itself; the blocks of ES go through memory. Each end is an image of the host's that has the format
-// of that end, or one that the host takes for the same.
+// Copies between images. The host copies between compressed and other formats only where desktop OpenGL has those
+// formats itself; ETC2 and ASTC blocks are read back and specified again. Source and destination are host images of
+// their formats, or of formats that the host treats as the same.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "common/per_back_end/pixel_store.h"

@@ -1,4 +1,4 @@
-// What the host can do with a format: ES asks only of those that can be drawn to.
+// glGetInternalformativ: ES allows the query only for formats that can be drawn to.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,4 +1,4 @@
-// Images and storages of textures, in formats that a core context lacks.
+// Texture images and storages, in formats that a core context lacks.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

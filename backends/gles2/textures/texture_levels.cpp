@@ -1,4 +1,4 @@
-// What a texture's image is made of. A format that a core context lacks answers as itself and not as its stand-in.
+// Queries of texture levels. A format that a core context lacks is reported as itself and not as its replacement.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

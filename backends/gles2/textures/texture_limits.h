@@ -1,4 +1,4 @@
-// The sizes that a device takes, where it takes less than the host.
+// The device's texture size limits, where they are lower than the host's.
 #pragma once
 
 #include "es_gl.h"
@@ -11,5 +11,5 @@ struct ImageSize {
     GLsizei depth = 1; // or layers
 };
 
-// The host judges targets and levels that are none.
+// The host rejects invalid targets and levels.
 [[nodiscard]] bool isTooLarge(const EsContext &context, GLenum target, GLint level, const ImageSize &size);

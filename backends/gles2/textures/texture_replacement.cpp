@@ -11,7 +11,7 @@
 
 namespace {
 
-// Those that hosts may lack are asked for in vain and set in vain; the error goes.
+// Parameters that a host lacks fail in both calls; the error is cleared.
 constexpr GLenum integerParameters[] = {
     GL_TEXTURE_MIN_FILTER, GL_TEXTURE_MAG_FILTER,         GL_TEXTURE_WRAP_S,         GL_TEXTURE_WRAP_T,
     GL_TEXTURE_WRAP_R,     GL_TEXTURE_COMPARE_MODE,       GL_TEXTURE_COMPARE_FUNC,   GL_TEXTURE_BASE_LEVEL,

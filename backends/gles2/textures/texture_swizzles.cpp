@@ -36,7 +36,7 @@ void tellHost(GLenum target, const TextureSwizzle &entry) {
         hostGl().texParameteri(target, swizzleNames[channel], swizzle[channel]);
 }
 
-// True when the texture has a swizzle of its format and the application's is now set over it.
+// True when the texture's format has a swizzle; the application's is then combined with it.
 bool setApplications(GLenum target, GLenum pname, GLint value) {
     EsContext *const context = isSwizzle(pname) ? EsContext::current() : nullptr;
     target = hostTarget(target);

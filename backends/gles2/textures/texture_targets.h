@@ -1,22 +1,22 @@
-// The targets of textures.
+// Texture targets.
 #pragma once
 
 #include "es_gl.h"
 
 constexpr GLenum textureExternal = 0x8D65; // GL_TEXTURE_EXTERNAL_OES
 
-// An external texture is one of two dimensions here.
+// An external texture is a two-dimensional one on the host.
 [[nodiscard]] constexpr GLenum hostTarget(GLenum target) {
     return target == textureExternal ? GLenum(GL_TEXTURE_2D) : target;
 }
 
-// The target that a face of a cube belongs to; any other is its own.
+// The target of a cube map face is GL_TEXTURE_CUBE_MAP; any other is unchanged.
 [[nodiscard]] constexpr GLenum wholeTarget(GLenum target) {
     const bool isFace = target >= GL_TEXTURE_CUBE_MAP_POSITIVE_X && target <= GL_TEXTURE_CUBE_MAP_NEGATIVE_Z;
     return isFace ? GLenum(GL_TEXTURE_CUBE_MAP) : hostTarget(target);
 }
 
-// What asks for the texture that is bound to a whole target; 0 for what is none.
+// The query for the texture that is bound to a target; 0 for an invalid target.
 [[nodiscard]] constexpr GLenum bindingOf(GLenum target) {
     switch (target) {
     case GL_TEXTURE_2D:

@@ -1,4 +1,4 @@
-// Textures that show the storage of another.
+// Texture views.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

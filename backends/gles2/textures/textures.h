@@ -1,4 +1,4 @@
-// What is kept of textures, by a context and by its share group.
+// The texture state of a context and of its share group.
 #pragma once
 
 #include "names/name_table.h"
@@ -9,7 +9,7 @@
 #include <atomic>
 #include <unordered_map>
 
-// Pixels of this format and type that an image of this internal format takes.
+// The pixel format and type that are accepted for an image of this internal format.
 struct TakenPart {
     GLenum internal = GL_NONE, format = GL_NONE, type = GL_NONE;
 
@@ -18,11 +18,11 @@ struct TakenPart {
 
 // Used on the context's thread.
 struct Textures {
-    std::unordered_map<GLuint, GLuint> lastNames; // by the host's: what it was bound as, where the names differ
+    std::unordered_map<GLuint, GLuint> lastNames; // by the host's: the bound name, where the names differ
     TextureSwizzles swizzlesOfZero;               // of the textures of name 0
     TakenPart lastTaken;                          // of parts: most are like the last one
     GLenum mipmapHint = GL_DONT_CARE;
-    GLenum unitEnd = ~0u; // behind the names of the device's texture units
+    GLenum unitEnd = ~0u; // one past the names of the device's texture units
 };
 
 // Any thread.
@@ -32,14 +32,14 @@ struct SharedTextures {
     SharedImages images;
     std::atomic<bool> mayHoldBlocks = false; // of ETC2 or ASTC, in any texture
 
-    // A texture gets this format.
+    // Called when a texture gets this format.
     void noteFormat(GLenum internal) {
         if (findBlockFormat(internal)) mayHoldBlocks.store(true, std::memory_order_relaxed);
     }
 };
 
-// Deletes the storages of EGL images that have ended. With the host context current.
+// Deletes the storages of destroyed EGL images. With the host context current.
 void deleteEndedImages(SharedTextures &textures);
 
-// The host's name for the application's, which gets an object if it is new.
+// The host's name for the application's; a new name gets an object.
 [[nodiscard]] GLuint hostTexture(GLuint name);

@@ -1,4 +1,4 @@
-// The values of attributes without arrays, and places of attributes: beyond what the device has the host may have more.
+// Current attribute values, and attribute indices: the host may have more attributes than the device.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,5 +1,5 @@
-// What is done to the buffer of a target. The host may have a buffer of ours bound for indices where the application
-// has none, and must not be seen to.
+// Commands on the buffer of a target. The host may have a buffer of ours bound for indices where the application has
+// none; the application must not access it.
 #include "common/host_library.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"

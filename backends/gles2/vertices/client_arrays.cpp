@@ -12,7 +12,7 @@ void forEachBit(uint32_t mask, Take take) {
         take(static_cast<GLuint>(std::countr_zero(mask)));
 }
 
-// Of the attribs of mask, those that have no memory.
+// The attributes in mask that have no client pointer.
 uint32_t nullAttribs(const VertexArrayState &state, uint32_t mask) {
     uint32_t result = 0;
     forEachBit(mask, [&](GLuint index) { result |= state.attribs[index].pointer ? 0 : 1u << index; });

@@ -1,13 +1,13 @@
-// Vertex arrays and index lists in the application's memory: a core context draws from buffers only, so what a draw
-// reads is copied into the stream before it, and no more than that.
+// Vertex arrays and index lists in client memory: a core context draws from buffers only, so what a draw reads is
+// copied into the stream buffer before it, and no more than that.
 #pragma once
 
 #include "common/index_size.h"
 #include "context/es_context.h"
 #include "vertices/index_range.h"
 
-// Makes the arrays of the application's memory that the current program reads lie in the stream. One without memory is
-// switched off while this lives. The object gets its own state back where an application can see it.
+// Copies the client arrays that the current program reads to the stream. One without memory is disabled while this
+// lives. The vertex array object's own state is restored where an application can see it.
 class FedVertices {
 public:
     FedVertices(EsContext &context, const DrawnVertices &drawn);
@@ -15,9 +15,9 @@ public:
     FedVertices(const FedVertices &) = delete;
     FedVertices &operator=(const FedVertices &) = delete;
 
-    // False where the vertices do not exist or the host has no memory: there is nothing to draw then.
+    // False when the vertices do not exist or the host is out of memory: the draw is skipped.
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
-    // What the draw has to add to the number of each vertex.
+    // The value that the draw has to add to the index of each vertex.
     [[nodiscard]] GLint shift() const { return m_shift; }
 
 private:
@@ -34,11 +34,11 @@ struct IndexList {
     [[nodiscard]] size_t size() const { return static_cast<size_t>(count) * static_cast<size_t>(indexSize(type)); }
 };
 
-// Of what the draw reads. Nothing when it reads none.
+// The index range of what the draw reads. Nothing when it reads none.
 [[nodiscard]] std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list);
 
-// The usual case of FedVertices, in line: the layout whose next slots take that many vertices of the draw. Null where
-// the draw needs more than to be copied there.
+// The fast path of FedVertices, inline: the layout whose next slots hold the vertices of the draw. Null when the draw
+// needs more than a copy.
 [[nodiscard]] inline StreamLayout *usualLayout(EsContext &context, int64_t count) {
     Vertices &vertices = context.vertices;
     VertexArrayState &state = *vertices.bound;
@@ -50,14 +50,14 @@ struct IndexList {
     return isUsual ? &state.layout : nullptr;
 }
 
-// Copies the vertices of a short list one behind the other, as a draw without a list reads them, which costs the host
-// less. The slot of the first; nothing where the draw has to go the other way.
+// Copies the vertices of a short list in index order, as a draw without indices reads them, which costs the host less.
+// Returns the slot of the first; nothing when the draw needs the other path.
 [[nodiscard]] std::optional<int64_t> gatherVertices(EsContext &context, const IndexList &list, GLint baseVertex);
 
-// Makes an index list of the application's memory lie in the stream: what the host's draw takes as indices. Nothing
-// when the host has no memory.
+// Copies an index list in client memory to the stream: the indices argument of the host's draw. Nothing when the host
+// is out of memory.
 [[nodiscard]] std::optional<const void *> putIndices(EsContext &context, const IndexList &list);
 
-// The host has a buffer of ours bound for indices while the application has none. Takes it away, for a call that the
-// application could see it by.
+// The host may have a buffer of ours bound for indices while the application has none. Unbinds it, for a call through
+// which the application could access it.
 void hideStreamedIndices(EsContext &context);

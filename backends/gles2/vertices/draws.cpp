@@ -1,5 +1,5 @@
-// Drawing, with what has to be right before it: the render mode, and arrays and index lists in the application's
-// memory. A draw from buffers alone costs a few comparisons.
+// Draw calls, with the state that they need: the render mode, and arrays and index lists in client memory. A draw from
+// buffers only costs a few comparisons.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "vertices/client_arrays.h"

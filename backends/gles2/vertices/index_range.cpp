@@ -5,7 +5,7 @@
 
 namespace {
 
-// Without branches, so that the compiler compares many indices at a time.
+// Branchless, so that the compiler can vectorise it.
 template <bool hasRestarts, typename Index>
 IndexRange find(const Index *list, GLsizei count) {
     constexpr Index restart = std::numeric_limits<Index>::max();

@@ -1,4 +1,4 @@
-// The least and the greatest index of a list.
+// The minimum and maximum of an index list.
 #pragma once
 
 #include "es_gl.h"
@@ -10,13 +10,13 @@ struct IndexRange {
     GLuint highest;
 };
 
-// The greatest number of a type of indices, which can restart a primitive.
+// The greatest value of an index type, which can be the primitive restart index.
 [[nodiscard]] constexpr GLuint greatestIndex(GLenum type) {
     return type == GL_UNSIGNED_BYTE ? 0xFFu : type == GL_UNSIGNED_SHORT ? 0xFFFFu : 0xFFFFFFFFu;
 }
 
-// Of count indices, at least one, of a type that has a size.
+// For count indices, at least one, of a valid type.
 [[nodiscard]] IndexRange rangeOf(const void *indices, GLsizei count, GLenum type);
 
-// The same where the greatest number of the type is no index. Nothing when there is no other.
+// The same, without the type's greatest value. Nothing when there is no other index.
 [[nodiscard]] std::optional<IndexRange> rangeWithoutRestarts(const void *indices, GLsizei count, GLenum type);

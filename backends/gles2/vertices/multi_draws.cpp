@@ -1,4 +1,4 @@
-// Several draws in one call: each goes the way of a single one.
+// Several draws in one call: each is issued as a single one.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -10,7 +10,7 @@ class SharedBuffers {
 public:
     NameTable names;
 
-    // Chunks of a context that has ended: one that still lives has to delete them.
+    // Adds the chunks of a destroyed context: a live one has to delete them.
     void abandon(std::vector<StreamBuffer::Chunk> chunks);
     // With the host context current.
     void deleteAbandoned();

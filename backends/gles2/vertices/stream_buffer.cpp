@@ -9,7 +9,7 @@
 
 namespace {
 
-// Two chunks lie in the cache of a core, and a fence for each costs little beside what is put into it.
+// Two chunks fit a core's cache, and a fence for each costs little compared with filling it.
 constexpr size_t usualCapacity = size_t(1) << 20;
 // Beyond this the application waits for the host.
 constexpr size_t mostRetired = size_t(1) << 26;

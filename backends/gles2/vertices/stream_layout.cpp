@@ -8,7 +8,7 @@
 
 namespace {
 
-// Of a layout that draws come back to, which doubles up to here.
+// The slots of a layout that draws reuse, doubled up to this number.
 constexpr size_t mostSpareBytes = size_t(1) << 16;
 
 constexpr size_t padded(size_t size) {

@@ -1,5 +1,5 @@
-// How the host's arrays of a vertex array object lie in the stream: in slots of one vertex each, which draws fill one
-// behind the other. A draw then only begins at another slot, and the host's pointers stay.
+// The layout of a vertex array object's host arrays in the stream: slots of one vertex each, which draws fill in order.
+// A draw then only starts at another slot, and the host's pointers stay.
 #pragma once
 
 #include "vertices/stream_buffer.h"
@@ -17,21 +17,21 @@ struct DrawnVertices {
 
 class StreamLayout {
 public:
-    // The object's state has changed: the next draw needs a new layout.
+    // Called when the object's state has changed: the next draw needs a new layout.
     void invalidate() { m_mask = 0; }
-    // The arrays lie elsewhere in the application's memory.
+    // Called when the arrays are elsewhere in client memory.
     void followPointers() { m_arePointersOld = true; }
 
-    // Whether the arrays of mask can go on in the slots that are there.
+    // Whether the arrays of mask can use the existing slots.
     [[nodiscard]] bool fits(const VertexArrayState &state, uint32_t mask, int64_t count, const StreamBuffer &stream) {
         return mask == m_mask && mask != 0 && m_generation == stream.generation() &&
                count <= m_slotCount - m_nextSlot && (!m_arePointersOld || findArrays(state));
     }
-    // Makes room for the arrays of mask, none of which is null or has a divisor, and points the host at it. False when
-    // the host has no memory. Leaves another buffer bound to GL_ARRAY_BUFFER.
+    // Reserves room for the arrays of mask, none of which is null or has a divisor, and sets the host's pointers to it.
+    // False when the host is out of memory. Leaves another buffer bound to GL_ARRAY_BUFFER.
     [[nodiscard]] bool make(const VertexArrayState &state, uint32_t mask, int64_t count, StreamBuffer &stream,
                             NameTable &names);
-    // Copies the vertices from first on into the next slots: the slot of the first. Nothing when the host has no
+    // Copies the vertices from first on into the next slots: returns the first slot. Nothing when the host is out of
     // memory.
     [[nodiscard]] std::optional<int64_t> put(int64_t first, int64_t count, StreamBuffer &stream) {
         for (const Block &block : m_blocks) {
@@ -42,18 +42,18 @@ public:
         return std::exchange(m_nextSlot, m_nextSlot + count);
     }
 
-    // The same of vertices by their numbers, where the host keeps the stream mapped.
+    // The same for indexed vertices, if the stream is persistently mapped.
     [[nodiscard]] int64_t gather(std::span<const int64_t> numbers, StreamBuffer &stream);
 
-    // For one draw: vertices keep their numbers, and arrays may have divisors. Otherwise as make() and put().
+    // For one draw: vertices keep their indices, and arrays may have divisors. Otherwise as make() and put().
     [[nodiscard]] bool putExactly(const VertexArrayState &state, uint32_t mask, const DrawnVertices &drawn,
                                   StreamBuffer &stream, NameTable &names);
 
 private:
-    // Arrays that lie interleaved.
+    // Interleaved arrays.
     struct Block {
-        uintptr_t begin; // of vertex 0 in the application's memory
-        uintptr_t end;   // of what is read of it
+        uintptr_t begin; // of vertex 0 in client memory
+        uintptr_t end;   // of the part that is read
         size_t stride;
         GLuint divisor;
         size_t offset = 0; // of slot 0 in the stream
@@ -69,7 +69,7 @@ private:
     void pointHost(const VertexArrayState &state, const StreamBuffer &stream) const;
     static bool putBlock(const Block &block, int64_t first, int64_t count, int64_t slot, StreamBuffer &stream) {
         const uintptr_t begin = block.begin + block.stride * static_cast<size_t>(first);
-        // Nothing of the last vertex but what is read: the application's memory may end there.
+        // Copies only the part of the last vertex that is read: client memory may end there.
         const size_t size = block.stride * static_cast<size_t>(count - 1) + (block.end - block.begin);
         return stream.write(block.offset + block.stride * static_cast<size_t>(slot),
                             {reinterpret_cast<const std::byte *>(begin), size});

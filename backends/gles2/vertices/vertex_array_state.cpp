@@ -13,7 +13,7 @@ void VertexArrayState::setArray(GLuint index, const VertexFormat &format, const 
     const bool isSame = attrib.format == format && attrib.binding == index && bindings[index].buffer == buffer;
     if (isSame && attrib.pointer == bytes) return;
     attrib.pointer = bytes;
-    // Applications point at other memory before each draw; the rest stays.
+    // Applications often set only the pointers before each draw; the rest of the state stays.
     if (isSame) return layout.followPointers();
     attrib.format = format;
     setBinding(index, index);

@@ -1,5 +1,5 @@
-// What this library notes of a vertex array object: which arrays lie in the application's memory, and where they lie in
-// the stream. Used on the thread of the context that owns it.
+// This library's state of a vertex array object: which arrays are in client memory, and where they are in the stream.
+// Used on the thread of the context that owns it.
 #pragma once
 
 #include "vertices/stream_layout.h"
@@ -12,39 +12,39 @@ struct VertexArrayState {
     static constexpr GLuint maxAttribs = 32;
 
     struct Attrib {
-        const std::byte *pointer = nullptr; // where there is no buffer
+        const std::byte *pointer = nullptr; // without a buffer
         VertexFormat format;
         GLuint binding = 0;
     };
     struct Binding {
-        GLuint buffer = 0; // the host's name; 0 for the application's memory
+        GLuint buffer = 0; // the host's name; 0 for client memory
         GLuint divisor = 0;
         uint32_t attribs = 0; // bits of those that read it
     };
 
     VertexArrayState();
 
-    // Sets an attrib up as glVertexAttribPointer does: by the binding of its own.
+    // Sets an attribute as glVertexAttribPointer does: with the binding of its own index.
     void setArray(GLuint index, const VertexFormat &format, const void *pointer, GLuint buffer);
     void setBuffer(GLuint binding, GLuint buffer);
     void setBinding(GLuint attrib, GLuint binding);
     void setDivisor(GLuint binding, GLuint divisor);
-    // The host has it bound.
+    // Requires that the host has it bound.
     void setElementBuffer(GLuint buffer) {
         elementBuffer = buffer;
         streamedElementBuffer = 0;
     }
-    // What deleting a buffer does to the array that is bound.
+    // The effect of deleting a buffer on the bound vertex array object.
     void forgetBuffer(GLuint buffer);
 
     [[nodiscard]] bool isClient(GLuint attrib) const { return attrib < maxAttribs && (clientAttribs >> attrib & 1); }
     [[nodiscard]] uint32_t enabledClientAttribs() const { return enabledAttribs & clientAttribs; }
 
-    // What every draw reads comes first.
+    // The fields that every draw reads come first.
     uint32_t enabledAttribs = 0;
-    uint32_t clientAttribs = ~0u; // bits of the attribs whose binding has no buffer
+    uint32_t clientAttribs = ~0u; // bits of the attributes whose binding has no buffer
     GLuint elementBuffer = 0;     // the host's name
-    // Ours, which the host has bound while the application has none.
+    // Our buffer that the host has bound while the application has none.
     GLuint streamedElementBuffer = 0;
     StreamLayout layout;
     std::array<Attrib, maxAttribs> attribs;

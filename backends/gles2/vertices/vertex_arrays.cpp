@@ -1,5 +1,5 @@
-// A core context draws nothing while no vertex array object is bound; ES draws from object 0. An object of our own
-// stands for it. Arrays in the application's memory are noted here and reach the host when they are drawn.
+// A core context cannot draw without a bound vertex array object; ES draws from object 0. An object of our own replaces
+// it. Arrays in client memory are recorded here and copied to the host when they are drawn.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

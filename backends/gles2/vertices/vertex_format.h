@@ -5,13 +5,13 @@
 
 #include <cstddef>
 
-// As an application gives it.
+// As an application specifies it.
 struct VertexFormat {
     GLint size = 4;
     GLenum type = GL_FLOAT;
     GLboolean isNormalized = GL_FALSE;
     bool isInteger = false;
-    GLsizei stride = 0; // 0 means that elements lie one behind the other
+    GLsizei stride = 0; // 0 means tightly packed elements
 
     bool operator==(const VertexFormat &) const = default;
 };

@@ -1,4 +1,4 @@
-// What a context keeps of vertex arrays and of the buffers that draws read. Used on the context's thread.
+// The vertex array and buffer state of a context. Used on the context's thread.
 #pragma once
 
 #include "common/host_features.h"
@@ -8,23 +8,23 @@
 
 class Vertices {
 public:
-    // Makes the object that stands for object 0 and binds it.
-    // mostAttribs: of the device.
+    // Creates the object that replaces object 0 and binds it.
+    // mostAttribs: the device's limit.
     Vertices(GLint major, const HostFeatures &host, GLint mostAttribs);
 
-    // Object 0 takes arrays and index lists in the application's memory. So do the objects of
+    // Object 0 accepts arrays and index lists in client memory. So do the objects of
     // OES_vertex_array_object; those of ES 3 do not.
     [[nodiscard]] bool takesClientMemory() const { return m_major < 3 || bound == &objectZero; }
-    // Whether the host has no fault to find in an array of that format.
+    // Whether the host accepts an array of that format.
     [[nodiscard]] bool takesFormat(GLuint index, const VertexFormat &format) const {
         return index < maxAttribs && format.stride >= 0 && format.stride <= m_mostStride && vertexSize(format) > 0;
     }
-    // Binds the application's buffer again.
+    // Restores the binding of the application's buffer.
     void restoreArrayBuffer();
 
     // Constant after construction.
     GLuint maxAttribs = 0;
-    GLuint defaultObject = 0; // stands for object 0, which a core context lacks; the host's name
+    GLuint defaultObject = 0; // replaces object 0, which a core context lacks; the host's name
 
     GLuint arrayBuffer = 0; // the host's name
     VertexArrayState *bound = &objectZero;
@@ -32,12 +32,12 @@ public:
     StreamBuffer indexStream;
     VertexArrayState objectZero;
     std::unordered_map<GLuint, VertexArrayState> objects; // the others
-    std::vector<std::byte> readBackIndices;               // keeps its memory from draw to draw
+    std::vector<std::byte> readBackIndices;               // reused by every draw to save allocations
 
 private:
     const GLint m_major;
     GLsizei m_mostStride;
 };
 
-// True with the error raised, for an attribute that the current context's device lacks; the host may have more.
+// Raises the error and returns true for an attribute that the current context's device lacks; the host may have more.
 [[nodiscard]] bool isBeyondAttribs(GLuint index);

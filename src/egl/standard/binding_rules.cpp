@@ -11,7 +11,7 @@ namespace egl::standard {
 
 namespace {
 
-// A context without a config, which has the id 0, goes with every surface.
+// A context without a config, which has the id 0, is compatible with every surface.
 bool fits(const Context &context, const Surface &surface) {
     return context.config->attributeOr0(EGL_CONFIG_ID) == 0 || surface.sizes == drawableSizes(*context.config);
 }

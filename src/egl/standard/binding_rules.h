@@ -1,4 +1,4 @@
-// What is current, by the rules of the EGL standard, which desktop clients get in place of a device's.
+// The binding rules of the EGL standard, which apply to desktop clients in place of a device's.
 #pragma once
 
 #include "egl/bind_memos.h"
@@ -9,20 +9,20 @@
 
 namespace egl::standard {
 
-// The error of a bind before anything of it is tried, so that one that is refused leaves what is current.
+// The error of a bind, checked before any change, so that a refused bind leaves the current context as it is.
 [[nodiscard]] EGLint bindError(const Display &display, const BindRequest &request);
 
-// Whether the surface is what the calling thread draws to.
+// Whether the surface is the draw surface of the calling thread.
 [[nodiscard]] bool isDrawnTo(const Surface &surface);
-// Within what the config of the context says.
+// The value is limited to what the context's config allows.
 [[nodiscard]] EGLint clampedSwapInterval(const Config &config, EGLint interval);
 
-// As eglReleaseThread: nothing stays current.
+// As eglReleaseThread: releases whatever is current.
 void releaseThread();
-// As eglMakeCurrent without context and surfaces. Takes a display that is not initialised.
+// As eglMakeCurrent without context and surfaces. Accepts a display that is not initialised.
 [[nodiscard]] EGLBoolean releaseCurrent(EGLDisplay dpy);
-// As eglTerminate: contexts that are current somewhere end when they are let go, all others at once. Takes a display
-// that is not initialised.
+// As eglTerminate: current contexts are destroyed when they are released, all others at once. Accepts a display that
+// is not initialised.
 [[nodiscard]] EGLBoolean terminate(EGLDisplay dpy);
 
 } // namespace egl::standard

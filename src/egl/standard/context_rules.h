@@ -1,4 +1,4 @@
-// Contexts by the rules of the EGL standard, which desktop clients get in place of a device's.
+// The context rules of the EGL standard, which apply to desktop clients in place of a device's.
 #pragma once
 
 #include "egl/context.h"
@@ -9,16 +9,16 @@
 
 namespace egl::standard {
 
-// Reads the list into the record. Gives the error, EGL_SUCCESS for none. A null list is an empty one.
+// Parses the list into the record. Returns the error, EGL_SUCCESS for none. A null list is an empty one.
 [[nodiscard]] EGLint readContextAttributes(const Config &config, const DeviceProfile &profile, const EGLint *attributes,
                                            ContextAttribs &attribs);
 
-// Whether the host gives contexts on the config that promise anything after a fault.
+// Whether the host can create robust contexts on the config.
 [[nodiscard]] bool canBeRobust(const Config &config);
-// What the record asks of the host context. Nothing where it was not read by these rules.
+// The robustness that the record requests of the host context. Nothing if the record was not read by these rules.
 [[nodiscard]] host::Robustness robustnessOf(const ContextAttribs &attribs);
 
-// The error of eglQueryContext.
+// Returns the error of eglQueryContext.
 [[nodiscard]] EGLint queryContext(const Context &context, EGLint attribute, EGLint *value);
 
 } // namespace egl::standard

@@ -1,13 +1,13 @@
-// What desktop clients are told of: only what works for them.
+// The extensions that desktop clients are offered: only those that work for them.
 #pragma once
 
 #include "egl/display.h"
 
 namespace egl::standard {
 
-// Of eglQueryString without a display.
+// The client extensions, for eglQueryString without a display.
 [[nodiscard]] const char *clientExtensions();
-// With one that is initialised. The text lives as long as the process. Any thread.
+// The extensions of an initialised display. The string lives as long as the process. Any thread.
 [[nodiscard]] const char *displayExtensions(const Display &display);
 
 } // namespace egl::standard

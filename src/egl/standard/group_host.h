@@ -1,4 +1,4 @@
-// A way to the host's objects of a share group, from threads that have none of its contexts current.
+// Access to a share group's host objects, from threads that have none of its contexts current.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +11,10 @@ namespace egl::standard {
 
 class GroupHost {
 public:
-    // Of the context's group. The context may end before this does.
+    // Any context of the group. The context may end before this does.
     explicit GroupHost(const Context &member);
 
-    // Runs the action with a context of the group current on the host. False, and not run, when there is none any more.
+    // Runs the action with a context of the group current on the host. False, without running it, when none is left.
     bool run(const std::function<void()> &action) const;
     [[nodiscard]] bool isSharedWithCurrent() const;
 

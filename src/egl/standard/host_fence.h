@@ -1,4 +1,4 @@
-// A fence of the host that any thread can ask, whatever it has current.
+// A host fence that any thread can query, whatever it has current.
 #pragma once
 
 #include <cstdint>
@@ -12,17 +12,17 @@ namespace egl::standard {
 
 class HostFence {
 public:
-    // Set by the context that is current on the thread, whose commands are sent. Null when the host has no fences.
+    // Inserted by the thread's current context, whose commands are flushed. Null when the host has no fences.
     [[nodiscard]] static std::unique_ptr<HostFence> create(Context &current);
 
     HostFence(const HostFence &) = delete;
     HostFence &operator=(const HostFence &) = delete;
     ~HostFence();
 
-    // Whether the commands before the fence are done. Waits no longer than that for them. One whose contexts are all
-    // gone is done.
+    // Whether the commands before the fence have completed; waits at most timeoutNs. A fence whose contexts are all
+    // gone has completed.
     [[nodiscard]] bool wait(uint64_t timeoutNs);
-    // Lets the context that is current on the thread wait, if it shares with the fence; otherwise the thread waits.
+    // Makes the context that is current on the thread wait, if it shares with the fence; otherwise the thread waits.
     void waitOnHost();
 
 private:

@@ -21,7 +21,7 @@ EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
     for (const auto &[name, value] : AttributeList(attributes)) {
         switch (name) {
         case EGL_IMAGE_PRESERVED:
-            // What there is stays in any case.
+            // The contents are preserved with either value.
             if (value != EGL_TRUE && value != EGL_FALSE) return EGL_BAD_PARAMETER;
             break;
         case EGL_GL_TEXTURE_LEVEL:

@@ -1,5 +1,5 @@
-// EGL images by the rules of the EGL standard, which desktop clients get in place of a device's: an image has a storage
-// of its own, which the back end makes and which outlives its source.
+// The image rules of the EGL standard, which apply to desktop clients in place of a device's: an image has a storage of
+// its own, which the back end creates and which outlives its source.
 #pragma once
 
 #include <cstdint>
@@ -26,11 +26,11 @@ struct Image {
     ~Image();
 
     const zvImage storage;
-    const std::shared_ptr<ContextGroup> group; // of the contexts that know the storage
+    const std::shared_ptr<ContextGroup> group; // of the contexts that can use the storage
     decltype(&zvDropImage) const drop;         // the back end stays in the process from the first image on
 };
 
-// Those of a display. Any thread.
+// The images of a display. Any thread.
 class Images {
 public:
     [[nodiscard]] EGLImage insert(std::shared_ptr<Image> image);

@@ -17,7 +17,7 @@ namespace {
 using refusals::because;
 using refusals::Rule;
 
-// What an attribute may be: one of some values, or anything where there are none.
+// The allowed values of an attribute; an empty list allows any.
 struct AttributeRule {
     EGLint attribute;
     std::initializer_list<EGLint> values;

@@ -1,4 +1,4 @@
-// Surfaces by the rules of the EGL standard, which desktop clients get in place of a device's.
+// The surface rules of the EGL standard, which apply to desktop clients in place of a device's.
 #pragma once
 
 #include "egl/display.h"
@@ -12,10 +12,10 @@ namespace egl::standard {
 [[nodiscard]] EGLint windowSurfaceError(const Config &config, const EGLint *attributes);
 [[nodiscard]] EGLint pbufferSurfaceError(const Config &config, const EGLint *attributes);
 [[nodiscard]] EGLint pixmapSurfaceError(const Config &config, const EGLint *attributes);
-// Of a pixmap that what is drawn in the format should go to.
+// The error of a pixmap as the target of rendering in the format.
 [[nodiscard]] EGLint pixmapError(const Display &display, uint64_t pixmap, const host::platform::PixelFormat *format);
 
-// The error of eglQuerySurface. An attribute that does not apply to the kind of surface succeeds and stores nothing.
+// The error of eglQuerySurface. An attribute that does not apply to the kind of surface succeeds and writes nothing.
 [[nodiscard]] EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value);
 // The error of eglSurfaceAttrib.
 [[nodiscard]] EGLint setSurfaceAttribute(Surface &surface, EGLint attribute, EGLint value);

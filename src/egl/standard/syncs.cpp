@@ -12,7 +12,7 @@
 
 namespace egl::standard {
 
-// A fence's state is the host's. A reusable one's is its own.
+// The host holds a fence's state. A reusable sync holds its own.
 class Sync {
 public:
     explicit Sync(std::unique_ptr<HostFence> fence) : m_fence(std::move(fence)) {}

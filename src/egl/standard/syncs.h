@@ -1,5 +1,5 @@
-// Sync objects by the rules of the EGL standard, which desktop clients get in place of a device's: fences and reusable
-// ones, with handles and answers of EGL, and waits that need no current context.
+// The sync rules of the EGL standard, which apply to desktop clients in place of a device's: fences and reusable syncs,
+// with handles and results of EGL, and waits that need no current context.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace egl::standard {
 
 class Sync;
 
-// Those of a display. Any thread.
+// The syncs of a display. Any thread.
 class Syncs {
 public:
     [[nodiscard]] EGLSync insert(std::shared_ptr<Sync> sync);
@@ -33,8 +33,8 @@ private:
     uintptr_t m_lastHandle = 0;
 };
 
-// As the entries of these names, on an initialised display.
-// unknownType: the error of a type that is none; the core entry and that of the extension differ in it.
+// The entries of these names, on an initialised display.
+// unknownType: the error for an unknown type; the core entry and the extension's entry differ in it.
 [[nodiscard]] EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes, EGLint unknownType);
 [[nodiscard]] EGLBoolean destroySync(Display &display, EGLSync handle);
 [[nodiscard]] EGLint clientWaitSync(Display &display, EGLSync handle, EGLint flags, EGLTime timeoutNs);

@@ -1,9 +1,9 @@
-// What the dynamic libraries of this platform are called and where the system keeps them. The names that everyone needs
-// stand in foundation/dynamic_library.h.
+// The file names and system directories of dynamic libraries on this platform. Names that are used everywhere are in
+// foundation/dynamic_library.h.
 #pragma once
 
 #include <string>
 #include <vector>
 
-// Where the host's OpenGL library may lie, in the order to look.
+// Where the host's OpenGL library may be, in search order.
 [[nodiscard]] std::vector<std::string> systemLibraryDirectories();

@@ -1,4 +1,4 @@
-// Who is at the other end of a socket. Platforms ask in different ways.
+// The user at the other end of a socket. Platforms query it in different ways.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// The newest lines of a text that has no end. They are counted from 0 on, so that a reader goes on where it was.
+// The newest lines of an endless text. They are counted from 0, so that a reader can continue where it stopped.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 class BoundedLines {
 public:
-    // The oldest lines go when there are more lines, or more bytes in them.
+    // The oldest lines are removed when there are more lines, or more bytes in them.
     BoundedLines(size_t mostLines, size_t mostBytes) : m_mostLines(mostLines), m_mostBytes(mostBytes) {}
 
     void add(std::string line) {

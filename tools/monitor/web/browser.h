@@ -7,11 +7,11 @@
 
 class Browser {
 public:
-    // Starts what the desktop has for files of this kind. It gets a file that leads to the address: all users of the
-    // machine see the words that programs are started with.
+    // Starts the desktop's program for files of this kind. It gets a file that redirects to the address: all users of
+    // the machine can see the arguments of programs.
     explicit Browser(const std::string &address);
 
-    // Why nothing was started; empty when something was.
+    // Why nothing was started; empty on success.
     [[nodiscard]] const std::string &failure() const { return m_failure; }
 
 private:

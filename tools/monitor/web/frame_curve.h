@@ -11,10 +11,10 @@ public:
 
     // second: of any clock that does not run backwards.
     void count(int64_t second);
-    // No more frames come: the second that is on is not complete.
+    // No more frames follow: the current second is incomplete.
     void end(int64_t second) { m_end = second; }
 
-    // The first of the seconds that values() tells of.
+    // The first second of values().
     [[nodiscard]] int64_t first(int64_t since, int64_t now) const;
     // The whole seconds from since on, before now. The second of the first frame is not one.
     [[nodiscard]] std::vector<uint32_t> values(int64_t since, int64_t now) const;

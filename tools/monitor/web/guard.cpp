@@ -11,7 +11,7 @@ bool Guard::admits(const httplib::Request &request) const {
     const std::string_view path = request.path;
     const size_t end = path.find('/', 1);
     if (end == std::string_view::npos || !isSameSecret(m_token, path.substr(1, end - 1))) return false;
-    // A name that leads here is not ours: pages of others reach us by such names.
+    // A host name that resolves to this address is not ours: foreign pages can reach us by such names.
     if (request.get_header_value_count("Host") != 1 || request.get_header_value("Host") != m_host) return false;
     // Browsers tell it of every request that changes something.
     const bool isForReading = request.method == "GET" || request.method == "HEAD";

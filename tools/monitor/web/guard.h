@@ -1,5 +1,5 @@
-// Who may look at the pages. Only the loopback address is listened on; what comes from there may still be another user
-// of the machine or a page of somebody else in the user's own browser.
+// Access control of the pages. The server listens on the loopback address only; a request may still come from another
+// user of the machine or a foreign page in the user's own browser.
 #pragma once
 
 #include <string>
@@ -16,13 +16,13 @@ public:
 
     // "http://127.0.0.1:6310/TOKEN/"
     [[nodiscard]] std::string address() const { return m_origin + prefix(); }
-    // What the paths of all pages begin with.
+    // The prefix of all page paths.
     [[nodiscard]] std::string prefix() const { return '/' + m_token + '/'; }
-    // The token is right, the request was meant for this host, and it comes from no page of others.
+    // The token is right, the request names this host, and it comes from no foreign page.
     [[nodiscard]] bool admits(const httplib::Request &request) const;
-    // Headers for every answer.
+    // Headers for every response.
     static void protect(httplib::Response &response);
-    // The page's scripts and styles are those that carry the nonce; nothing else is run or fetched from elsewhere.
+    // Only scripts and styles with the nonce are used; nothing is run or loaded from elsewhere.
     static void allowOnly(httplib::Response &response, const std::string &nonce);
 
 private:

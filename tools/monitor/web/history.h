@@ -1,5 +1,5 @@
-// What the pages of a monitor are told: applications with their last state, log lines, refusals. The monitor's thread
-// fills it, threads of the server read it. All of it is bounded, so that a day of logging does not grow the process.
+// The data for the pages of a monitor: applications with their last state, log lines, refusals. The monitor's thread
+// writes it, threads of the server read it. All of it is bounded, so that a day of logging does not grow the process.
 #pragma once
 
 #include <chrono>
@@ -40,7 +40,7 @@ public:
     History(const History &) = delete;
     History &operator=(const History &) = delete;
 
-    // Of the monitor. Numbers of applications are never used again.
+    // Called by the monitor. Numbers of applications are never reused.
     [[nodiscard]] uint64_t add(ShownApplication application);
     void setTitle(uint64_t number, const std::string &title);
     void setWireframe(uint64_t number, bool isOn);
@@ -51,7 +51,7 @@ public:
     // Lines are JSON objects.
     void addRecord(std::string line);
     void addLogLine(std::string line);
-    // number: 0 for somebody who was no application of ours. isForTheHost: the host lacks something.
+    // number: 0 for a process that is not an application of ours. isForTheHost: the host lacks something.
     void addRefusal(uint64_t number, const std::string &text, bool isForTheHost);
     void addNotice(const std::string &text);
 
@@ -66,13 +66,13 @@ public:
         int64_t second = 0;
         uint64_t line = 0;
     };
-    // Waits until there is something to tell, for a second at most. False once close() was called.
+    // Waits until there is something new, for a second at most. False once close() was called.
     [[nodiscard]] bool wait(const Cursor &cursor) const;
-    // Waits whatever happens, so that a page is not told more often than it can be looked at. False as above.
+    // Waits in any case, which limits the update rate of a page. False as above.
     [[nodiscard]] bool pause(std::chrono::milliseconds time) const;
     // What is new, as one JSON object; empty when nothing is. Moves the cursor on.
     [[nodiscard]] std::string update(Cursor &cursor) const;
-    // Ends all waiting.
+    // Ends all waits.
     void close();
 
 private:

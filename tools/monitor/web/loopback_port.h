@@ -1,7 +1,7 @@
 // Ports of the loopback address.
 #pragma once
 
-// 0 when somebody can listen there now, or the number of the error.
+// 0 when the port can be listened on now, or the error number.
 [[nodiscard]] int whyNotFree(int port);
-// The next one above that is free; 0 when there is none.
+// The next free port above; 0 when there is none.
 [[nodiscard]] int nextFreePort(int port);

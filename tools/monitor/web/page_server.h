@@ -12,7 +12,7 @@
 
 class PageServer {
 public:
-    // Passes a line on that a user might have typed. False when it is not taken now. Called on threads of the server.
+    // Passes on a line as typed by a user. False when it is not accepted now. Called on threads of the server.
     using Command = std::function<bool(const std::string &line)>;
 
     // port: 0 for any. The history stays the caller's. Fails the command, with the next free port in its message, when

@@ -5,6 +5,6 @@
 
 #include "capability/system_report.h"
 
-// One object: openGL, sections (name, isSupported), features (name, isAvailable, requires: texts of which one has to
-// hold, holdsBack: names of what asks for it).
+// One object: openGL, sections (name, isSupported), features (name, isAvailable, requires: texts of which one must
+// hold, holdsBack: names of what requires it).
 [[nodiscard]] std::string jsonOf(const capability::SystemReport &report);

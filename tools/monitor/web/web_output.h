@@ -1,4 +1,4 @@
-// Keeps for the pages what the monitor sees. Lives on the monitor's thread.
+// Records the monitor's events for the pages. Lives on the monitor's thread.
 #pragma once
 
 #include <map>
@@ -9,11 +9,11 @@
 
 class WebOutput final : public MonitorOutput {
 public:
-    // The history stays the caller's.
+    // The history is owned by the caller.
     explicit WebOutput(History &history) : m_history(history) {}
 
     void listening(const std::string &, bool) override {}
-    // Nothing of an application is kept before its hello.
+    // Nothing is recorded of an application before its hello.
     void record(const MonitoredApplication &application, const ui::messages::Message &message) override;
     void ended(const MonitoredApplication &application) override;
     void notice(const std::string &text) override { m_history.addNotice(text); }
@@ -30,5 +30,5 @@ private:
     void takeLogLine(const Known &known, const ui::messages::Message &message, const std::string &line);
 
     History &m_history;
-    std::map<const MonitoredApplication *, Known> m_known; // those that are connected
+    std::map<const MonitoredApplication *, Known> m_known; // the connected ones
 };

@@ -11,7 +11,7 @@ constexpr int scope = RTLD_LAZY | RTLD_LOCAL;
 } // namespace
 
 void *openHostLibrary() {
-    // Desktop programs whose loader finds libGL.so.1 in the process take it for one that draws by GLX.
+    // Desktop programs whose loader finds libGL.so.1 in the process assume that it draws by GLX.
     void *const plain = servesDesktopClients() ? dlopen("libOpenGL.so.0", scope) : nullptr;
     return plain ? plain : dlopen("libGL.so.1", scope);
 }

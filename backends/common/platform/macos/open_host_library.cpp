@@ -6,7 +6,7 @@ void *openHostLibrary() {
     return dlopen("/System/Library/Frameworks/OpenGL.framework/Libraries/libGL.dylib", RTLD_LAZY | RTLD_LOCAL);
 }
 
-// The library exports all that it has.
+// The library exports all its functions.
 void *unexportedFunction(void *, const char *) {
     return nullptr;
 }

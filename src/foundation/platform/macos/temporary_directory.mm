@@ -2,7 +2,7 @@
 
 #include "foundation/paths.h"
 
-// Ends in a slash by the platform's rule. May run on a thread without a pool of its own.
+// Ends in a slash, as the platform defines. May run on a thread without an autorelease pool.
 std::string getTemporaryDirectory() {
     @autoreleasepool {
         const char *path = [NSTemporaryDirectory() UTF8String];

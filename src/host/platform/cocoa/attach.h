@@ -1,4 +1,4 @@
-// What a context draws to: attaching views and pixel buffers, and showing a view.
+// The drawables of a context: attaching views and pixel buffers, and swapping a view.
 #pragma once
 
 #include "host/platform/operations.h"
@@ -10,9 +10,9 @@ View view(const ContextContainer *container);
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer);
 void observeViewFrame(ContextContainer *container, const View &view);
 void flushBuffer(ContextContainer *container);
-// Always 0: Cocoa does not tell.
+// Always 0: Cocoa does not report it.
 int32_t bufferAge(ContextContainer *container);
-// Does nothing: Cocoa has no connection that is the application's own.
+// Does nothing: on Cocoa the application has no connection of its own.
 void flushApplication(uint64_t display);
 
 } // namespace host::platform::cocoa

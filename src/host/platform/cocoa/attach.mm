@@ -22,8 +22,8 @@ bool setView(ContextContainer *container, const View &view) {
     @autoreleasepool {
         NSOpenGLContext *context = [objectOf(container) m_context];
         const id object = objectOf(view);
-        // An application may hand in a pixel buffer as its window. Any other object is not attached and no failure:
-        // the context is then made current with what it has.
+        // An application may pass a pixel buffer as its window. Any other object is not attached, which is no failure:
+        // the context is then made current with what is attached already.
         if (!object || viewOf(view))
             attachView(context, view);
         else if ([object isKindOfClass:[NSOpenGLPixelBuffer class]])

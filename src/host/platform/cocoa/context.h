@@ -1,5 +1,5 @@
-// Contexts on Cocoa, each in a container that owns it. What the getters of the platform autorelease lives in pools of
-// our own: an application's rendering threads need not have one, and a context would then outlive its owner.
+// Contexts on Cocoa, each in a container that owns it. Objects that the platform's getters autorelease are released by
+// pools of our own: an application's rendering threads may have none, and a context would then outlive its owner.
 #pragma once
 
 #include "host/platform/operations.h"

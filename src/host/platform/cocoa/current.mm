@@ -22,7 +22,7 @@ bool makeCurrent(ContextContainer *container) {
     return true; // Cocoa does not tell
 }
 
-// A context keeps what is attached to it, so the context alone is the binding.
+// A context keeps its drawable attached, so the context alone is the binding.
 SavedBinding *saveBinding() {
     @autoreleasepool {
         return handleOf<SavedBinding>([[NSOpenGLContext currentContext] retain]);

@@ -1,4 +1,4 @@
-// What the handles of the operations list are here: each is the address of one platform object.
+// The handle types of the operations list on Cocoa: each handle is the address of one platform object.
 #pragma once
 
 #import <Cocoa/Cocoa.h>
@@ -26,12 +26,12 @@ inline NSOpenGLContext *objectOf(const SavedBinding *binding) {
     return reinterpret_cast<NSOpenGLContext *>(const_cast<SavedBinding *>(binding));
 }
 
-// Whatever object the application handed in as its window; nil for View{}.
+// The object that the application passed as its window; nil for View{}.
 inline id objectOf(const View &view) {
     return reinterpret_cast<id>(view.window);
 }
 
-// Nil when that object is no view.
+// Nil when that object is not a view.
 inline NSView *viewOf(const View &view) {
     const id object = objectOf(view);
     return [object isKindOfClass:[NSView class]] ? object : nil;

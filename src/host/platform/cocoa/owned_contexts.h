@@ -1,5 +1,5 @@
-// What the list tells of a context and Cocoa does not: which container owns it, and on which display its view was
-// attached. One record a living container. Any thread.
+// Facts about a context that Cocoa does not report: which container owns it, and on which display its view was
+// attached. One record per live container. Any thread.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Pixel buffers: the platform's own objects, asked for with whatever values come. What it refuses is null.
+// Pixel buffers: the platform's own objects, created with the values as given. Null when the platform rejects them.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// Pixel formats on Cocoa. Their attribute numbers are the list's own vocabulary, so a list goes to the platform as it
-// is. There is one display, whatever its host word.
+// Pixel formats on Cocoa. The list uses Cocoa's attribute numbers, so it is passed to the platform unchanged. There is
+// one display, whatever its host value is.
 #pragma once
 
 #include <cstdint>

@@ -13,7 +13,7 @@ static_assert(uint32_t(NSOpenGLPFADoubleBuffer) == DoubleBuffer && uint32_t(NSOp
 static_assert(sizeof(NSOpenGLPixelFormatAttribute) == sizeof(uint32_t));
 
 PixelFormat *createPixelFormat(uint64_t, const uint32_t *attributes) {
-    // Not every platform header says that the list is only read.
+    // Not every platform header declares the list as const.
     auto *list = reinterpret_cast<NSOpenGLPixelFormatAttribute *>(const_cast<uint32_t *>(attributes));
     return handleOf<PixelFormat>([[NSOpenGLPixelFormat alloc] initWithAttributes:list]);
 }

@@ -1,4 +1,4 @@
-// The swap interval, which Cocoa keeps with the context.
+// The swap interval, which Cocoa stores in the context.
 #pragma once
 
 #include <cstdint>

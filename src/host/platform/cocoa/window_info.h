@@ -1,4 +1,4 @@
-// Size and title of application views, asked of the platform at every call.
+// Size and title of application views, queried from the platform at every call.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace host::platform::cocoa {
 
-// Frames may be read on the main thread only: from any other thread this waits until the main queue has done it, and
-// for ever if the main thread waits for the caller.
+// Frames may be read on the main thread only: other threads wait until the main queue has read the frame, and wait for
+// ever if the main thread waits for the caller.
 void viewSize(const View &view, int32_t *width, int32_t *height);
 std::string viewTitle(const View &view);
 

@@ -6,7 +6,7 @@
 
 #include "host/platform/recording/appkit.h"
 
-// Threads of the cases never run at the same time.
+// The threads of the cases never run concurrently.
 std::string recorded_appkit::messages, recorded_appkit::failingClass;
 
 namespace {

@@ -86,7 +86,7 @@ std::string call(const char *operation, const Arguments &...arguments) {
     return operation + ("(" + line + ")");
 }
 
-// Notes a call; the mutex is held.
+// Records a call; the mutex is held.
 void note(const std::string &line) {
     script().log += line + "\n";
 }

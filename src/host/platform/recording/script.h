@@ -1,4 +1,4 @@
-// What the recording platform has noted and what it is told to answer. One of it for the process, under one mutex.
+// What the recording platform has recorded and the results that it is set to return. One per process, under one mutex.
 #pragma once
 
 #include <cstdint>
@@ -33,7 +33,7 @@ struct Script {
 // True once for each recordingFailNext with the name. Call with the mutex held.
 [[nodiscard]] bool takeFailure(const char *operation);
 
-// What the calling thread has current: at most one of the two is set.
+// The calling thread's binding: at most one of the two is set.
 struct ThreadBinding {
     ContextContainer *container = nullptr;
     uint32_t foreign = 0;

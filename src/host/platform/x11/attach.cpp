@@ -11,7 +11,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// None when the view is gone or cannot be drawn to.
+// None when the view does not exist or cannot be drawn to.
 GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     auto &connection = container.connection;
     const auto facts = connection.windowFacts(view);

@@ -1,4 +1,4 @@
-// What a context draws to: attaching views and pixel buffers, and showing a view.
+// The drawables of a context: attaching views and pixel buffers, and swapping a view.
 #pragma once
 
 #include "host/platform/operations.h"

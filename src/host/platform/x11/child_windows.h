@@ -1,5 +1,5 @@
-// Children of application windows whose visual cannot be drawn to: each fills its parent, shows what is drawn, and lets
-// all input through to it. A child goes with its parent; until then it is used again. Any thread.
+// Children of application windows whose visual cannot be drawn to: each fills its parent, shows what is drawn, and
+// passes all input to it. A child is destroyed with its parent; until then it is reused. Any thread.
 #pragma once
 
 #include <map>
@@ -15,16 +15,16 @@ class ChildWindows {
 public:
     explicit ChildWindows(Display *display) : m_display(display) {}
 
-    // The child of that visual, which fills a parent of that size, not shown at first. None when the parent is gone.
+    // The child of that visual, which fills a parent of that size, initially unmapped. None when there is no parent.
     [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
-    // With the first frame, and not before: a child that covers its parent keeps every Expose event from it, and there
-    // are applications that draw at their first one. Hides the parent's other children, which would cover it; no child
+    // Called with the first frame, and not before: a child that covers its parent takes every Expose event from it, and
+    // some applications draw at their first one. Unmaps the parent's other children, which would cover it; no child
     // has the parent's own number.
     void show(Window parent, Window child);
-    // Brings the parent's children to its size.
+    // Resizes the parent's children to its size.
     void resize(Window parent, unsigned width, unsigned height);
     [[nodiscard]] bool has(Window child);
-    // For a parent or a child that is gone.
+    // Called for a parent or a child that no longer exists.
     void forget(Window window);
 
 private:
@@ -39,7 +39,7 @@ private:
     void fit(Child &child, unsigned width, unsigned height);
 
     Display *m_display;
-    std::mutex m_mutex; // guards what is below
+    std::mutex m_mutex; // guards the fields below
     std::map<std::pair<Window, VisualID>, Child> m_children;
     std::map<VisualID, Colormap> m_colormaps;
 };

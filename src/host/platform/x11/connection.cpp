@@ -10,7 +10,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// Small words cannot be addresses: they all mean the default display.
+// Small values cannot be addresses: they all mean the default display.
 constexpr uint64_t firstAddress = 4096;
 
 struct Connections {

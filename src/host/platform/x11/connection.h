@@ -1,5 +1,5 @@
-// Our own connection to an X server: one for each, opened at first use and kept for the life of the process, so that
-// nothing of it can be closed under a context. The application's connections are only asked which server they are on.
+// Our own connection to an X server: one for each, opened at first use and kept for the life of the process, so that no
+// context loses its connection. The application's connections are only queried for the server that they belong to.
 #pragma once
 
 #include <atomic>
@@ -18,15 +18,15 @@
 
 namespace host::platform::x11 {
 
-// displayWord: of an application's Display that is open still; 0 has none.
+// displayWord: of an application's Display that is still open; 0 for none.
 void flushApplication(uint64_t displayWord);
 
 class Connection {
 public:
-    // By a display's host word: 0 for the server of $DISPLAY, otherwise the application's Display. Where $DISPLAY leads
-    // nowhere, 0 means whichever server is known already. Null when the server is not there.
+    // By a display's host value: 0 for the server of $DISPLAY, otherwise the application's Display. If $DISPLAY names
+    // no server, 0 means whichever server is known already. Null when the server is unreachable.
     [[nodiscard]] static Connection *open(uint64_t displayWord);
-    // The same without following a word that open() has met before: its Display may have been closed since.
+    // The same without dereferencing a value that open() has seen before: its Display may have been closed since.
     [[nodiscard]] static Connection *find(uint64_t displayWord);
 
     explicit Connection(Display *display);
@@ -35,20 +35,20 @@ public:
 
     [[nodiscard]] Display *display() const { return m_display; }
     [[nodiscard]] int screen() const { return m_screen; }
-    // The server went away. Nothing may be asked of GLX any more.
+    // The server has closed the connection. GLX must not be called any more.
     [[nodiscard]] bool isLost() const { return m_isLost; }
     [[nodiscard]] bool hasGlxExtension(std::string_view name) const;
-    // The greatest that a drawable takes; 1 for a host that does not say.
+    // The greatest swap interval of a drawable; 1 if the host does not report it.
     [[nodiscard]] int32_t maxSwapInterval() const;
 
-    // A software renderer, which asks the server for the size of its drawable and does not look at the answer.
+    // A software renderer, which queries the server for the size of its drawable and does not check the reply.
     [[nodiscard]] bool isSoftware() const { return m_isSoftware; }
-    // Sends what waits in the buffer, if anything does.
+    // Flushes the output buffer, if it is not empty.
     void flush();
-    // Nothing when the view is gone or is on another server. Waits for the application's own connection when the window
-    // is not known yet: it may still sit in the output buffer there.
+    // Nothing when the view does not exist or is on another server. Syncs the application's own connection when the
+    // window is unknown: its creation may still be in the output buffer there.
     [[nodiscard]] std::optional<WindowFacts> windowFacts(const View &view);
-    // The same, asked of the server at each call: other clients hear of a change when we do, or a moment before.
+    // The same, queried from the server at each call: other clients learn of a change when we do, or a moment before.
     [[nodiscard]] std::optional<WindowFacts> askWindow(const View &view);
 
     FbConfigs &configs() { return m_configs; }

@@ -10,7 +10,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// Without a version the host gives its highest one that is compatible with the oldest.
+// Without a version the host creates its highest one that is compatible with the oldest.
 constexpr int legacyAttributes[] = {GLX_CONTEXT_PROFILE_MASK_ARB, GLX_CONTEXT_COMPATIBILITY_PROFILE_BIT_ARB};
 constexpr int coreAttributes[] = {GLX_CONTEXT_MAJOR_VERSION_ARB, 3,
                                   GLX_CONTEXT_MINOR_VERSION_ARB, 2,

@@ -1,5 +1,5 @@
-// Contexts on X11 and what is attached to them. GLX binds a context and its drawable in one call, so what is attached
-// waits in the container until the context is bound. One thread at a time holds a context: the one that has it current.
+// Contexts on X11 and their drawables. GLX binds a context and its drawable in one call, so the container stores the
+// attached drawable until the context is bound. One thread at a time holds a context: the one that has it current.
 #pragma once
 
 #include <atomic>
@@ -28,14 +28,14 @@ struct ContextContainer {
     x11::Connection &connection;
     const x11::FbConfig &config;
     const GLXContext context;
-    // An even word of the thread that has it current, or has saved it as what was; 0 for none. With 1 added once its
-    // owner has released it, so that it goes with its holder.
+    // An even id of the thread that has it current, or has saved it as its previous binding; 0 for none. 1 is added
+    // once the owner has released it, so that it is destroyed when its holder releases it.
     std::atomic<uintptr_t> holder = 0;
 
-    // Of the holder; without one, of the thread that binds it, which callers let there be one of.
+    // Used by the holder; without one, by the thread that binds it; callers ensure that there is only one.
     x11::Attachment attachment;
     std::optional<int32_t> swapInterval;
-    GLXPbuffer placeholder = 0; // stands in for no drawable on hosts that insist on one
+    GLXPbuffer placeholder = 0; // replaces no drawable on hosts that require one
 };
 
 namespace x11 {
@@ -43,7 +43,7 @@ namespace x11 {
 ContextContainer *createContext(const PixelFormat *format, ContextContainer *share);
 void releaseContext(ContextContainer *container);
 
-// False when another thread holds the context, which may neither be bound nor be given another drawable then.
+// False when another thread holds the context; it can then neither be bound nor be attached to another drawable.
 [[nodiscard]] bool canHold(const ContextContainer &container);
 void hold(ContextContainer &container);
 // Destroys a context that was released while it was held.

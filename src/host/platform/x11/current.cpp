@@ -8,7 +8,7 @@
 
 namespace host::platform {
 
-// The application's own GLX calls can make anything current, so GLX is asked, and not only we.
+// The application's own GLX calls can make any context current, so GLX is queried and not only our record.
 struct SavedBinding {
     Display *display = nullptr;
     GLXDrawable draw = 0;

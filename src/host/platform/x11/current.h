@@ -1,4 +1,4 @@
-// Which context a thread has current, ours or somebody else's.
+// Which context a thread has current, ours or a foreign one.
 #pragma once
 
 #include "host/platform/operations.h"

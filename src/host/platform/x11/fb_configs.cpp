@@ -28,7 +28,7 @@ Visuals trueColorVisuals(Display *display, int screen) {
     return visuals;
 }
 
-// Bits of EGL_SURFACE_TYPE, of which windows need a visual.
+// Bits of EGL_SURFACE_TYPE; windows require a visual.
 int32_t drawableTypes(int glxTypes, bool hasVisual) {
     constexpr int32_t pbuffer = 1, pixmap = 2, window = 4;
     return (glxTypes & GLX_PBUFFER_BIT ? pbuffer : 0) | (glxTypes & GLX_PIXMAP_BIT ? pixmap : 0) |

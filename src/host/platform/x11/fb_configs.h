@@ -1,5 +1,5 @@
-// The framebuffer configs of one screen, and which of them stands for an attribute list. Read once, since the first
-// look costs tens of milliseconds. Any thread.
+// The framebuffer configs of one screen, and how one is chosen for an attribute list. Read once, since the first query
+// costs tens of milliseconds. Any thread.
 #pragma once
 
 #include <compare>
@@ -42,17 +42,17 @@ struct FbConfig {
     } maxPbuffer;
     int32_t drawableTypes = 0; // bits of EGL_SURFACE_TYPE
     bool hasCaveat = false;
-    bool copiesAtSwap = false; // so that the back buffer keeps its contents
+    bool copiesAtSwap = false; // so the back buffer keeps its contents
 };
 
 class FbConfigs {
 public:
     FbConfigs(Display *display, int screen) : m_display(display), m_screen(screen) {}
 
-    // Good for windows and pixel buffers, TrueColor, at least as large as asked. Null when there is no such config.
+    // A config for windows and pixel buffers, TrueColor, at least as large as requested. Null when there is none.
     [[nodiscard]] const FbConfig *choose(const FormatSizes &wanted);
-    // The config that comes nearest to these sizes; those that are good for windows win among equals. Null when exactly
-    // these are wanted and no config has them.
+    // The config that is nearest to these sizes; among equals, configs that support windows win. Null when an exact
+    // match is required and no config has one.
     [[nodiscard]] const FbConfig *chooseFitting(const FormatSizes &wanted, const ChannelSizes &channels, bool exactly);
 
 private:

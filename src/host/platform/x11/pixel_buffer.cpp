@@ -15,7 +15,7 @@ struct PixmapFacts {
     int32_t depth = 0;
 };
 
-// Nothing where there is no such drawable, or it is a window.
+// Nothing when the drawable does not exist or is a window.
 std::optional<PixmapFacts> findPixmap(uint64_t displayWord, Pixmap pixmap) {
     auto *connection = Connection::open(displayWord);
     if (!connection || connection->isLost() || !pixmap) return std::nullopt;

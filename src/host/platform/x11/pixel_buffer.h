@@ -1,6 +1,6 @@
-// Pixel buffers: a record of what was asked, and the GLX drawables made of it for the contexts that attach it, which
-// are pbuffers, or stand for a pixmap of the application's. Those go when the owner has released the record and nothing
-// is attached to it any more. Any thread.
+// Pixel buffers: a record of the request, and the GLX drawables created for the contexts that attach it, which are
+// pbuffers, or GLX pixmaps for a pixmap of the application. Those are destroyed when the owner has released the record
+// and no context has it attached any more. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -18,14 +18,14 @@ namespace x11 {
 
 class Pbuffers {
 public:
-    // own: the config of every buffer; null for that of the context that attaches it. pixmap: None for pbuffers.
+    // own: the config of every drawable; null for that of the attaching context. pixmap: None for pbuffers.
     Pbuffers(int32_t width, int32_t height, const FbConfig *own, Pixmap pixmap = None)
         : pixmap(pixmap), m_width(width), m_height(height), m_own(own) {}
     Pbuffers(const Pbuffers &) = delete;
     Pbuffers &operator=(const Pbuffers &) = delete;
     ~Pbuffers();
 
-    // Made at the first call for the config. None when the host refuses.
+    // Created at the first call for the config. None when the host fails.
     [[nodiscard]] GLXDrawable bufferFor(Connection &connection, const FbConfig &contextConfig);
 
     const Pixmap pixmap;

@@ -62,8 +62,8 @@ PixelFormat *choose(Connection *connection, const Request &request) {
                            .fitsAnyDrawable = request.fit == fitAnyDrawable};
 }
 
-// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server. Pixmaps are shown by a swap, which has
-// to keep what was drawn.
+// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server. Pixmaps are updated by a swap, which
+// has to preserve the contents.
 int32_t drawableTypes(const PixelFormat &format) {
     constexpr int32_t pixmap = 2, window = 4, preserved = 0x400;
     const int32_t types = format.config.drawableTypes;

@@ -1,4 +1,4 @@
-// Pixel formats on X11: a framebuffer config of one connection, and the profile that the list asked for.
+// Pixel formats on X11: a framebuffer config of one connection, and the profile that the list requested.
 #pragma once
 
 #include <cstdint>
@@ -13,15 +13,15 @@ struct PixelFormat {
     x11::Connection &connection;
     const x11::FbConfig &config;
     uint32_t profile = profileLegacy; // what a list without a profile gets
-    bool fitsConfig = false;          // made for one config, and keeps what was found for it
-    bool fitsAnyDrawable = false;     // contexts of it have no config of their own
+    bool fitsConfig = false;          // created for one config, whose attributes it keeps
+    bool fitsAnyDrawable = false;     // its contexts have no config of their own
     bool isRobust = false;
     bool losesContextOnReset = false;
 };
 
 namespace x11 {
 
-// What RobustContexts says.
+// The value of RobustContexts.
 int32_t robustContexts(const Connection &connection);
 
 PixelFormat *createPixelFormat(uint64_t display, const uint32_t *attributes);

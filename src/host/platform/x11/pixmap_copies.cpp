@@ -27,7 +27,7 @@ Size sizeOf(Display *display, GLXDrawable drawable) {
 
 void swapNow(Display *display, GLXDrawable drawable) {
     glXSwapBuffers(display, drawable);
-    // The application reads the pixmap on a connection of its own.
+    // The application reads the pixmap on its own connection.
     XSync(display, False);
 }
 

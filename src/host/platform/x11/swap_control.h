@@ -1,4 +1,4 @@
-// The swap interval, through whichever of the three extensions the host has.
+// The swap interval, through whichever of the three extensions the host supports.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace host::platform::x11 {
 
-// Kept by the context, and applied whenever it is bound to a view: hosts keep it by drawable.
+// Stored in the context, and applied whenever it is bound to a view: hosts store it per drawable.
 void setSwapInterval(ContextContainer *container, int32_t interval);
 // For a context that is current on the calling thread.
 void applySwapInterval(const ContextContainer &container);

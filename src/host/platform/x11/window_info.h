@@ -1,4 +1,4 @@
-// Size and title of application windows. The size is asked of the server at every call, the title once a change.
+// Size and title of application windows. The size is queried from the server at every call, the title once a change.
 #pragma once
 
 #include <cstdint>

@@ -23,7 +23,7 @@ std::optional<WindowFacts> WindowWatch::find(Window window) {
 
 std::optional<WindowFacts> WindowWatch::watch(Window window) {
     const std::lock_guard lock(m_mutex);
-    // Selected before the question, so that no change falls in between.
+    // Selects events before the query, so that no change is missed in between.
     select(window, StructureNotifyMask);
     XWindowAttributes attributes{};
     if (!XGetWindowAttributes(m_display, window, &attributes)) {

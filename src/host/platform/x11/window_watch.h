@@ -1,5 +1,5 @@
-// What is known of windows that contexts draw to: asked of the server once, and followed by the events of our own
-// connection from then on, so that a bind or a frame asks nothing. Any thread.
+// Cached state of windows that contexts draw to: queried from the server once, and updated by the events of our own
+// connection from then on, so that a bind or a frame needs no query. Any thread.
 #pragma once
 
 #include <map>
@@ -17,7 +17,7 @@ struct WindowFacts {
     VisualID visual = 0;
     unsigned width = 0;
     unsigned height = 0;
-    bool canBeDrawnTo = false; // of the connection's screen, and not a window for input alone
+    bool canBeDrawnTo = false; // on the connection's screen, and not InputOnly
 };
 
 class WindowWatch {
@@ -25,19 +25,19 @@ public:
     WindowWatch(Display *display, int screen, ChildWindows &children)
         : m_display(display), m_screen(screen), m_children(children) {}
 
-    // Takes in what the server has sent, with one read that does not wait.
+    // Handles the events that the server has sent, with one non-blocking read.
     void readEvents();
-    // Takes in what some other call has read already.
+    // Handles the events that another call has read already.
     void takeReadEvents();
 
-    // As the events so far tell. Nothing for a window that is not watched, or is gone.
+    // The state after the events so far. Nothing for a window that is not watched or does not exist.
     [[nodiscard]] std::optional<WindowFacts> find(Window window);
-    // Asks the server and watches the window. Nothing when it is not there.
+    // Queries the server and watches the window. Nothing when it does not exist.
     std::optional<WindowFacts> watch(Window window);
 
-    // The title that find is told to keep: of a window and those that hold it, until one of them changes.
+    // The title that find stores: of a window and its ancestors, until one of them changes.
     [[nodiscard]] std::optional<std::string> findTitle(Window window);
-    // Watches a window whose title or parent counts for another's title.
+    // Watches a window whose title or parent affects another's title.
     void watchTitle(Window window);
     void keepTitle(Window window, const std::string &title);
 
@@ -45,10 +45,10 @@ private:
     struct Watched {
         std::optional<WindowFacts> facts;
         std::optional<std::string> title;
-        long events = 0; // that are asked for
+        long events = 0; // the selected event mask
     };
 
-    // All with the mutex held.
+    // All require the mutex.
     void handle(const XEvent &event);
     void select(Window window, long events);
     void forgetTitles();

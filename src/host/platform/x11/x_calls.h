@@ -1,6 +1,6 @@
-// X and GLX calls that can raise errors which nobody else may see or which are the only sign of failure: the same
-// parameters as the call of that name, and a result that tells. They wait for the server, so they are for what happens
-// seldom.
+// X and GLX calls that raise errors which must stay hidden or are the only sign of failure: the parameters of the call
+// of that name, and a result that reports the failure. They wait for the server, so they are for calls that happen
+// rarely.
 #pragma once
 
 #include <mutex>
@@ -13,13 +13,13 @@
 
 namespace host::platform::x11::calls {
 
-// A trap takes the errors of a whole display, so one thread traps at a time.
+// A trap catches the errors of a whole display, so one thread traps at a time.
 inline std::mutex &trapMutex() {
     static auto *mutex = new std::mutex;
     return *mutex;
 }
 
-// None when the server refuses the parent, the visual or the size.
+// None when the server rejects the parent, the visual or the size.
 inline Window createWindow(Display *display, Window parent, int x, int y, unsigned width, unsigned height,
                            unsigned borderWidth, int depth, unsigned windowClass, Visual *visual, unsigned long mask,
                            XSetWindowAttributes *attributes) {
@@ -30,7 +30,7 @@ inline Window createWindow(Display *display, Window parent, int x, int y, unsign
     return trap.sawError() ? None : window;
 }
 
-// None when the host refuses the size or the config.
+// None when the host rejects the size or the config.
 inline GLXPbuffer createPbuffer(Display *display, GLXFBConfig config, const int *attributes) {
     int glxOpcode = 0, firstEvent = 0, firstError = 0;
     if (!XQueryExtension(display, "GLX", &glxOpcode, &firstEvent, &firstError)) return None;
@@ -40,7 +40,7 @@ inline GLXPbuffer createPbuffer(Display *display, GLXFBConfig config, const int 
     return trap.sawError() ? None : buffer;
 }
 
-// None when the host refuses the pixmap with the config.
+// None when the host rejects the pixmap with the config.
 inline GLXPixmap createPixmap(Display *display, GLXFBConfig config, Pixmap pixmap) {
     const std::lock_guard lock(trapMutex());
     ErrorTrap trap(display);
@@ -48,8 +48,8 @@ inline GLXPixmap createPixmap(Display *display, GLXFBConfig config, Pixmap pixma
     return trap.sawError() ? None : drawable;
 }
 
-// For displays of the application: the errors of this call are ours, and its handler gets none of them. No lock is
-// held, since earlier errors of the application may be delivered meanwhile.
+// For displays of the application: the errors of this call are caught, and its handler receives none of them. No lock
+// is held, since earlier errors of the application may be delivered meanwhile.
 inline Bool makeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
     const ErrorTrap trap(display);
     const Bool isCurrent = glXMakeContextCurrent(display, draw, read, context);

@@ -1,6 +1,6 @@
 #include "host/platform/x11/x_errors.h"
 
-// Defines short macros; it has to come last.
+// Defines short macros; must be included last.
 #include <X11/Xlibint.h>
 
 namespace host::platform::x11 {

@@ -1,4 +1,4 @@
-// The assembler text around bytes that this library alone sees, for the object files of this platform.
+// The assembler directives around embedded bytes that are local to the library, for this platform's object files.
 #pragma once
 
 #define READ_ONLY_SECTION ".section __TEXT,__const\n"
