@@ -1,9 +1,9 @@
 /*
- * Builders of the records that back ends send by zvPostFrameMessage, one a type.
+ * Builders of the records that back ends send with zvPostFrameMessage, one per type.
  *
- * Conventions: a builder returns a whole record, in which everything behind the payload is zero; its frameStamp is
- * ZV_NO_FRAME, which zvPostFrameMessage replaces. Texts end in a zero and may not be null; texts and lists that do not
- * fit their field are cut. Nothing is kept of the arguments. Any thread.
+ * Conventions: a builder returns a complete record, in which all bytes after the payload are zero; its frameStamp is
+ * ZV_NO_FRAME, which zvPostFrameMessage replaces. Texts are null-terminated and must not be null pointers. Texts and
+ * lists that do not fit their field are truncated. The arguments are not retained. Any thread.
  */
 #ifndef ZELVANE_MESSAGE_BUILDERS_H
 #define ZELVANE_MESSAGE_BUILDERS_H
@@ -33,7 +33,7 @@ typedef struct zvLists {
     zvList lastList;
 } zvLists;
 
-/* A record of that type without a payload. */
+/* Returns a record of the type without a payload. */
 static inline zvMessage zvBuildEmpty(zvMessageType type) {
     zvMessage message;
     memset(&message, 0, sizeof message);
@@ -42,13 +42,14 @@ static inline zvMessage zvBuildEmpty(zvMessageType type) {
     return message;
 }
 
-/* Copies a text into a field of that size, which is zero before. */
+/* Copies a text into a field of size bytes, which must be zero. */
 static inline void zvCopyText(char *field, size_t size, const char *text) {
     const size_t length = strlen(text);
     memcpy(field, text, length < size ? length : size - 1);
 }
 
-/* Copies a list into a field of that many entries, which are zero before. */
+/* Copies a list into a field of size entries, which must be zero. */
+
 static inline void zvCopyList(uint32_t *field, size_t size, zvList list) {
     const size_t count = list.count < size ? list.count : size - 1;
     if (count > 0) memcpy(field, list.values, count * sizeof *field);

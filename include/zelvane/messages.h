@@ -1,18 +1,18 @@
 /*
- * The record of the GUI link. The library and back ends tell a GUI of an application by it, and a GUI commands the
- * library by it.
+ * The record of the GUI link. The library and back ends report to a GUI with it, and a GUI sends commands to the
+ * library with it.
  *
  * Conventions: a record is exactly ZV_MESSAGE_SIZE bytes, on the wire and in memory, in the byte order of the machine;
- * both ends are on one machine. It has no length prefix and no check value, and travels whole however short its payload
- * is. Bytes behind a payload are not defined and are not for reading. The socket is a Unix domain socket of the stream
- * type, /tmp/Zelvane; the GUI listens. The first record of an application is ZV_PROCESS_HELLO.
+ * both ends are on one machine. It has no length prefix and no checksum, and is always sent whole, even if its payload
+ * is shorter. Bytes after the payload are undefined and must not be read. The socket is a Unix domain stream socket,
+ * /tmp/Zelvane; the GUI listens. The first record of an application is ZV_PROCESS_HELLO.
  *
- * Every record starts with frameStamp and type, so that `header` is good for reading these two of any record. A text
- * field ends in a zero and so holds one character less than its size; longer texts are cut. A list ends in a zero
- * entry and so holds one value less than its size. Entries of a list that is cut short are lost.
+ * Every record starts with frameStamp and type, so that `header` can read these two fields of any record. A text field
+ * is null-terminated and therefore holds at most its size minus one characters; longer texts are truncated. A list ends
+ * with a zero entry and therefore holds at most its size minus one values; further values are lost.
  *
- * Back ends send by zvPostFrameMessage of back_end.h what the builders of message_builders.h make. What the values of
- * types 3, 4, 5, 9 and 10 mean is between a back end and its GUI; the library passes them on.
+ * Back ends build records with the builders of message_builders.h and send them with zvPostFrameMessage of back_end.h.
+ * A back end and its GUI define the meaning of the values of types 3, 4, 5, 9 and 10; the library only forwards them.
  */
 #ifndef ZELVANE_MESSAGES_H
 #define ZELVANE_MESSAGES_H
@@ -24,15 +24,15 @@ extern "C" {
 #endif
 
 #define ZV_MESSAGE_SIZE 8240
-#define ZV_MESSAGE_TEXT_SIZE 512       /* a text field, in bytes with its zero */
+#define ZV_MESSAGE_TEXT_SIZE 512       /* a text field, in bytes including the terminator */
 #define ZV_MESSAGE_NAME_SIZE 64        /* the short text field of ZV_BACK_END_NAMED_TEXT */
-#define ZV_MESSAGE_LIST_SIZE 512       /* a list of ZV_BACK_END_LISTS, in entries with its zero */
+#define ZV_MESSAGE_LIST_SIZE 512       /* a list of ZV_BACK_END_LISTS, in entries including the terminator */
 #define ZV_MESSAGE_EXTENSION_SIZE 1928 /* the list of ZV_SYSTEM_REPORT_FEATURE_ALTERNATIVE, likewise */
 
 /* frameStamp of a record that belongs to no frame. */
 #define ZV_NO_FRAME UINT64_MAX
 
-/* What a record is, who sends it to whom, and the member of zvMessage that holds its payload. */
+/* The type of a record. Each comment gives sender, receiver and the member of zvMessage that holds the payload. */
 typedef enum zvMessageType {
     ZV_PROCESS_HELLO = 0,                           /* library to GUI: processHello */
     ZV_LINK_STOP = 1,                               /* library to GUI: no payload; nothing follows it */
@@ -57,10 +57,10 @@ typedef enum zvMessageType {
     ZV_SYSTEM_REPORT_END = 20                       /* library to GUI: no payload */
 } zvMessageType;
 
-/* At the head of every record. */
+/* The first fields of every record. */
 #define ZV_MESSAGE_HEADER                                                                                              \
     uint64_t frameStamp; /* number of the frame, or ZV_NO_FRAME; 0 in types 14 to 19 */                                \
-    uint32_t type;       /* a zvMessageType; a receiver passes over values that it does not know */
+    uint32_t type;       /* a zvMessageType; a receiver ignores unknown values */
 
 typedef struct zvMessageHeader {
     ZV_MESSAGE_HEADER
@@ -68,7 +68,7 @@ typedef struct zvMessageHeader {
 
 typedef struct zvProcessHello {
     ZV_MESSAGE_HEADER
-    int32_t processNumber; /* as getpid() gives it */
+    int32_t processNumber; /* as returned by getpid() */
 } zvProcessHello;
 
 /* A window title or a log line, in UTF-8. */
@@ -96,10 +96,10 @@ typedef struct zvBackEndNamedText {
     char text[ZV_MESSAGE_TEXT_SIZE];
 } zvBackEndNamedText;
 
-/* The largest payload: it sets the size of the record. */
+/* The largest payload: it determines the size of the record. */
 typedef struct zvBackEndLists {
     ZV_MESSAGE_HEADER
-    uint32_t reserved; /* not for reading */
+    uint32_t reserved; /* must not be read */
     uint64_t key;
     int32_t number; /* the one signed value */
     uint32_t firstValues[2];
@@ -110,27 +110,28 @@ typedef struct zvBackEndLists {
 
 typedef struct zvSystemReportGlVersion {
     ZV_MESSAGE_HEADER
-    uint32_t glVersion; /* of the host's OpenGL: 1 to 19 for 1.0 to 4.6, 20 for another, 0 when it gives none */
+    uint32_t glVersion; /* of the host's OpenGL: 1 to 19 for 1.0 to 4.6, 20 for any other, 0 if it reports none */
 } zvSystemReportGlVersion;
 
 typedef struct zvSystemReportExtension {
     ZV_MESSAGE_HEADER
     uint32_t extension;   /* number of a host extension, from 1 */
-    uint32_t isAvailable; /* 1 when the host has it, otherwise 0 */
+    uint32_t isAvailable; /* 1 if the host has it, otherwise 0 */
 } zvSystemReportExtension;
 
 typedef struct zvSystemReportFeature {
     ZV_MESSAGE_HEADER
     char name[ZV_MESSAGE_TEXT_SIZE];
-    uint32_t isAvailable; /* 1 when the host can do it, otherwise 0 */
+    uint32_t isAvailable; /* 1 if the host provides it, otherwise 0 */
 } zvSystemReportFeature;
 
-/* One way to get the feature of that name, which a ZV_SYSTEM_REPORT_FEATURE has told before. */
+/* One way to provide the feature of that name, which an earlier ZV_SYSTEM_REPORT_FEATURE has reported. */
 typedef struct zvSystemReportFeatureAlternative {
     ZV_MESSAGE_HEADER
     char name[ZV_MESSAGE_TEXT_SIZE];
-    uint32_t minVersion;                            /* host OpenGL version that it takes, as above */
-    uint32_t extensions[ZV_MESSAGE_EXTENSION_SIZE]; /* host extensions that it takes besides */
+    uint32_t minVersion;                            /* required host OpenGL version, as above */
+    uint32_t extensions[ZV_MESSAGE_EXTENSION_SIZE]; /* additionally required host extensions */
+
 } zvSystemReportFeatureAlternative;
 
 typedef struct zvSystemReportEsRequirement {

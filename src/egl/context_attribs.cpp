@@ -1,6 +1,5 @@
 #include "egl/context_attribs.h"
 
-
 #include <cstddef>
 
 #include "egl/refusal.h"
@@ -53,7 +52,7 @@ bool applyAttribute(const Config &config, EGLint attribute, EGLint value, Contex
         attribs.resetStrategy = value;
         return true;
     case EGL_CONTEXT_OPENGL_NO_ERROR_KHR:
-        // Any value sets it, EGL_FALSE too.
+        // Set by any value, EGL_FALSE too.
         attribs.noError = 1;
         return true;
     case EGL_CONTEXT_OPENGL_ROBUST_ACCESS_EXT:

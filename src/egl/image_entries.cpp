@@ -3,6 +3,7 @@
 #include "egl/entry_frame.h"
 #include "egl/extension_entries.h"
 #include "egl/standard/images.h"
+#include "foundation/attribute_list.h"
 
 #include <vector>
 
@@ -18,8 +19,8 @@ constexpr EGLBoolean unknownImageResult = EGL_BAD_PARAMETER;
 EGLImage EGLAPIENTRY createImageKHR(EGLDisplay dpy, EGLContext ctx, EGLenum target, EGLClientBuffer buffer,
                                     const EGLint *attributes) {
     std::vector<EGLAttrib> wide;
-    for (; attributes && *attributes != EGL_NONE; attributes += 2)
-        wide.insert(wide.end(), {attributes[0], attributes[1]});
+    for (const auto &[name, value] : AttributeList(attributes))
+        wide.insert(wide.end(), {name, value});
     wide.push_back(EGL_NONE);
     return eglCreateImage(dpy, ctx, target, buffer, wide.data());
 }

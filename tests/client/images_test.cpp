@@ -213,6 +213,12 @@ TEST_F(DesktopImages, OfWhatIsNoSourceAreRefused) {
     EXPECT_EQ(eglGetError(), EGL_BAD_PARAMETER);
     targetTexture(GL_TEXTURE_2D, image);
     EXPECT_EQ(gl.getError(), GLenum(GL_INVALID_VALUE)) << "a handle that is no more is not followed";
+    const GLuint second = makeSource(EGL_GL_TEXTURE_2D);
+    EXPECT_NE(makeImage(EGL_GL_TEXTURE_2D, second), EGL_NO_IMAGE);
+    gl.deleteTextures(1, &second);
+    EXPECT_NE(makeImage(EGL_GL_TEXTURE_2D, makeSource(EGL_GL_TEXTURE_2D)), EGL_NO_IMAGE)
+        << "a texture that may have the host's name of one that was a sibling";
+    gl.bindTexture(GL_TEXTURE_2D, source);
     const EGLImage again = makeImage(EGL_GL_TEXTURE_2D, source);
     EXPECT_NE(again, EGL_NO_IMAGE) << "the source is free again";
     eglMakeCurrent(m_egl, EGL_NO_SURFACE, EGL_NO_SURFACE, makeContext());

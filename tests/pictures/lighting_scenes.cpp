@@ -24,7 +24,6 @@ void material(GLenum property, const Color &color) {
 // A floor of many vertices, so that lights that are near show.
 void drawFloor() {
     gl.normal3f(0, 0, 1);
-    gl.disableClientState(GL_NORMAL_ARRAY);
     for (int index = 0; index < 256; ++index) {
         const auto x = static_cast<GLfloat>(index % 16) / 8 - 1, y = static_cast<GLfloat>(index / 16) / 8 - 1;
         drawRectangle({x, y}, {x + 0.125f, y + 0.125f});

@@ -108,7 +108,6 @@ void NameTable::replace(GLuint name, GLuint hostName) {
     const std::lock_guard lock(m_mutex);
     const GLuint old = findLocked(name);
     forgetOther(name, old);
-    m_lastNames[old] = name;
     set(name, hostName);
     m_otherNames.erase(hostName);
     m_otherNames.emplace(hostName, name);
@@ -136,6 +135,8 @@ GLuint NameTable::remove(GLuint name) {
     if (hostName == 0) return 0;
     set(name, 0);
     if (name != hostName) {
+        // A program may delete such objects for ever, and few are attached still.
+        if (m_lastNames.size() >= mostLastNames) m_lastNames.clear();
         m_lastNames[hostName] = name;
     } else if (m_hasOthers) {
         m_lastNames.erase(hostName);

@@ -55,6 +55,7 @@ public:
 private:
     static constexpr GLuint chunkSize = 1024;
     static constexpr GLuint chunkCount = 1024;
+    static constexpr size_t mostLastNames = 4096;
     using Chunk = std::array<std::atomic<GLuint>, chunkSize>;
 
     static bool isLow(GLuint name) { return name < chunkSize * chunkCount; }

@@ -47,8 +47,11 @@ void GL_APIENTRY genTextures(GLsizei n, GLuint *textures) {
 
 void GL_APIENTRY deleteTextures(GLsizei n, const GLuint *textures) {
     EsContext *const context = EsContext::current();
-    deleteNames(textureNames(), n, textures, hostGl().deleteTextures,
-                [&](GLuint host) { context->shared->textures.swizzles.remove(host); });
+    deleteNames(textureNames(), n, textures, hostGl().deleteTextures, [&](GLuint host) {
+        context->shared->textures.swizzles.remove(host);
+        context->shared->textures.images.siblings.remove(host);
+        context->textures.lastNames.erase(host);
+    });
 }
 
 GLboolean GL_APIENTRY isTexture(GLuint texture) {

@@ -6,6 +6,7 @@
 #include "egl/context.h"
 #include "egl/entry_frame.h"
 #include "egl/standard/group_host.h"
+#include "foundation/attribute_list.h"
 
 namespace egl::standard {
 
@@ -17,9 +18,8 @@ bool isTexture(EGLenum target) {
 }
 
 EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
-    for (; attributes && *attributes != EGL_NONE; attributes += 2) {
-        const EGLAttrib value = attributes[1];
-        switch (attributes[0]) {
+    for (const auto &[name, value] : AttributeList(attributes)) {
+        switch (name) {
         case EGL_IMAGE_PRESERVED:
             // The contents are preserved with either value.
             if (value != EGL_TRUE && value != EGL_FALSE) return EGL_BAD_PARAMETER;
