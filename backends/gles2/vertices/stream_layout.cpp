@@ -8,7 +8,7 @@
 
 namespace {
 
-// The slots of a layout that draws reuse, doubled up to this number.
+// Spare room of a layout that draws reuse, which is doubled up to this limit.
 constexpr size_t mostSpareBytes = size_t(1) << 16;
 
 constexpr size_t padded(size_t size) {
