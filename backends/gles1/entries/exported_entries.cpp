@@ -7,7 +7,7 @@
 
 #define ENTRY(result, name, parameters, arguments, extension)                                                          \
     extern "C" ZV_EXPORT result GL_APIENTRY name parameters {                                                          \
-        static const auto function = reinterpret_cast<result(GL_APIENTRY *) parameters>(resolvePlainName(#name));         \
+        static const auto function = reinterpret_cast<result(GL_APIENTRY *) parameters>(resolvePlainName(#name));      \
         return function ? function arguments : static_cast<result>(0);                                                 \
     }
 #include "data/entries.def"

@@ -8,7 +8,7 @@
 
 #define EXPORT(result, name, parameters, arguments)                                                                    \
     extern "C" ZV_EXPORT result GL_APIENTRY name parameters {                                                          \
-        static const auto function = reinterpret_cast<decltype(&::name)>(resolvePlainName(#name));                        \
+        static const auto function = reinterpret_cast<decltype(&::name)>(resolvePlainName(#name));                     \
         return function ? function arguments : static_cast<result>(0);                                                 \
     }
 #include "data/exported_entries.def"

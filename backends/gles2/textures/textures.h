@@ -1,9 +1,9 @@
 // The texture state of a context and of its share group.
 #pragma once
 
+#include "common/per_back_end/shared_images.h"
 #include "names/name_table.h"
 #include "textures/block_formats.h"
-#include "common/per_back_end/shared_images.h"
 #include "textures/texture_swizzles.h"
 
 #include <atomic>
