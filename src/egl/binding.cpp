@@ -97,7 +97,8 @@ void showPixmap(const Context &current) {
 }
 
 void unbindCurrent(Display &display) {
-    Context *const current = threadRecord.current;
+    // Held to the end: a destruction that was put off takes it from the thread.
+    const auto current = currentContext();
     if (!current) return;
     showPixmap(*current);
     endClaim(*current, display);
