@@ -8,6 +8,8 @@
 #include <mutex>
 #include <vector>
 
+#include <sanitizer/asan_interface.h>
+
 namespace egl {
 
 enum class BackEndKind { Es1, Es2 };
@@ -28,6 +30,7 @@ public:
         if (count != 1 || pool.free.empty()) return std::allocator<Object>().allocate(count);
         Object *memory = pool.free.back();
         pool.free.pop_back();
+        ASAN_UNPOISON_MEMORY_REGION(memory, sizeof(Object));
         return memory;
     }
 
@@ -36,6 +39,8 @@ public:
         Pool &pool = poolOf(m_kind);
         const std::lock_guard lock(pool.mutex);
         pool.free.push_back(memory);
+        // Nothing for builds without the address sanitizer, which would not notice a use otherwise.
+        ASAN_POISON_MEMORY_REGION(memory, sizeof(Object));
     }
 
     [[nodiscard]] BackEndKind kind() const { return m_kind; }
