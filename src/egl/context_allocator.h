@@ -8,7 +8,7 @@
 #include <mutex>
 #include <vector>
 
-#include <sanitizer/asan_interface.h>
+#include "foundation/address_sanitizer.h"
 
 namespace egl {
 
