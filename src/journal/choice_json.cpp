@@ -1,8 +1,7 @@
 #include "journal/choice_json.h"
 
-#include <nlohmann/json.hpp>
-
 #include "foundation/attribute_list.h"
+#include "foundation/json_list.h"
 #include "profiles/egl_names.h"
 
 namespace journal {
@@ -24,14 +23,6 @@ Json comparisonJson(const egl::Comparison &comparison) {
             {"decides", comparison.isBefore}};
 }
 
-template <typename Items, typename Make>
-Json listJson(const Items &items, Make make) {
-    Json list = Json::array();
-    for (const auto &item : items)
-        list.push_back(make(item));
-    return list;
-}
-
 } // namespace
 
 Json attributesJson(const int32_t *attributes) {
@@ -42,9 +33,9 @@ Json attributesJson(const int32_t *attributes) {
 }
 
 Json choiceJson(const egl::ChoiceAccount &account) {
-    return {{"fallenOut", listJson(account.fallenOut, fallOutJson)},
+    return {{"fallenOut", jsonList(account.fallenOut, fallOutJson)},
             {"order", account.order},
-            {"comparisons", listJson(account.comparisons, comparisonJson)}};
+            {"comparisons", jsonList(account.comparisons, comparisonJson)}};
 }
 
 } // namespace journal
