@@ -96,7 +96,7 @@ struct PlatformOperations {
     // currentContext may not report it as ours.
     void (*releaseContext)(ContextContainer *container);
 
-    // The container whose context is current on the thread. Null for none, and for a foreign context.
+    // The container whose context is current on the thread. Null if none is, or one that this library did not create.
     ContextContainer *(*currentContext)();
     void (*clearCurrentContext)();
     // Makes the context current with whatever is attached to it, or without a drawable. False when the host fails.
