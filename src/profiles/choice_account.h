@@ -6,7 +6,7 @@
 
 namespace egl {
 
-// The first attribute that rejected a config.
+// The attribute that rejected a config.
 struct FallOut {
     int32_t attribute;
     int32_t wanted;

@@ -1,4 +1,4 @@
-// eglChooseConfig by the rules of the EGL standard.
+// eglChooseConfig by the EGL specification's rules.
 #pragma once
 
 #include <cstdint>
