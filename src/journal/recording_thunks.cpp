@@ -9,8 +9,8 @@ static_assert(offsetof(journal::SavedCall, floatCount) == 136 && offsetof(journa
                   journal::thunkCount == 4096,
               "the numbers are written out below");
 
-// A thunk for each number, 16 bytes apart. They save all registers that can hold arguments as a SavedCall below the
-// frame pointer, and pass the function a copy of sixteen words of the caller's stack, more than any GL function has.
+// A thunk for each number, 16 bytes apart. Thunks save all registers that can hold arguments as a SavedCall below the
+// frame pointer, and copy sixteen words of the caller's stack for the function: more than any GL function has.
 asm(R"(
     .text
     .p2align 4
