@@ -73,7 +73,7 @@ void loadBackEnds() {
 
 uint64_t drawableOf(void *native) {
     if (!isOn()) return reinterpret_cast<uintptr_t>(native);
-    // A Window is as wide as a pointer here, whatever X sends over the wire.
+    // Xlib's Window type has the width of long.
     return native ? *static_cast<const unsigned long *>(native) : 0;
 }
 

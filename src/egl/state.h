@@ -53,7 +53,7 @@ public:
     // cannot be probed. Any thread.
     [[nodiscard]] const capability::EsGate *esGate();
 
-    // False where the embedding tool forces loose contexts, whatever the settings are.
+    // False if the embedding tool disables strict contexts, whatever the settings are.
     [[nodiscard]] bool isStrictContextMode() const;
 
     // The back-end library for this major version. Logs a failure to load it and returns an empty library then.

@@ -16,7 +16,7 @@ struct ThreadHold;
 // Trivially destructible and statically initialised, so that reading it is one plain thread-local load.
 struct ThreadRecord {
     EGLint error = EGL_SUCCESS;
-    bool ended = false;                // the last exit handlers run: the thread cannot hold a context any more
+    bool ended = false;                // in the last round of exit handlers: the thread can no longer hold a context
     Context *current = nullptr;        // null when nothing is current
     Display *currentDisplay = nullptr; // of the current context
     zvThread backEnd = {};             // read by back ends

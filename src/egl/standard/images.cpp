@@ -21,7 +21,7 @@ EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
     for (const auto &[name, value] : AttributeList(attributes)) {
         switch (name) {
         case EGL_IMAGE_PRESERVED:
-            // The contents are preserved with either value.
+            // Both values preserve the contents.
             if (value != EGL_TRUE && value != EGL_FALSE) return EGL_BAD_PARAMETER;
             break;
         case EGL_GL_TEXTURE_LEVEL:
@@ -39,10 +39,10 @@ EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
 EGLint makeStorage(Context &owner, const zvImageSource &source, zvImage &storage) {
     if (!owner.esLibrary.makeImage) return EGL_BAD_MATCH;
     Context *const current = threadRecord.current;
-    // Framebuffers of that context may hold the renderbuffer, and only it can look.
+    // The renderbuffer may be attached to framebuffers of that context, which only that context can check.
     if (source.target == EGL_GL_RENDERBUFFER && current != &owner) return EGL_BAD_ACCESS;
     const SharedEsContext esContext(&owner);
-    // A context that was never bound has no objects.
+    // A context that was never bound has no objects to use.
     if (!esContext.get()) return EGL_BAD_PARAMETER;
     EGLint error = EGL_BAD_ALLOC;
     GroupHost(owner).run([&] { error = owner.esLibrary.makeImage(esContext.get(), &source, &storage); });
@@ -96,7 +96,7 @@ EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLCl
     if (const EGLint error = readAttributes(attributes, source); error != EGL_SUCCESS) {
         return fail(error, EGL_NO_IMAGE);
     }
-    // 0 stands for a texture that belongs to one context alone.
+    // Texture 0 belongs to one context and cannot be shared.
     if (name == 0 || name > UINT32_MAX) return fail(EGL_BAD_PARAMETER, EGL_NO_IMAGE);
     zvImage storage = {};
     if (const EGLint error = makeStorage(*owner, source, storage); error != EGL_SUCCESS) {

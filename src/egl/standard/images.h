@@ -26,7 +26,7 @@ struct Image {
     ~Image();
 
     const zvImage storage;
-    const std::shared_ptr<ContextGroup> group; // of the contexts that can use the storage
+    const std::shared_ptr<ContextGroup> group; // of the contexts that can use the image's storage
     decltype(&zvDropImage) const drop;         // the back end stays in the process from the first image on
 };
 
