@@ -10,7 +10,7 @@ namespace {
 
 namespace enums {
 
-// Not all ES headers define these names.
+// Some ES headers lack these names.
 constexpr GLenum stencilIndex = 0x1901, depthComponent = 0x1902, depthStencil = 0x84F9, rgbaInteger = 0x8D99;
 constexpr GLenum signedInteger = 0x1404, unsignedInteger = 0x1405, unsignedNormalized = 0x8C17,
                  floatsAndStencils = 0x8DAD;
@@ -22,7 +22,7 @@ constexpr GLenum redSize = 0x805C, greenSize = 0x805D, alphaSize = 0x805F, depth
 struct Sized {
     GLenum unsizedFormat, sizedFormat;
 };
-// Those that have one size on every host.
+// The formats that have the same size on every host.
 constexpr Sized sizes[] = {
     {0x1903, 0x8229},       // red
     {0x8227, 0x822B},       // red and green
@@ -44,7 +44,7 @@ GLint ask(GLenum target, GLint level, GLenum pname) {
     return value;
 }
 
-// Of a format without one, by the bits that the host has given it.
+// The sized format for an unsized one, by the bits that the host allocated.
 GLenum sizedFormat(GLenum target, GLenum internal) {
     if (internal == GL_RGB) return ask(target, 0, enums::greenSize) == 6 ? enums::rgb565 : enums::rgb8;
     if (internal == GL_RGBA) {

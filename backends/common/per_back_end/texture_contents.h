@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-// Of the texture that is bound to a texture target, which is not a cube face.
+// The shape of the texture that is bound to a texture target other than a cube map face.
 struct TextureShape {
     GLenum target;
     GLsizei width;
@@ -38,9 +38,9 @@ class TextureContents {
 public:
     explicit TextureContents(const TextureShape &shape);
 
-    // Into the bound storage of the same shape.
+    // Writes the texels to the bound storage of the same shape.
     void fill() const;
-    // Specifies such images in the bound texture, except the one of this face, counted from 0, and level.
+    // Specifies these images in the bound texture, except the one of this face, counted from 0, and level.
     void defineAllBut(GLint face, GLint level) const;
 
 private:

@@ -8,5 +8,5 @@
 
 class EsContext;
 
-// For vertex arrays that the host does not hold; nothing where the host's value is right.
+// The state of vertex arrays that the host does not hold; nothing if the host's value is correct.
 [[nodiscard]] std::optional<GLint> ownArrayState(const EsContext &context, GLenum pname);

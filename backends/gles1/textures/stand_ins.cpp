@@ -44,7 +44,7 @@ void rebindUnits(GLenum target, GLuint old, GLuint fresh) {
     gl.activeTexture(static_cast<GLenum>(active));
 }
 
-// For the bound framebuffer.
+// Replaces the texture in the bound framebuffer.
 void swapAttached(GLuint old, GLuint fresh) {
     const HostGl &gl = hostGl();
     GLint bound = 0;
@@ -101,7 +101,7 @@ void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh) {
     rebindUnits(target, old, fresh);
     swapAttached(old, fresh);
     shared.images.siblings.remove(old);
-    // The object of the application's own name keeps the name from others.
+    // The object of that name stays, so that the host does not generate the name for another one.
     if (old != name) hostGl().deleteTextures(1, &old);
 }
 

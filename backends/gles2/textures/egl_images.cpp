@@ -20,7 +20,7 @@ struct EglImage {
 };
 constexpr uint32_t eglGlTexture2D = 0x30B1;
 
-// Null for what cannot be one. Beyond that an image is taken by its word, as every handle of its kind is.
+// Null for a misaligned handle. Any other handle is assumed to be an image.
 const EglImage *imageOf(const void *handle) {
     const bool isAligned = reinterpret_cast<uintptr_t>(handle) % alignof(EglImage) == 0;
     return isAligned ? static_cast<const EglImage *>(handle) : nullptr;
@@ -46,7 +46,7 @@ GLuint makeView(EsContext &context, const zvImage &image) {
     return view;
 }
 
-// isMutable: to the application.
+// isMutable: for the application.
 void shareStorage(EsContext &context, const zvImage &image, bool isMutable) {
     SharedTextures &textures = context.shared->textures;
     const GLuint view = makeView(context, image);
@@ -57,7 +57,7 @@ void shareStorage(EsContext &context, const zvImage &image, bool isMutable) {
     textures.images.siblings.set(view, {image.number, isMutable});
 }
 
-// Whether the application has given the texture of this name on the host a storage that cannot change.
+// Whether the application has specified an immutable storage for the texture of this name on the host.
 bool isImmutable(const EsContext &context, GLuint texture) {
     const auto sibling = context.shared->textures.images.siblings.find(texture);
     if (sibling) return !sibling->isMutable;
@@ -121,7 +121,7 @@ void GL_APIENTRY imageTargetRenderbufferStorage(GLenum target, GLeglImageOES han
     if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
     GLint bound = 0;
     hostGl().getIntegerv(GL_RENDERBUFFER_BINDING, &bound);
-    // Without views a texture of the host cannot be the storage of a renderbuffer.
+    // Without a view, a host texture cannot be the storage of a renderbuffer.
     if (!image.owner || bound == 0) return context->raise(GL_INVALID_OPERATION);
     const GLuint view = makeView(*context, image);
     context->shared->textures.images.siblings.set(view, {image.number, true});

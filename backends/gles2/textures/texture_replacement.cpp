@@ -11,7 +11,7 @@
 
 namespace {
 
-// Parameters that a host lacks fail in both calls; the error is cleared.
+// Parameters that a host lacks generate errors in both calls, which are cleared.
 constexpr GLenum integerParameters[] = {
     GL_TEXTURE_MIN_FILTER, GL_TEXTURE_MAG_FILTER,         GL_TEXTURE_WRAP_S,         GL_TEXTURE_WRAP_T,
     GL_TEXTURE_WRAP_R,     GL_TEXTURE_COMPARE_MODE,       GL_TEXTURE_COMPARE_FUNC,   GL_TEXTURE_BASE_LEVEL,
@@ -19,7 +19,7 @@ constexpr GLenum integerParameters[] = {
     GL_TEXTURE_SWIZZLE_A,  GL_DEPTH_STENCIL_TEXTURE_MODE, GL_TEXTURE_SRGB_DECODE_EXT};
 constexpr GLenum floatParameters[] = {GL_TEXTURE_MIN_LOD, GL_TEXTURE_MAX_LOD, GL_TEXTURE_MAX_ANISOTROPY_EXT};
 
-// Keeps the pending error of the host's, and lets those of the calls between go.
+// Keeps the host's pending error and clears those of the calls in between.
 class Unnoticed {
 public:
     explicit Unnoticed(EsContext &context) {

@@ -51,7 +51,7 @@ bool setApplications(GLenum target, GLenum pname, GLint value) {
     return true;
 }
 
-// A sibling of an EGL image has a storage on the host that cannot change, which the application does not meet.
+// A sibling of an EGL image has an immutable storage on the host, which is not reported to the application.
 template <typename Value>
 bool hideStorage(GLenum target, GLenum pname, Value *params) {
     const EsContext *const context = pname == GL_TEXTURE_IMMUTABLE_FORMAT ? EsContext::current() : nullptr;
@@ -80,7 +80,7 @@ bool getApplications(GLenum target, GLenum pname, Value *params) {
 
 void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const HostTextureFormat &format) {
     const bool isFloat = format.type == GL_FLOAT || format.type == GL_HALF_FLOAT;
-    // An image of floats without a size has one from here on.
+    // A float image has a sized format on the host, even if it is specified with an unsized one.
     const bool isOwn = format.swizzle == plainSwizzle && (format.internal == internal || isFloat);
     if (isOwn && hasNone(context)) return;
     target = wholeTarget(target);
