@@ -1,6 +1,6 @@
 # Completion of zelvane for fish.
 
-# Whether no verb is there yet, or the verb is this one.
+# Whether there is no verb yet, or the verb is this one.
 function __zelvane_has_verb
     set -l words (commandline -opc)
     if test (count $argv) -eq 0
@@ -10,7 +10,7 @@ function __zelvane_has_verb
     end
 end
 
-# Whether the word below "profiles" is this one, or none yet.
+# Whether the word after "profiles" is this one, or there is none yet.
 function __zelvane_profiles_verb
     set -l words (commandline -opc)
     __zelvane_has_verb profiles; or return 1
@@ -22,7 +22,7 @@ function __zelvane_profiles
     zelvane profiles --names 2>/dev/null
 end
 
-# The words of the program of "run" or "lab", which begins with the first word that is no option.
+# The words of the program of "run" or "lab", which begins with the first word that is not an option.
 function __zelvane_program
     set -l words (commandline -opc)
     set -e words[1..2]

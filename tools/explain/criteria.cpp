@@ -16,7 +16,7 @@ std::string upperCase(std::string text) {
     return text;
 }
 
-// Of a word with or without "EGL_", names in the same form.
+// A suggestion for a word, with names in the word's form: with or without "EGL_".
 std::string meant(const std::string &word, std::vector<std::string> names) {
     constexpr std::string_view prefix = "EGL_";
     const std::string wanted = upperCase(word);

@@ -21,7 +21,7 @@ struct Options {
 void explainChoice(const Options &options) {
     const std::vector<int32_t> criteria = readCriteria(options.words);
     const PrivatePreferences preferences({.device = options.device, .strict = {}});
-    // The configs of desktop programs tell what the host has behind them.
+    // In desktop mode the attributes of configs depend on the host.
     if (!options.byDeviceRules) checkXServer();
     const auto rules = options.byDeviceRules ? egl::ConfigKind::ofDevice : egl::ConfigKind::ofDesktop;
     const Explanation explanation = explain(criteria, rules);

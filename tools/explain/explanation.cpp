@@ -9,7 +9,7 @@
 
 namespace {
 
-// As in the library: without a directory there is no device.
+// As the library does: without a directory no profile is read.
 egl::DeviceProfile readChosenProfile() {
     ToolPreferences preferences;
     const std::string name = preferences.currentProfile(), directory = preferences.profilesDirectory();

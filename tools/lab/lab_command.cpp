@@ -24,7 +24,7 @@ struct Words {
     bool isHere = false;
 };
 
-// Above 0 and whole in the words.
+// Parses a positive number, which must be an integer.
 double numberOf(const std::string &option, const std::string &word) {
     char *end = nullptr;
     const double number = strtod(word.c_str(), &end);
@@ -60,7 +60,7 @@ LabOptions readOptions(const Words &words, const std::vector<std::string> &progr
     if (options.frames == 0) options.seconds = words.seconds.empty() ? 3 : numberOf("--seconds", words.seconds);
     options.isHere = words.isHere;
     const unsigned processors = std::max(1u, std::thread::hardware_concurrency());
-    // Programs on one display cover one another's windows.
+    // Windows of programs on one display would cover each other.
     options.jobs = words.isHere         ? 1
                    : words.jobs.empty() ? processors
                                         : static_cast<unsigned>(std::max(1.0, numberOf("--jobs", words.jobs)));

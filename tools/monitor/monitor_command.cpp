@@ -1,4 +1,4 @@
-// zelvane monitor: watch applications, and switch their render mode.
+// zelvane monitor: shows the records of applications and switches their render mode.
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
@@ -27,19 +27,19 @@ struct Options {
     bool once = false;
     std::string level = levels[0];
     RecordFilter filter;
-    std::optional<std::string> web; // a port, or empty for the usual one
+    std::optional<std::string> web; // a port, or empty for the default one
     bool open = false;
 };
 
 constexpr int usualPort = 6310;
 
-// A terminal or a pipe; what else stands there (a file, a closed input) belongs to somebody else.
+// Commands are read from a terminal or a pipe only, not from a file or a closed input.
 bool takesCommands(int input) {
     struct stat status {};
     return isatty(input) || (fstat(input, &status) == 0 && S_ISFIFO(status.st_mode));
 }
 
-// An output that nobody reads any more and a key in the background are noticed where they happen.
+// SIGPIPE and SIGTTIN are ignored, since their causes are detected at the calls.
 int catchSignals() {
     signal(SIGPIPE, SIG_IGN);
     signal(SIGTTIN, SIG_IGN);
@@ -71,7 +71,7 @@ void watch(const Options &options) {
     const auto level = std::ranges::find(levels, options.level) - levels.begin();
     monitorOptions.filter.leastLevel = ZV_LOG_INFO + static_cast<uint32_t>(level);
     auto output = options.json ? makeJsonOutput() : makeTextOutput();
-    // Before there are threads: signals are this one's.
+    // Called before threads are created, so that this thread handles the signals.
     const int ending = catchSignals();
     std::optional<MonitorPage> page;
     std::optional<Browser> browser;

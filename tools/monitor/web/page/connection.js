@@ -1,4 +1,4 @@
-// The way to the command: updates that come as events, and commands that go back.
+// The connection to the command: updates arrive as events, commands are sent as requests.
 let source = null;
 
 function setConnection(state, words, trouble) {
@@ -24,7 +24,7 @@ function take(update) {
   if (update.skipped) notify(`${update.skipped} log lines came too fast and are not shown`);
 }
 
-// The stream was refused: the command is another one by now, with another address, or has enough pages.
+// Called if the stream is rejected: another command has the address, or too many pages are open.
 async function explain() {
   const answer = await fetch('.', { method: 'HEAD' }).catch(() => null);
   if (answer?.status === 403) {

@@ -1,4 +1,4 @@
-// The System Report of an application as a table, and refusals in words.
+// The System Report of an application as a table, and the list of failed calls.
 let shownReport = null;
 
 function featureRow(feature) {
@@ -54,7 +54,7 @@ function refusalItem(refusal) {
   return make('li', { 'data-number': refusal.number }, words, actions);
 }
 
-// Only what has changed is touched: a screen reader speaks what comes in.
+// Only changed elements are replaced, since screen readers announce new ones.
 function drawRefusals() {
   const list = byId('refusals').querySelector('ul');
   const wanted = refusals.filter(refusal => !dismissed.has(refusal.number));
