@@ -7,7 +7,7 @@
 
 namespace {
 
-// Throws the failed call with EGL's error.
+// Throws an exception that names the call and EGL's error.
 [[noreturn]] void fail(const std::string &what) {
     char code[16];
     std::snprintf(code, sizeof code, "0x%04X", static_cast<unsigned>(eglGetError()));
@@ -63,7 +63,7 @@ void EglWindow::chooseConfig(EGLint samples) {
 }
 
 void EglWindow::openWindow(const char *title, Size size) {
-    // Some systems tie a config to a visual and refuse windows of another; the others answer 0.
+    // Some systems require a window of the config's visual; the others return 0.
     const int screen = DefaultScreen(m_x);
     Visual *visual = DefaultVisual(m_x, screen);
     int depth = DefaultDepth(m_x, screen);

@@ -94,7 +94,7 @@ void run(const Options &options) {
         scene.draw(drawn, size);
         isOpen = window.handleEvents();
         const bool isLast = !isOpen || drawn + 1 == options.frames;
-        // The swap may throw the picture away, so it is read before.
+        // Read before the swap, which may discard the back buffer.
         if (isLast && !options.output.empty()) {
             writePng(options.output, size, scene.readPixels(size));
             std::printf("picture:      %s, %d x %d\n", options.output.c_str(), size.width, size.height);
