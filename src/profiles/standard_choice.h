@@ -1,4 +1,4 @@
-// eglChooseConfig by the EGL specification's rules.
+// eglChooseConfig by the rules of the EGL standard.
 #pragma once
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Text templates:
 //   {{name}}                  the value of the name, escaped for HTML
-//   {{#name}} ... {{/name}}   the contents, once for each item of a list, or once for a value that is not false, null or
-//                             empty; names inside are looked up in the item first, and "." is the item itself
+//   {{#name}} ... {{/name}}   the contents, once for each item of a list, or once for any value except false, null and
+//                             the empty text; names inside are looked up in the item first, and "." is the item itself
 //   {{^name}} ... {{/name}}   the contents, if {{#name}} would omit them
 #pragma once
 
