@@ -37,7 +37,7 @@ class Registry:
         self._extensions = {e.get("name"): e for e in root.iterfind("extensions/extension")}
 
     def feature_commands(self, api: str, feature: str) -> List[str]:
-        """What this feature adds, in the registry's order; each later version is a feature of its own."""
+        """The commands that this feature adds, in the registry's order; each later version is a feature of its own."""
         return [
             command.get("name")
             for require in self._features[api, feature].iterfind("require")
@@ -54,7 +54,7 @@ class Registry:
         return [n for n, e in self._extensions.items() if api in e.get("supported", "").split("|")]
 
     def extension_commands(self, api: str, extension: str) -> List[str]:
-        """What this extension adds to an API."""
+        """The commands that this extension adds to an API."""
         return [
             command.get("name")
             for require in self._extensions[extension].iterfind("require")
