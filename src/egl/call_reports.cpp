@@ -87,7 +87,7 @@ std::string whyNone(const ChoiceAccount &account) {
     for (const auto &[id, reason] : account.fallenOut) {
         if (reason.attribute != most->first) continue;
         text += ": " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
-                " threw out " + std::to_string(most->second) + " of " + std::to_string(account.fallenOut.size()) +
+                " rejected " + std::to_string(most->second) + " of " + std::to_string(account.fallenOut.size()) +
                 "; config " + std::to_string(id) + " has " + valueText(reason.attribute, reason.had);
         break;
     }

@@ -81,7 +81,7 @@ void tellOfOtherApi(EGLenum api) {
     static std::atomic<bool> isTold = false;
     if (!isOn() || isTold.exchange(true)) return;
     const char *wanted = api == EGL_OPENGL_API ? "desktop OpenGL" : "an API of another kind";
-    logMessage(LogError, "%s%s%s", "The application asks EGL for ", wanted, "; this EGL has OpenGL ES alone.");
+    logMessage(LogError, "%s%s%s", "The application requests ", wanted, "; this EGL supports OpenGL ES only.");
 }
 
 } // namespace egl::desktop_clients

@@ -38,7 +38,7 @@ std::string mistakeOf(const std::string &word, const CLI::App &app, const std::s
     }
     const std::vector<std::string> verbs = verbNames(app);
     if (!verbs.empty()) return "there is no verb " + quoted + " of \"" + speaker + '"' + suggestion(word, verbs);
-    return quoted + " is a word too many for \"" + speaker + '"';
+    return quoted + " is an unexpected argument of \"" + speaker + '"';
 }
 
 } // namespace
@@ -59,7 +59,7 @@ Word Word::oneOf(const std::vector<std::string> &values) const {
         std::string list;
         for (const std::string &known : values)
             list += (list.empty() ? "" : ", ") + known;
-        return '"' + value + "\" is none of " + list + suggestion(value, values);
+        return '"' + value + "\" is not one of " + list + suggestion(value, values);
     });
 }
 
@@ -171,5 +171,5 @@ void CommandLine::explain(const std::string &mistake) const {
               << (!unknown.empty()      ? mistakeOf(unknown.front(), *verb, speaker)
                   : verb == m_app.get() ? "a verb is missing"
                                         : mistake)
-              << "\n\"" << speaker << " --help\" tells what there is.\n";
+              << "\n\"" << speaker << " --help\" lists the options.\n";
 }

@@ -18,7 +18,7 @@ ToolPreferences::ToolPreferences() : m_store(productName) {
     tinyxml2::XMLDocument document;
     document.LoadFile(file.stream);
     files.closePreferenceFile(file, false);
-    if (document.Error()) failCommand("\"" + m_path + "\" is no well-formed XML: " + document.ErrorStr());
+    if (document.Error()) failCommand("\"" + m_path + "\" is not well-formed XML: " + document.ErrorStr());
 }
 
 std::string ToolPreferences::storedDirectory() {

@@ -37,7 +37,7 @@ int32_t valueOf(int32_t attribute, const std::string &text) {
     if (const auto value = egl::readValue(attribute, text)) return *value;
     const std::vector<std::string> names = egl::valueNames(attribute);
     const std::string known = names.empty() ? "a number" : "a number or one of " + listText(names);
-    throw UsageError{'"' + text + "\" is no value of " + egl::attributeName(attribute) + ", which takes " + known +
+    throw UsageError{'"' + text + "\" is not a value of " + egl::attributeName(attribute) + ", which takes " + known +
                      meant(text, names)};
 }
 

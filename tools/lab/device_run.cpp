@@ -101,7 +101,7 @@ std::optional<std::pair<const char *, bool>> reasonToEnd(const LabOptions &optio
     if (isIdle) return std::pair("ended by the lab; it showed no more frames", true);
     if (!watch.hasFrame() && seconds > startSeconds) return std::pair("ended by the lab; it showed no frame", false);
     if (options.frames && seconds > framesSeconds)
-        return std::pair("ended by the lab; it did not get to its last frame", false);
+        return std::pair("ended by the lab; it did not reach its last frame", false);
     return std::nullopt;
 }
 
@@ -153,7 +153,7 @@ DeviceResult runOnDevice(const LabOptions &options, const std::string &device, c
     if (!options.isHere) {
         server.emplace();
         if (server->display().empty()) {
-            result.end = "Xvfb gives no X server";
+            result.end = "Xvfb does not start";
             return result;
         }
     }

@@ -58,17 +58,17 @@ void failIfSomebodyListens(const std::string &path, const struct stat &file) {
     close(probe);
     // A full queue belongs to a live listener.
     if (error == 0 || error == EAGAIN) {
-        failCommand(processText(listener) + " listens at \"" + path + "\" already, since " +
+        failCommand(processText(listener) + " already listens at \"" + path + "\", since " +
                     timeText(localtime_r, "%F %T", file.st_mtim.tv_sec));
     }
     if (error == EACCES)
-        failCommand("\"" + path + "\" is closed to us; it belongs to user " + std::to_string(file.st_uid));
+        failCommand("\"" + path + "\" is not accessible; it belongs to user " + std::to_string(file.st_uid));
 }
 
 void failIfTaken(const std::string &path) {
     struct stat file {};
     if (lstat(path.c_str(), &file) != 0) return;
-    if (!S_ISSOCK(file.st_mode)) failCommand("\"" + path + "\" is in the way: it is no socket, and is left alone");
+    if (!S_ISSOCK(file.st_mode)) failCommand("\"" + path + "\" exists and is not a socket");
     failIfSomebodyListens(path, file);
 }
 

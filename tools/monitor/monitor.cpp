@@ -154,7 +154,7 @@ void Monitor::obey(const std::string &line) {
             ++reached;
             if (m_options.page) m_options.page->commanded(*application, *command);
         } else {
-            notice(std::to_string(application->processNumber()) + " takes no command now");
+            notice(std::to_string(application->processNumber()) + " cannot receive a command now");
         }
     }
     notice("sent to " + std::to_string(reached) + (reached == 1 ? " application" : " applications"));

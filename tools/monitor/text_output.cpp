@@ -76,7 +76,7 @@ class TextOutput final : public MonitorOutput {
 public:
     void listening(const std::string &path, bool takesCommands) override {
         printf("listening at %s\n", path.c_str());
-        if (takesCommands) puts("w or W switches the wireframe on or off, d disconnects, q quits; ? tells more");
+        if (takesCommands) puts("w or W switches the wireframe on or off, d disconnects, q quits; ? shows help");
     }
 
     void record(const MonitoredApplication &application, const Message &message) override {

@@ -16,7 +16,7 @@ const std::vector<std::string> traceVariables = {"LD_TRACE_LOADED_OBJECTS=1", "L
 
 std::string outputOf(const std::string &program) {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be created");
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);

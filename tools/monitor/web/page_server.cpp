@@ -42,7 +42,7 @@ History::Cursor cursorOf(const std::string &id) {
     const int error = whyNotFree(port);
     const std::string start = "port " + std::to_string(port) + " of 127.0.0.1 ";
     const int next = error == EADDRINUSE ? nextFreePort(port) : 0;
-    if (error != EADDRINUSE) failCommand(start + "cannot be had: " + strerror(error));
+    if (error != EADDRINUSE) failCommand(start + "cannot be used: " + strerror(error));
     failCommand(start + "is taken" +
                 (next ? "; the next free one is " + std::to_string(next) + ": --web " + std::to_string(next) : ""));
 }

@@ -21,7 +21,7 @@ struct Refusal {
 constexpr Refusal refusals[] = {
     {"An OpenGL ES context of the requested version could not be created", true},
     {"no OpenGL ES ", true},
-    {"The application asks EGL for ", false},
+    {"The application requests ", false},
 };
 
 std::string textOf(const Message &message) {

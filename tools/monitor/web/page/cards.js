@@ -26,7 +26,7 @@ function drawFrames(card, application) {
   setText(card.querySelector('.latest'), application.ended ? 'end' : 'now');
   setText(card.querySelector('.lowest'), values.length ? `lowest ${lowest}` : 'no frames yet');
   card.querySelector('.chart').setAttribute('aria-label', values.length
-    ? `Frames a second in the last minute: ${last} last, ${lowest} at the lowest` : 'No frames yet');
+    ? `Frames per second in the last minute: ${last} last, ${lowest} at the lowest` : 'No frames yet');
   drawCurve(card, values);
 }
 

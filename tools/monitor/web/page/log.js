@@ -110,7 +110,7 @@ function paintLog() {
   setText(byId('log-count'), shown.length === lines.length ? lines.length : `${shown.length} of ${lines.length}`);
   setText(byId('pause'), isPaused ? `Resume (${held.length} new)` : 'Pause');
   byId('log-empty').hidden = shown.length > 0;
-  setText(byId('log-empty'), lines.length ? 'No line passes the filter.' : 'No line yet.');
+  setText(byId('log-empty'), lines.length ? 'No line matches the filter.' : 'No line yet.');
 }
 
 function refilter() {

@@ -25,7 +25,7 @@ function showReport(application) {
   const { report, lacks } = application;
   setText(byId('report-title'), `System Report of ${nameOf(application)} ${application.pid}`);
   setText(byId('report-host'), `The host has OpenGL ${report.openGL}. ` +
-    (lacks ? `Features that it lacks and that hold something back: ${lacks}.` : 'Nothing is held back.'));
+    (lacks ? `Missing features that something requires: ${lacks}.` : 'No required feature is missing.'));
   byId('report-sections').replaceChildren(...report.sections.map(section =>
     make('li', section.isSupported ? {} : { class: 'missing' }, `${section.isSupported ? '✓' : '✕'} ${section.name}`)));
   byId('report-missing').checked = lacks > 0;
