@@ -41,8 +41,8 @@ void Display::terminate() {
     configs.swap(m_configs);
     images.swap(m_images);
     m_syncs.clear(); // the host's fences are not deleted
-    standardSyncs.clear();
-    standardImages.clear();
+    standard::clearSyncs(standardSyncs);
+    (void)standardImages.takeAll();
     contexts = m_contexts.takeAll();
     surfaces = m_surfaces.takeAll();
     forgetMemos();

@@ -60,30 +60,6 @@ Image::~Image() {
     if (storage.owner && drop) drop(&storage);
 }
 
-EGLImage Images::insert(std::shared_ptr<Image> image) {
-    const std::lock_guard lock(m_mutex);
-    m_images[++m_lastHandle] = std::move(image);
-    return reinterpret_cast<EGLImage>(m_lastHandle);
-}
-
-std::shared_ptr<Image> Images::find(const void *handle) const {
-    const std::lock_guard lock(m_mutex);
-    const auto found = m_images.find(reinterpret_cast<uintptr_t>(handle));
-    return found == m_images.end() ? nullptr : found->second;
-}
-
-std::shared_ptr<Image> Images::take(EGLImage handle) {
-    const std::lock_guard lock(m_mutex);
-    const auto node = m_images.extract(reinterpret_cast<uintptr_t>(handle));
-    return node ? node.mapped() : nullptr;
-}
-
-void Images::clear() {
-    std::map<uintptr_t, std::shared_ptr<Image>> taken;
-    const std::lock_guard lock(m_mutex);
-    taken.swap(m_images);
-}
-
 EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLClientBuffer buffer,
                      const EGLAttrib *attributes) {
     const auto owner = display.findContext(context);

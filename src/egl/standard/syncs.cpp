@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <memory>
+#include <mutex>
 #include <utility>
 
 #include "egl/context.h"
@@ -56,31 +58,8 @@ private:
     uint64_t m_signals = 0; // counts signals, so that a wait ends even if the sync is unsignaled at once
 };
 
-EGLSync Syncs::insert(std::shared_ptr<Sync> sync) {
-    const std::lock_guard lock(m_mutex);
-    m_syncs[++m_lastHandle] = std::move(sync);
-    return reinterpret_cast<EGLSync>(m_lastHandle);
-}
-
-std::shared_ptr<Sync> Syncs::find(EGLSync handle) {
-    const std::lock_guard lock(m_mutex);
-    const auto found = m_syncs.find(reinterpret_cast<uintptr_t>(handle));
-    return found == m_syncs.end() ? nullptr : found->second;
-}
-
-std::shared_ptr<Sync> Syncs::take(EGLSync handle) {
-    const std::lock_guard lock(m_mutex);
-    const auto node = m_syncs.extract(reinterpret_cast<uintptr_t>(handle));
-    return node ? node.mapped() : nullptr;
-}
-
-void Syncs::clear() {
-    std::map<uintptr_t, std::shared_ptr<Sync>> taken;
-    {
-        const std::lock_guard lock(m_mutex);
-        taken.swap(m_syncs);
-    }
-    for (const auto &[handle, sync] : taken)
+void clearSyncs(Syncs &syncs) {
+    for (const auto &[handle, sync] : syncs.takeAll())
         sync->endWaits();
 }
 
