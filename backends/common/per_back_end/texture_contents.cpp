@@ -1,5 +1,6 @@
 #include "common/per_back_end/texture_contents.h"
 
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/pixel_store.h"
 
@@ -91,12 +92,12 @@ std::optional<TextureShape> boundTextureShape(GLenum target) {
 }
 
 BoundTexture::BoundTexture(GLenum target, GLuint texture) : m_target(target) {
-    hostGl().getIntegerv(target == enums::cubeMap ? enums::bindingCubeMap : GLenum(GL_TEXTURE_BINDING_2D), &m_before);
+    m_before = textureBoundTo(target == enums::cubeMap ? enums::bindingCubeMap : GLenum(GL_TEXTURE_BINDING_2D));
     hostGl().bindTexture(target, texture);
 }
 
 BoundTexture::~BoundTexture() {
-    hostGl().bindTexture(m_target, static_cast<GLuint>(m_before));
+    hostGl().bindTexture(m_target, m_before);
 }
 
 TextureContents::TextureContents(const TextureShape &shape) : m_shape(shape) {
@@ -128,8 +129,7 @@ TextureContents::TextureContents(const TextureShape &shape) : m_shape(shape) {
         for (GLint level = 0; level < shape.levels; ++level) {
             const GLsizei width = sizeAt(shape.width, level);
             const GLsizei height = sizeAt(shape.height, level);
-            Image &image =
-                m_images.emplace_back(Image{imageTarget(shape.target, face), face, level, width, height, {}});
+            Image &image = m_images.emplace_back(Image{imageTarget(shape.target, face), level, width, height, {}});
             image.texels.resize(static_cast<size_t>(width) * static_cast<size_t>(height) * bytes);
             hostGl().getTexImage(image.target, level, m_format, m_type, image.texels.data());
         }
@@ -144,10 +144,10 @@ void TextureContents::fill() const {
     }
 }
 
-void TextureContents::defineAllBut(GLint face, GLint level) const {
+void TextureContents::defineAllBut(GLenum target, GLint level) const {
     const PackedPixels packed;
     for (const Image &image : m_images) {
-        if (image.face == face && image.level == level) continue;
+        if (image.target == target && image.level == level) continue;
         hostGl().texImage2D(image.target, image.level, static_cast<GLint>(m_shape.internal), image.width, image.height,
                             0, m_format, m_type, image.texels.data());
     }

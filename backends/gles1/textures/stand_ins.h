@@ -2,6 +2,7 @@
 // new object. Every other texture has the application's name on the host.
 #pragma once
 
+#include "common/per_back_end/texture_contents.h"
 #include "common/shared_map.h"
 
 class EsContext;
@@ -26,9 +27,6 @@ private:
 // Replaces the host object of the texture that is bound to the target by another one, with the parameters of the old
 // one. Bindings in this context are updated; other contexts use it once they bind or attach the name again.
 void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh);
-
-// As a level index: no level gets a new image, and all are kept.
-constexpr GLint allLevels = -1;
 
 // Called before an image of this target and level is specified for the bound texture. A sibling of an EGL image first
 // gets a storage of its own, with its other levels.

@@ -2,6 +2,7 @@
 // view of the host shares; any other is a record of the texture that it was created from, and the two names then map to
 // the same host object.
 #include "common/desktop_clients.h"
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -88,9 +89,7 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     if (hostTarget(target) != GL_TEXTURE_2D) return context->raise(GL_INVALID_ENUM);
     zvImage image = {};
     if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
-    GLint bound = 0;
-    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    const auto old = static_cast<GLuint>(bound);
+    const GLuint old = textureBoundTo(GL_TEXTURE_BINDING_2D);
     const auto last = context->textures.lastNames.find(old);
     const bool hasLast = last != context->textures.lastNames.end();
     const GLuint name = hasLast ? last->second : context->shared->textures.names.nameOf(old);
@@ -106,10 +105,9 @@ void GL_APIENTRY imageTargetTexStorage(GLenum target, GLeglImageOES handle, cons
     zvImage image = {};
     if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
     if (attributes && *attributes != GL_NONE) return context->raise(GL_INVALID_VALUE);
-    GLint bound = 0;
-    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    const GLuint bound = textureBoundTo(GL_TEXTURE_BINDING_2D);
     const bool isTaken = image.owner && hostTarget(target) == GL_TEXTURE_2D && bound != 0;
-    if (!isTaken || isImmutable(*context, static_cast<GLuint>(bound))) return context->raise(GL_INVALID_OPERATION);
+    if (!isTaken || isImmutable(*context, bound)) return context->raise(GL_INVALID_OPERATION);
     shareStorage(*context, image, false);
 }
 

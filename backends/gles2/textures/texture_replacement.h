@@ -2,7 +2,7 @@
 // host does not.
 #pragma once
 
-#include "es_gl.h"
+#include "common/per_back_end/texture_contents.h"
 
 class EsContext;
 
@@ -11,9 +11,6 @@ class EsContext;
 // bind or attach the name again.
 // target: not a cube face. fresh: hidden in the table of names until now.
 void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh);
-
-// As a level index: no level gets a new image, and all are kept.
-constexpr GLint allLevels = -1;
 
 // Called before an image of this level is specified for the texture that is bound to the target. A sibling of an EGL
 // image first gets a storage of its own, with its other levels. Raises GL_OUT_OF_MEMORY as ES does.

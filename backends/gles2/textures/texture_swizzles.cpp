@@ -1,5 +1,6 @@
 #include "textures/texture_swizzles.h"
 
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -16,10 +17,9 @@ struct Place {
 };
 
 Place placeOf(EsContext &context, GLenum target) {
-    GLint bound = 0;
-    hostGl().getIntegerv(bindingOf(target), &bound);
+    const GLuint bound = textureBoundTo(bindingOf(target));
     if (bound == 0) return {&context.textures.swizzlesOfZero, target};
-    return {&context.shared->textures.swizzles, static_cast<GLuint>(bound)};
+    return {&context.shared->textures.swizzles, bound};
 }
 
 bool isSwizzle(GLenum pname) {
@@ -57,9 +57,7 @@ bool hideStorage(GLenum target, GLenum pname, Value *params) {
     const EsContext *const context = pname == GL_TEXTURE_IMMUTABLE_FORMAT ? EsContext::current() : nullptr;
     target = hostTarget(target);
     if (!context || !params || context->shared->textures.images.siblings.isEmpty() || !bindingOf(target)) return false;
-    GLint bound = 0;
-    hostGl().getIntegerv(bindingOf(target), &bound);
-    const auto sibling = context->shared->textures.images.siblings.find(static_cast<GLuint>(bound));
+    const auto sibling = context->shared->textures.images.siblings.find(textureBoundTo(bindingOf(target)));
     const bool isHidden = sibling && sibling->isMutable;
     if (isHidden) *params = GL_FALSE;
     return isHidden;
