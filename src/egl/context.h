@@ -72,7 +72,7 @@ public:
     Display &display;
     const uint64_t handle;
     const std::shared_ptr<const Config> config;
-    const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is gone
+    const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is destroyed
     const std::shared_ptr<ContextGroup> group;
     gl::FunctionTable &functions;
     const EsLibrary esLibrary; // open for the life of the context
@@ -111,7 +111,7 @@ private:
 // meanwhile, this destructor completes the deletion.
 class SharedEsContext {
 public:
-    // Null stands for no context.
+    // share: null for no context.
     explicit SharedEsContext(Context *share);
     SharedEsContext(const SharedEsContext &) = delete;
     SharedEsContext &operator=(const SharedEsContext &) = delete;

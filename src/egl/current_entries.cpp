@@ -1,4 +1,4 @@
-// eglMakeCurrent, and the queries of what is current.
+// eglMakeCurrent, and queries of the current context and surfaces.
 #include "egl/bind_memos.h"
 #include "egl/binding.h"
 #include "egl/call_reports.h"

@@ -49,8 +49,8 @@ public:
     // All null until then. canLookUp: whether one of our contexts is current on the host.
     [[nodiscard]] const host::EGL &hostEGL(bool canLookUp = true);
 
-    // What the host supports: probed during the load, or at the first call if that was not possible. Null when the host
-    // cannot be probed. Any thread.
+    // The host's capabilities: probed during the load, or at the first call if that was not possible. Null when the
+    // host cannot be probed. Any thread.
     [[nodiscard]] const capability::EsGate *esGate();
 
     // False if the embedding tool disables strict contexts, whatever the settings are.

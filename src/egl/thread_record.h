@@ -34,7 +34,7 @@ struct ThreadHold {
 // A strong reference to the current context, or null.
 [[nodiscard]] std::shared_ptr<Context> currentContext();
 
-// Prepares the thread to hold a context. False when the thread's exit has come too far for that.
+// Prepares the thread to hold a context. False in the last round of the thread's exit handlers.
 [[nodiscard]] bool prepareThread();
 
 // Replaces the current context and its display and drops the reference to the old one; the thread is prepared. A thread

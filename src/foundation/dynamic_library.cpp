@@ -18,7 +18,7 @@ namespace {
 // each open: a file that is still loaded is opened by the name that it has already.
 class LinkNames {
 public:
-    // Null when the file is not loaded by a name of ours.
+    // Null when this class has not loaded the file.
     [[nodiscard]] void *reopen(const struct stat &file, int scope) {
         const std::lock_guard lock(m_mutex);
         const auto known = m_names.find({file.st_dev, file.st_ino});

@@ -13,7 +13,7 @@ struct FallOut {
     int32_t had;
 };
 
-// Stands for an attribute when the colour bits decide: the sum of the colour sizes that the list requests.
+// In place of an attribute when the colour bits decide: the sum of the colour sizes that the list requests.
 inline constexpr int32_t colourBits = 0;
 
 // The first difference between two configs in the sort order.

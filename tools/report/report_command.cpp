@@ -1,4 +1,4 @@
-// zelvane report: the system report of this host, and what a context would get.
+// zelvane report: the system report of this host, and the versions that contexts would get.
 #include <cstdlib>
 #include <iostream>
 #include <memory>

@@ -28,7 +28,7 @@ bool isRunnable(const std::string &file) {
     return fs::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0;
 }
 
-// As the shell looks it up. Empty when there is no such program.
+// Searches PATH as the shell does. Empty if there is no such program.
 std::string findProgram(const std::string &name) {
     if (name.find('/') != std::string::npos) return isRunnable(name) ? name : "";
     const char *path = getenv("PATH");
@@ -40,14 +40,14 @@ std::string findProgram(const std::string &name) {
     return {};
 }
 
-// Why the loader takes no search path from us, if it does not.
+// Why the loader ignores LD_LIBRARY_PATH for the program; null if it does not.
 const char *foreignRights(const std::string &file) {
     struct stat found {};
     if (stat(file.c_str(), &found) != 0) return nullptr;
     const bool isSomebodyElses =
         (found.st_mode & S_ISUID && found.st_uid != getuid()) || (found.st_mode & S_ISGID && found.st_gid != getgid());
     if (isSomebodyElses) return " runs with the rights of another user";
-    // To root they give nothing that it lacks.
+    // Root has all of these capabilities already.
     const bool hasCapabilities = getxattr(file.c_str(), "security.capability", nullptr, 0) > 0;
     return hasCapabilities && getuid() != 0 ? " has file capabilities" : nullptr;
 }
@@ -103,7 +103,7 @@ void checkProgram(const std::vector<std::string> &words, const std::string &libr
         std::cerr << "zelvane: warning: " << quoted(program) << " is statically linked and cannot load this library\n";
         return;
     }
-    // Other loaders would run the program instead of listing.
+    // Other loaders would run the program instead of listing its libraries.
     if (!fs::path(elf.interpreter).filename().string().starts_with("ld-linux")) return;
     const LoaderTrace trace = traceLoader(program);
     checkLibraries(program, trace, libraries);

@@ -26,7 +26,7 @@ struct Options {
     bool monitor = false;
 };
 
-// Beside the program, in a thread of its own: records of the program while it runs, and what it leaves at its end.
+// Shows the records of the program while it runs, in a thread, and the rest after its end.
 class WatchedRun {
 public:
     WatchedRun() : m_monitor(makeTextOutput(), m_end.reading(), {}), m_thread([this] { m_monitor.run(); }) {}
@@ -52,7 +52,8 @@ private:
 };
 
 int runProgram(const Options &options, const std::vector<std::string> &words) {
-    // First: no signal may end us while there are files to take away, and all threads leave the signals to this one.
+    // Constructed first, so that no signal ends this process while it has temporary files, and all threads block the
+    // signals.
     const SignalRelay signals;
     const PrivatePreferences preferences(options.wishes);
     const RunLibraries libraries(options.backEnds);
@@ -60,7 +61,7 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
     setenv("LD_LIBRARY_PATH", path.c_str(), 1);
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
-    // The program may change its directory before it asks for EGL.
+    // Absolute, since the program may change its working directory.
     if (!options.journal.empty()) setenv("ZELVANE_JOURNAL", std::filesystem::absolute(options.journal).c_str(), 1);
     checkXServer();
     checkProgram(words, libraries.directory());
@@ -100,7 +101,7 @@ void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
         try {
             status = runProgram(*options, program);
         } catch (const Failure &) {
-            // What it was has been said.
+            // The error has been printed.
         }
         if (status != 0) throw Failure{status};
     });

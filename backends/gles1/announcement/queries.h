@@ -1,4 +1,4 @@
-// The results of glGet that do not come from the host.
+// The results of glGet that differ from the host's.
 #pragma once
 
 #include "es_gl.h"

@@ -1,5 +1,5 @@
-// Programs. ES allows one shader per stage, and needs a vertex and a fragment shader; desktop OpenGL allows several,
-// and either alone.
+// Programs. ES allows one shader per stage and requires a vertex and a fragment shader; desktop OpenGL allows several
+// per stage, and either stage alone.
 #include "programs/programs.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"

@@ -12,7 +12,7 @@
 
 class PageServer {
 public:
-    // Passes on a line as typed by a user. False when it is not accepted now. Called on threads of the server.
+    // Passes on a command line. False when it is not accepted now. Called on threads of the server.
     using Command = std::function<bool(const std::string &line)>;
 
     // port: 0 for any. The history is owned by the caller. If the port is taken, fails the command with the next free

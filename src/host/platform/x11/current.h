@@ -1,4 +1,4 @@
-// The context that a thread has current, created by this library or not.
+// The current context of a thread, created by this library or not.
 #pragma once
 
 #include "host/platform/operations.h"
