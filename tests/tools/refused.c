@@ -9,8 +9,7 @@ int main(void) {
     EGLDisplay display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
     EGLConfig config;
     EGLint count = 0;
-    if (!eglInitialize(display, NULL, NULL) || !eglChooseConfig(display, NULL, &config, 1, &count) || count == 0)
-        return 1;
+    if (!eglInitialize(display, NULL, NULL) || !eglChooseConfig(display, NULL, &config, 1, &count) || count == 0) return 1;
     if (eglCreateContext(display, config, EGL_NO_CONTEXT, version) != EGL_NO_CONTEXT) return 2;
     puts("refused");
     fflush(stdout);

@@ -54,7 +54,7 @@ complete -c zelvane -n __zelvane_has_verb -a strict -d 'Reject contexts that the
 complete -c zelvane -n __zelvane_has_verb -a report -d 'Report the capabilities of this host'
 complete -c zelvane -n __zelvane_has_verb -a monitor -d 'Show the records of applications'
 
-complete -c zelvane -n '__zelvane_has_verb run' -l profile -xa '(__zelvane_profiles)' -d 'The program's device'
+complete -c zelvane -n '__zelvane_has_verb run' -l profile -xa '(__zelvane_profiles)' -d 'The device of the program'
 complete -c zelvane -n '__zelvane_has_verb run' -l strict -d 'Reject contexts that the host does not fully support'
 complete -c zelvane -n '__zelvane_has_verb run' -l bare -d 'No device'
 complete -c zelvane -n '__zelvane_has_verb run' -l loose -d 'Accept contexts that the host does not fully support'
@@ -76,7 +76,7 @@ complete -c zelvane -n '__zelvane_has_verb lab' -a '(__zelvane_program)'
 
 complete -c zelvane -n '__zelvane_has_verb explain' -l profile -xa '(__zelvane_profiles)' -d 'The device'
 complete -c zelvane -n '__zelvane_has_verb explain' -l bare -d 'No device'
-complete -c zelvane -n '__zelvane_has_verb explain' -l device-rules -d 'Use the device's rules'
+complete -c zelvane -n '__zelvane_has_verb explain' -l device-rules -d 'Use the rules of the device'
 complete -c zelvane -n '__zelvane_has_verb explain' -l json -d 'Print one JSON object'
 complete -c zelvane -n '__zelvane_has_verb explain' -a '
     EGL_BUFFER_SIZE= EGL_RED_SIZE= EGL_GREEN_SIZE= EGL_BLUE_SIZE= EGL_LUMINANCE_SIZE= EGL_ALPHA_SIZE=
