@@ -139,14 +139,14 @@ TEST(Monitor, ShowsWhatIsAskedForAlone) {
 TEST(Monitor, TakesItsPlaceFromNobody) {
     const std::string path = KZRIPC::socketPath(productName);
     std::ofstream(path) << "a file";
-    EXPECT_THAT(run("monitor").output, testing::HasSubstr("it is no socket, and is left alone"));
+    EXPECT_THAT(run("monitor").output, testing::HasSubstr("exists and is not a socket"));
     EXPECT_TRUE(std::filesystem::remove(path));
     (void)KZRIPC::ServerSocket(productName, 1); // a dead listener's socket
     const RunningMonitor monitor("--json");
     const Application application(nobody);
     const CommandResult second = run("monitor");
     EXPECT_EQ(second.status, 1);
-    EXPECT_TRUE(std::regex_search(second.output, std::regex(R"(process \d+ \(zelvane\) listens .* since \d{4}-)")))
+    EXPECT_TRUE(std::regex_search(second.output, std::regex(R"(process \d+ \(zelvane\) already listens .* since \d{4}-)")))
         << second.output;
     EXPECT_TRUE(hasSocketFile());
 }

@@ -192,7 +192,7 @@ void Check::checkValue(const egl::ConfigElementRule &rule, const XMLElement &ele
     if (rule.reader == egl::readInteger && !isNumber(text.c_str())) reading = "reads as " + std::to_string(value);
     if (rule.reader == egl::readBoolean && value == 0 && text != "EGL_FALSE" && text != "0")
         reading = "reads as EGL_FALSE: only the text EGL_TRUE is true";
-    if (rule.reader == egl::readBits && value == 0) reading = "is no bit that is known: ignored";
+    if (rule.reader == egl::readBits && value == 0) reading = "is not a known bit: ignored";
     if (!reading.empty()) problem(element.GetLineNum(), std::string(rule.name) + " " + quoted(text) + " " + reading);
 }
 
