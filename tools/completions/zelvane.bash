@@ -52,7 +52,7 @@ _zelvane() {
     lab:--out) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     lab:--fail-on) mapfile -t COMPREPLY < <(compgen -W 'start error refusal lacking picture' -- "$word"); return ;;
     profiles:check | run:--journal) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
-    profiles:show) _zelvane_profiles "${word//\\/}"; return ;;
+    profiles:show | profiles:diff) _zelvane_profiles "${word//\\/}"; return ;;
     monitor:--level) mapfile -t COMPREPLY < <(compgen -W 'info warning error' -- "$word"); return ;;
     monitor:--type)
         mapfile -t COMPREPLY < <(compgen -W 'log log_info log_warning log_error process_hello link_stop window_title
@@ -79,7 +79,10 @@ _zelvane() {
     case $verb in
     run) words='--profile --bare --strict --loose --backends --journal --monitor --help' ;;
     lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
-    profiles) words='show check --json --names --help' ;;
+    profiles)
+        words='show check diff --json --names --help'
+        [[ ${COMP_WORDS[2]} == diff ]] && { _zelvane_profiles "${word//\\/}"; words='--json --help'; }
+        ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
     explain)
         words='--profile --bare --device-rules --json --help'

@@ -92,8 +92,11 @@ complete -c zelvane -n '__zelvane_profiles_verb' -l json -d 'Print one JSON obje
 complete -c zelvane -n '__zelvane_profiles_verb' -l names -d 'Print the names alone'
 complete -c zelvane -n '__zelvane_profiles_verb' -a show -d 'Print a profile'
 complete -c zelvane -n '__zelvane_profiles_verb' -a check -d 'Tell what the reader makes of a file'
+complete -c zelvane -n '__zelvane_profiles_verb' -a diff -d 'Compare two profiles'
 complete -c zelvane -n '__zelvane_profiles_verb show' -a '(__zelvane_profiles)'
 complete -c zelvane -n '__zelvane_profiles_verb check' -F
+complete -c zelvane -n '__zelvane_profiles_verb diff' -Fa '(__zelvane_profiles)'
+complete -c zelvane -n '__zelvane_profiles_verb diff' -l json -d 'Print one JSON object'
 
 complete -c zelvane -n '__zelvane_has_verb use' -a '(__zelvane_profiles)'
 complete -c zelvane -n '__zelvane_has_verb use' -l none -d 'No device'
