@@ -20,6 +20,7 @@ int runVerb(std::vector<std::string> words) {
     addRunCommand(commandLine.top(), program);
     addLabCommand(commandLine.top(), program);
     addExplainCommand(commandLine.top());
+    addInfoCommand(commandLine.top());
     addProfilesCommand(commandLine.top());
     addUseCommand(commandLine.top());
     addStrictCommand(commandLine.top());

@@ -8,6 +8,7 @@
 #include "tools/command/verb.h"
 
 void addExplainCommand(const Verb &top);
+void addInfoCommand(const Verb &top);
 // program: see run.
 void addLabCommand(const Verb &top, const std::vector<std::string> &program);
 void addMonitorCommand(const Verb &top);

@@ -34,7 +34,7 @@ _zelvane() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]} index
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'run lab explain profiles use strict report monitor --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'run lab explain info profiles use strict report monitor --help --version' -- "$word")
         return
     fi
 
@@ -42,7 +42,7 @@ _zelvane() {
     [[ $word == = ]] && word=
     [[ $before == = ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
     case $verb:$before in
-    run:--profile | explain:--profile) _zelvane_profiles "${word//\\/}"; return ;;
+    run:--profile | explain:--profile | info:--profile) _zelvane_profiles "${word//\\/}"; return ;;
     run:--backends | use:--directory) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     lab:--devices | lab:--reference)
         _zelvane_profiles "${word//\\/}"
@@ -79,6 +79,7 @@ _zelvane() {
     case $verb in
     run) words='--profile --bare --strict --loose --backends --journal --monitor --help' ;;
     lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
+    info) words='--profile --bare --json --help' ;;
     profiles)
         words='show check diff --json --names --help'
         [[ ${COMP_WORDS[2]} == diff ]] && { _zelvane_profiles "${word//\\/}"; words='--json --help'; }

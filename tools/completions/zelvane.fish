@@ -48,6 +48,7 @@ complete -c zelvane -s h -l help -d 'List the options'
 complete -c zelvane -n __zelvane_has_verb -a run -d 'Run a program on this library'
 complete -c zelvane -n __zelvane_has_verb -a lab -d 'Run a program on every device'
 complete -c zelvane -n __zelvane_has_verb -a explain -d 'Tell which configs a list gives, and why'
+complete -c zelvane -n __zelvane_has_verb -a info -d 'Print what a program sees'
 complete -c zelvane -n __zelvane_has_verb -a profiles -d 'List the device profiles'
 complete -c zelvane -n __zelvane_has_verb -a use -d 'Choose the device that programs find from now on'
 complete -c zelvane -n __zelvane_has_verb -a strict -d 'Refuse contexts that the host cannot fully carry'
@@ -87,6 +88,10 @@ complete -c zelvane -n '__zelvane_has_verb explain' -a '
     EGL_NATIVE_VISUAL_TYPE= EGL_RENDERABLE_TYPE= EGL_SAMPLE_BUFFERS= EGL_SAMPLES= EGL_STENCIL_SIZE=
     EGL_SURFACE_TYPE= EGL_TRANSPARENT_TYPE= EGL_TRANSPARENT_RED_VALUE= EGL_TRANSPARENT_GREEN_VALUE=
     EGL_TRANSPARENT_BLUE_VALUE='
+
+complete -c zelvane -n '__zelvane_has_verb info' -l profile -xa '(__zelvane_profiles)' -d 'The device'
+complete -c zelvane -n '__zelvane_has_verb info' -l bare -d 'No device'
+complete -c zelvane -n '__zelvane_has_verb info' -l json -d 'Print one JSON object'
 
 complete -c zelvane -n '__zelvane_profiles_verb' -l json -d 'Print one JSON object'
 complete -c zelvane -n '__zelvane_profiles_verb' -l names -d 'Print the names alone'
