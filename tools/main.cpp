@@ -25,6 +25,7 @@ int runVerb(std::vector<std::string> words) {
     addUseCommand(commandLine.top());
     addStrictCommand(commandLine.top());
     addReportCommand(commandLine.top());
+    addDoctorCommand(commandLine.top());
     addMonitorCommand(commandLine.top());
     for (const char *verb : {"run", "lab"})
         if (program.empty()) program = commandLine.takeProgram(words, verb);

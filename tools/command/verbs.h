@@ -7,6 +7,7 @@
 
 #include "tools/command/verb.h"
 
+void addDoctorCommand(const Verb &top);
 void addExplainCommand(const Verb &top);
 void addInfoCommand(const Verb &top);
 // program: see run.

@@ -34,7 +34,7 @@ _zelvane() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]} index
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'run lab explain info profiles use strict report monitor --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'run lab explain info profiles use strict report doctor monitor --help --version' -- "$word")
         return
     fi
 
@@ -91,6 +91,7 @@ _zelvane() {
         ;;
     strict) words='on off --help' ;;
     report) words='--extensions --json --help' ;;
+    doctor) words='--json --help' ;;
     monitor) words='--json --once --level --process --type --web --open --help' ;;
     esac
     mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -W "$words" -- "$word")

@@ -53,6 +53,7 @@ complete -c zelvane -n __zelvane_has_verb -a profiles -d 'List the device profil
 complete -c zelvane -n __zelvane_has_verb -a use -d 'Choose the device that programs find from now on'
 complete -c zelvane -n __zelvane_has_verb -a strict -d 'Refuse contexts that the host cannot fully carry'
 complete -c zelvane -n __zelvane_has_verb -a report -d 'Tell what this host can carry'
+complete -c zelvane -n __zelvane_has_verb -a doctor -d 'Find what keeps programs from running'
 complete -c zelvane -n __zelvane_has_verb -a monitor -d 'Show what applications report'
 
 complete -c zelvane -n '__zelvane_has_verb run' -l profile -xa '(__zelvane_profiles)' -d 'The device that the program finds'
@@ -111,6 +112,8 @@ complete -c zelvane -n '__zelvane_has_verb strict' -a 'on off'
 
 complete -c zelvane -n '__zelvane_has_verb report' -l extensions -d 'List the extensions of the host too'
 complete -c zelvane -n '__zelvane_has_verb report' -l json -d 'Print one JSON object'
+
+complete -c zelvane -n '__zelvane_has_verb doctor' -l json -d 'Print one JSON object'
 
 complete -c zelvane -n '__zelvane_has_verb monitor' -l json -d 'Print one JSON object a record'
 complete -c zelvane -n '__zelvane_has_verb monitor' -l once -d 'End with the first application'
