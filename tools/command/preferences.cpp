@@ -19,15 +19,14 @@ ToolPreferences::ToolPreferences(std::string &error) : m_store(productName) {
 std::string ToolPreferences::read() {
     const std::string unreadable = "the preferences cannot be read: ";
     std::string reason;
-    if (!m_store.load(reason, false)) return unreadable + reason;
-
     KZRPreferencesUnix files;
     const PreferenceFile file = files.openPreferenceFile(productName, readPreferences, false, false, reason);
-    if (!file.stream) return unreadable + reason;
     m_path = file.path;
+    if (!file.stream) return unreadable + reason;
     tinyxml2::XMLDocument document;
     document.LoadFile(file.stream);
     files.closePreferenceFile(file, false);
+    if (!m_store.load(reason, false)) return unreadable + reason;
     return document.Error() ? "\"" + m_path + "\" is no well-formed XML: " + document.ErrorStr() : "";
 }
 

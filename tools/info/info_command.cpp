@@ -32,10 +32,14 @@ void tellInfo(const Options &options) {
     const RunLibraries libraries("");
     const HeldRefusals refusals(preferences.directory());
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
-    checkXServer();
-    constexpr std::chrono::seconds limit(60);
+    constexpr std::chrono::seconds limit(30);
     const std::string file = libraries.directory() + "/libEGL.so.1";
-    const ChildAnswer answer = askInChild([&] { return askLibrary(file); }, limit);
+    const ChildAnswer answer = askInChild(
+        [&] {
+            checkXServer();
+            return askLibrary(file);
+        },
+        limit);
     if (!answer.json) failCommand("\"" + file + "\": " + answer.failure);
     Json info = {{"device", deviceInForce()}};
     info.update(*answer.json);
