@@ -2,7 +2,7 @@
 
 #include <tinyxml2.h>
 
-#include "read_only_bytes.h" // of the platform that the build is for
+#include "read_only_bytes.h" // of the target platform
 
 // The bytes of each file between two symbols. The build declares that this object depends on the files.
 #define EMBEDDED_PROFILE(file)                                                                                         \

@@ -49,7 +49,7 @@ std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, ServerCon
     const auto visualId = static_cast<VisualID>(value(GLX_VISUAL_ID));
     const auto visual = visuals.find(visualId);
     const bool hasVisual = visual != visuals.end();
-    // One of a visual of another class is for programs that look for just that.
+    // Configs with a visual of another class than TrueColor are left out.
     if ((!hasVisual && visualId) || !(value(GLX_RENDER_TYPE) & GLX_RGBA_BIT)) return std::nullopt;
     const ChannelSizes channels{value(GLX_RED_SIZE), value(GLX_GREEN_SIZE), value(GLX_BLUE_SIZE)};
     return FbConfig{
@@ -90,7 +90,7 @@ int bits(const FormatSizes &sizes) {
     return sizes.color + sizes.alpha + sizes.depth + sizes.stencil;
 }
 
-// What is missing weighs more than what is too much.
+// A missing bit costs more than a surplus bit.
 int distance(int have, int want) {
     return have < want ? (want - have) * 64 : have - want;
 }
@@ -102,7 +102,7 @@ int distance(const FbConfig &config, const FormatSizes &wanted, const ChannelSiz
            distance(sampleCount(config.sizes), sampleCount(wanted)) * 16;
 }
 
-// Where two of equal sizes differ, the one that more programs can use comes first.
+// Orders configs of equal sizes: a lower value is preferred.
 auto preference(const FbConfig &config, const FormatSizes &wanted, Display *display, int screen) {
     return std::tuple(config.sizes.isDoubleBuffered != wanted.isDoubleBuffered, config.hasCaveat,
                       config.visual.depth != DefaultDepth(display, screen),
@@ -133,7 +133,8 @@ const FbConfig *FbConfigs::choose(const FormatSizes &wanted) {
     const auto [chosen, isNew] = m_chosen.try_emplace(wanted, nullptr);
     if (!isNew) return chosen->second;
 
-    // What was asked for comes first: a window of another visual is drawn to through a child window.
+    // The requested buffering and samples precede the visual, since a window of another visual is drawn to through a
+    // child.
     const auto rank = [&](const FbConfig &config) {
         const auto [isOtherBuffering, hasCaveat, isOtherDepth, isOtherVisual] =
             preference(config, wanted, m_display, m_screen);

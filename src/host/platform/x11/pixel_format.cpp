@@ -62,8 +62,8 @@ PixelFormat *choose(Connection *connection, const Request &request) {
                            .fitsAnyDrawable = request.fit == fitAnyDrawable};
 }
 
-// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server. Pixmaps are updated by a swap, which
-// has to preserve the contents.
+// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server, which preserves the back buffer.
+// Pixmaps are updated by a swap and require that.
 int32_t drawableTypes(const PixelFormat &format) {
     constexpr int32_t pixmap = 2, window = 4, preserved = 0x400;
     const int32_t types = format.config.drawableTypes;
@@ -82,7 +82,7 @@ int32_t glxValue(const PixelFormat &format, int attribute) {
 
 int32_t robustContexts(const Connection &connection) {
     if (connection.hasGlxExtension("GLX_ARB_create_context_robustness")) return robustOnDemand;
-    // Bounds are always checked in software, and nothing can be reset.
+    // Software renderers always check bounds, and they are never reset.
     return connection.isSoftware() ? robustAlways : robustNever;
 }
 
