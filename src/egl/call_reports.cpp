@@ -56,12 +56,12 @@ void tellRefusal(Kind kind, const char *call, const std::string &values) {
     tellRefusal(kind, call, values, error, refusals::takeWords(error));
 }
 
-// A later call finds no note of an earlier one.
+// Clears the note, so that it is not used for a later call.
 void forgetNote() {
     refusals::lastNote = {};
 }
 
-// Of a call that programs try until it is taken.
+// Ends the series of a call that programs retry until it succeeds.
 void endSteps(const char *call) {
     forgetNote();
     refusals::settle(call);
@@ -85,7 +85,7 @@ std::string whyNone(const ChoiceAccount &account) {
     const auto count = std::ranges::count_if(
         account.fallenOut, [&](const FallenOut &fallen) { return fallen.reason.attribute == reason.attribute; });
     return "no config matches: " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
-           " threw out " + std::to_string(count) + " of " + std::to_string(account.fallenOut.size()) + "; config " +
+           " rejected " + std::to_string(count) + " of " + std::to_string(account.fallenOut.size()) + "; config " +
            std::to_string(nearest.id) + " has " + valueText(reason.attribute, reason.had);
 }
 
@@ -153,7 +153,7 @@ void surface(EGLSurface answer, const char *call, EGLDisplay dpy, EGLConfig conf
 void makeCurrent(EGLBoolean answer, EGLSurface draw, EGLSurface read, EGLContext context) {
     if (answer) {
         forgetNote();
-        // The first bind of a context has its device told.
+        // Writes the line about the context's device at its first bind.
         if (journal::isOn()) (void)journal::RecordedContext::current();
         return;
     }

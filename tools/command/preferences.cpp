@@ -27,7 +27,7 @@ std::string ToolPreferences::read() {
     document.LoadFile(file.stream);
     files.closePreferenceFile(file, false);
     if (!m_store.load(reason, false)) return unreadable + reason;
-    return document.Error() ? "\"" + m_path + "\" is no well-formed XML: " + document.ErrorStr() : "";
+    return document.Error() ? "\"" + m_path + "\" is not well-formed XML: " + document.ErrorStr() : "";
 }
 
 std::string ToolPreferences::storedDirectory() {
@@ -72,7 +72,7 @@ void ToolPreferences::setStrict(bool strict) {
 }
 
 void ToolPreferences::storeString(const char *name, const std::string &value) {
-    // A value that is a dict or an array accepts no text, and the store reports no error.
+    // A dict or an array cannot be replaced by a text, and the store does not report an error.
     std::string stored;
     m_store.setString(settingKey(name), value);
     m_store.getString(settingKey(name), &stored, std::string());
@@ -80,6 +80,6 @@ void ToolPreferences::storeString(const char *name, const std::string &value) {
 }
 
 void ToolPreferences::save() {
-    // Forced: a removal does not count as a change.
+    // Forced, since a removal does not count as a change.
     if (!m_store.save(true)) failCommand("\"" + m_path + "\" cannot be written");
 }

@@ -9,6 +9,9 @@ namespace tinyxml2 {
 class XMLElement;
 }
 
+// Holds what a capture reports of a device and no profile needs. Not a limit.
+inline constexpr char capturedElement[] = "captured";
+
 struct EsBlockText {
     std::string version; // empty without the attribute
     std::vector<std::string> extensions;
