@@ -33,7 +33,9 @@ Function *next(Function *, const char *name) {
 extern "C" int glXGetFBConfigAttrib(Display *display, GLXFBConfig config, int attribute, int *value) {
     static const auto host = next(glXGetFBConfigAttrib, "glXGetFBConfigAttrib");
     const int result = host(display, config, attribute, value);
-    if (config == slowConfig && attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+    if (config != slowConfig) return result;
+    if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+    if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
     return result;
 }
 

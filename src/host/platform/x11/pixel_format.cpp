@@ -72,6 +72,12 @@ int32_t drawableTypes(const PixelFormat &format) {
     return types | preserved;
 }
 
+int32_t glxValue(const PixelFormat &format, int attribute) {
+    int value = 0;
+    glXGetFBConfigAttrib(format.connection.display(), format.config.handle, attribute, &value);
+    return value;
+}
+
 } // namespace
 
 int32_t robustContexts(const Connection &connection) {
@@ -104,11 +110,11 @@ int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
     case MaxSwapInterval:
         return format->connection.maxSwapInterval();
     case MaxPbufferWidth:
-        return config.maxPbuffer.width;
+        return glxValue(*format, GLX_MAX_PBUFFER_WIDTH);
     case MaxPbufferHeight:
-        return config.maxPbuffer.height;
+        return glxValue(*format, GLX_MAX_PBUFFER_HEIGHT);
     case MaxPbufferPixels:
-        return config.maxPbuffer.pixels;
+        return glxValue(*format, GLX_MAX_PBUFFER_PIXELS);
     default:
         break;
     }
