@@ -25,7 +25,7 @@ void write(int end, const std::string &text) {
     }
 }
 
-// The parent's exit handlers and buffers are not the child's.
+// Ends with _exit, since the exit handlers and buffers are those of the parent.
 [[noreturn]] void answer(const std::function<Json()> &question, int end) {
     Json json;
     try {
@@ -40,7 +40,7 @@ void write(int end, const std::string &text) {
     _exit(EXIT_SUCCESS);
 }
 
-// Whether the end of the text came in time.
+// Reads to the end of the text. False if the limit is reached first.
 bool readAll(int end, std::string &text, Clock::time_point limit) {
     for (;;) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(limit - Clock::now()).count();

@@ -4,7 +4,7 @@
 
 namespace {
 
-// "profileInForce" as "profile in force". Names of files, variables and extensions stay as they are.
+// "profileInForce" becomes "profile in force". Names of files, variables and extensions are unchanged.
 std::string words(const std::string &name) {
     if (name == "xServer") return "X server";
     if (name == "guiSocket") return "GUI socket";

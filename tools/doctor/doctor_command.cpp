@@ -1,4 +1,4 @@
-// zelvane doctor: the parts of this installation and of the system that programs depend on, and what is wrong.
+// zelvane doctor: examines the installation and the system for problems that affect programs.
 #include <filesystem>
 #include <iostream>
 #include <memory>

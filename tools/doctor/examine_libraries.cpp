@@ -1,4 +1,4 @@
-// Which libraries the loader finds for programs, and the back ends that ours finds.
+// The libraries that the loader finds for programs, and the back ends that libEGL finds.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -31,7 +31,7 @@ std::string bytesOf(const std::string &file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// By an entry that no other EGL or OpenGL ES library exports.
+// Whether the file exports a function that no other EGL or OpenGL ES library has.
 bool isOurs(const std::string &file) {
     const std::string bytes = bytesOf(file);
     return bytes.find("zvCurrentFrameNumber") != std::string::npos ||
@@ -58,7 +58,7 @@ std::vector<std::string> pathDirectories(const std::string &path) {
     return directories;
 }
 
-// Files of ours on the search paths, other than those that the command uses.
+// Zelvane's files on the search paths, other than those that the command uses.
 Json otherCopies(const std::string &own) {
     std::vector<std::string> directories = pathDirectories(variable("LD_LIBRARY_PATH"));
     directories.push_back(variable("KZRTRACE_LIB_PATH"));

@@ -1,4 +1,5 @@
-// Who listens at the socket for GUIs. A connection would show up there as an application, so the kernel is asked.
+// The process that listens at the socket for GUIs. Queried from the kernel, since a connection would appear there as an
+// application.
 #include <cctype>
 #include <filesystem>
 #include <fstream>

@@ -1,4 +1,4 @@
-// zelvane info: what a program sees under "zelvane run", queried from the library itself.
+// zelvane info: prints what EGL and OpenGL ES report to a program under "zelvane run", queried from the library.
 #include <cstdlib>
 #include <iostream>
 #include <memory>

@@ -35,7 +35,7 @@ extern "C" int glXGetFBConfigAttrib(Display *display, GLXFBConfig config, int at
     const int result = host(display, config, attribute, value);
     if (config != slowConfig) return result;
     if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
-    if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
+    if (attribute == GLX_FBCONFIG_ID) *value = 0; // an id that the server does not have
     return result;
 }
 
