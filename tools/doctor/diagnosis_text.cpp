@@ -43,7 +43,7 @@ std::string diagnosisAsText(const Diagnosis &diagnosis) {
     std::string text;
     for (const auto &[name, facts] : diagnosis.facts.items())
         text += factText(name, facts, "") + '\n';
-    if (diagnosis.findings.empty()) return text + "nothing is wrong\n";
+    if (diagnosis.findings.empty()) return text + "no problem found\n";
     for (const Finding &finding : diagnosis.findings)
         text += "wrong:  " + finding.problem + "\nremedy: " + finding.remedy + '\n';
     return text;

@@ -54,7 +54,7 @@ Json queryHost() {
     const auto library = host::openHostOpenGLLibrary();
     if (!library.isLoaded()) throw std::runtime_error("there is no OpenGL library " + library.name());
     const auto identity = capability::probeHostIdentity(library, std::make_shared<glove::WSAPI>());
-    if (!identity) throw std::runtime_error("the host gives no OpenGL 3.2 core context");
+    if (!identity) throw std::runtime_error("the host has no OpenGL 3.2 core context");
     return {{"vendor", identity->vendor}, {"renderer", identity->renderer}, {"version", identity->version}};
 }
 

@@ -57,7 +57,7 @@ void examineSocket(Diagnosis &diagnosis) {
     struct stat file {};
     if (lstat(path.c_str(), &file) != 0) return;
     if (!S_ISSOCK(file.st_mode))
-        return diagnosis.add('"' + path + "\" is in the way of the monitor's socket", "rm -r \"" + path + '"');
+        return diagnosis.add('"' + path + "\" blocks the monitor's socket", "rm -r \"" + path + '"');
     const std::string inode = listeningInode(path);
     if (inode.empty()) return;
     facts["listener"] = listenerText(inode);
