@@ -1,5 +1,7 @@
 #include "host/platform/x11/fb_configs.h"
 
+#include "host/platform/x11/glx.h"
+
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -38,7 +40,7 @@ int32_t drawableTypes(int glxTypes, bool hasVisual) {
 std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, const Visuals &visuals) {
     const auto value = [&](int attribute) {
         int result = 0;
-        glXGetFBConfigAttrib(display, handle, attribute, &result);
+        glx().fbConfigAttrib(display, handle, attribute, &result);
         return result;
     };
     const auto visual = visuals.find(static_cast<VisualID>(value(GLX_VISUAL_ID)));
@@ -108,7 +110,7 @@ auto preference(const FbConfig &config, const FormatSizes &wanted, Display *disp
 
 void FbConfigs::read() {
     int count = 0;
-    const std::unique_ptr<GLXFBConfig[], Free> handles(glXGetFBConfigs(m_display, m_screen, &count));
+    const std::unique_ptr<GLXFBConfig[], Free> handles(glx().fbConfigs(m_display, m_screen, &count));
     const auto visuals = trueColorVisuals(m_display, m_screen);
     for (int i = 0; handles && i < count; ++i) {
         if (auto config = describe(m_display, handles[i], visuals)) m_configs.push_back(*config);
