@@ -3,6 +3,7 @@
 #include "capability/collect_system_report.h"
 #include "egl/desktop_clients.h"
 #include "egl/gui_link.h"
+#include "egl/libgl.h"
 #include "egl/process_journal.h"
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
@@ -25,12 +26,13 @@ constinit std::atomic<bool> isStateLoaded = false;
 
 State::State()
     : m_profile(defaultProfile),
-      // Loaders of programs (libepoxy, for one) take a process with libGL.so.1 and a current GLX context, which ours
-      // are, for one that draws by GLX, and go past OpenGL ES.
+      // A process that has loaded the host's libGL.so.1 or libOpenGL.so.0 would not load the one that follows our
+      // contexts.
       m_openGLLibrary(desktop_clients::isOn() ? host::openPlainHostOpenGLLibrary() : host::openHostOpenGLLibrary()),
       m_uiLink(setRenderModeOfAll) {
     (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
     attachGuiLink(*this);
+    if (desktop_clients::isOn()) connectLibGl();
     threadRecord.currentDisplay = nullptr;
 }
 
