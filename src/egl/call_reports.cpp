@@ -57,12 +57,12 @@ void tellRefusal(Kind kind, const char *call, const std::string &values) {
     tellRefusal(kind, call, values, error, refusals::takeWords(error));
 }
 
-// A later call finds no note of an earlier one.
+// Clears the note, so that it is not used for a later call.
 void forgetNote() {
     refusals::lastNote = {};
 }
 
-// Of a call that programs try until it is taken.
+// Ends the series of a call that programs retry until it succeeds.
 void endSteps(const char *call) {
     forgetNote();
     refusals::settle(call);
@@ -76,7 +76,7 @@ Json sizesJson(const Config &config) {
     return sizes;
 }
 
-// The attribute that threw out most configs.
+// The attribute that rejected most configs.
 std::string whyNone(const ChoiceAccount &account) {
     if (account.fallenOut.empty()) return "the device has no configs";
     std::map<int32_t, int> counts;
@@ -87,7 +87,7 @@ std::string whyNone(const ChoiceAccount &account) {
     for (const auto &[id, reason] : account.fallenOut) {
         if (reason.attribute != most->first) continue;
         text += ": " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
-                " threw out " + std::to_string(most->second) + " of " + std::to_string(account.fallenOut.size()) +
+                " rejected " + std::to_string(most->second) + " of " + std::to_string(account.fallenOut.size()) +
                 "; config " + std::to_string(id) + " has " + valueText(reason.attribute, reason.had);
         break;
     }
@@ -158,7 +158,7 @@ void surface(EGLSurface answer, const char *call, EGLDisplay dpy, EGLConfig conf
 void makeCurrent(EGLBoolean answer, EGLSurface draw, EGLSurface read, EGLContext context) {
     if (answer) {
         forgetNote();
-        // The first bind of a context has its device told.
+        // Writes the line about the context's device at its first bind.
         if (journal::isOn()) (void)journal::RecordedContext::current();
         return;
     }

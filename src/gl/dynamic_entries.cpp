@@ -53,8 +53,8 @@ namespace {
 
 struct Names {
     std::mutex mutex;
-    std::map<std::string, size_t, std::less<>> slots; // never shrinks; guarded by mutex
-    const char *bySlot[dynamicNameCount] = {};        // written before the entry is handed out
+    std::map<std::string, size_t, std::less<>> slots; // entries are never removed; guarded by mutex
+    const char *bySlot[dynamicNameCount] = {};        // written before the entry is returned
 };
 
 Names &names() {
@@ -84,7 +84,7 @@ Function dynamicEntry(const char *name) {
 
 } // namespace gl
 
-// Called by the resolvers.
+// Called by the resolvers, with the slot of the entry.
 gl::Function zelvane_resolve_dynamic_slot(unsigned slot) {
     const gl::GLEntryProxy proxy{gl::names().bySlot[slot - gl::firstDynamicSlot], slot};
     return gl::resolveEntry(proxy, zelvane_nothing);

@@ -18,7 +18,7 @@ ToolPreferences::ToolPreferences() : m_store(productName) {
     tinyxml2::XMLDocument document;
     document.LoadFile(file.stream);
     files.closePreferenceFile(file, false);
-    if (document.Error()) failCommand("\"" + m_path + "\" is no well-formed XML: " + document.ErrorStr());
+    if (document.Error()) failCommand("\"" + m_path + "\" is not well-formed XML: " + document.ErrorStr());
 }
 
 std::string ToolPreferences::storedDirectory() {
@@ -63,7 +63,7 @@ void ToolPreferences::setStrict(bool strict) {
 }
 
 void ToolPreferences::storeString(const char *name, const std::string &value) {
-    // A value that is a dict or an array accepts no text, and the store reports no error.
+    // A dict or an array cannot be replaced by a text, and the store does not report an error.
     std::string stored;
     m_store.setString(settingKey(name), value);
     m_store.getString(settingKey(name), &stored, std::string());
@@ -71,6 +71,6 @@ void ToolPreferences::storeString(const char *name, const std::string &value) {
 }
 
 void ToolPreferences::save() {
-    // Forced: a removal does not count as a change.
+    // Forced, since a removal does not count as a change.
     if (!m_store.save(true)) failCommand("\"" + m_path + "\" cannot be written");
 }

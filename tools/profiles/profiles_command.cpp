@@ -45,33 +45,33 @@ void checkFile(const std::string &path) {
                   << '\n';
     }
     if (findings.hasProblems()) throw Failure{1};
-    std::cout << path << ": reads as it looks\n";
+    std::cout << path << ": no faults\n";
 }
 
 } // namespace
 
 void addProfilesCommand(const Verb &top) {
-    const Verb profiles = top.verb("profiles", "List the device profiles, and tell which one is in force",
-                                   "Exit status: 0 done, 1 the preferences file or the profile cannot be read.");
+    const Verb profiles = top.verb("profiles", "List the device profiles, and show the current one",
+                                   "Exit status: 0 success, 1 the preferences file or the profile cannot be read.");
     auto options = std::make_shared<Options>();
     const Word json = profiles.flag("--json", options->asJson, "print one JSON object");
-    profiles.flag("--names", options->asNames, "print the names alone, one a line").excludes(json);
+    profiles.flag("--names", options->asNames, "print only the names, one per line").excludes(json);
     profiles.action([options] {
         const ProfileList list = listProfiles();
         std::cout << (options->asJson ? listAsJson(list) : options->asNames ? listAsNames(list) : listAsText(list));
     });
 
     const Verb show = profiles.verb("show", "Print a profile: configs, extensions, limits",
-                                    "Exit status: 0 done, 1 there is no such profile.");
+                                    "Exit status: 0 success, 1 there is no such profile.");
     show.word("name", options->name, "a name that \"zelvane profiles\" lists").required();
     show.action([options] { showProfile(options->name); });
 
-    const Verb check = profiles.verb(
-        "check", "Tell what the reader makes of a profile file",
-        "Tells every element that the reader ignores or reads differently than it looks, with line numbers.\n"
-        "Lines with \"note:\" tell what is never read, and do no harm.\n"
-        "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
-    check.word("file", options->path, "the file, wherever it lies").required();
+    const Verb check =
+        profiles.verb("check", "Check a profile file",
+                      "Lists the elements that the reader ignores or reads in an unexpected way, with line numbers.\n"
+                      "Lines with \"note:\" list harmless elements that are never read.\n"
+                      "Exit status: 0 no faults, 1 the file has faults or cannot be read.");
+    check.word("file", options->path, "the path of the file").required();
     check.action([options] { checkFile(options->path); });
     profiles.canStandAlone();
 }
