@@ -150,6 +150,9 @@ std::vector<double> formatsOf(std::vector<double> host, const std::optional<EsBl
     return host;
 }
 
+// Doubles hold every integer up to here.
+constexpr double exactIntegers = 1LL << std::numeric_limits<double>::digits;
+
 std::vector<double> hostNumbers(GLenum pname, size_t count) {
     if (count == 1) {
         GLint64 value = 0;
@@ -202,7 +205,11 @@ std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
         const auto found = device.limits.find(row.element);
         const size_t count = row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
         if (found == device.limits.end() || found->second.size() < count) continue;
-        limits.push_back({row.pname, meet(row.rule, hostNumbers(row.pname, count), found->second)});
+        std::vector<double> host = hostNumbers(row.pname, count);
+        std::vector<double> met = meet(row.rule, host, found->second);
+        // A double does not hold it exactly: the host answers itself.
+        if (met == host && met.front() > exactIntegers) continue;
+        limits.push_back({row.pname, std::move(met)});
     }
     std::ranges::sort(limits, {}, &Limit::pname);
     return limits;
