@@ -20,6 +20,7 @@ public:
 
     // Each writes the file; other keys are unchanged. A failure fails the verb.
     void setProfile(const std::string &directory, const std::string &name);
+    void setDirectory(const std::string &directory);
     void removeProfile();
     void setStrict(bool strict);
 

@@ -16,6 +16,9 @@ namespace {
 
 using tinyxml2::XMLElement;
 
+// Holds what a capture knows about the device and profiles have no place for.
+constexpr std::string_view captured = "captured";
+
 std::string quoted(std::string_view text) {
     constexpr size_t longest = 40;
     return "\"" + std::string(text.substr(0, longest)) + (text.size() > longest ? "...\"" : "\"");
@@ -137,7 +140,7 @@ void Check::checkEgl(const XMLElement &egl) {
     for (auto *child = egl.FirstChildElement(); child; child = child->NextSiblingElement()) {
         if (std::string_view(child->Name()) == "config")
             checkConfig(*child);
-        else
+        else if (std::string_view(child->Name()) != captured)
             problem(child->GetLineNum(), std::string(child->Name()) + " is no element of egl: ignored");
     }
     if (!m_ids.contains(1))
@@ -175,7 +178,7 @@ void Check::checkDescendants(const XMLElement &parent, const std::string &contai
             checkValue(*rule, *child);
         } else if (rule) {
             note(line, name + " is never read: the library's own values stand");
-        } else if (!isChildOf(container, name)) {
+        } else if (name != captured && container != captured && !isChildOf(container, name)) {
             problem(line, name + " is no element of " + (container.empty() ? "config" : container) + ": ignored");
         }
         checkDescendants(*child, name, seen);

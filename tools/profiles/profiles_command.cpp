@@ -10,6 +10,8 @@
 #include "tools/command/profile_names.h"
 #include "tools/command/verbs.h"
 #include "tools/profiles/check_profile.h"
+#include "tools/profiles/export.h"
+#include "tools/profiles/import.h"
 #include "tools/profiles/print_profile.h"
 #include "tools/profiles/profile_list.h"
 
@@ -48,6 +50,30 @@ void checkFile(const std::string &path) {
     std::cout << path << ": reads as it looks\n";
 }
 
+void addImportVerb(const Verb &profiles) {
+    const Verb verb = profiles.verb(
+        "import", "Install a profile file into the profiles directory",
+        "Tells what \"zelvane profiles check\" finds wrong. Without a profiles directory, one is made and set.\n"
+        "Exit status: 0 done, 1 the file is no profile, its name is taken, or it cannot be installed.");
+    auto import = std::make_shared<ProfileImport>();
+    verb.word("file", import->path, "the file, as zelvane-capture prints it; - is standard input").required();
+    verb.option("--name", import->name, "NAME", "the profile's name; otherwise its device, or else the file's name")
+        .checkedBy([](const std::string &name) { return std::string(name.empty() ? "the name is empty" : ""); });
+    verb.flag("--replace", import->mayReplace, "replace a file of this name");
+    verb.action([import] { importProfile(*import); });
+}
+
+void addExportVerb(const Verb &profiles) {
+    const Verb verb = profiles.verb("export", "Print the text of a profile, or write it to a file",
+                                    "Exit status: 0 done, 1 there is no such profile, or the file is there already "
+                                    "or cannot be written.");
+    auto wanted = std::make_shared<ProfileExport>();
+    verb.word("name", wanted->name, "a name that \"zelvane profiles\" lists, or Desktop").required();
+    verb.word("file", wanted->path, "the file to write; otherwise standard output");
+    verb.flag("--replace", wanted->mayReplace, "overwrite the file");
+    verb.action([wanted] { exportProfile(*wanted); });
+}
+
 } // namespace
 
 void addProfilesCommand(const Verb &top) {
@@ -73,5 +99,7 @@ void addProfilesCommand(const Verb &top) {
         "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
     check.word("file", options->path, "the file, wherever it lies").required();
     check.action([options] { checkFile(options->path); });
+    addImportVerb(profiles);
+    addExportVerb(profiles);
     profiles.canStandAlone();
 }
