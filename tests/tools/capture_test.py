@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""usage: capture_test.py COMMAND LINKED OPENING    Captures the system's EGL and each built-in device, and captures them
-again through the library: the texts are equal but for what is named here. LINKED and OPENING are zelvane-capture, built
-in its two ways. Exit status 77 without an X server."""
+"""usage: capture_test.py COMMAND LINKED OPENING    Captures the system's EGL and each built-in device, and captures
+them again through the library: the texts are equal but for what is named here. LINKED and OPENING are zelvane-capture,
+built in its two ways. Exit status 77 without an X server."""
 
 import os
 import subprocess
@@ -30,10 +30,15 @@ NAMED = {
 }
 # Elements of ES blocks that back ends do not read: a context reports the host's own.
 HOSTS_OWN = {'sample_buffers', 'samples', 'shader_compiler', 'shader_binary_format', 'program_binary_format',
-             'internal_format', 'implementation_color_read_type', 'implementation_color_read_format'}
+             'internal_format', 'implementation_color_read_type', 'implementation_color_read_format',
+             'min_fragment_interpolation_offset', 'max_fragment_interpolation_offset',
+             'max_debug_group_stack_depth', 'max_debug_logged_messages', 'max_debug_message_length', 'max_label_length'}
+ES1_LIMITS = {'smooth_point_size_range', 'smooth_line_width_range', 'max_lights', 'max_clip_planes',
+              'max_modelview_stack_depth', 'max_projection_stack_depth', 'max_texture_stack_depth', 'max_texture_units'}
 # ES 1 has a choice of them; the first format of a type goes with it.
 READ_FORMATS = {'5121': '6408', '33635': '6407'}
-GREATER = {'min_program_texel_offset', 'uniform_buffer_offset_alignment'}
+GREATER = {'min_program_texel_offset', 'min_program_texture_gather_offset', 'uniform_buffer_offset_alignment',
+           'shader_storage_buffer_offset_alignment', 'texture_buffer_offset_alignment'}
 
 DESKTOP = '''<profile><egl host_only="true"><config id="1"><buffer_size>32</buffer_size><red_size>8</red_size>
 <green_size>8</green_size><blue_size>8</blue_size><alpha_size>8</alpha_size><depth_size>24</depth_size>
@@ -123,7 +128,7 @@ def met(element, device, host):
     """The device's value as far as the host carries it."""
     if isinstance(device, tuple):
         numbers = [(float(own), float(hosts)) for (_, own), (_, hosts) in zip(device, host)]
-        takes = (max, min) if element.endswith('_range') else (min, min)
+        takes = (max, min) if element.endswith('_range') else (min, min, min)
         return [f'{take(pair):.9g}' for take, pair in zip(takes, numbers)]
     return str((max if element in GREATER else min)(int(device), int(host)))
 
@@ -144,10 +149,37 @@ def compare_block(what, block, had, host, is_es1):
         check((what, 'read'), (read, (block['implementation_color_read_format'] or [READ_FORMATS[read]])[0]),
               (had.pop('implementation_color_read_type')[0], had.pop('implementation_color_read_format')[0]))
     for element in had.keys() - {'extension', 'compressed_texture_format'}:
-        if not element.startswith('captured/') and element not in HOSTS_OWN and block[element]:
+        is_read = element in ES1_LIMITS if is_es1 else element not in HOSTS_OWN
+        if not element.startswith('captured/') and is_read and block[element]:
             check((what, element), met(element, block[element][0], host[element][0]), numbers_of(had[element][0]))
         elif element not in ('captured/vendor', 'captured/renderer'):
             check((what, element), host[element], had[element])
+
+
+def halved(profile):
+    """The profile with every limit changed."""
+    root = ElementTree.fromstring(profile.encode())
+    for element in root.findall('es/*'):
+        if element.tag not in HOSTS_OWN | {'extension', 'captured', 'compressed_texture_format'}:
+            for number in list(element) or [element]:
+                value = float(number.text)
+                # Doubles, which back ends compute with, do not hold greater numbers exactly.
+                less = int(value / 2) if abs(value) < 2 ** 53 else 10 ** 9
+                number.text = str(less) if abs(value) > 1 else number.text
+    return ElementTree.tostring(root).decode()
+
+
+def compare_halved(profile, host):
+    text = halved(profile)
+    install('System halved', text)
+    blocks, again = facts_of(text), facts_of(through_us('System halved'))
+    for version in versions_of(profile):
+        compare_block(('halved', version), block_of(blocks, version), block_of(again, version),
+                      block_of(host, version), version == '1')
+
+
+def block_of(facts, version):
+    return defaultdict(list, {key[1]: values for key, values in facts.items() if key[0] == ('es', version)})
 
 
 def compare_with_device(name, profile, again, host):
@@ -164,15 +196,13 @@ def compare_with_device(name, profile, again, host):
     check((name, 'versions'), list(versions), [place[1] for place, element in again
                                           if place[0] == 'es' and element == 'captured/version'])
     for version in versions:
-        def of(facts, place):
-            return defaultdict(list, {key[1]: values for key, values in facts.items() if key[0] == ('es', place)})
-        had = of(again, version)
+        had, hosts_own = block_of(again, version), block_of(host, version)
         # A context is raised to the highest version of its config and device, and then has that version's block.
         raised = '3' if version != '1' and had['captured/version'][0].startswith('OpenGL ES 3') else version
-        compare_block((name, version), of(blocks, raised), had, of(host, version), version == '1')
+        compare_block((name, version), block_of(blocks, raised), had, hosts_own, version == '1')
         for string in ('vendor', 'renderer'):
             told = root.find(string)
-            wanted = [told.text] if told is not None else of(host, version)['captured/' + string]
+            wanted = [told.text] if told is not None else hosts_own['captured/' + string]
             check((name, version, string), wanted, had['captured/' + string])
 
 
@@ -220,7 +250,9 @@ def run_cases(home):
     told = run(COMMAND, 'profiles', 'import', path, '--name', 'System')
     check('problems', [], [line for line in told.splitlines() if line.startswith(path)])
     check('exported', system, run(COMMAND, 'profiles', 'export', 'System'))
-    compare_with_system(facts_of(system), facts_of(through_us('System')), facts_of(through_us('Desktop')))
+    again = facts_of(through_us('System'))
+    compare_with_system(facts_of(system), again, facts_of(through_us('Desktop')))
+    compare_halved(system, again)
 
     by_versions = dict(hosts())
     for device in run(COMMAND, 'profiles', '--names').splitlines():
@@ -239,5 +271,6 @@ def main():
         run_cases(home)
     print('\n'.join(map(str, faults)))
     sys.exit(1 if faults else 0)
+
 
 main()

@@ -66,7 +66,7 @@ constexpr CompressedFormat compressedFormatRows[] = {
 #undef COMPRESSED_FORMAT
 };
 
-enum class Rule { least, most, range };
+enum class Rule { least, most, range, indexed };
 struct LimitRow {
     GLenum pname;
     std::string_view element;
@@ -77,6 +77,11 @@ constexpr LimitRow limitRows[] = {
 #include "announcement/limits.def"
 #undef LIMIT
 };
+
+size_t countOf(const LimitRow &row) {
+    if (row.rule == Rule::indexed) return 3;
+    return row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
+}
 
 bool isCarried(const HostFeatures &host, GLint esMajor, std::string_view name) {
     const auto known = std::ranges::find(esExtensions, name, &EsExtension::name);
@@ -159,7 +164,15 @@ std::vector<double> hostNumbers(GLenum pname, size_t count) {
         hostGl().getInteger64v(pname, &value);
         return {static_cast<double>(value)};
     }
-    // Two is the most that any has.
+    if (count == 3) {
+        std::vector<double> numbers;
+        for (GLuint index = 0; index < count; ++index) {
+            GLint value = 0;
+            hostGl().getIntegeri_v(pname, index, &value);
+            numbers.push_back(value);
+        }
+        return numbers;
+    }
     GLfloat values[2] = {};
     hostGl().getFloatv(pname, values);
     return {values[0], values[1]};
@@ -203,9 +216,11 @@ std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
     std::vector<Limit> limits;
     for (const LimitRow &row : limitRows) {
         const auto found = device.limits.find(row.element);
-        const size_t count = row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
+        const size_t count = countOf(row);
         if (found == device.limits.end() || found->second.size() < count) continue;
         std::vector<double> host = hostNumbers(row.pname, count);
+        // The device's version may be higher than the context's.
+        if (hostGl().getError() != GL_NO_ERROR) continue;
         std::vector<double> met = meet(row.rule, host, found->second);
         // A double does not hold it exactly: the host answers itself.
         if (met == host && met.front() > exactIntegers) continue;
