@@ -29,12 +29,11 @@ NAMED = {
     ('es', 'implementation_color_read_format'): 'it is that of the host\'s framebuffer',
 }
 # Elements of ES blocks that back ends do not read: a context reports the host's own.
-HOSTS_OWN = {'sample_buffers', 'samples', 'shader_compiler', 'shader_binary_format', 'program_binary_format',
-             'internal_format', 'implementation_color_read_type', 'implementation_color_read_format',
+HOSTS_OWN = {'max_palette_matrices', 'max_vertex_units', 'sample_buffers', 'samples', 'shader_compiler',
+             'shader_binary_format', 'program_binary_format', 'internal_format',
+             'implementation_color_read_type', 'implementation_color_read_format',
              'min_fragment_interpolation_offset', 'max_fragment_interpolation_offset',
              'max_debug_group_stack_depth', 'max_debug_logged_messages', 'max_debug_message_length', 'max_label_length'}
-ES1_LIMITS = {'smooth_point_size_range', 'smooth_line_width_range', 'max_lights', 'max_clip_planes',
-              'max_modelview_stack_depth', 'max_projection_stack_depth', 'max_texture_stack_depth', 'max_texture_units'}
 # ES 1 has a choice of them; the first format of a type goes with it.
 READ_FORMATS = {'5121': '6408', '33635': '6407'}
 GREATER = {'min_program_texel_offset', 'min_program_texture_gather_offset', 'uniform_buffer_offset_alignment',
@@ -149,8 +148,7 @@ def compare_block(what, block, had, host, is_es1):
         check((what, 'read'), (read, (block['implementation_color_read_format'] or [READ_FORMATS[read]])[0]),
               (had.pop('implementation_color_read_type')[0], had.pop('implementation_color_read_format')[0]))
     for element in had.keys() - {'extension', 'compressed_texture_format'}:
-        is_read = element in ES1_LIMITS if is_es1 else element not in HOSTS_OWN
-        if not element.startswith('captured/') and is_read and block[element]:
+        if not element.startswith('captured/') and element not in HOSTS_OWN and block[element]:
             check((what, element), met(element, block[element][0], host[element][0]), numbers_of(had[element][0]))
         elif element not in ('captured/vendor', 'captured/renderer'):
             check((what, element), host[element], had[element])
