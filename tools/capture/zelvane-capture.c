@@ -800,20 +800,17 @@ static void writeFormats(const Context *context) {
     }
 }
 
+/* As vertex_high_float: the range's two exponents, and the bits of precision. */
 static void writePrecisions(const char *shader, GLenum shaderType) {
     const GLenum lowFloat = 0x8DF0;
     size_t index;
     for (index = 0; index < COUNT(precisionNames); ++index) {
         GLint range[2] = {0, 0}, precision = 0;
+        const char *const name = precisionNames[index];
         gl.glGetShaderPrecisionFormat(shaderType, lowFloat + (GLenum)index, range, &precision);
         if (gl.glGetError() != GL_NO_ERROR) continue;
-        writeTag(3, "", "shader_precision");
-        writeElement(4, "shader", shader);
-        writeElement(4, "type", precisionNames[index]);
-        writeNumber(4, "min", range[0]);
-        writeNumber(4, "max", range[1]);
-        writeNumber(4, "precision", precision);
-        writeTag(3, "/", "shader_precision");
+        fprintf(output, "      <%s_%s>%d %d %d</%s_%s>\n", shader, name, (int)range[0], (int)range[1], (int)precision,
+                shader, name);
     }
 }
 
