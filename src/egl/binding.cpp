@@ -1,6 +1,7 @@
 #include "egl/binding.h"
 
 #include <atomic>
+#include <utility>
 
 #include "egl/desktop_clients.h"
 #include "egl/refusal.h"
@@ -27,7 +28,7 @@ void primeShareContext(Context &context, const SurfacePair &surfaces) {
     if (!share || share->esContext.load() || !share->hostContext()) return;
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
-    if (bindContext(share, surfaces)) claim.keep();
+    if (bindContext(std::shared_ptr(share), surfaces)) claim.keep();
     // Before the claim ends: another thread may wait for it, and the host refuses a context that is current here.
     (void)host::makeHostContextCurrent(nullptr, nullptr);
     unbindCurrent(context.display);
@@ -97,15 +98,15 @@ void showPixmap(const Context &current) {
 }
 
 void unbindCurrent(Display &display) {
+    if (!threadRecord.current) return;
+    showPixmap(*threadRecord.current);
     // Held to the end: a destruction that was put off takes it from the thread.
-    const auto current = currentContext();
-    if (!current) return;
-    showPixmap(*current);
+    const auto current = std::move(threadRecord.hold->current);
     endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
 }
 
-bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces) {
+bool bindContext(std::shared_ptr<Context> &&context, const SurfacePair &surfaces) {
     primeShareContext(*context, surfaces);
     if (!context->esLibrary.library.isLoaded()) return refuseBind(Rule::noBackEnd, *context);
     const Surface *const draw = surfaces.draw.get();
@@ -131,16 +132,17 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
 
     if (context->surfaces.draw != surfaces.draw || context->surfaces.read != surfaces.read)
         context->surfaces = surfaces;
-    setCurrentContext(context, &context->display);
     context->attribs.surfaceless = 0;
+    Display &display = context->display;
+    setCurrentContext(std::move(context), &display);
     return true;
 }
 
-bool bindSurfaceless(const std::shared_ptr<Context> &context) {
-    if (desktop_clients::isOn()) return bindContext(context, {});
+bool bindSurfaceless(std::shared_ptr<Context> &&context) {
+    if (desktop_clients::isOn()) return bindContext(std::move(context), {});
     const auto surface = context->display.createPrivateSurface(*context);
     context->attribs.surfaceless = 1;
-    return bindContext(context, {surface, surface});
+    return bindContext(std::move(context), {surface, surface});
 }
 
 } // namespace egl

@@ -40,16 +40,17 @@ EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
     if (threadRecord.current && threadRecord.current->handle != context->handle) unbindCurrent(display);
 
     if (!request.draw && !request.read) {
-        if (!bindSurfaceless(context)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+        if (!bindSurfaceless(std::move(context))) return fail(EGL_BAD_ALLOC, EGL_FALSE);
     } else {
         SurfacePair found;
         const bool isKnown = hasSurfacesOf(*context, memo);
         if (!isKnown) found = {display.findSurface(request.draw), display.findSurface(request.read)};
         const SurfacePair &surfaces = isKnown ? context->surfaces : found;
         if (!surfaces.draw || !surfaces.read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        if (!bindContext(context, surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+        if (!bindContext(std::move(context), surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
         if (!isKnown) {
-            threadRecord.hold->memos.note({request, version, context, surfaces.draw.get(), surfaces.read.get()});
+            threadRecord.hold->memos.note(
+                {request, version, threadRecord.hold->current, surfaces.draw.get(), surfaces.read.get()});
         }
     }
     claim.keep();

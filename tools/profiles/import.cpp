@@ -55,7 +55,7 @@ void checkName(const std::string &name) {
 
 // A text that the library cannot load is refused; what it reads otherwise than it looks is reported only.
 void checkText(const std::string &path, const std::string &name, const std::string &text) {
-    for (const ProfileFinding &finding : checkProfile(text, name).list) {
+    for (const ProfileFinding &finding : checkProfile(text, name).list()) {
         if (finding.isProblem) std::cout << path << ':' << finding.lines << ": " << finding.text << '\n';
     }
     egl::DeviceProfile profile;

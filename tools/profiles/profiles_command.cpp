@@ -1,15 +1,14 @@
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <iostream>
 
-#include "foundation/paths.h"
 #include "profiles/profile_reader.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
+#include "tools/command/text_file.h"
 #include "tools/command/verbs.h"
 #include "tools/profiles/check_profile.h"
+#include "tools/profiles/diff_command.h"
 #include "tools/profiles/export.h"
 #include "tools/profiles/import.h"
 #include "tools/profiles/print_profile.h"
@@ -34,15 +33,8 @@ void showProfile(const std::string &name) {
 }
 
 void checkFile(const std::string &path) {
-    FILE *file = openForReading(path);
-    if (!file) failCommand("\"" + path + "\" cannot be read: " + strerror(errno));
-    std::string text;
-    char bytes[4096];
-    while (const size_t count = fread(bytes, 1, sizeof bytes, file))
-        text.append(bytes, count);
-    fclose(file);
-    const ProfileFindings findings = checkProfile(text, std::filesystem::path(path).filename());
-    for (const ProfileFinding &finding : findings.list) {
+    const ProfileFindings findings = checkProfile(readTextFile(path), std::filesystem::path(path).filename());
+    for (const ProfileFinding &finding : findings.list()) {
         std::cout << path << ':' << finding.lines << ": " << (finding.isProblem ? "" : "note: ") << finding.text
                   << '\n';
     }
@@ -94,11 +86,12 @@ void addProfilesCommand(const Verb &top) {
 
     const Verb check = profiles.verb(
         "check", "Tell what the reader makes of a profile file",
-        "Tells every element that the reader ignores or reads differently than it looks, with line numbers.\n"
-        "Lines with \"note:\" tell what is never read, and do no harm.\n"
+        "Tells every element that the reader ignores or reads differently than it looks, and what no device can\n"
+        "have, with line numbers. Lines with \"note:\" are remarks, which do no harm.\n"
         "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
     check.word("file", options->path, "the file, wherever it lies").required();
     check.action([options] { checkFile(options->path); });
+    addProfilesDiffCommand(profiles);
     addImportVerb(profiles);
     addExportVerb(profiles);
     profiles.canStandAlone();

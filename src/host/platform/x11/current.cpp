@@ -28,16 +28,21 @@ void setThreadContainer(ContextContainer *container);
 
 // Lets go for a thread that ends with a context current.
 struct AtThreadEnd {
-    bool isArmed = false;
     ~AtThreadEnd() { setThreadContainer(nullptr); }
 };
 
-thread_local AtThreadEnd atThreadEnd;
+constinit thread_local bool isArmed __attribute__((tls_model("initial-exec"))) = false;
+
+void armAtThreadEnd() {
+    if (isArmed) return;
+    isArmed = true;
+    [[maybe_unused]] static thread_local AtThreadEnd atThreadEnd; // its construction registers the destructor
+}
 
 void setThreadContainer(ContextContainer *container) {
     if (container == threadContainer) return;
     if (container) {
-        atThreadEnd.isArmed = true; // the first use in a thread is what arms it
+        armAtThreadEnd();
         hold(*container);
     }
     if (auto *const old = std::exchange(threadContainer, container)) letGo(*old);
