@@ -1,6 +1,6 @@
-# cmake --install lays out a prefix: the libraries with the unversioned names beside them, the command, its manual pages
-# and completions, and for those who build on it the headers, a pkg-config file and a CMake package. The EGL and OpenGL
-# ES headers are Khronos' own and come with the system. Whatever has no component here is of the command.
+# Installs the libraries with their unversioned names, the command, its manual pages and completions, and for developers
+# the headers, a pkg-config file and a CMake package. Khronos' EGL and OpenGL ES headers come with the system. Files
+# without a component here belong to the command.
 include(CMakePackageConfigHelpers)
 set(ZELVANE_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING "Where zsh's completion goes")
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME zelvane)

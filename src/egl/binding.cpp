@@ -16,26 +16,27 @@ namespace {
 
 using refusals::Rule;
 
-// Records the rule only: whether the bind fails is decided elsewhere, and callers set the error.
+// Only records the rule. The callers decide whether the bind fails, and set the error.
 bool refuseBind(Rule rule, const Context &context) {
     refusals::lastNote = {rule, {.major = context.attribs.esMajor, .minor = context.attribs.esMinor}};
     return false;
 }
 
-// The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
+// The back end requires the share context's back-end context. Creates those of a whole chain.
 void primeShareContext(Context &context, const SurfacePair &surfaces) {
     const auto &share = context.shareContext;
     if (!share || share->esContext.load() || !share->hostContext()) return;
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
     if (bindContext(std::shared_ptr(share), surfaces)) claim.keep();
-    // Before the claim ends: another thread may wait for it, and the host refuses a context that is current here.
+    // Unbound before the claim ends: another thread may wait for the context, and the host does not bind a context that
+    // is current here.
     (void)host::makeHostContextCurrent(nullptr, nullptr);
     unbindCurrent(context.display);
 }
 
-// At every bind to a window, the same one too, for as long as there is somebody to tell. A window without a title sends
-// an empty one.
+// Called at every bind to a window, even the same one, if a GUI is connected. A window without a title sends an empty
+// one.
 void postWindowTitle(const Surface *draw) {
     const auto *window = draw ? draw->hostSurface.get() : nullptr;
     if (!window || window->isPBuffer() || window->isPixmap() || !state().uiLink().isAttached()) return;
@@ -51,13 +52,13 @@ void tellOfHostWithoutContext(const ContextAttribs &attribs) {
                attribs.legacyClient ? "1" : "2 and 3");
 }
 
-// Makes the back-end context at the first bind and tells it the attributes at every later one.
+// Creates the back-end context at the first bind and sets its attributes at every later one.
 bool bindEsContext(Context &context, host::HostBinding binding) {
     if (const zvEsContext esContext = context.esContext) {
         State::setEsContextAttribs(context.esLibrary, esContext, context.attribs);
         return true;
     }
-    // A back-end context sets its host context up: it waits for a bind that makes that current.
+    // The back-end context initialises its host context when created, so that must be current.
     if (binding != host::HostBinding::current) return true;
     Context *share = context.shareContext.get();
     const SharedEsContext shared(share);
@@ -69,11 +70,11 @@ bool bindEsContext(Context &context, host::HostBinding binding) {
     return true;
 }
 
-// Does what eglDestroyContext put off.
+// Performs a destruction that eglDestroyContext deferred.
 void endClaim(Context &context, Display &display) {
     if (context.pendingDestroy) display.destroyContext(context.handle);
     context.letGo();
-    // Another thread may have seen the claim just before, and left the destruction to this one.
+    // Another thread may have deferred the destruction just before the claim ended.
     if (context.pendingDestroy) display.destroyContext(context.handle);
 }
 
@@ -83,7 +84,7 @@ BindClaim::BindClaim(Context &context) : m_context(context), m_isCurrent(threadR
     if (!context.esContext.load()) m_firstBind = std::unique_lock(context.group->firstBinds);
     m_isTaken = !m_isCurrent && context.claim();
     if (isHeld() || m_firstBind) return;
-    // The first bind of another context of the group may have it for a moment.
+    // The first bind of another context of the group may have claimed it temporarily.
     m_firstBind = std::unique_lock(context.group->firstBinds);
     m_isTaken = context.claim();
 }
@@ -100,7 +101,7 @@ void showPixmap(const Context &current) {
 void unbindCurrent(Display &display) {
     if (!threadRecord.current) return;
     showPixmap(*threadRecord.current);
-    // Held to the end: a destruction that was put off takes it from the thread.
+    // Keeps the context alive, since a deferred destruction removes the thread's reference.
     const auto current = std::move(threadRecord.hold->current);
     endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
@@ -118,15 +119,15 @@ bool bindContext(std::shared_ptr<Context> &&context, const SurfacePair &surfaces
     const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
     if (binding == host::HostBinding::failed) return refuseBind(Rule::hostBind, *context);
-    // A host that refused the context at its creation shows here first.
+    // If the host failed to create the context, the first bind reports it.
     if (!hostContext || !hostContext->context->container()) {
         tellOfHostWithoutContext(context->attribs);
         return refuseBind(Rule::noHostContext, *context);
     }
-    // The application must not inherit an error that the bind left.
+    // Clears an error that the bind generated on the host.
     state().hostEGL(binding == host::HostBinding::current).sweepError();
 
-    // Never taken back by a later bind to a linear surface: a back end sees it for good once it was set.
+    // A later bind to a linear surface does not reset it: the attribute remains set for the back end.
     if (draw && draw->isSrgb) context->attribs.srgbFramebuffer = 1;
     if (!bindEsContext(*context, binding)) return false;
 

@@ -73,7 +73,7 @@ void loadBackEnds() {
 
 uint64_t drawableOf(void *native) {
     if (!isOn()) return reinterpret_cast<uintptr_t>(native);
-    // A Window is as wide as a pointer here, whatever X sends over the wire.
+    // Xlib's Window type has the width of long.
     return native ? *static_cast<const unsigned long *>(native) : 0;
 }
 
@@ -81,7 +81,7 @@ void tellOfOtherApi(EGLenum api) {
     static std::atomic<bool> isTold = false;
     if (!isOn() || isTold.exchange(true)) return;
     const char *wanted = api == EGL_OPENGL_API ? "desktop OpenGL" : "an API of another kind";
-    logMessage(LogError, "%s%s%s", "The application asks EGL for ", wanted, "; this EGL has OpenGL ES alone.");
+    logMessage(LogError, "%s%s%s", "The application requests ", wanted, "; this EGL supports OpenGL ES only.");
 }
 
 } // namespace egl::desktop_clients

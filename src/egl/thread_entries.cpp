@@ -13,7 +13,7 @@ EGLint EGLAPIENTRY eglGetError(void) {
     return std::exchange(threadRecord.error, EGL_SUCCESS);
 }
 
-// Nothing is remembered: there is no other API.
+// Stores nothing, since no other API is supported.
 EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
     if (api != EGL_OPENGL_ES_API) {
         desktop_clients::tellOfOtherApi(api);
@@ -31,7 +31,7 @@ namespace egl {
 
 namespace {
 
-// On devices the waits return at once: no glFinish reaches the host, and a wait in every frame costs nothing.
+// On devices the waits return at once without a glFinish on the host, so a wait in every frame costs nothing.
 EGLBoolean waitForClient() {
     if (!desktop_clients::isOn() || !threadRecord.current) return succeed(EGL_TRUE);
     const auto glFinish = reinterpret_cast<void (*)()>(threadRecord.current->getExtProcAddress("glFinish"));
@@ -56,7 +56,7 @@ EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
     return succeed(EGL_TRUE);
 }
 
-// On devices it releases nothing: the current context stays current, and the thread goes on drawing.
+// On devices it releases nothing: the context stays current, and the thread can continue to draw.
 EGLBoolean EGLAPIENTRY eglReleaseThread(void) {
     if (desktop_clients::isOn()) standard::releaseThread();
     return succeed(EGL_TRUE);

@@ -48,41 +48,23 @@ zelvane_dynamic_resolve:
     .cfi_offset %rbp, -16
     movq %rsp, %rbp
     .cfi_def_cfa_register %rbp
-    pushq %rdi
-    pushq %rsi
-    pushq %rdx
-    pushq %rcx
-    pushq %r8
-    pushq %r9
-    pushq %rax
+    .irp register, rdi, rsi, rdx, rcx, r8, r9, rax
+    pushq %\register
+    .endr
     subq $136, %rsp
-    movups %xmm0, (%rsp)
-    movups %xmm1, 16(%rsp)
-    movups %xmm2, 32(%rsp)
-    movups %xmm3, 48(%rsp)
-    movups %xmm4, 64(%rsp)
-    movups %xmm5, 80(%rsp)
-    movups %xmm6, 96(%rsp)
-    movups %xmm7, 112(%rsp)
+    .irp number, 0, 1, 2, 3, 4, 5, 6, 7
+    movups %xmm\number, 16 * \number(%rsp)
+    .endr
     movl %r11d, %edi
     call zelvane_resolve_dynamic_slot
     movq %rax, %r11
-    movups (%rsp), %xmm0
-    movups 16(%rsp), %xmm1
-    movups 32(%rsp), %xmm2
-    movups 48(%rsp), %xmm3
-    movups 64(%rsp), %xmm4
-    movups 80(%rsp), %xmm5
-    movups 96(%rsp), %xmm6
-    movups 112(%rsp), %xmm7
+    .irp number, 0, 1, 2, 3, 4, 5, 6, 7
+    movups 16 * \number(%rsp), %xmm\number
+    .endr
     addq $136, %rsp
-    popq %rax
-    popq %r9
-    popq %r8
-    popq %rcx
-    popq %rdx
-    popq %rsi
-    popq %rdi
+    .irp register, rax, r9, r8, rcx, rdx, rsi, rdi
+    popq %\register
+    .endr
     popq %rbp
     .cfi_def_cfa %rsp, 8
     jmpq *%r11
@@ -111,8 +93,8 @@ namespace {
 
 struct Names {
     std::mutex mutex;
-    std::map<std::string, size_t, std::less<>> slots; // never shrinks; guarded by mutex
-    const char *bySlot[dynamicNameCount] = {};        // written before the entry is handed out
+    std::map<std::string, size_t, std::less<>> slots; // entries are never removed; guarded by mutex
+    const char *bySlot[dynamicNameCount] = {};        // written before the entry is returned
 };
 
 Names &names() {
@@ -142,7 +124,7 @@ Function dynamicEntry(const char *name) {
 
 } // namespace gl
 
-// Called by the resolvers.
+// Called by the resolvers, with the slot of the entry.
 gl::Function zelvane_resolve_dynamic_slot(unsigned slot) {
     const gl::GLEntryProxy proxy{gl::names().bySlot[slot - gl::firstDynamicSlot], slot};
     return gl::resolveEntry(proxy, zelvane_nothing);

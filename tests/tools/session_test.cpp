@@ -1,4 +1,4 @@
-// Sessions of a shell: commands behind "$ ", what they say without empty lines, and their exit status if it is not 0.
+// Shell sessions: commands after "$ ", their output without empty lines, and their exit status if it is not 0.
 #include <gtest/gtest.h>
 
 #include <regex>

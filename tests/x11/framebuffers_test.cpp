@@ -19,7 +19,7 @@ protected:
         ES(glBindFramebuffer)(target, framebuffer);
         return pixel(3, 3)[0];
     }
-    // What is deleted while it is bound leaves the surface in its place.
+    // Deleting a bound framebuffer binds the surface.
     void bind(GLenum target, GLuint framebuffer) {
         const GLuint deleted = 41;
         const bool isByDeletion = framebuffer == 0 && bindsSurfaceByDeletion;
@@ -44,7 +44,7 @@ TEST_F(BackEndFramebuffers, BlitsConvertWhatHasSrgbValuesAndNothingElse) {
     EXPECT_EQ(encoding, GL_LINEAR) << "of the surface, whatever the host's can do";
     const struct {
         GLenum format;
-        GLubyte fromSurface, toSurface; // what becomes of 128, as the image's values
+        GLubyte fromSurface, toSurface; // the results of 128, as values of the image
         bool isByDeletion;
     } rows[] = {{GL_RGBA8, 128, 128, false}, {GL_SRGB8_ALPHA8, 188, 55, false}, {GL_SRGB8_ALPHA8, 188, 55, true}};
     for (const auto &row : rows) {
@@ -55,7 +55,7 @@ TEST_F(BackEndFramebuffers, BlitsConvertWhatHasSrgbValuesAndNothingElse) {
         drawToImage(row.format);
         blit(0, 40);
         EXPECT_NEAR(gray(GL_READ_FRAMEBUFFER, 40), row.fromSurface, 1);
-        // The image's own value of 128 again.
+        // The image's own value of 128 is unchanged.
         ES(glBindFramebuffer)(GL_FRAMEBUFFER, 40);
         const float linear = row.format == GL_RGBA8 ? 0.5F : 0.2159F;
         clear(linear, linear, linear);

@@ -1,7 +1,7 @@
 /* zelvane-capture: prints the device profile of the machine that it runs on, as XML for "zelvane profiles import".
 
-   It is one C99 file that needs the headers and libraries of EGL and OpenGL ES only. It draws to a pbuffer, or to no
-   surface at all, so that it needs no window system.
+   It is one C99 file that needs the headers and libraries of EGL and OpenGL ES only. It uses a pbuffer, or no surface
+   where there are none, and needs no window system.
 
    Desktop or board    cc -o zelvane-capture zelvane-capture.c -lEGL -lGLESv2
    without the libraries' development links, or to choose them with LD_LIBRARY_PATH
@@ -70,7 +70,7 @@ typedef void (*Function)(void);
 
 #define MEMBER(result, name, parameters) result(EGLAPIENTRY *name) parameters;
 static struct { EGL_FUNCTIONS(MEMBER) } egl;
-/* Of the current context. Functions of versions above its own are null, or not to be called. */
+/* Of the current context. Functions of higher versions may be null, and are not called. */
 static struct { COMMON_GL_FUNCTIONS(MEMBER) ES2_FUNCTIONS(MEMBER) ES3_FUNCTIONS(MEMBER) } gl;
 
 typedef struct {
@@ -86,7 +86,7 @@ static FILE *output;
 
 typedef enum { NUMBER_VALUE, BOOLEAN_VALUE } ValueKind;
 
-/* The elements that a config has one value of, in groups; those of the group "captured" have no place in profiles. */
+/* Config attributes with one value, in groups. The group "captured" has what profiles have no element for. */
 static const struct {
     const char *group, *element;
     EGLint attribute;
@@ -145,7 +145,7 @@ static const struct {
     {"surface_type", "EGL_PIXMAP_BIT", EGL_SURFACE_TYPE, EGL_PIXMAP_BIT},
 };
 
-/* The versions that contexts are asked for, as the blocks of a profile have them. */
+/* The versions of the blocks, and the context that each is captured from. */
 static const struct {
     const char *block;
     EGLint major, minor, renderableBit;
@@ -157,7 +157,7 @@ static const struct {
 typedef enum { NUMBER, REAL, RANGE, SIZE, INDEXED } LimitForm;
 #define ANY 99
 
-/* The element has the name of the number that is queried, which is given by value, since older headers lack many.
+/* The element is named after the queried enumerant, whose value is here because older headers lack it.
    since and until are versions of the context; an extension that is named must be there. */
 static const struct {
     const char *element;
@@ -325,7 +325,7 @@ static const struct {
     {"max_samples", 0x8D57, 20, 20, NUMBER, "GL_EXT_multisampled_render_to_texture"},
 };
 
-/* Internal formats, whose greatest numbers of samples ES 3 returns. */
+/* Internal formats, for which ES 3 returns the maximum number of samples. */
 static const struct {
     const char *name;
     GLenum format;
@@ -401,7 +401,7 @@ static void tell(const char *format, ...) {
     va_end(arguments);
 }
 
-/* The length of the UTF-8 character at the text, or 0 if there is none that XML allows. */
+/* The length of the UTF-8 character at the text, or 0 if it is not one that XML allows. */
 static size_t characterLength(const unsigned char *text) {
     size_t length = text[0] < 0x80 ? 1 : text[0] < 0xC2 ? 0 : text[0] < 0xE0 ? 2 : text[0] < 0xF0 ? 3 : 4;
     size_t index;
@@ -412,7 +412,7 @@ static size_t characterLength(const unsigned char *text) {
     return length;
 }
 
-/* Writes the text with everything escaped that XML needs; what is no UTF-8 becomes a question mark. */
+/* Escapes the text for XML. Bytes that are not UTF-8 become question marks. */
 static void writeText(const char *text) {
     const unsigned char *next = (const unsigned char *)text;
     while (*next) {
@@ -506,7 +506,7 @@ static int loadEgl(void) {
     return isComplete;
 }
 
-/* The function of the library of that version, where EGL returns none but those of extensions. */
+/* A core function, if eglGetProcAddress returns only those of extensions. */
 static void loadFromLibrary(int major, const char *name, void *function) {
     static const char *const es1Names[] = {"libGLESv1_CM.so.1", "libGLESv1_CM.so", NULL};
     static const char *const es2Names[] = {"libGLESv2.so.2", "libGLESv2.so", NULL};
@@ -533,7 +533,7 @@ static void loadFromLibrary(int major, const char *name, void *function) {
 }
 #endif
 
-/* Whether EGL returns all functions, and not only those of extensions. */
+/* Whether eglGetProcAddress returns core functions too. */
 static int returnsEveryFunction(EGLDisplay display, EGLint minor) {
     return minor >= 5 || hasWord(egl.eglQueryString(display, EGL_EXTENSIONS), "EGL_KHR_get_all_proc_addresses");
 }
@@ -559,7 +559,7 @@ static int loadGl(int fromEgl, int major) {
 
 /* ---- Displays and contexts ---- */
 
-/* The default display, or where there is no window system, Mesa's display without one. */
+/* The default display, or Mesa's surfaceless platform if there is no window system. */
 static EGLDisplay openDisplay(EGLint *minor) {
     EGLint major = 0;
     EGLDisplay display = egl.eglGetDisplay(EGL_DEFAULT_DISPLAY);
@@ -573,7 +573,7 @@ static EGLDisplay openDisplay(EGLint *minor) {
     memcpy(&getPlatformDisplay, &function, sizeof function);
     display = function ? getPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, NULL, NULL) : EGL_NO_DISPLAY;
     if (display == EGL_NO_DISPLAY || !egl.eglInitialize(display, &major, minor)) return EGL_NO_DISPLAY;
-    tell("captures the display without a window system");
+    tell("uses the surfaceless platform");
     return display;
 }
 
@@ -596,7 +596,7 @@ static int versionOf(const char *text) {
     return text && sscanf(text, "%d.%d", &major, &minor) == 2 ? major * 10 + minor : 0;
 }
 
-/* Makes a context of that version and config current. A minor version of 0 is not asked for: EGL 1.4 has none. */
+/* Makes a context of that version and config current. EGL 1.4 has no minor versions: 0 is not passed on. */
 static int tryContext(Context *context, EGLConfig config, int row, int fromEgl) {
     static const EGLint pbufferAttributes[] = {EGL_WIDTH, 16, EGL_HEIGHT, 16, EGL_NONE};
     const EGLint major = versionRows[row].major, minor = versionRows[row].minor;
@@ -620,7 +620,7 @@ static int tryContext(Context *context, EGLConfig config, int row, int fromEgl) 
     return 0;
 }
 
-/* How well the config suits a capture: the usual one before others, since few limits depend on it. */
+/* Prefers common configs: some values depend on the config of the context. */
 static int suitability(EGLDisplay display, EGLConfig config) {
     int points = 0;
     if (attributeOf(display, config, EGL_SURFACE_TYPE) & EGL_PBUFFER_BIT) points += 8;
@@ -630,7 +630,7 @@ static int suitability(EGLDisplay display, EGLConfig config) {
     return points;
 }
 
-/* Makes a context of the version current, of the first of the most suitable configs. */
+/* Makes a context of the version current, with the most suitable config that it can be created for. */
 static int openContext(Context *context, const EGLConfig *configs, EGLint count, int row, int fromEgl) {
     const int mostPoints = 15;
     int points;
@@ -672,15 +672,13 @@ static void writeConfig(EGLDisplay display, EGLConfig config, EGLint id) {
     egl.eglGetError();
 }
 
-/* Ids are the device's own. Profiles begin with 1, so that the configs of a device without it are counted from there.
- */
+/* Ids are the device's. If none is 1, which profiles must have, the configs are numbered from 1. */
 static void writeEgl(EGLDisplay display, const EGLConfig *configs, EGLint count) {
     EGLint index;
     int hasOne = 0;
     for (index = 0; index < count; ++index)
         hasOne = hasOne || attributeOf(display, configs[index], EGL_CONFIG_ID) == 1;
-    if (!hasOne)
-        tell("no config has the id 1: the profile counts them from 1, and its captured/config_id is the device's");
+    if (!hasOne) tell("no config has id 1: they are numbered from 1, and captured/config_id is the device's id");
     writeTag(1, "", "egl");
     for (index = 0; index < count; ++index)
         writeConfig(display, configs[index], hasOne ? attributeOf(display, configs[index], EGL_CONFIG_ID) : index + 1);
@@ -790,7 +788,7 @@ static void writeFormats(const Context *context) {
     for (row = 0; row < COUNT(formatRows); ++row) {
         GLint count = 0, samples = 0;
         gl.glGetInternalformativ(renderbuffer, formatRows[row].format, sampleCountNumber, 1, &count);
-        /* The greatest comes first. */
+        /* In descending order. */
         if (count > 0) gl.glGetInternalformativ(renderbuffer, formatRows[row].format, sampleCounts, 1, &samples);
         if (gl.glGetError() != GL_NO_ERROR) continue;
         writeTag(2, "", "internal_format");
@@ -800,7 +798,7 @@ static void writeFormats(const Context *context) {
     }
 }
 
-/* As vertex_high_float: the range's two exponents, and the bits of precision. */
+/* An element, such as vertex_high_float, has the two exponents of the range and the bits of precision. */
 static void writePrecisions(const char *shader, GLenum shaderType) {
     const GLenum lowFloat = 0x8DF0;
     size_t index;
@@ -838,7 +836,7 @@ static void writeBlock(const Context *context, const char *version) {
 
 /* ---- The program ---- */
 
-/* Writes the names that all versions share; they are those of the first that a context can be had of. */
+/* Writes the names of the device, which are those of its highest version. */
 static int writeIdentity(Context *context, const EGLConfig *configs, EGLint count, int fromEgl, const char *name) {
     int row;
     for (row = (int)COUNT(versionRows) - 1; row >= 0; --row)
@@ -857,7 +855,7 @@ static int writeProfile(EGLDisplay display, const EGLConfig *configs, EGLint cou
     size_t row;
     context.display = display;
     if (!writeIdentity(&context, configs, count, fromEgl, name)) {
-        tell("no context of any version of OpenGL ES can be had (EGL error 0x%04X)", (unsigned)egl.eglGetError());
+        tell("no context can be created (EGL error 0x%04X)", (unsigned)egl.eglGetError());
         return 0;
     }
     writeEgl(display, configs, count);
@@ -866,7 +864,7 @@ static int writeProfile(EGLDisplay display, const EGLConfig *configs, EGLint cou
             writeBlock(&context, versionRows[row].block);
             closeContext(&context);
         } else {
-            tell("no context of ES %d.%d", (int)versionRows[row].major, (int)versionRows[row].minor);
+            tell("ES %d.%d: no context can be created", (int)versionRows[row].major, (int)versionRows[row].minor);
         }
     }
     fputs("</profile>\n", output);
@@ -919,7 +917,7 @@ int main(int argumentCount, char **arguments) {
         } else if (strcmp(arguments[index], "-o") == 0 && hasValue) {
             path = arguments[++index];
         } else {
-            tell("\"%s\" is no option, or has no value", arguments[index]);
+            tell("\"%s\" is not an option, or has no value", arguments[index]);
             fputs(help, stderr);
             return 2;
         }

@@ -30,8 +30,9 @@ void write(int end, const std::string &text) {
     Json json;
     try {
         json = question();
-    } catch (const Failure &) {
-        _exit(EXIT_FAILURE);
+    } catch (const Failure &failure) {
+        std::cerr.flush();
+        _exit(failure.status);
     } catch (const std::exception &error) {
         json = {{failureKey, error.what()}};
     }
@@ -78,6 +79,7 @@ ChildAnswer askInChild(const std::function<Json()> &question, std::chrono::secon
     int status = 0;
     waitpid(child, &status, 0);
     if (!isInTime) return {{}, "does not answer within " + std::to_string(limit.count()) + " seconds"};
+    if (text.empty() && WIFEXITED(status) && WEXITSTATUS(status) != 0) throw Failure{WEXITSTATUS(status)};
     Json json = Json::parse(text, nullptr, false);
     if (json.is_discarded()) return {{}, endText(status)};
     if (json.is_object() && json.contains(failureKey)) return {{}, json[failureKey].get<std::string>()};

@@ -14,6 +14,6 @@ struct ChildAnswer {
 };
 
 // Runs the question in a fork of this process and returns its result. A library that crashes, or a server that never
-// answers, then ends the child only. An exception of the question is a failure with its text. Call it while the process
-// has one thread.
+// answers, then ends the child only. An exception of the question is a failure with its text, and a Failure is thrown
+// here again. Call it while the process has one thread.
 [[nodiscard]] ChildAnswer askInChild(const std::function<Json()> &question, std::chrono::seconds limit);

@@ -26,7 +26,9 @@ const journal::EsEnumerant &enumerantOf(const EsLimit &limit) {
 }
 
 std::string elementOf(const EsLimit &limit) {
-    std::string element = limit.name + 3; // behind "GL_"
+    std::string element = limit.name + 3; // after "GL_"
+    for (const std::string_view suffix : {"_EXT", "_KHR", "_OES"})
+        if (element.ends_with(suffix)) element.resize(element.size() - suffix.size());
     for (char &letter : element)
         if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
     return element;

@@ -21,5 +21,5 @@ struct EsLimit {
 // The enumerant of the limit, with the versions and extensions that have it.
 [[nodiscard]] const journal::EsEnumerant &enumerantOf(const EsLimit &limit);
 
-// The element of a profile: "max_texture_size".
+// The element of a profile, without the suffix of an extension: "max_texture_size".
 [[nodiscard]] std::string elementOf(const EsLimit &limit);

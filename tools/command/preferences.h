@@ -16,11 +16,11 @@ public:
     [[nodiscard]] std::string storedDirectory();
     // The directory that the library would use: the stored one, else $ZELVANE_PROFILE_PATH. Empty without both.
     [[nodiscard]] std::string profilesDirectory();
-    // As stored; the library reads it only when there is a directory.
+    // The stored name; the library reads the profile only if there is a directory.
     [[nodiscard]] std::string currentProfile();
     [[nodiscard]] bool isStrict();
 
-    // Each writes the file; other keys are unchanged. A failure fails the verb.
+    // Each of these writes the file; other keys are unchanged. A failure fails the verb.
     void setProfile(const std::string &directory, const std::string &name);
     void setDirectory(const std::string &directory);
     void removeProfile();

@@ -35,9 +35,9 @@ void failForProfile(const std::string &name, const std::string &directory) {
     std::vector<std::string> names = builtInProfileNames();
     if (!directory.empty()) std::ranges::copy(fileNames(directory), std::back_inserter(names));
     const std::string meant = suggestion(name, names);
-    failCommand("\"" + name + "\" is none of the built-in profiles, and " +
+    failCommand("\"" + name + "\" is not a built-in profile, and " +
                 (directory.empty() ? "no profiles directory is set" : "\"" + directory + "\" has no such file") +
-                (meant.empty() ? "; \"zelvane profiles\" lists what there is" : meant));
+                (meant.empty() ? "; \"zelvane profiles\" lists all profiles" : meant));
 }
 
 void checkProfileName(const std::string &name, const std::string &directory) {
@@ -46,6 +46,6 @@ void checkProfileName(const std::string &name, const std::string &directory) {
     const auto text = egl::findProfileText(CKZRTString(directory.c_str()), profileName);
     if (!text) failForProfile(name, directory);
     if (!readDeviceProfile(profile, *text, profileName)) {
-        failCommand("\"" + name + "\" is no profile; \"zelvane profiles check\" tells what is wrong with a file");
+        failCommand("\"" + name + "\" is not a profile; \"zelvane profiles check\" lists the faults of a file");
     }
 }

@@ -11,6 +11,6 @@ std::string makeOwnProfilesDirectory() {
     directory += "/profiles";
     std::error_code error;
     std::filesystem::create_directories(directory, error);
-    if (error) failCommand("\"" + directory + "\" cannot be made: " + error.message());
+    if (error) failCommand("\"" + directory + "\" cannot be created: " + error.message());
     return directory;
 }

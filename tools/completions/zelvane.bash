@@ -1,6 +1,6 @@
 # Completion of zelvane for bash.
 
-# The names that begin with the word, each quoted as the shell needs it.
+# Adds the names that begin with the word, each quoted for the shell.
 _zelvane_profiles() {
     local word=$1 name
     while IFS= read -r name; do
@@ -18,7 +18,7 @@ _zelvane_attributes='
     EGL_SURFACE_TYPE= EGL_TRANSPARENT_TYPE= EGL_TRANSPARENT_RED_VALUE= EGL_TRANSPARENT_GREEN_VALUE=
     EGL_TRANSPARENT_BLUE_VALUE='
 
-# Completes the program of "run" and its words, which begin at the index.
+# Completes the program of "run" and its arguments, which begin at the index.
 _zelvane_program() {
     local first=$1
     if declare -F _command_offset >/dev/null; then
@@ -38,7 +38,7 @@ _zelvane() {
         return
     fi
 
-    # "--option=value" comes in three words.
+    # "--option=value" is passed as three words.
     [[ $word == = ]] && word=
     [[ $before == = ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
     case $verb:$before in

@@ -1,4 +1,4 @@
-// The result of the doctor: facts by section, and what is wrong.
+// The result of zelvane doctor: facts by section, and the problems found.
 #pragma once
 
 #include <string>

@@ -30,8 +30,8 @@ void examine(bool asJson) {
 void addDoctorCommand(const Verb &top) {
     const Verb doctor =
         top.verb("doctor", "Find what keeps programs from running on this library",
-                 "Tells which libraries programs load, the X server, the host's OpenGL, the back ends,\n"
-                 "the preferences and the monitor, then what is wrong and what mends it.\n"
+                 "Prints the libraries that programs load, the X server, the host's OpenGL, the back ends,\n"
+                 "the preferences and the monitor, then each problem with a remedy.\n"
                  "Exit status: 0 nothing is wrong, 1 something is.");
     const auto asJson = std::make_shared<bool>(false);
     doctor.flag("--json", *asJson, "print one JSON object");

@@ -88,15 +88,11 @@ void findMixture(Diagnosis &diagnosis, const LoaderTrace &plain, const std::stri
     }
     for (const std::string &name : {names[1], names[2]}) {
         const std::string file = fileOf(plain, name);
-        if (file.empty() || isOurs(file) == hasOurEgl) continue;
+        if (egl.empty() || file.empty() || isOurs(file) == hasOurEgl) continue;
         diagnosis.add("a program that is started without \"zelvane run\" mixes two systems: it loads " + quoted(egl) +
                           " and " + quoted(file),
                       hasOurEgl ? lead : "unset LD_LIBRARY_PATH, or remove " + quoted(file));
     }
-}
-
-Json orNull(const std::string &text) {
-    return text.empty() ? Json(nullptr) : Json(text);
 }
 
 } // namespace
@@ -131,7 +127,7 @@ void examineBackEnds(Diagnosis &diagnosis) {
     const std::string own = ownLibraries(), more = variable("KZRTRACE_LIB_PATH");
     Json &facts = diagnosis.facts["backEnds"] = Json::object();
     facts["KZRTRACE_LIB_PATH"] = orNull(more);
-    bool isUsed = false;
+    bool isUsed = more.empty();
     for (const auto &[version, name] :
          {std::pair("OpenGL ES 1", es1LibraryName), {"OpenGL ES 2 and 3", es2LibraryName}}) {
         Json files = Json::array();
@@ -139,16 +135,15 @@ void examineBackEnds(Diagnosis &diagnosis) {
             std::error_code error;
             const fs::path file = fs::path(directory) / name;
             if (directory.empty() || !fs::exists(file, error)) continue;
-            isUsed |= directory == more && files.empty();
+            isUsed |= directory == more;
             files.push_back(file.string());
         }
         if (files.empty()) {
             diagnosis.add(std::string("there is no back end for ") + version + ", " + name,
                           "build or install Zelvane again, or name its directory in KZRTRACE_LIB_PATH");
         }
-        facts[version] = files.empty() ? Json(nullptr) : files[0];
+        facts[version] = files; // the first is used
     }
-    if (!more.empty() && !isUsed && !fs::exists(more + '/' + es1LibraryName) &&
-        !fs::exists(more + '/' + es2LibraryName))
+    if (!isUsed)
         diagnosis.add("KZRTRACE_LIB_PATH names " + quoted(more) + ", which has no back end", "unset KZRTRACE_LIB_PATH");
 }

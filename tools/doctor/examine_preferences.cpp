@@ -8,10 +8,6 @@
 
 namespace {
 
-Json orNull(const std::string &text) {
-    return text.empty() ? Json(nullptr) : Json(text);
-}
-
 Json setVariables() {
     Json variables = Json::object();
     for (const char *name : {"LD_LIBRARY_PATH", "LD_PRELOAD", "LIBGL_ALWAYS_SOFTWARE", "ZELVANE_DESKTOP_CLIENTS",
@@ -48,8 +44,10 @@ void examinePreferences(Diagnosis &diagnosis) {
     facts["variables"] = setVariables();
     if (!error.empty()) {
         const std::string &path = preferences.path();
-        return diagnosis.add(error, path.empty() ? "make the directory writable, or set ZELVANE_PREFERENCES_DIRECTORY"
-                                                 : "mv \"" + path + "\" \"" + path + ".broken\"");
+        std::error_code failure;
+        const bool isThere = std::filesystem::exists(path, failure);
+        return diagnosis.add(error, isThere ? "mv \"" + path + "\" \"" + path + ".broken\""
+                                            : "make the directory writable, or set ZELVANE_PREFERENCES_DIRECTORY");
     }
     const std::string directory = preferences.profilesDirectory();
     facts["profilesDirectory"] = orNull(directory);

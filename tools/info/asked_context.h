@@ -1,4 +1,4 @@
-// What the current OpenGL ES context tells.
+// The properties that the current OpenGL ES context reports.
 #pragma once
 
 #include "tools/command/json.h"

@@ -87,7 +87,7 @@ private:
 };
 
 AskedDisplay::AskedDisplay(const LoadedEgl &egl) : m_egl(egl), m_display(egl.getDisplay(EGL_DEFAULT_DISPLAY)) {
-    if (!m_display) throw std::runtime_error("eglGetDisplay fails with " + error());
+    if (!m_display) throw std::runtime_error("eglGetDisplay returns no display");
     if (!m_egl.initialize(m_display, nullptr, nullptr)) throw std::runtime_error("eglInitialize fails with " + error());
     EGLint count = 0;
     m_egl.getConfigs(m_display, nullptr, 0, &count);

@@ -1,4 +1,4 @@
-// What a program is told by an EGL library and its OpenGL ES contexts.
+// The properties that an EGL library and its OpenGL ES contexts report to a program.
 #pragma once
 
 #include <string>

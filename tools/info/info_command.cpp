@@ -1,4 +1,4 @@
-// zelvane info: what a program under "zelvane run" is told, by the library itself.
+// zelvane info: what a program sees under "zelvane run", queried from the library itself.
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -27,15 +27,19 @@ Json deviceInForce() {
     return name.empty() || preferences.profilesDirectory().empty() ? Json(nullptr) : Json(name);
 }
 
-void tellInfo(const Options &options) {
+void printInfo(const Options &options) {
     const PrivatePreferences preferences({.device = options.device, .strict = {}});
     const RunLibraries libraries("");
     const HeldRefusals refusals(preferences.directory());
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
-    checkXServer();
-    constexpr std::chrono::seconds limit(60);
+    constexpr std::chrono::seconds limit(30);
     const std::string file = libraries.directory() + "/libEGL.so.1";
-    const ChildAnswer answer = askInChild([&] { return askLibrary(file); }, limit);
+    const ChildAnswer answer = askInChild(
+        [&] {
+            checkXServer();
+            return askLibrary(file);
+        },
+        limit);
     if (!answer.json) failCommand("\"" + file + "\": " + answer.failure);
     Json info = {{"device", deviceInForce()}};
     info.update(*answer.json);
@@ -47,12 +51,12 @@ void tellInfo(const Options &options) {
 void addInfoCommand(const Verb &top) {
     const Verb info =
         top.verb("info", "Print what a program sees: EGL, configs, and each version's extensions and limits",
-                 "The library itself is asked, in the way of \"zelvane run\".\n"
-                 "Exit status: 0 done, 1 EGL cannot be initialised, or there is no such profile.");
+                 "Queries the library itself, set up as by \"zelvane run\".\n"
+                 "Exit status: 0 success, 1 EGL cannot be initialised, or there is no such profile.");
     const auto options = std::make_shared<Options>();
     const Word profile =
-        info.option("--profile", options->device.profile, "NAME", "the device; without it that of \"zelvane run\"");
+        info.option("--profile", options->device.profile, "NAME", "the device; default: that of \"zelvane run\"");
     info.flag("--bare", options->device.isBare, "no device: the built-in config").excludes(profile);
     info.flag("--json", options->asJson, "print one JSON object");
-    info.action([options] { tellInfo(*options); });
+    info.action([options] { printInfo(*options); });
 }

@@ -24,6 +24,6 @@ std::vector<std::string> readDevices(const std::string &names) {
             failCommand("there is no device \"" + name + '"' + suggestion(name, known));
         if (std::ranges::find(devices, name) == devices.end()) devices.push_back(name);
     }
-    if (devices.empty()) failCommand("no device is named");
+    if (devices.empty()) failCommand("no device is given");
     return devices;
 }

@@ -37,7 +37,7 @@ std::string withPrefix(const std::string &name) {
     return name.starts_with("GL_") ? name : "GL_" + name;
 }
 
-// The maker's own, which no other list has.
+// The vendor's own, which no other list has.
 void addExtensionsOfBuiltInDevices(std::vector<std::string> &names) {
     for (const std::string_view text : egl::embeddedProfiles) {
         tinyxml2::XMLDocument document;
@@ -85,9 +85,10 @@ private:
 void EsCheck::checkBlock(const XMLElement &block) {
     checkVersion(block);
     for (auto *child = block.FirstChildElement(); child; child = child->NextSiblingElement()) {
-        if (std::string_view(child->Name()) == "extension")
+        const std::string_view name = child->Name();
+        if (name == "extension")
             checkExtension(*child);
-        else if (std::string_view(child->Name()) != capturedElement)
+        else if (name != capturedElement)
             checkLimit(*child);
     }
 }
@@ -105,7 +106,7 @@ void EsCheck::checkVersion(const XMLElement &block) {
         m_findings.problem(line, "version " + quotedText(text) + " reads as " + std::to_string(number));
     const auto [known, isFirst] = m_lines.insert({*version, line});
     if (!isFirst) {
-        m_findings.problem(line, std::string("es ") + versionName(*version) + " stands already at line " +
+        m_findings.problem(line, std::string("es ") + versionName(*version) + " is already at line " +
                                      std::to_string(known->second) + ": only one block of a version is read");
     } else {
         checkConfigsFor(block, *version);
@@ -120,7 +121,7 @@ void EsCheck::checkConfigsFor(const XMLElement &block, capability::EsVersion ver
     if (isSupported) return;
     m_findings.problem(block.GetLineNum(), std::string("no config has ") + bits[major - 1] +
                                                " among its renderable_type: no context of es " + versionName(version) +
-                                               " can be made");
+                                               " can be created");
 }
 
 void EsCheck::checkExtension(const XMLElement &element) {
@@ -128,7 +129,7 @@ void EsCheck::checkExtension(const XMLElement &element) {
     const std::string name = withPrefix(elementText(element));
     if (std::ranges::find(m_extensions, name) != m_extensions.end()) return;
     m_findings.note(element.GetLineNum(),
-                    quotedText(name) + " is no extension that is known" + suggestion(name, m_extensions));
+                    quotedText(name) + " is not a known extension" + suggestion(name, m_extensions));
 }
 
 void EsCheck::checkLimit(const XMLElement &element) {
@@ -138,7 +139,8 @@ void EsCheck::checkLimit(const XMLElement &element) {
         std::vector<std::string> names;
         for (const LimitElement &known : m_limits)
             names.push_back(known.name);
-        m_findings.problem(element.GetLineNum(), name + " is no limit of OpenGL ES: ignored" + suggestion(name, names));
+        m_findings.problem(element.GetLineNum(),
+                           name + " is not a limit of OpenGL ES: ignored" + suggestion(name, names));
         return;
     }
     if (name == "internal_format") return;
@@ -157,7 +159,7 @@ bool EsCheck::checkNumber(const std::string &name, const XMLElement &element) {
     char *end = nullptr;
     const double number = strtod(text.c_str(), &end);
     if (end == text.c_str()) {
-        m_findings.problem(element.GetLineNum(), name + ' ' + quotedText(text) + " is no number: ignored");
+        m_findings.problem(element.GetLineNum(), name + ' ' + quotedText(text) + " is not a number: ignored");
         return false;
     }
     if (*end) {

@@ -78,9 +78,9 @@ ProfileFindings Check::run() {
     document.Parse(m_text.data(), m_text.size());
     const XMLElement *root = document.FirstChildElement("profile");
     if (document.Error()) {
-        problem(std::max(document.ErrorLineNum(), 1), std::string("no well-formed XML: ") + document.ErrorStr());
+        problem(std::max(document.ErrorLineNum(), 1), std::string("not well-formed XML: ") + document.ErrorStr());
     } else if (!root) {
-        problem(1, "there is no root element profile: the file cannot be loaded");
+        problem(1, "the root element is not profile: the file cannot be loaded");
     } else {
         checkRoot(*root);
     }
@@ -105,7 +105,7 @@ void Check::checkRoot(const XMLElement &root) {
         if (name == "egl" && child != egl) {
             problem(child->GetLineNum(), "only the first egl is read: this one is ignored");
         } else if (name != "egl" && name != "es" && name != "device" && name != "renderer" && name != "vendor") {
-            problem(child->GetLineNum(), std::string(name) + " is no element of profile: ignored");
+            problem(child->GetLineNum(), std::string(name) + " is not an element of profile: ignored");
         }
     }
     if (!egl) return;
@@ -119,10 +119,9 @@ void Check::checkEgl(const XMLElement &egl) {
         if (std::string_view(child->Name()) == "config")
             checkConfig(*child);
         else if (std::string_view(child->Name()) != capturedElement)
-            problem(child->GetLineNum(), std::string(child->Name()) + " is no element of egl: ignored");
+            problem(child->GetLineNum(), std::string(child->Name()) + " is not an element of egl: ignored");
     }
-    if (!m_ids.contains(1))
-        problem(egl.GetLineNum(), "no config has the id 1: one of default values is offered for it");
+    if (!m_ids.contains(1)) problem(egl.GetLineNum(), "no config has the id 1: one with default values is added");
 }
 
 void Check::checkConfig(const XMLElement &config) {
@@ -134,7 +133,7 @@ void Check::checkConfig(const XMLElement &config) {
     else if (!isNumber(idText))
         problem(line, "config id " + quotedText(idText) + " reads as " + std::to_string(id));
     if (!m_ids.insert(id).second)
-        problem(line, "config id " + std::to_string(id) + " is taken: this config is ignored");
+        problem(line, "config id " + std::to_string(id) + " is already used: this config is ignored");
 
     std::map<std::string, int> seen;
     checkDescendants(config, "", seen);
@@ -147,17 +146,17 @@ void Check::checkDescendants(const XMLElement &parent, const std::string &contai
         const egl::ConfigElementRule *const rule = egl::findElementRule(name);
         const int line = child->GetLineNum();
         if (rule && rule->reader) {
-            if (!container.empty()) problem(line, name + " inside " + container + " counts as the config's own");
+            if (!container.empty()) problem(line, name + " inside " + container + " is read as the config's own");
             const auto [last, isFirst] = seen.insert({name, line});
             if (!isFirst && rule->reader != egl::readBits) {
-                problem(last->second, name + " stands again further down, and the last one counts");
+                problem(last->second, name + " occurs again below, and the last one is used");
                 last->second = line;
             }
             checkValue(*rule, *child);
         } else if (rule) {
-            note(line, name + " is never read: the library's own values stand");
+            note(line, name + " is never read: the library's own values apply");
         } else if (name != capturedElement && container != capturedElement && !isChildOf(container, name)) {
-            problem(line, name + " is no element of " + (container.empty() ? "config" : container) + ": ignored");
+            problem(line, name + " is not an element of " + (container.empty() ? "config" : container) + ": ignored");
         }
         checkDescendants(*child, name, seen);
     }
@@ -174,7 +173,7 @@ void Check::checkValue(const egl::ConfigElementRule &rule, const XMLElement &ele
     if (rule.reader == egl::readInteger && !isNumber(text.c_str())) reading = "reads as " + std::to_string(value);
     if (rule.reader == egl::readBoolean && value == 0 && text != "EGL_FALSE" && text != "0")
         reading = "reads as EGL_FALSE: only the text EGL_TRUE is true";
-    if (rule.reader == egl::readBits && value == 0) reading = "is no bit that is known: ignored";
+    if (rule.reader == egl::readBits && value == 0) reading = "is not a known bit: ignored";
     if (!reading.empty())
         problem(element.GetLineNum(), std::string(rule.name) + " " + quotedText(text) + " " + reading);
 }
@@ -185,9 +184,9 @@ void Check::checkResult(const XMLElement &element) {
     egl::ConfigMaker maker(config);
     element.Accept(&maker);
     if (config.attributeOr0(EGL_RENDERABLE_TYPE) == 0)
-        problem(line, "config ends up without a renderable_type: no context can be made for it");
+        problem(line, "config has no valid renderable_type: no context can be created for it");
     if (config.attributeOr0(EGL_SURFACE_TYPE) == 0)
-        problem(line, "config ends up without a surface_type: it matches no request for a surface");
+        problem(line, "config has no valid surface_type: it matches no request for a surface");
     const std::string missing = missingSizes(config);
     if (!missing.empty()) problem(line, "config has no " + missing + ": eglGetConfigAttrib fails for it");
     const int32_t samples = config.attributeOr0(EGL_SAMPLES), buffers = config.attributeOr0(EGL_SAMPLE_BUFFERS);

@@ -29,12 +29,10 @@ void compare(const Options &options) {
 } // namespace
 
 void addProfilesDiffCommand(const Verb &profiles) {
-    const Verb diff =
-        profiles.verb("diff", "Compare two profiles: configs, extensions, limits",
-                      "A and B are names that \"zelvane profiles\" lists, \"Desktop\", or files. Configs are matched "
-                      "by their values\n"
-                      "first, then by their ids.\n"
-                      "Exit status: 0 programs find the same device, 1 they do not, 2 a profile cannot be read.");
+    const Verb diff = profiles.verb("diff", "Compare two profiles: configs, extensions, limits",
+                                    "A and B are names that \"zelvane profiles\" lists, \"Desktop\", or files.\n"
+                                    "Configs are matched by their values first, then by their ids.\n"
+                                    "Exit status: 0 no difference, 1 differences, 2 a profile cannot be read.");
     const auto options = std::make_shared<Options>();
     diff.word("a", options->a, "a name or a file").required();
     diff.word("b", options->b, "the other").required();

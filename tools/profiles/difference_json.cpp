@@ -5,10 +5,6 @@
 
 namespace {
 
-Json orNull(const std::string &text) {
-    return text.empty() ? Json(nullptr) : Json(text);
-}
-
 Json valuesJson(const std::vector<ValueDifference> &values) {
     Json json = Json::object();
     for (const ValueDifference &value : values)

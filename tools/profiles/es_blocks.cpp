@@ -20,10 +20,8 @@ EsBlockText readBlock(const XMLElement &element) {
     EsBlockText block{version ? version : "", {}, {}};
     for (auto *child = element.FirstChildElement(); child; child = child->NextSiblingElement()) {
         const std::string name = child->Name();
-        if (name == "extension") {
-            block.extensions.push_back(elementText(*child));
-            continue;
-        }
+        if (name == "extension") block.extensions.push_back(elementText(*child));
+        if (name == "extension" || name == capturedElement) continue;
         auto limit = std::ranges::find(block.limits, name, [](const auto &known) { return known.first; });
         if (limit == block.limits.end()) limit = block.limits.insert(limit, {name, {}});
         limit->second.push_back(valueOf(*child));

@@ -10,7 +10,7 @@ namespace tinyxml2 {
 class XMLElement;
 }
 
-// Below a config, egl or es: what a capture knows about the device and profiles have no place for. Nothing reads it.
+// Below a config, egl or es: what a capture reports of a device and profiles have no place for. Nothing reads it.
 inline constexpr std::string_view capturedElement = "captured";
 
 struct EsBlockText {

@@ -15,7 +15,7 @@ void exportProfile(const ProfileExport &wanted) {
     }
     std::error_code error;
     if (std::filesystem::exists(wanted.path, error) && !wanted.mayReplace)
-        failCommand("\"" + wanted.path + "\" is there already; --replace overwrites it");
+        failCommand("\"" + wanted.path + "\" exists already; --replace overwrites it");
     std::ofstream file(wanted.path, std::ios::binary);
     file << text << std::flush;
     if (!file) failCommand("\"" + wanted.path + "\" cannot be written");

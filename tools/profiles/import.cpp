@@ -37,7 +37,7 @@ std::string nameFor(const ProfileImport &import, const std::string &text) {
     if (!import.name.empty()) return import.name;
     const std::string device = deviceOf(text);
     if (!device.empty()) return device;
-    if (import.path == "-") failCommand("the profile names no device: give it a name with --name");
+    if (import.path == "-") failCommand("the profile has no device: set a name with --name");
     const fs::path file = fs::path(import.path).filename();
     return file.extension() == ".xml" ? file.stem() : file;
 }
@@ -47,20 +47,20 @@ void checkName(const std::string &name) {
     const std::string quoted = "\"" + name + "\"";
     const bool isPath = name.find('/') != std::string::npos || name == "." || name == "..";
     const bool isLine = std::ranges::none_of(name, [](unsigned char letter) { return letter < ' ' || letter == 0x7F; });
-    if (isPath) failCommand(quoted + " is a path and no name: give another one with --name");
-    if (!isLine) failCommand("the name has control characters: give another one with --name");
+    if (isPath) failCommand(quoted + " is a path and not a name: set another name with --name");
+    if (!isLine) failCommand("the name has control characters: set another name with --name");
     if (!egl::findEmbeddedProfile(name).empty())
-        failCommand("the built-in profile " + quoted + " hides every file of its name: give another one with --name");
+        failCommand("the built-in profile " + quoted + " hides files of its name: set another name with --name");
 }
 
-// A text that the library cannot load is refused; what it reads otherwise than it looks is reported only.
+// A text that the library cannot load is rejected; other faults are only reported.
 void checkText(const std::string &path, const std::string &name, const std::string &text) {
     for (const ProfileFinding &finding : checkProfile(text, name).list()) {
         if (finding.isProblem) std::cout << path << ':' << finding.lines << ": " << finding.text << '\n';
     }
     egl::DeviceProfile profile;
     if (!readDeviceProfile(profile, text, CKZRTString(name.c_str())))
-        failCommand("\"" + path + "\" is no profile: nothing is installed");
+        failCommand("\"" + path + "\" is not a profile: nothing was installed");
 }
 
 std::string directoryInForce() {
@@ -71,12 +71,12 @@ std::string directoryInForce() {
     preferences.setDirectory(directory);
     const std::string chosen = preferences.currentProfile();
     std::cout << "profiles directory: now " << directory << "; none was set"
-              << (chosen.empty() ? "" : ", and \"" + chosen + "\" was chosen without effect: it is in force now")
+              << (chosen.empty() ? "" : ", so that the profile \"" + chosen + "\" had no effect; it is now in use")
               << '\n';
     return directory;
 }
 
-// Programs that start meanwhile find the old file or the new one, and never a part of it.
+// Programs that start meanwhile read the old file or the new one, and never a part of it.
 void writeWhole(const fs::path &path, const std::string &text) {
     const fs::path part = path.parent_path() / (".importing-" + path.filename().string());
     std::ofstream(part, std::ios::binary) << text << std::flush;
@@ -100,10 +100,10 @@ void importProfile(const ProfileImport &import) {
     const fs::path directory = directoryInForce();
     std::error_code error;
     fs::create_directories(directory, error);
-    if (error) failCommand("\"" + directory.string() + "\" cannot be made: " + error.message());
+    if (error) failCommand("\"" + directory.string() + "\" cannot be created: " + error.message());
     const fs::path file = directory / name;
     if (fs::exists(fs::symlink_status(file, error)) && !import.mayReplace)
-        failCommand("\"" + file.string() + "\" is there already; --replace puts the new one in its place");
+        failCommand("\"" + file.string() + "\" exists already; --replace overwrites it");
     writeWhole(file, text);
-    std::cout << "installed: " << file.string() << "\nprofile: " << name << "; \"zelvane use\" chooses it\n";
+    std::cout << "installed: " << file.string() << "\nprofile: " << name << "; \"zelvane use\" selects it\n";
 }

@@ -9,7 +9,7 @@ struct ProfileImport {
     bool mayReplace = false;
 };
 
-// Prints the problems of the text and where the profile lies now. Without a profiles directory, the default one is
+// Prints the faults of the text and the path of the installed file. Without a profiles directory, the default one is
 // created and stored. Fails the command, with nothing installed, for a text that the library cannot load, a name that
 // cannot select it, and an existing file unless it may be replaced.
 void importProfile(const ProfileImport &import);

@@ -38,6 +38,6 @@ std::string textOf(const std::string &nameOrFile) {
 NamedProfile readNamedProfile(const std::string &nameOrFile) {
     NamedProfile found{nameOrFile, textOf(nameOrFile), {}};
     if (!readDeviceProfile(found.profile, found.text, CKZRTString(nameOrFile.c_str())))
-        failCommand("\"" + nameOrFile + "\" is no profile; \"zelvane profiles check\" tells what is wrong with a file");
+        failCommand("\"" + nameOrFile + "\" is not a profile; \"zelvane profiles check\" lists the faults of a file");
     return found;
 }

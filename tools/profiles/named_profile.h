@@ -12,5 +12,5 @@ struct NamedProfile {
 };
 
 // An argument with a slash is a file. Any other is the name of a built-in profile, of a file in the profiles directory,
-// "Desktop", or else a file of the working directory. Fails the command when none is there or it is no profile.
+// "Desktop", or else a file of the working directory. Fails the command when there is none, or it is not a profile.
 [[nodiscard]] NamedProfile readNamedProfile(const std::string &nameOrFile);

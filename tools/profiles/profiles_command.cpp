@@ -39,57 +39,59 @@ void checkFile(const std::string &path) {
                   << '\n';
     }
     if (findings.hasProblems()) throw Failure{1};
-    std::cout << path << ": reads as it looks\n";
+    std::cout << path << ": no faults\n";
 }
 
 void addImportVerb(const Verb &profiles) {
     const Verb verb = profiles.verb(
         "import", "Install a profile file into the profiles directory",
-        "Tells what \"zelvane profiles check\" finds wrong. Without a profiles directory, one is made and set.\n"
-        "Exit status: 0 done, 1 the file is no profile, its name is taken, or it cannot be installed.");
+        "Lists the faults that \"zelvane profiles check\" finds. Without a profiles directory, the default one is\n"
+        "created and set.\n"
+        "Exit status: 0 success, 1 the file is not a profile, its name is in use, or it cannot be installed.");
     auto import = std::make_shared<ProfileImport>();
-    verb.word("file", import->path, "the file, as zelvane-capture prints it; - is standard input").required();
-    verb.option("--name", import->name, "NAME", "the profile's name; otherwise its device, or else the file's name")
+    verb.word("file", import->path, "the path of the file; - is standard input").required();
+    verb.option("--name", import->name, "NAME",
+                "the profile's name; by default its device, or else the name of the file")
         .checkedBy([](const std::string &name) { return std::string(name.empty() ? "the name is empty" : ""); });
-    verb.flag("--replace", import->mayReplace, "replace a file of this name");
+    verb.flag("--replace", import->mayReplace, "overwrite an existing profile");
     verb.action([import] { importProfile(*import); });
 }
 
 void addExportVerb(const Verb &profiles) {
     const Verb verb = profiles.verb("export", "Print the text of a profile, or write it to a file",
-                                    "Exit status: 0 done, 1 there is no such profile, or the file is there already "
-                                    "or cannot be written.");
+                                    "Exit status: 0 success, 1 there is no such profile, or the file exists or cannot\n"
+                                    "be written.");
     auto wanted = std::make_shared<ProfileExport>();
     verb.word("name", wanted->name, "a name that \"zelvane profiles\" lists, or Desktop").required();
-    verb.word("file", wanted->path, "the file to write; otherwise standard output");
-    verb.flag("--replace", wanted->mayReplace, "overwrite the file");
+    verb.word("file", wanted->path, "the path of a new file; by default standard output");
+    verb.flag("--replace", wanted->mayReplace, "overwrite an existing file");
     verb.action([wanted] { exportProfile(*wanted); });
 }
 
 } // namespace
 
 void addProfilesCommand(const Verb &top) {
-    const Verb profiles = top.verb("profiles", "List the device profiles, and tell which one is in force",
-                                   "Exit status: 0 done, 1 the preferences file or the profile cannot be read.");
+    const Verb profiles = top.verb("profiles", "List the device profiles, and show the current one",
+                                   "Exit status: 0 success, 1 the preferences file or the profile cannot be read.");
     auto options = std::make_shared<Options>();
     const Word json = profiles.flag("--json", options->asJson, "print one JSON object");
-    profiles.flag("--names", options->asNames, "print the names alone, one a line").excludes(json);
+    profiles.flag("--names", options->asNames, "print only the names, one per line").excludes(json);
     profiles.action([options] {
         const ProfileList list = listProfiles();
         std::cout << (options->asJson ? listAsJson(list) : options->asNames ? listAsNames(list) : listAsText(list));
     });
 
     const Verb show = profiles.verb("show", "Print a profile: configs, extensions, limits",
-                                    "Exit status: 0 done, 1 there is no such profile.");
+                                    "Exit status: 0 success, 1 there is no such profile.");
     show.word("name", options->name, "a name that \"zelvane profiles\" lists").required();
     show.action([options] { showProfile(options->name); });
 
-    const Verb check = profiles.verb(
-        "check", "Tell what the reader makes of a profile file",
-        "Tells every element that the reader ignores or reads differently than it looks, and what no device can\n"
-        "have, with line numbers. Lines with \"note:\" are remarks, which do no harm.\n"
-        "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
-    check.word("file", options->path, "the file, wherever it lies").required();
+    const Verb check =
+        profiles.verb("check", "Check a profile file",
+                      "Lists the elements that the reader ignores or reads in an unexpected way, with line numbers.\n"
+                      "Lines with \"note:\" list harmless elements that are never read.\n"
+                      "Exit status: 0 no faults, 1 the file has faults or cannot be read.");
+    check.word("file", options->path, "the path of the file").required();
     check.action([options] { checkFile(options->path); });
     addProfilesDiffCommand(profiles);
     addImportVerb(profiles);

@@ -8,7 +8,7 @@ using namespace capability;
 
 namespace {
 
-// A refused version is null.
+// Null for an unsupported version.
 Json esVersion(EsVersion version) {
     return version ? Json(esVersionName(version)) : Json(nullptr);
 }

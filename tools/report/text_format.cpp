@@ -39,7 +39,7 @@ std::string failureOf(Feature feature) {
     const auto &descriptor = descriptorOf(feature);
     const auto &alternatives = descriptor.alternatives;
     std::string text = describeFeatureFailure(descriptor, alternatives.size() == 1 ? alternatives[0].variant : 0);
-    // No alternative follows the last one.
+    // The text after the last separator is empty.
     constexpr std::string_view separator = "\nOR\n";
     if (text.ends_with(separator)) text.resize(text.size() - separator.size());
     return text;

@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Whether the user has chosen a device. Without a directory of profiles the library reads none.
+// Whether the user has chosen a device. Without a profiles directory the library reads none.
 bool hasUsersDevice(ToolPreferences &preferences) {
     const std::string name = preferences.currentProfile();
     if (name.empty() || preferences.profilesDirectory().empty()) return false;
@@ -34,7 +34,7 @@ void settleDevice(const DeviceWish &wish, const std::string &standIn) {
     if (wish.profile.empty() && hasUsersDevice(preferences)) return;
     const std::string name = wish.profile.empty() ? desktopProfile : wish.profile;
     std::string directory = preferences.profilesDirectory();
-    // A user's own file of the name goes first.
+    // The user's own file of this name takes precedence.
     if (name == desktopProfile && (directory.empty() || !fs::exists(fs::path(directory) / desktopProfile)))
         directory = shippedProfiles();
     checkProfileName(name, directory);

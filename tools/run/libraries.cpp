@@ -18,7 +18,7 @@ void linkTo(const fs::path &target, const fs::path &link) {
     if (error) failCommand("\"" + link.string() + "\" cannot be made: " + error.message());
 }
 
-// Under its own name and the unversioned one, which some programs open first.
+// Links the library by its own name and the unversioned one, which some programs open first.
 void linkLibrary(const fs::path &library, const fs::path &directory) {
     linkTo(library, directory / library.filename());
     linkTo(library, directory / library.filename().stem());

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Without relocations the loader would not look for symbols; with the warning it goes on after the first.
+// LD_BIND_NOW makes the loader look up all symbols, and LD_WARN makes it continue after the first missing one.
 const std::vector<std::string> traceVariables = {"LD_TRACE_LOADED_OBJECTS=1", "LD_BIND_NOW=1", "LD_WARN=1"};
 
 std::vector<char *> environmentWith(const std::vector<std::string> &variables) {
@@ -31,7 +31,7 @@ std::vector<char *> environmentWith(const std::vector<std::string> &variables) {
 
 std::string outputOf(const std::string &program, const std::vector<std::string> &variables) {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be created");
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
@@ -63,7 +63,7 @@ LoaderTrace parse(std::istream &lines) {
             const std::string file = line.substr(at + arrow.size());
             trace.libraries[line.substr(1, at - 1)] = file == absent ? "" : file.substr(0, file.rfind(" ("));
         } else if (line.starts_with("\t/")) {
-            // Asked for with its path.
+            // A library that was requested by its path.
             const std::string file = line.substr(1, line.rfind(" (") - 1);
             trace.libraries[std::filesystem::path(file).filename()] = file;
         }

@@ -19,7 +19,7 @@ bool isBoolean(EGLint value) {
     return value == EGL_TRUE || value == EGL_FALSE;
 }
 
-// The error of one pair. Versions are checked together at the end.
+// The error of one pair. Versions are checked together after all pairs.
 EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
     const Facts pair{.attribute = attribute, .value = value};
     switch (attribute) {
@@ -30,7 +30,7 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
         attribs.esMinor = value;
         return EGL_SUCCESS;
     case EGL_CONTEXT_FLAGS_KHR:
-        // The others are of desktop OpenGL.
+        // The other flags are for desktop OpenGL only.
         if (value & ~debugFlag) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.contextFlags = value;
         return EGL_SUCCESS;
@@ -95,7 +95,7 @@ EGLint readContextAttributes(const Config &config, const DeviceProfile &profile,
     const auto robustness = robustnessOf(attribs);
     if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config))
         return because(Rule::notRobust, EGL_BAD_MATCH);
-    // One that checks nothing cannot promise anything.
+    // A context without error checks supports neither debugging nor robustness.
     if (attribs.noError && attribs.contextFlags) return because(Rule::flagsWithoutErrors, EGL_BAD_MATCH);
     if (config.supportsClientVersion(attribs.requestedMajor)) return EGL_SUCCESS;
     return because(

@@ -1,4 +1,4 @@
-// What the X11 operations promise beyond their list.
+// Promises of the X11 operations beyond the list.
 #include "x11_fixture.h"
 
 #include <csignal>
@@ -17,11 +17,11 @@
 
 namespace {
 
-// What the functions of GLX below say of a host.
+// The results of the GLX functions below.
 GLXFBConfig slowConfig = nullptr;
 const char *glxExtensions = nullptr; // null for the host's own
-bool refusesBind = false;            // the next one, and leaves nothing current
-std::vector<GLXDrawable> paced;      // that were given a swap interval
+bool refusesBind = false;            // makes the next bind fail, with nothing current
+std::vector<GLXDrawable> paced;      // the drawables whose swap interval was set
 
 template <typename Function>
 Function *next(Function *, const char *name) {
@@ -33,7 +33,9 @@ Function *next(Function *, const char *name) {
 extern "C" int glXGetFBConfigAttrib(Display *display, GLXFBConfig config, int attribute, int *value) {
     static const auto host = next(glXGetFBConfigAttrib, "glXGetFBConfigAttrib");
     const int result = host(display, config, attribute, value);
-    if (config == slowConfig && attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+    if (config != slowConfig) return result;
+    if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+    if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
     return result;
 }
 
@@ -84,7 +86,7 @@ TEST_F(OnX11, ThreadThatEndsWithAContextCurrentLetsItGo) {
 
 TEST_F(OnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
     const auto made = context();
-    const Window target = window(64, 48); // not flushed: the layer has to wait for the application's connection
+    const Window target = window(64, 48); // not flushed: the layer must wait for the application's connection
     ASSERT_TRUE(operations.setView(made.get(), viewOf(target)));
     ASSERT_TRUE(operations.makeCurrent(made.get()));
     EXPECT_EQ(glXGetCurrentDrawable(), target);
@@ -92,7 +94,7 @@ TEST_F(OnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
     EXPECT_NE(glXGetCurrentDrawable(), target);
 }
 
-// An application that tries one config after the other on a window found the first one's child over all later frames.
+// In an application that tries several configs on a window, the first one's child covered all later frames.
 TEST_F(OnX11, ChildIsSeenOnlyWhileItIsDrawnTo) {
     constexpr uint32_t list[] = {
         OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, SampleBuffers, 1, Samples, 4, 0};
@@ -134,7 +136,7 @@ TEST_F(OnX11, ViewThatTheHostRefusesLeavesTheOldOne) {
     EXPECT_EQ(glXGetCurrentDrawable(), old.window);
 }
 
-// The window that an application destroys and the next that it makes may have one number.
+// A destroyed window and the next one of the application may have the same number.
 TEST_F(OnX11, WindowOfAKnownNumberIsAnother) {
     static XID number;
     number = XAllocID(application);
@@ -194,7 +196,7 @@ int applicationErrors = 0;
 
 TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
     XSetErrorHandler([](Display *, XErrorEvent *) { return ++applicationErrors; });
-    XUnmapWindow(application, 0x12345); // still on its way when the trap is set
+    XUnmapWindow(application, 0x12345); // still in transit when the trap is set
     x11::ErrorTrap trap(application, X_UnmapWindow);
     EXPECT_EQ(applicationErrors, 1);
     XMapWindow(application, 0x12345); // another kind of request
@@ -207,7 +209,7 @@ TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
 
 int applicationLosses = 0;
 
-// The server dies under a context that draws. Xlib's own handler ended the process.
+// The server dies while a context draws. Xlib's own handler ended the process.
 TEST(ServerThatDies, MakesEveryOperationFail) {
     const std::string before = getenv("DISPLAY");
     FILE *server = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp 2>/dev/null", "r");

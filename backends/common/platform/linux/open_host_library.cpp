@@ -11,12 +11,12 @@ constexpr int scope = RTLD_LAZY | RTLD_LOCAL;
 } // namespace
 
 void *openHostLibrary() {
-    // Desktop programs whose loader finds libGL.so.1 in the process assume that it draws by GLX.
+    // With libGL.so.1 in the process, the loaders of desktop programs assume that it draws by GLX.
     void *const plain = servesDesktopClients() ? dlopen("libOpenGL.so.0", scope) : nullptr;
     return plain ? plain : dlopen("libGL.so.1", scope);
 }
 
-// The library exports the functions of old versions only.
+// The library exports the functions of old OpenGL versions only.
 void *unexportedFunction(void *library, const char *name) {
     using GetProcAddress = void *(*)(const unsigned char *name);
     static const auto getProcAddress = [library] {

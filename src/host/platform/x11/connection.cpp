@@ -10,7 +10,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// Small values cannot be addresses: they all mean the default display.
+// Smaller values are no addresses: they stand for the default display.
 constexpr uint64_t firstAddress = 4096;
 
 struct Connections {
@@ -20,7 +20,7 @@ struct Connections {
 };
 
 Connections &connections() {
-    static auto *instance = new Connections; // swaps come until the very end of the process
+    static auto *instance = new Connections; // never destroyed: threads swap while the process ends
     return *instance;
 }
 
@@ -28,7 +28,7 @@ Display *applicationDisplay(uint64_t displayWord) {
     return displayWord < firstAddress ? nullptr : reinterpret_cast<Display *>(displayWord);
 }
 
-// With the mutex held.
+// Called with the mutex held.
 Connection *openServer(Connections &all, const std::string &name) {
     if (const auto known = all.byName.find(name); known != all.byName.end()) return known->second.get();
     XInitThreads();
@@ -89,13 +89,13 @@ bool Connection::hasGlxExtension(std::string_view name) const {
 }
 
 int32_t Connection::maxSwapInterval() const {
-    // The extensions set no bound, and hosts give none before there is a drawable.
+    // The extensions define no maximum, and hosts report one for existing drawables only.
     const bool takesAny = hasGlxExtension("GLX_EXT_swap_control") || hasGlxExtension("GLX_MESA_swap_control");
     return takesAny ? INT32_MAX : 1;
 }
 
 void Connection::flush() {
-    // Xlib's own call asks the system for events, too.
+    // XFlush reads events with a system call, even if there is nothing to send.
     if (hasRequestsToSend(m_display)) XFlush(m_display);
 }
 

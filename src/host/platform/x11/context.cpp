@@ -30,7 +30,7 @@ std::vector<int> contextAttributes(const PixelFormat &format) {
             list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
         }
     }
-    // Without a config this alone tells the dispatcher which vendor's context it is to be.
+    // Without a config, libGLX selects the vendor by the screen.
     if (isConfigless(format)) list.insert(list.end(), {GLX_SCREEN, format.connection.screen()});
     list.push_back(None);
     return list;
@@ -52,7 +52,7 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
 
 constexpr uintptr_t released = 1;
 
-// Its address tells threads apart.
+// The address identifies the thread.
 constinit thread_local const int threadWord __attribute__((tls_model("initial-exec"))) = 0;
 
 uintptr_t ownWord() {
@@ -94,7 +94,7 @@ bool canHold(const ContextContainer &container) {
 }
 
 void hold(ContextContainer &container) {
-    // Held already after a binding was saved; the owner may have released it since.
+    // The context is already held if its binding was saved, and its owner may have released it since.
     if (!container.holder.load(std::memory_order_relaxed)) container.holder.store(ownWord(), std::memory_order_relaxed);
 }
 

@@ -8,25 +8,25 @@
 
 namespace host::platform {
 
-// The application's own GLX calls can make any context current, so GLX is queried and not only our record.
+// GLX is queried, since the application's own GLX calls can make any context current.
 struct SavedBinding {
     Display *display = nullptr;
     GLXDrawable draw = 0;
     GLXDrawable read = 0;
     GLXContext context = nullptr;
-    ContextContainer *container = nullptr; // which stays held; null when the context is not ours
+    ContextContainer *container = nullptr; // which the thread still holds; null for a foreign context
 };
 
 namespace x11 {
 
 namespace {
 
-// What the thread holds. Plain, since threads make contexts current in their exit handlers too.
+// The context that the thread holds. A plain pointer, since threads make contexts current in their exit handlers too.
 constinit thread_local ContextContainer *threadContainer __attribute__((tls_model("initial-exec"))) = nullptr;
 
 void setThreadContainer(ContextContainer *container);
 
-// Lets go for a thread that ends with a context current.
+// Releases the context of a thread that ends with one current.
 struct AtThreadEnd {
     ~AtThreadEnd() { setThreadContainer(nullptr); }
 };

@@ -19,7 +19,7 @@ struct PixmapFacts {
 std::optional<PixmapFacts> findPixmap(uint64_t displayWord, Pixmap pixmap) {
     auto *connection = Connection::open(displayWord);
     if (!connection || connection->isLost() || !pixmap) return std::nullopt;
-    // The application may not have sent its request for the pixmap yet.
+    // The request that creates the pixmap may still be in the application's output buffer.
     flushApplication(displayWord);
     Display *display = connection->display();
     const std::lock_guard lock(calls::trapMutex());

@@ -27,11 +27,11 @@ Size sizeOf(Display *display, GLXDrawable drawable) {
 
 void swapNow(Display *display, GLXDrawable drawable) {
     glXSwapBuffers(display, drawable);
-    // The application reads the pixmap on its own connection.
+    // The application reads the pixmap through its own connection.
     XSync(display, False);
 }
 
-// Images grow downwards in X and upwards in OpenGL, so what fits is at the top of both.
+// The origin is at the top in X and at the bottom in OpenGL; the common part of both sizes is at the top.
 void blit(const Size &from, const Size &to) {
     const auto blitFramebuffer = reinterpret_cast<PFNGLBLITFRAMEBUFFERPROC>(
         glXGetProcAddress(reinterpret_cast<const GLubyte *>("glBlitFramebuffer")));
@@ -46,7 +46,7 @@ void showPixmap(ContextContainer &container) {
     if (!container.connection.isLost()) swapNow(container.connection.display(), container.attachment.drawable);
 }
 
-// In a context of its own, whose state is that of a new one.
+// Uses a temporary context, whose state has the initial values.
 bool copyToPixmap(ContextContainer *container, PixelBuffer *pixmap) {
     auto &connection = container->connection;
     const GLXDrawable source = container->attachment.drawable;

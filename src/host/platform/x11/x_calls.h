@@ -1,6 +1,5 @@
-// X and GLX calls that raise errors which must stay hidden or are the only sign of failure: the parameters of the call
-// of that name, and a result that reports the failure. They wait for the server, so they are for calls that happen
-// rarely.
+// Wrappers of X and GLX calls whose errors must not reach the application, or are the only sign of failure: same
+// parameters, and a result that reports the failure. They wait for the server, so they are for rare calls.
 #pragma once
 
 #include <mutex>
