@@ -8,6 +8,10 @@ set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME zelvane)
 install(TARGETS zelvane_egl zelvane_gles1 zelvane_gles2 EXPORT zelvane
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(TARGET zelvane_libgl)
+  install(TARGETS zelvane_libgl LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane/desktop)
+  install(FILES $<TARGET_FILE_DIR:zelvane_libgl>/libOpenGL.so.0 DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane/desktop)
+endif()
 foreach(page zelvane.1 libzelvane.7)
   configure_file(${PROJECT_SOURCE_DIR}/docs/man/${page}.in ${CMAKE_BINARY_DIR}/man/${page} @ONLY)
 endforeach()

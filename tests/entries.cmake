@@ -23,7 +23,7 @@ endfunction()
 
 zelvane_fake(fake_gl "" GL 1 "fakes/fake_gl.cpp;fakes/fake_entry_points.cpp")
 file(MAKE_DIRECTORY ${stage})
-file(CREATE_LINK libGL.so.1 ${stage}/libOpenGL.so.0 SYMBOLIC)
+file(CREATE_LINK libGL.so.1 ${stage}/libGLX.so.0 SYMBOLIC)
 zelvane_fake(fake_gl_no_stringi no_stringi GL 1 fakes/fake_gl.cpp FAKE_LACKS_STRINGI)
 zelvane_fake(fake_es1 back_ends GLESv1_CM 1 fakes/fake_back_end.cpp FAKE_NAME="es1")
 zelvane_fake(fake_es2 back_ends GLESv2 2 fakes/fake_back_end.cpp FAKE_NAME="es2")

@@ -3,6 +3,7 @@
 #include "capability/collect_system_report.h"
 #include "egl/desktop_clients.h"
 #include "egl/gui_link.h"
+#include "egl/libgl.h"
 #include "egl/process_journal.h"
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
@@ -25,13 +26,14 @@ constinit std::atomic<bool> isStateLoaded = false;
 
 State::State()
     : m_profile(defaultProfile),
-      // Loaders in programs (such as libepoxy) assume that a process with libGL.so.1 and a current GLX context, which
-      // ours is, draws by GLX, and then do not use OpenGL ES.
+      // A process that has loaded the host's libGL.so.1 or libOpenGL.so.0 would not load the one that follows our
+      // contexts.
       m_openGLLibrary(desktop_clients::isOn() ? host::openPlainHostOpenGLLibrary() : host::openHostOpenGLLibrary()),
       m_uiLink(setRenderModeOfAll) {
     // Relative search paths are resolved against the first working directory, even if the application changes it later.
     (void)getFirstWorkingDirectory();
     attachGuiLink(*this);
+    if (desktop_clients::isOn()) connectLibGl();
     threadRecord.currentDisplay = nullptr;
 }
 

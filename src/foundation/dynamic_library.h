@@ -43,8 +43,8 @@ private:
     Lookup m_lookup = nullptr;
 };
 
-// File names of the libraries on this platform. The host's OpenGL without its window system is null where the two are
-// one library; the lookup is for symbols that it does not export.
+// File names of the libraries on this platform. The plain one only has GLX and is null where there is no such
+// library; the lookup is for symbols that it does not export.
 extern const char *const hostOpenGLLibraryName;
 extern const char *const hostPlainOpenGLLibraryName;
 [[nodiscard]] void *findUnexportedHostFunction(const char *name);

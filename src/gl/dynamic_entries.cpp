@@ -6,10 +6,10 @@
 #include <mutex>
 #include <string>
 
+#include "foundation/resolver_code.h"
 #include "gl/entry_proxy.h"
 
-// An entry for each dynamic slot, 32 bytes apart, and its resolver, 16 bytes apart. A resolver saves all registers that
-// can hold arguments while it looks up the function.
+// An entry for each dynamic slot, 32 bytes apart, and its resolver, 16 bytes apart.
 static_assert(offsetof(gl::FunctionTable, slots) == 16 && gl::firstDynamicSlot == 665 && gl::dynamicNameCount == 512,
               "the numbers are written out below");
 asm(R"(
@@ -38,47 +38,7 @@ zelvane_dynamic_resolvers:
     .set slot, slot + 1
     .endr
     .size zelvane_dynamic_resolvers, . - zelvane_dynamic_resolvers
-
-    .p2align 4
-    .type zelvane_dynamic_resolve, @function
-zelvane_dynamic_resolve:
-    .cfi_startproc
-    pushq %rbp
-    .cfi_def_cfa_offset 16
-    .cfi_offset %rbp, -16
-    movq %rsp, %rbp
-    .cfi_def_cfa_register %rbp
-    .irp register, rdi, rsi, rdx, rcx, r8, r9, rax
-    pushq %\register
-    .endr
-    subq $136, %rsp
-    .irp number, 0, 1, 2, 3, 4, 5, 6, 7
-    movups %xmm\number, 16 * \number(%rsp)
-    .endr
-    movl %r11d, %edi
-    call zelvane_resolve_dynamic_slot
-    movq %rax, %r11
-    .irp number, 0, 1, 2, 3, 4, 5, 6, 7
-    movups 16 * \number(%rsp), %xmm\number
-    .endr
-    addq $136, %rsp
-    .irp register, rax, r9, r8, rcx, rdx, rsi, rdi
-    popq %\register
-    .endr
-    popq %rbp
-    .cfi_def_cfa %rsp, 8
-    jmpq *%r11
-    .cfi_endproc
-    .size zelvane_dynamic_resolve, . - zelvane_dynamic_resolve
-
-    .p2align 4
-    .type zelvane_nothing, @function
-zelvane_nothing:
-    xorl %eax, %eax
-    xorps %xmm0, %xmm0
-    ret
-    .size zelvane_nothing, . - zelvane_nothing
-)");
+)" RESOLVER_CODE("zelvane_dynamic_resolve", "zelvane_resolve_dynamic_slot") NOTHING_CODE("zelvane_nothing"));
 
 extern "C" {
 extern const char zelvane_dynamic_entries[];

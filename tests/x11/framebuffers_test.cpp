@@ -93,6 +93,35 @@ TEST_F(BackEndFramebuffers, AreCompleteWithImagesThatEsDrawsTo) {
     }
 }
 
+TEST_F(BackEndFramebuffers, ResolveIntoTexturesOfTheFormat) {
+    const struct {
+        GLenum samples, texture, format, type;
+        GLenum error;
+    } rows[] = {
+        {GL_RGBA8, GL_RGBA8, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR},
+        {GL_RGBA8, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR}, // no size is 8 bits
+        {GL_RGB8, GL_RGB, GL_RGB, GL_UNSIGNED_BYTE, GL_NO_ERROR},
+        {GL_RGB565, GL_RGB, GL_RGB, GL_UNSIGNED_SHORT_5_6_5, GL_NO_ERROR},
+        {GL_RGBA8, GL_RGB, GL_RGB, GL_UNSIGNED_BYTE, GL_INVALID_OPERATION},
+        {GL_RGBA4, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_INVALID_OPERATION},
+    };
+    start(3, 0);
+    for (const auto &row : rows) {
+        SCOPED_TRACE(testing::Message() << std::hex << row.samples << ' ' << row.texture << ' ' << row.type);
+        drawToTexture(row.texture, row.format, row.type);
+        ES(glBindRenderbuffer)(GL_RENDERBUFFER, 62);
+        ES(glRenderbufferStorageMultisample)(GL_RENDERBUFFER, 4, row.samples, size, size);
+        ES(glBindFramebuffer)(GL_FRAMEBUFFER, 61);
+        ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, 62);
+        clear(1, 1, 1);
+        blit(61, 60);
+        EXPECT_EQ(error(), row.error);
+        if (row.error == GL_NO_ERROR) {
+            EXPECT_EQ(gray(GL_READ_FRAMEBUFFER, 60), 255);
+        }
+    }
+}
+
 TEST_F(BackEndFramebuffers, KeepTheNamesOfWhatWasDeletedWhileAttached) {
     start(3, 0);
     drawToImage(GL_RGBA8);

@@ -11,6 +11,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr char ownName[] = "libEGL.so.1";
+constexpr char desktopName[] = "desktop"; // see foundation/libgl_link.h
 
 void linkTo(const fs::path &target, const fs::path &link) {
     std::error_code error;
@@ -44,5 +45,10 @@ RunLibraries::RunLibraries(const std::string &backEnds)
     }
     if (!hasAny) failCommand("\"" + backEnds + "\" has neither " + es1LibraryName + " nor " + es2LibraryName);
     linkLibrary(fs::path(m_directory) / ownName, m_links->path());
+    linkTo(fs::path(m_directory) / desktopName, fs::path(m_links->path()) / desktopName);
     m_directory = m_links->path();
+}
+
+std::string RunLibraries::searchPath() const {
+    return m_directory + ":" + (fs::path(m_directory) / desktopName).string();
 }

@@ -17,6 +17,8 @@ public:
     explicit RunLibraries(const std::string &backEnds);
 
     [[nodiscard]] const std::string &directory() const { return m_directory; }
+    // The directories that the loader has to search first: that one, and that of the libGL.so.1 for desktop programs.
+    [[nodiscard]] std::string searchPath() const;
 
 private:
     std::optional<TemporaryDirectory> m_links;

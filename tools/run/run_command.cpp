@@ -58,7 +58,7 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     const PrivatePreferences preferences(options.wishes);
     const RunLibraries libraries(options.backEnds);
     const char *before = getenv("LD_LIBRARY_PATH");
-    const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
+    const std::string path = libraries.searchPath() + (before && *before ? std::string(":") + before : "");
     setenv("LD_LIBRARY_PATH", path.c_str(), 1);
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
     // Absolute, since the program may change its working directory.

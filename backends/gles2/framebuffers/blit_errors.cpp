@@ -15,7 +15,7 @@ bool isPairRefused(const std::optional<AttachedImage> &from, const std::optional
     if (!isThere(from)) return false;
     if (from->samples > 0 && blit.from != blit.to) return true;
     if (!isThere(to)) return false;
-    return from->isSameAs(*to) || (from->samples > 0 && from->internal != to->internal);
+    return from->isSameAs(*to) || (from->samples > 0 && from->sized != to->sized);
 }
 
 bool isDepthRefused(const EsContext &context, GLenum attachment, const Blit &blit) {

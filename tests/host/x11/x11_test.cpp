@@ -3,7 +3,6 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <string>
 #include <thread>
 #include <utility>
@@ -11,52 +10,46 @@
 
 #include "host/platform/x11/connection.h"
 #include "host/platform/x11/context.h"
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/swap_control.h"
 #include "host/platform/x11/x_calls.h"
 
 namespace {
 
-// The results of the GLX functions below.
+// The results of the replaced GLX functions.
 GLXFBConfig slowConfig = nullptr;
 const char *glxExtensions = nullptr; // null for the host's own
 bool refusesBind = false;            // makes the next bind fail, with nothing current
 std::vector<GLXDrawable> paced;      // the drawables whose swap interval was set
 
-template <typename Function>
-Function *next(Function *, const char *name) {
-    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
-}
+// The host's, before the platform uses them.
+const x11::Glx hostGlx = [] {
+    const x11::Glx host = x11::glx();
+    x11::glx().fbConfigAttrib = [](Display *display, GLXFBConfig config, int attribute, int *value) {
+        const int result = hostGlx.fbConfigAttrib(display, config, attribute, value);
+        if (config != slowConfig) return result;
+        if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+        if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
+        return result;
+    };
+    x11::glx().queryExtensionsString = [](Display *display, int screen) {
+        return glxExtensions ? glxExtensions : hostGlx.queryExtensionsString(display, screen);
+    };
+    x11::glx().makeContextCurrent = [](Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
+        if (!std::exchange(refusesBind, false)) return hostGlx.makeContextCurrent(display, draw, read, context);
+        hostGlx.makeContextCurrent(display, None, None, nullptr);
+        return False;
+    };
+    x11::glx().procAddress = [](const GLubyte *name) {
+        constexpr auto pace = [](Display *, GLXDrawable drawable, int) { paced.push_back(drawable); };
+        if (reinterpret_cast<const char *>(name) != std::string("glXSwapIntervalEXT")) return hostGlx.procAddress(name);
+        return reinterpret_cast<void (*)()>(PFNGLXSWAPINTERVALEXTPROC(pace));
+    };
+    return host;
+}();
 
 } // namespace
-
-extern "C" int glXGetFBConfigAttrib(Display *display, GLXFBConfig config, int attribute, int *value) {
-    static const auto host = next(glXGetFBConfigAttrib, "glXGetFBConfigAttrib");
-    const int result = host(display, config, attribute, value);
-    if (config != slowConfig) return result;
-    if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
-    if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
-    return result;
-}
-
-extern "C" const char *glXQueryExtensionsString(Display *display, int screen) {
-    static const auto host = next(glXQueryExtensionsString, "glXQueryExtensionsString");
-    return glxExtensions ? glxExtensions : host(display, screen);
-}
-
-extern "C" Bool glXMakeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
-    static const auto host = next(glXMakeContextCurrent, "glXMakeContextCurrent");
-    if (!std::exchange(refusesBind, false)) return host(display, draw, read, context);
-    host(display, None, None, nullptr);
-    return False;
-}
-
-extern "C" void (*glXGetProcAddressARB(const GLubyte *name))() {
-    static const auto host = next(glXGetProcAddressARB, "glXGetProcAddressARB");
-    constexpr auto pace = [](Display *, GLXDrawable drawable, int) { paced.push_back(drawable); };
-    if (reinterpret_cast<const char *>(name) != std::string("glXSwapIntervalEXT")) return host(name);
-    return reinterpret_cast<void (*)()>(PFNGLXSWAPINTERVALEXTPROC(pace));
-}
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "host/platform/x11/context.h"
 #include "host/platform/x11/current.h"
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/pixmap_copies.h"
 
@@ -81,7 +82,7 @@ void flushBuffer(ContextContainer *container) {
     }
     const bool isChild = attachment.drawable != attachment.view.window;
     connection.children().show(attachment.view.window, attachment.drawable);
-    glXSwapBuffers(connection.display(), attachment.drawable);
+    glx().swapBuffers(connection.display(), attachment.drawable);
     // No other code flushes this connection, and the frame must not wait for the next one.
     connection.flush();
     if (connection.isLost()) return clearCurrentContext();
@@ -92,7 +93,7 @@ int32_t bufferAge(ContextContainer *container) {
     auto &connection = container->connection;
     if (!container->attachment.view.window || !connection.hasGlxExtension("GLX_EXT_buffer_age")) return 0;
     unsigned age = 0;
-    glXQueryDrawable(connection.display(), container->attachment.drawable, GLX_BACK_BUFFER_AGE_EXT, &age);
+    glx().queryDrawable(connection.display(), container->attachment.drawable, GLX_BACK_BUFFER_AGE_EXT, &age);
     return static_cast<int32_t>(age);
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <mutex>
 
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/x_errors.h"
 
 namespace host::platform::x11 {
@@ -38,8 +39,7 @@ Connection *openServer(Connections &all, const std::string &name) {
 }
 
 bool isSoftwareRenderer(Display *display, int screen, bool canTell) {
-    const auto query = reinterpret_cast<PFNGLXQUERYRENDERERINTEGERMESAPROC>(
-        glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXQueryRendererIntegerMESA")));
+    const auto query = findGlxFunction<PFNGLXQUERYRENDERERINTEGERMESAPROC>("glXQueryRendererIntegerMESA");
     unsigned isAccelerated = 1;
     return canTell && query && query(display, screen, 0, GLX_RENDERER_ACCELERATED_MESA, &isAccelerated) &&
            !isAccelerated;
@@ -78,8 +78,8 @@ Connection::Connection(Display *display)
     : m_display(display), m_screen(DefaultScreen(display)), m_configs(display, m_screen), m_children(display),
       m_windows(display, m_screen, m_children) {
     keepErrorsFromProcess(display, m_isLost);
-    if (!glXQueryExtension(display, nullptr, nullptr)) return;
-    if (const char *extensions = glXQueryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
+    if (!glx().queryExtension(display, nullptr, nullptr)) return;
+    if (const char *extensions = glx().queryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
     m_glxExtensions = " " + m_glxExtensions + " ";
     m_isSoftware = isSoftwareRenderer(display, m_screen, hasGlxExtension("GLX_MESA_query_renderer"));
 }

@@ -3,6 +3,7 @@
 #include <span>
 #include <vector>
 
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/x_errors.h"
 
@@ -41,10 +42,9 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
     const bool isLegacy = format.profile == profileLegacy;
     if (!connection.hasGlxExtension("GLX_ARB_create_context_profile")) {
         if (!isLegacy) return nullptr;
-        return glXCreateNewContext(connection.display(), format.config.handle, GLX_RGBA_TYPE, share, True);
+        return glx().createContext(connection.display(), format.config.handle, GLX_RGBA_TYPE, share, True);
     }
-    static const auto createAttribs = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
-        glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXCreateContextAttribsARB")));
+    static const auto createAttribs = findGlxFunction<PFNGLXCREATECONTEXTATTRIBSARBPROC>("glXCreateContextAttribsARB");
     if (!createAttribs) return nullptr;
     return createAttribs(connection.display(), isConfigless(format) ? nullptr : format.config.handle, share, True,
                          contextAttributes(format).data());
@@ -62,8 +62,8 @@ uintptr_t ownWord() {
 void destroy(ContextContainer &container) {
     if (!container.connection.isLost()) {
         Display *display = container.connection.display();
-        glXDestroyContext(display, container.context);
-        if (container.placeholder) glXDestroyPbuffer(display, container.placeholder);
+        glx().destroyContext(display, container.context);
+        if (container.placeholder) glx().destroyPbuffer(display, container.placeholder);
     }
     delete &container;
 }

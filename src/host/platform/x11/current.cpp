@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "host/platform/x11/context.h"
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/swap_control.h"
 #include "host/platform/x11/x_calls.h"
 
@@ -55,7 +56,7 @@ bool bindWithPlaceholder(ContextContainer &container) {
         container.placeholder = calls::createPbuffer(display, container.config.handle, attributes);
     }
     const GLXPbuffer placeholder = container.placeholder;
-    return placeholder && glXMakeContextCurrent(display, placeholder, placeholder, container.context);
+    return placeholder && glx().makeContextCurrent(display, placeholder, placeholder, container.context);
 }
 
 bool bind(ContextContainer &container) {
@@ -63,7 +64,7 @@ bool bind(ContextContainer &container) {
     const GLXDrawable drawable = container.attachment.drawable;
     const Window window = container.attachment.view.window;
     if (window && !container.connection.windows().find(window)) return false;
-    if (glXMakeContextCurrent(container.connection.display(), drawable, drawable, container.context)) return true;
+    if (glx().makeContextCurrent(container.connection.display(), drawable, drawable, container.context)) return true;
     return !drawable && bindWithPlaceholder(container);
 }
 
@@ -71,13 +72,13 @@ bool bind(ContextContainer &container) {
 
 ContextContainer *currentContext() {
     ContextContainer *container = threadContainer;
-    return container && glXGetCurrentContext() == container->context ? container : nullptr;
+    return container && glx().currentContext() == container->context ? container : nullptr;
 }
 
 void clearCurrentContext() {
-    if (Display *display = glXGetCurrentDisplay()) {
+    if (Display *display = glx().currentDisplay()) {
         if (currentContext())
-            glXMakeContextCurrent(display, None, None, nullptr);
+            glx().makeContextCurrent(display, None, None, nullptr);
         else
             calls::makeContextCurrent(display, None, None, nullptr);
     }
@@ -92,9 +93,9 @@ bool makeCurrent(ContextContainer *container) {
 }
 
 SavedBinding *saveBinding() {
-    if (!glXGetCurrentContext()) return nullptr;
-    auto *saved = new SavedBinding{glXGetCurrentDisplay(), glXGetCurrentDrawable(), glXGetCurrentReadDrawable(),
-                                   glXGetCurrentContext(), currentContext()};
+    if (!glx().currentContext()) return nullptr;
+    auto *saved = new SavedBinding{glx().currentDisplay(), glx().currentDrawable(), glx().currentReadDrawable(),
+                                   glx().currentContext(), currentContext()};
     if (saved->container) threadContainer = nullptr;
     return saved;
 }
@@ -104,7 +105,7 @@ void restoreBinding(SavedBinding *binding) {
         clearCurrentContext();
         return;
     }
-    const auto makeContextCurrent = binding->container ? glXMakeContextCurrent : calls::makeContextCurrent;
+    const auto makeContextCurrent = binding->container ? glx().makeContextCurrent : calls::makeContextCurrent;
     const bool isRestored = makeContextCurrent(binding->display, binding->draw, binding->read, binding->context);
     if (!isRestored) clearCurrentContext();
     setThreadContainer(isRestored ? binding->container : nullptr);

@@ -1,5 +1,7 @@
 #include "host/platform/x11/fb_configs.h"
 
+#include "host/platform/x11/glx.h"
+
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -39,7 +41,7 @@ int32_t drawableTypes(int glxTypes, bool hasVisual) {
 
 int askGlx(Display *display, GLXFBConfig handle, int attribute) {
     int value = 0;
-    glXGetFBConfigAttrib(display, handle, attribute, &value);
+    glx().fbConfigAttrib(display, handle, attribute, &value);
     return value;
 }
 
@@ -113,7 +115,7 @@ auto preference(const FbConfig &config, const FormatSizes &wanted, Display *disp
 
 void FbConfigs::read() {
     int count = 0;
-    const std::unique_ptr<GLXFBConfig[], Free> handles(glXGetFBConfigs(m_display, m_screen, &count));
+    const std::unique_ptr<GLXFBConfig[], Free> handles(glx().fbConfigs(m_display, m_screen, &count));
     const auto visuals = trueColorVisuals(m_display, m_screen);
     const ServerConfigs server(m_display, m_screen);
     for (int i = 0; handles && i < count; ++i) {

@@ -1,5 +1,7 @@
 #include "host/platform/x11/pixel_format.h"
 
+#include "host/platform/x11/glx.h"
+
 namespace host::platform::x11 {
 
 namespace {
@@ -74,7 +76,7 @@ int32_t drawableTypes(const PixelFormat &format) {
 
 int32_t glxValue(const PixelFormat &format, int attribute) {
     int value = 0;
-    glXGetFBConfigAttrib(format.connection.display(), format.config.handle, attribute, &value);
+    glx().fbConfigAttrib(format.connection.display(), format.config.handle, attribute, &value);
     return value;
 }
 

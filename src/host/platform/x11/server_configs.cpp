@@ -6,8 +6,9 @@
 #undef min
 #undef max
 
-#include <GL/glx.h>
 #include <GL/glxproto.h>
+
+#include "host/platform/x11/glx.h"
 
 namespace host::platform::x11 {
 
@@ -25,7 +26,7 @@ bool requestConfigs(Display *display, int opcode, int screen, xGLXGetFBConfigsRe
 } // namespace
 
 ServerConfigs::ServerConfigs(Display *display, int screen) {
-    const char *vendor = glXGetClientString(display, GLX_VENDOR);
+    const char *vendor = glx().clientString(display, GLX_VENDOR);
     if (!vendor || !std::string_view(vendor).starts_with("Mesa")) return;
     int opcode = 0, firstEvent = 0, firstError = 0;
     if (!XQueryExtension(display, "GLX", &opcode, &firstEvent, &firstError)) return;
