@@ -19,12 +19,14 @@ int runVerb(std::vector<std::string> words) {
         "3 output error.");
     std::vector<std::string> program;
     addRunCommand(commandLine.top(), program);
+    addLabCommand(commandLine.top(), program);
+    addExplainCommand(commandLine.top());
+    addInfoCommand(commandLine.top());
     addProfilesCommand(commandLine.top());
     addUseCommand(commandLine.top());
     addStrictCommand(commandLine.top());
-    addLabCommand(commandLine.top(), program);
-    addExplainCommand(commandLine.top());
     addReportCommand(commandLine.top());
+    addDoctorCommand(commandLine.top());
     addMonitorCommand(commandLine.top());
     for (const char *verb : {"run", "lab"})
         if (program.empty()) program = commandLine.takeProgram(words, verb);

@@ -1,7 +1,6 @@
 #include "egl/call_reports.h"
 
 #include <algorithm>
-#include <map>
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -76,22 +75,18 @@ Json sizesJson(const Config &config) {
     return sizes;
 }
 
-// The attribute that rejected most configs.
+// The attribute that the configs failed on which matched the most others.
 std::string whyNone(const ChoiceAccount &account) {
     if (account.fallenOut.empty()) return "the device has no configs";
-    std::map<int32_t, int> counts;
-    for (const auto &[id, reason] : account.fallenOut)
-        ++counts[reason.attribute];
-    const auto most = std::ranges::max_element(counts, {}, [](const auto &entry) { return entry.second; });
-    std::string text = "no config matches";
-    for (const auto &[id, reason] : account.fallenOut) {
-        if (reason.attribute != most->first) continue;
-        text += ": " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
-                " rejected " + std::to_string(most->second) + " of " + std::to_string(account.fallenOut.size()) +
-                "; config " + std::to_string(id) + " has " + valueText(reason.attribute, reason.had);
-        break;
-    }
-    return text;
+    using FallenOut = ChoiceAccount::FallenOut;
+    const FallenOut &nearest =
+        *std::ranges::max_element(account.fallenOut, {}, [](const FallenOut &fallen) { return fallen.reason.passed; });
+    const FallOut &reason = nearest.reason;
+    const auto count = std::ranges::count_if(
+        account.fallenOut, [&](const FallenOut &fallen) { return fallen.reason.attribute == reason.attribute; });
+    return "no config matches: " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
+           " rejected " + std::to_string(count) + " of " + std::to_string(account.fallenOut.size()) + "; config " +
+           std::to_string(nearest.id) + " has " + valueText(reason.attribute, reason.had);
 }
 
 } // namespace

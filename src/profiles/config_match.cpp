@@ -86,6 +86,7 @@ std::optional<FallOut> Config::findFallOut(const int32_t *attributes) const {
     std::optional<FallOut> first;            // ignoring the transparent colours
     std::optional<FallOut> firstWithColours; // including them
     bool wantsTransparentRgb = false;
+    int32_t passed = 0;
     for (const auto &[name, wanted] : AttributeList(attributes)) {
         int32_t offered = 0;
         if (!getAttribute(name, &offered)) continue;
@@ -93,7 +94,7 @@ std::optional<FallOut> Config::findFallOut(const int32_t *attributes) const {
         const bool ok = passes(rule.test, offered, wanted);
         if (ok && rule.weight == Weight::alone) return std::nullopt;
         // The loop continues after a failure, since an id later in the list may decide the result.
-        const FallOut reason{name, wanted, offered};
+        const FallOut reason{name, wanted, offered, passed++};
         if (!ok && !firstWithColours) firstWithColours = reason;
         if (rule.weight == Weight::transparentOnly) continue;
         if (!ok && !first) first = reason;

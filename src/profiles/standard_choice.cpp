@@ -164,16 +164,18 @@ std::optional<FallOut> findFallOutByStandard(const Config &config, const int32_t
         const int32_t own = config.attributeOr0(EGL_CONFIG_ID);
         return own == id ? std::nullopt : std::optional(FallOut{EGL_CONFIG_ID, id, own});
     }
+    int32_t passed = 0;
     for (const Choice &choice : choices) {
         int32_t offered = 0;
         if (!config.getAttribute(choice.attribute, &offered)) continue;
         const int32_t wanted = valueOr(request, choice.attribute, choice.byDefault);
-        if (!passes(choice.rule, offered, wanted)) return FallOut{choice.attribute, wanted, offered};
+        if (!passes(choice.rule, offered, wanted)) return FallOut{choice.attribute, wanted, offered, passed};
+        ++passed;
     }
     if (valueOr(request, EGL_TRANSPARENT_TYPE, EGL_NONE) != EGL_TRANSPARENT_RGB) return std::nullopt;
     for (const int32_t colour : transparentColours) {
         const int32_t offered = config.attributeOr0(colour), wanted = valueOr(request, colour, EGL_DONT_CARE);
-        if (!passes(Rule::exact, offered, wanted)) return FallOut{colour, wanted, offered};
+        if (!passes(Rule::exact, offered, wanted)) return FallOut{colour, wanted, offered, passed};
     }
     return std::nullopt;
 }

@@ -8,17 +8,26 @@
 #include "tools/command/failure.h"
 
 ToolPreferences::ToolPreferences() : m_store(productName) {
-    std::string error;
-    if (!m_store.load(error, false)) failCommand("the preferences cannot be read: " + error);
+    const std::string error = read();
+    if (!error.empty()) failCommand(error);
+}
 
+ToolPreferences::ToolPreferences(std::string &error) : m_store(productName) {
+    error = read();
+}
+
+std::string ToolPreferences::read() {
+    const std::string unreadable = "the preferences cannot be read: ";
+    std::string reason;
     KZRPreferencesUnix files;
-    const PreferenceFile file = files.openPreferenceFile(productName, readPreferences, false, false, error);
-    if (!file.stream) failCommand("the preferences cannot be read: " + error);
+    const PreferenceFile file = files.openPreferenceFile(productName, readPreferences, false, false, reason);
     m_path = file.path;
+    if (!file.stream) return unreadable + reason;
     tinyxml2::XMLDocument document;
     document.LoadFile(file.stream);
     files.closePreferenceFile(file, false);
-    if (document.Error()) failCommand("\"" + m_path + "\" is not well-formed XML: " + document.ErrorStr());
+    if (!m_store.load(reason, false)) return unreadable + reason;
+    return document.Error() ? "\"" + m_path + "\" is not well-formed XML: " + document.ErrorStr() : "";
 }
 
 std::string ToolPreferences::storedDirectory() {

@@ -48,10 +48,12 @@ complete -c zelvane -s h -l help -d 'List the options'
 complete -c zelvane -n __zelvane_has_verb -a run -d 'Run a program on this library'
 complete -c zelvane -n __zelvane_has_verb -a lab -d 'Run a program on every device'
 complete -c zelvane -n __zelvane_has_verb -a explain -d 'Show the configs that a list selects, and why'
+complete -c zelvane -n __zelvane_has_verb -a info -d 'Print what a program sees'
 complete -c zelvane -n __zelvane_has_verb -a profiles -d 'List the device profiles'
 complete -c zelvane -n __zelvane_has_verb -a use -d 'Choose the device of programs that start from now on'
 complete -c zelvane -n __zelvane_has_verb -a strict -d 'Reject contexts that the host does not fully support'
 complete -c zelvane -n __zelvane_has_verb -a report -d 'Report the capabilities of this host'
+complete -c zelvane -n __zelvane_has_verb -a doctor -d 'Find what keeps programs from running'
 complete -c zelvane -n __zelvane_has_verb -a monitor -d 'Show the records of applications'
 
 complete -c zelvane -n '__zelvane_has_verb run' -l profile -xa '(__zelvane_profiles)' -d 'The device of the program'
@@ -88,12 +90,19 @@ complete -c zelvane -n '__zelvane_has_verb explain' -a '
     EGL_SURFACE_TYPE= EGL_TRANSPARENT_TYPE= EGL_TRANSPARENT_RED_VALUE= EGL_TRANSPARENT_GREEN_VALUE=
     EGL_TRANSPARENT_BLUE_VALUE='
 
+complete -c zelvane -n '__zelvane_has_verb info' -l profile -xa '(__zelvane_profiles)' -d 'The device'
+complete -c zelvane -n '__zelvane_has_verb info' -l bare -d 'No device'
+complete -c zelvane -n '__zelvane_has_verb info' -l json -d 'Print one JSON object'
+
 complete -c zelvane -n '__zelvane_profiles_verb' -l json -d 'Print one JSON object'
 complete -c zelvane -n '__zelvane_profiles_verb' -l names -d 'Print only the names'
 complete -c zelvane -n '__zelvane_profiles_verb' -a show -d 'Print a profile'
 complete -c zelvane -n '__zelvane_profiles_verb' -a check -d 'Check a file'
+complete -c zelvane -n '__zelvane_profiles_verb' -a diff -d 'Compare two profiles'
 complete -c zelvane -n '__zelvane_profiles_verb show' -a '(__zelvane_profiles)'
 complete -c zelvane -n '__zelvane_profiles_verb check' -F
+complete -c zelvane -n '__zelvane_profiles_verb diff' -Fa '(__zelvane_profiles)'
+complete -c zelvane -n '__zelvane_profiles_verb diff' -l json -d 'Print one JSON object'
 
 complete -c zelvane -n '__zelvane_has_verb use' -a '(__zelvane_profiles)'
 complete -c zelvane -n '__zelvane_has_verb use' -l none -d 'No device'
@@ -103,6 +112,8 @@ complete -c zelvane -n '__zelvane_has_verb strict' -a 'on off'
 
 complete -c zelvane -n '__zelvane_has_verb report' -l extensions -d 'List the extensions of the host too'
 complete -c zelvane -n '__zelvane_has_verb report' -l json -d 'Print one JSON object'
+
+complete -c zelvane -n '__zelvane_has_verb doctor' -l json -d 'Print one JSON object'
 
 complete -c zelvane -n '__zelvane_has_verb monitor' -l json -d 'Print one JSON object per record'
 complete -c zelvane -n '__zelvane_has_verb monitor' -l once -d 'End when the first application ends'

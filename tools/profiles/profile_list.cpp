@@ -47,10 +47,6 @@ std::string inForceText(const ProfileList &list) {
     return list.chosen;
 }
 
-Json orNull(const std::string &text) {
-    return text.empty() ? Json(nullptr) : Json(text);
-}
-
 Json jsonRow(const ListedProfile &listed) {
     static constexpr const char *places[] = {"built in", "file", "hidden file"};
     Json json = {{"name", listed.name}, {"where", places[listed.place]}};

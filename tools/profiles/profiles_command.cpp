@@ -1,15 +1,14 @@
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <iostream>
 
-#include "foundation/paths.h"
 #include "profiles/profile_reader.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
+#include "tools/command/text_file.h"
 #include "tools/command/verbs.h"
 #include "tools/profiles/check_profile.h"
+#include "tools/profiles/diff_command.h"
 #include "tools/profiles/print_profile.h"
 #include "tools/profiles/profile_list.h"
 
@@ -32,15 +31,8 @@ void showProfile(const std::string &name) {
 }
 
 void checkFile(const std::string &path) {
-    FILE *file = openForReading(path);
-    if (!file) failCommand("\"" + path + "\" cannot be read: " + strerror(errno));
-    std::string text;
-    char bytes[4096];
-    while (const size_t count = fread(bytes, 1, sizeof bytes, file))
-        text.append(bytes, count);
-    fclose(file);
-    const ProfileFindings findings = checkProfile(text, std::filesystem::path(path).filename());
-    for (const ProfileFinding &finding : findings.list) {
+    const ProfileFindings findings = checkProfile(readTextFile(path), std::filesystem::path(path).filename());
+    for (const ProfileFinding &finding : findings.list()) {
         std::cout << path << ':' << finding.lines << ": " << (finding.isProblem ? "" : "note: ") << finding.text
                   << '\n';
     }
@@ -73,5 +65,6 @@ void addProfilesCommand(const Verb &top) {
                       "Exit status: 0 no faults, 1 the file has faults or cannot be read.");
     check.word("file", options->path, "the path of the file").required();
     check.action([options] { checkFile(options->path); });
+    addProfilesDiffCommand(profiles);
     profiles.canStandAlone();
 }

@@ -40,8 +40,9 @@ int runReport(const Options &options) {
                       "' is not running or has no OpenGL 3.2 core context");
     }
 
+    const auto identity = capability::probeHostIdentity(library, windowSystem).value_or(capability::HostIdentity{});
     const auto answers = askAboutVersions(*gate);
-    std::cout << (options.asJson ? reportAsJson : reportAsText)(collected, answers, options.withExtensions);
+    std::cout << (options.asJson ? reportAsJson : reportAsText)(identity, collected, answers, options.withExtensions);
     return answers.carriesEs30 ? carriesEs30 : lacksEs30;
 }
 

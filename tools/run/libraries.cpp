@@ -27,6 +27,10 @@ void linkLibrary(const fs::path &library, const fs::path &directory) {
 
 } // namespace
 
+std::string ownLibraries() {
+    return findOwnDirectory(ownName, {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES});
+}
+
 RunLibraries::RunLibraries(const std::string &backEnds)
     : m_directory(ownDirectory(ownName, {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES})) {
     if (backEnds.empty()) return;

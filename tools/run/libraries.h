@@ -6,6 +6,9 @@
 
 #include "tools/command/temporary_directory.h"
 
+// Where our libraries are installed or built, seen from the command. Empty when they are not there.
+[[nodiscard]] std::string ownLibraries();
+
 class RunLibraries {
 public:
     // With back ends from another directory, all or some, and our own for the rest; empty for our own only. The library
