@@ -45,11 +45,16 @@ constexpr const char *strict = "<key>strict_context_mode</key><true/>";
 
 TEST_F(HostVersions, MinorVersionIsRaisedAsFarAsTheHostGoes) {
     const std::string noBaseVertex = everyExtensionBut({"GL_ARB_draw_elements_base_vertex"});
-    const std::tuple<const char *, const char *, EGLint, EGLint, EGLint, EGLint, const char *> rows[] = {
+    const struct {
+        const char *version, *extensions;
+        EGLint major, minor, esMajor, esMinor;
+        const char *reason;
+    } rows[] = {
 #include "egl/data/raised_versions.def"
     };
-    for (const auto &[version, extensions, major, minor, esMajor, esMinor, reason] : rows) {
-        onHost(version, extensions, [&] { expectAttribs(major, minor, esMajor, esMinor, 0, reason); });
+    for (const auto &row : rows) {
+        onHost(row.version, row.extensions,
+               [&] { expectAttribs(row.major, row.minor, row.esMajor, row.esMinor, 0, row.reason); });
     }
     hostGl().version = "4.6";
     hostGl().extensions = everyExtension;
