@@ -1,5 +1,7 @@
 #include "egl/display.h"
 
+#include <algorithm>
+
 #include "capability/host_egl.h"
 #include "egl/context.h"
 #include "egl/context_allocator.h"
@@ -121,6 +123,13 @@ std::shared_ptr<Surface> Display::findSurface(EGLSurface handle) const {
     if (draw && draw->handle == number(handle)) return draw;
     if (read && read->handle == number(handle)) return read;
     return nullptr;
+}
+
+bool Display::hasSurfaceOf(uint64_t window) const {
+    const std::lock_guard lock(m_displayMutex);
+    return std::ranges::any_of(m_surfaces.all(), [window](const auto &surface) {
+        return surface->hostSurface && surface->hostSurface->nativeHandle().view.window == window;
+    });
 }
 
 std::shared_ptr<Surface> Display::insertSurface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface,

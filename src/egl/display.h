@@ -65,6 +65,8 @@ public:
     bool destroyContext(uint64_t handle);
 
     [[nodiscard]] std::shared_ptr<Surface> findSurface(EGLSurface handle) const;
+    // Whether a surface of that window exists.
+    [[nodiscard]] bool hasSurfaceOf(uint64_t window) const;
     // Null when the host surface cannot be created; the handle is consumed all the same.
     [[nodiscard]] std::shared_ptr<Surface> createWindowSurface(const Config &config, uint64_t window,
                                                                const EGLint *attributes);
