@@ -50,6 +50,12 @@ void tellOfHostWithoutContext(const ContextAttribs &attribs) {
                attribs.legacyClient ? "1" : "2 and 3");
 }
 
+// What the context reads from, if that is not what it draws to. On devices contexts read what they draw.
+const glove::ISurface *readObject(const SurfacePair &surfaces) {
+    const bool isOther = desktop_clients::isOn() && surfaces.read && surfaces.read != surfaces.draw;
+    return isOther ? surfaces.read->hostSurface.get() : nullptr;
+}
+
 // Makes the back-end context at the first bind and tells it the attributes at every later one.
 bool bindEsContext(Context &context, host::HostBinding binding) {
     if (const zvEsContext esContext = context.esContext) {
@@ -114,7 +120,7 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
     if (threadRecord.current && threadRecord.current->surfaces.draw.get() != draw) showPixmap(*threadRecord.current);
 
     const auto *hostContext = context->claimedHostContext();
-    const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())
+    const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get(), readObject(surfaces))
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
     if (binding == host::HostBinding::failed) return refuseBind(Rule::hostBind, *context);
     // A host that refused the context at its creation shows here first.
