@@ -68,7 +68,7 @@ bool bindEsContext(Context &context, host::HostBinding binding) {
     const SharedEsContext shared(share);
     context.esContext = state().createEsContext(context.esLibrary, context.attribs, context.display, shared.get());
     if (!context.esContext.load()) return refuseBind(Rule::backEndRefuses, context);
-    if (share && share->attribs.requestedMajor != context.attribs.requestedMajor) {
+    if (share && !share->isDesktop() && share->attribs.requestedMajor != context.attribs.requestedMajor) {
         logMessage(LogWarning, "Attempting to share two contexts of differing API versions is unsupported.");
     }
     return true;
@@ -128,8 +128,8 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
         tellOfHostWithoutContext(context->attribs);
         return refuseBind(Rule::noHostContext, *context);
     }
-    // The application must not inherit an error that the bind left.
-    state().hostEGL(binding == host::HostBinding::current).sweepError();
+    // The application must not inherit an error that the bind left. Contexts of the host itself keep theirs.
+    if (!context->isDesktop()) state().hostEGL(binding == host::HostBinding::current).sweepError();
 
     // Never taken back by a later bind to a linear surface: a back end sees it for good once it was set.
     if (draw && draw->isSrgb) context->attribs.srgbFramebuffer = 1;

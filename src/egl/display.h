@@ -60,7 +60,8 @@ public:
     // In handle order.
     [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts() const;
     [[nodiscard]] std::shared_ptr<Context> createContext(std::shared_ptr<const Config> config,
-                                                         std::shared_ptr<Context> share, const ContextAttribs &attribs);
+                                                         std::shared_ptr<Context> share, const ContextAttribs &attribs,
+                                                         EGLenum api = EGL_OPENGL_ES_API);
     // False for an unknown handle, and when the back end cannot delete the context, which then stays in the table.
     bool destroyContext(uint64_t handle);
 

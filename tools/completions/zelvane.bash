@@ -77,7 +77,7 @@ _zelvane() {
     fi
     local words
     case $verb in
-    run) words='--profile --bare --strict --loose --backends --journal --monitor --help' ;;
+    run) words='--profile --bare --strict --loose --opengl --backends --journal --monitor --help' ;;
     lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
     profiles) words='show check --json --names --help' ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;

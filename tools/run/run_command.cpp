@@ -23,6 +23,7 @@ struct Options {
     bool loose = false;
     std::string backEnds;
     std::string journal; // a file
+    bool openGl = false;
     bool monitor = false;
 };
 
@@ -60,6 +61,7 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
     setenv("LD_LIBRARY_PATH", path.c_str(), 1);
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+    if (options.openGl) setenv("ZELVANE_DESKTOP_OPENGL", "1", 1);
     // The program may change its directory before it asks for EGL.
     if (!options.journal.empty()) setenv("ZELVANE_JOURNAL", std::filesystem::absolute(options.journal).c_str(), 1);
     checkXServer();
@@ -89,6 +91,7 @@ void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
         .excludes(profile);
     const Word strict = run.flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
     run.flag("--loose", options->loose, "accept contexts that the host does not wholly carry").excludes(strict);
+    run.flag("--opengl", options->openGl, "offer desktop OpenGL beside OpenGL ES, for programs that need it");
     run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries go before our own");
     run.option("--journal", options->journal, "FILE", "add what happens at EGL to a file, a JSON object a line");
     run.flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
