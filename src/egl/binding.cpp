@@ -22,9 +22,10 @@ bool refuseBind(Rule rule, const Context &context) {
 }
 
 // The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
+// Contexts of desktop OpenGL have nothing to give.
 void primeShareContext(Context &context, const SurfacePair &surfaces) {
     const auto &share = context.shareContext;
-    if (!share || share->esContext.load() || !share->hostContext()) return;
+    if (!share || share->isDesktop() || share->esContext.load() || !share->hostContext()) return;
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
     if (bindContext(share, surfaces)) claim.keep();

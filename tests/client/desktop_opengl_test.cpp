@@ -259,6 +259,14 @@ TEST_F(DesktopOpenGl, ContextsShareWithTheirKind) {
     EXPECT_EQ(gl.getError(), GLenum(GL_NO_ERROR));
     bind(EGL_NO_SURFACE, first);
     EXPECT_EQ(gl.getError(), GLenum(GL_INVALID_ENUM));
+
+    // A context is not touched by the first bind of another, which would settle its viewport.
+    const EGLContext unbound = createCore();
+    bind(makePbuffer(), createCore(unbound));
+    bind(makeSurface(makeWindow()), unbound);
+    GLint viewport[4] = {};
+    PFNGLGETINTEGERVPROC(Named("glGetIntegerv"))(GL_VIEWPORT, viewport);
+    EXPECT_EQ(viewport[2], 64);
 }
 
 // In either API; that OpenGL is on offer changes nothing for the contexts of OpenGL ES.
