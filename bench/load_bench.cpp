@@ -16,7 +16,7 @@ namespace {
 
 constexpr int runs = 15;
 
-// Both stand for the load, without and with the collection; a probing context is what the host itself costs.
+// Both measure the load, without and with the collection; the probing context shows the host's own share.
 void probe() {
     const auto library = host::openHostOpenGLLibrary();
     const capability::HostProbe probe(std::make_shared<glove::WSAPI>());
@@ -48,7 +48,7 @@ double timeOf(void (*work)()) {
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Negative when the process failed.
+// Negative if the process fails.
 double timeInProcess(const char *program, size_t mode) {
     const std::string command = std::string("'") + program + "' " + std::to_string(mode);
     FILE *child = popen(command.c_str(), "r");
@@ -65,7 +65,7 @@ int main(int argc, char **argv) {
         printf("%.3f\n", timeOf(modes[static_cast<size_t>(argv[1][0] - '0') % std::size(modes)].work));
         return 0;
     }
-    // In turns, so that a machine that slows down does so for every mode.
+    // The modes take turns, so that a slowdown of the machine affects all of them.
     std::vector<double> times[std::size(modes)];
     for (int run = 0; run < runs; ++run) {
         for (size_t mode = 0; mode < std::size(modes); ++mode)

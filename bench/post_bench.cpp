@@ -1,5 +1,5 @@
-// The cost of a record for the application's thread that posts it, without a GUI and with one that reads all the time.
-// Do not run it while a GUI listens. The queue is emptied between the runs, so that its memory does not count.
+// The cost of a record for the application's thread that posts it, without a GUI and with one that reads continuously.
+// Must not run while a GUI listens. The queue is emptied between the runs, so that its memory is not measured.
 #include <benchmark/benchmark.h>
 
 #include <chrono>
@@ -15,7 +15,7 @@ namespace {
 
 void ignoreRenderMode(uint8_t) {}
 
-// Reads and forgets until the end of the process.
+// Reads and discards records until the process ends.
 class ReadingGui {
 public:
     ReadingGui() : m_server(productName, 1) {}
@@ -60,6 +60,6 @@ void postWithGui(benchmark::State &state) {
 } // namespace
 
 BENCHMARK(buildRecord);
-// A fixed count, since records that nobody has sent yet stay in memory.
+// A fixed count, since unsent records stay in memory.
 BENCHMARK(postWithoutGui)->Iterations(20000);
 BENCHMARK(postWithGui)->Iterations(20000);

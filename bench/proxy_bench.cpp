@@ -1,6 +1,6 @@
-// The cost that a proxy adds to a call of the back end's function: the argument is the number
-// of contexts that have called the name, 0 for the function without its proxy. Where it says Switching, another context
-// is current at every call.
+// The cost that a proxy adds to a call of the back end's function. The argument is the number of contexts that have
+// called the name, 0 for the function without its proxy. In the Switching cases another context is current at every
+// call.
 #include <benchmark/benchmark.h>
 
 #include "gl/entry_tables.h"
@@ -22,7 +22,7 @@ void makeCurrent(size_t context) {
     gl::currentFunctions = &gl::functionTableAt(&contexts[context], ask);
 }
 
-// The entry of that name, which every context has called, with the last one current.
+// The entry of that name, after every context has called it, with the last one current.
 template <typename Signature>
 Signature *bringUpContexts(const char *name, Signature *direct, size_t count) {
     auto *entry = reinterpret_cast<Signature *>(gl::findEntry(name));

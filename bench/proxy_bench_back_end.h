@@ -1,4 +1,4 @@
-// A fake back end. In a file of its own, so that calls of it are real calls.
+// A fake back end, in a file of its own so that the compiler cannot inline its functions.
 #pragma once
 
 #include "foundation/gl_types.h"

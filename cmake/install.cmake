@@ -1,6 +1,6 @@
-# cmake --install lays out a prefix: the libraries with the unversioned names beside them, the command, its manual pages
-# and completions, and for those who build on it the headers, a pkg-config file and a CMake package. The EGL and OpenGL
-# ES headers are Khronos' own and come with the system. Whatever has no component here is of the command.
+# Installs the libraries with their unversioned names, the command, its manual pages and completions, and for developers
+# the headers, a pkg-config file and a CMake package. Khronos' EGL and OpenGL ES headers come with the system. Files
+# without a component here belong to the command.
 include(CMakePackageConfigHelpers)
 set(ZELVANE_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING "Where zsh's completion goes")
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME zelvane)
@@ -8,6 +8,10 @@ set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME zelvane)
 install(TARGETS zelvane_egl zelvane_gles1 zelvane_gles2 EXPORT zelvane
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(TARGET zelvane_libgl)
+  install(TARGETS zelvane_libgl LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane/desktop)
+  install(FILES $<TARGET_FILE_DIR:zelvane_libgl>/libOpenGL.so.0 DESTINATION ${CMAKE_INSTALL_LIBDIR}/zelvane/desktop)
+endif()
 foreach(page zelvane.1 libzelvane.7)
   configure_file(${PROJECT_SOURCE_DIR}/docs/man/${page}.in ${CMAKE_BINARY_DIR}/man/${page} @ONLY)
 endforeach()

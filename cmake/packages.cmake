@@ -1,4 +1,4 @@
-# Debian packages, a component each: zelvane for users, zelvane-dev for those who build on it. scripts/package makes them.
+# Debian packages, one per component: zelvane for users, zelvane-dev for developers. scripts/package builds them.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "Zelvane maintainers <maintainers@zelvane.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "EGL of a handheld device on desktop OpenGL")
@@ -17,7 +17,7 @@ set(CPACK_DEBIAN_ZELVANE_PACKAGE_NAME zelvane)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-# The host's OpenGL is opened at run time.
+# The host's OpenGL is loaded at run time.
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_DEPENDS libgl1)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_RECOMMENDS libgl1-mesa-dri)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_SUGGESTS "xvfb, mesa-utils, xdg-utils")

@@ -1,6 +1,5 @@
-# Writes zelvane.pc for the directories of GNUInstallDirs. Included with them set; a test runs it as a script, with
-# PROJECT_VERSION and OUTPUT set too. An installation may be moved, so that paths are seen from the file wherever they
-# are below the prefix.
+# Writes zelvane.pc for the directories of GNUInstallDirs, which are set. A test runs this file as a script, with
+# PROJECT_VERSION and OUTPUT set too. An installation may be moved, so paths below the prefix are relative to the file.
 cmake_path(IS_ABSOLUTE CMAKE_INSTALL_LIBDIR has_fixed_libraries)
 if(has_fixed_libraries)
   set(prefix ${CMAKE_INSTALL_PREFIX})

@@ -1,6 +1,6 @@
 # zelvane_shared_library(TARGET NAME VERSION EXPORTS)
-# Names the target's file as the platform does, libNAME.so.VERSION or libNAME.dylib, and lets nothing leave it but what
-# the version script EXPORTS lists. Apple's linker takes plain lists, so one is made of the script.
+# Names the target's file as the platform does, libNAME.so.VERSION or libNAME.dylib, and exports only the symbols in the
+# version script EXPORTS. Apple's linker requires a plain list, which is generated from the script.
 function(zelvane_shared_library target name version exports)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${name} LINK_DEPENDS ${exports})
   if(APPLE)
@@ -12,7 +12,7 @@ function(zelvane_shared_library target name version exports)
   endif()
 endfunction()
 
-# What stands between "global:" and "local:", one symbol a line with Apple's underscore in front.
+# The symbols between "global:" and "local:", one per line with Apple's leading underscore.
 function(zelvane_symbol_list script list)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${script})
   file(READ ${script} text)

@@ -1,5 +1,5 @@
-/* Preloaded by try-programs into programs that link EGL and OpenGL ES. At the first swap it asks GL_RENDERER
-   and GL_VERSION of the library whose functions the program itself calls, and prints both with that library's file. */
+/* Preloaded by try-programs into programs that link EGL and OpenGL ES. At the first swap it queries GL_RENDERER
+   and GL_VERSION from the library whose functions the program itself calls, and prints both with that library's file. */
 #define _GNU_SOURCE
 #include <EGL/egl.h>
 #include <GLES2/gl2.h>

@@ -10,7 +10,7 @@ from typing import Dict, List, NamedTuple, Tuple
 
 REGISTRY_FILE = "/usr/share/khronos-api/gl.xml"
 
-# The features that OpenGL ES is made of, as (api, feature name).
+# The features of OpenGL ES, as (api, feature name).
 ES_FEATURES = [
     ("gles1", "GL_VERSION_ES_CM_1_0"),
     ("gles2", "GL_ES_VERSION_2_0"),
@@ -28,7 +28,7 @@ class Command(NamedTuple):
 class Registry:
     def __init__(self, path: str = REGISTRY_FILE):
         root = ElementTree.parse(path).getroot()
-        # Every command of every API, by its name.
+        # All commands of all APIs, by name.
         self.commands: Dict[str, Command] = {}
         for element in root.iterfind("commands/command"):
             result, name = _declaration(element.find("proto"))
@@ -37,7 +37,7 @@ class Registry:
         self._extensions = {e.get("name"): e for e in root.iterfind("extensions/extension")}
 
     def feature_commands(self, api: str, feature: str) -> List[str]:
-        """What this feature adds, in the registry's order; each later version is a feature of its own."""
+        """The commands that this feature adds, in the registry's order; each later version is a feature of its own."""
         return [
             command.get("name")
             for require in self._features[api, feature].iterfind("require")
@@ -54,7 +54,7 @@ class Registry:
         return [n for n, e in self._extensions.items() if api in e.get("supported", "").split("|")]
 
     def extension_commands(self, api: str, extension: str) -> List[str]:
-        """What this extension adds to an API."""
+        """The commands that this extension adds to an API."""
         return [
             command.get("name")
             for require in self._extensions[extension].iterfind("require")
@@ -67,7 +67,7 @@ def _declaration(element: ElementTree.Element) -> Tuple[str, str]:
     """Type text and name of <proto> or <param>."""
     name = element.findtext("name")
     text = " ".join("".join(element.itertext()).split())
-    # Array forms such as "const GLfloat m[16]" do not occur; cutting the name off would lose their type.
+    # The registry has no arrays such as "const GLfloat m[16]", whose type would be lost without the name.
     if not text.endswith(name):
         raise ValueError(f'registry: declaration "{text}" does not end in its name "{name}"')
     return re.sub(r" *\*", " *", text[: -len(name)].strip()).replace("* *", "**"), name

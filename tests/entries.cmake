@@ -1,6 +1,6 @@
-# The staged library and what lies around it:
+# The staged library and the files beside it:
 #   stage/libEGL.so.1, stage/libGL.so.1        the library with the recording platform, and the fake host OpenGL
-#   stage/back_ends, stage/no_delete, ...      fake back ends, chosen by KZRTRACE_LIB_PATH
+#   stage/back_ends, stage/no_delete, ...      fake back ends, selected by KZRTRACE_LIB_PATH
 set(stage ${CMAKE_BINARY_DIR}/stage)
 
 file(READ ${PROJECT_SOURCE_DIR}/src/egl/exports.map exports)
@@ -23,14 +23,14 @@ endfunction()
 
 zelvane_fake(fake_gl "" GL 1 "fakes/fake_gl.cpp;fakes/fake_entry_points.cpp")
 file(MAKE_DIRECTORY ${stage})
-file(CREATE_LINK libGL.so.1 ${stage}/libOpenGL.so.0 SYMBOLIC)
+file(CREATE_LINK libGL.so.1 ${stage}/libGLX.so.0 SYMBOLIC)
 zelvane_fake(fake_gl_no_stringi no_stringi GL 1 fakes/fake_gl.cpp FAKE_LACKS_STRINGI)
 zelvane_fake(fake_es1 back_ends GLESv1_CM 1 fakes/fake_back_end.cpp FAKE_NAME="es1")
 zelvane_fake(fake_es2 back_ends GLESv2 2 fakes/fake_back_end.cpp FAKE_NAME="es2")
 zelvane_fake(fake_no_delete no_delete GLESv2 2 fakes/fake_back_end.cpp FAKE_NAME="es2" FAKE_LACKS_DELETE)
 zelvane_fake(fake_no_create no_create GLESv2 2 fakes/fake_back_end.cpp FAKE_NAME="es2" FAKE_LACKS_CREATE)
 
-# What follows the name are properties of its tests.
+# Arguments after the name are properties of its tests.
 function(zelvane_entry_tests target)
   add_executable(${target})
   target_link_libraries(${target} PRIVATE staged_egl test_support ${CMAKE_DL_LIBS})
@@ -45,7 +45,7 @@ zelvane_entry_tests(entry_link_tests LABELS threads)
 
 add_subdirectory(egl)
 
-# Opens the library itself, late.
+# Opens the library late, by itself.
 target_sources(unit_tests PRIVATE client/late_library_test.cpp)
 target_compile_definitions(unit_tests PRIVATE STAGED_EGL="$<TARGET_FILE:staged_egl>"
   STAGED_BACK_ENDS="${stage}/back_ends")

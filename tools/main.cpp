@@ -12,18 +12,21 @@ namespace {
 constexpr int usageStatus = 2;
 
 int runVerb(std::vector<std::string> words) {
-    const CommandLine commandLine("zelvane", "Looks at and steers Zelvane and the applications that run on it",
-                                  std::string(productName) + " " + productVersion,
-                                  "Exit status: 0 done, 1 the verb failed and said why, 2 the command line is wrong,\n"
-                                  "3 the output cannot be written.");
+    const CommandLine commandLine(
+        "zelvane", "Shows and controls Zelvane and the applications that use it",
+        std::string(productName) + " " + productVersion,
+        "Exit status: 0 success, 1 the verb failed and printed the reason, 2 invalid command line,\n"
+        "3 output error.");
     std::vector<std::string> program;
     addRunCommand(commandLine.top(), program);
+    addLabCommand(commandLine.top(), program);
+    addExplainCommand(commandLine.top());
+    addInfoCommand(commandLine.top());
     addProfilesCommand(commandLine.top());
     addUseCommand(commandLine.top());
     addStrictCommand(commandLine.top());
-    addLabCommand(commandLine.top(), program);
-    addExplainCommand(commandLine.top());
     addReportCommand(commandLine.top());
+    addDoctorCommand(commandLine.top());
     addMonitorCommand(commandLine.top());
     for (const char *verb : {"run", "lab"})
         if (program.empty()) program = commandLine.takeProgram(words, verb);

@@ -9,7 +9,7 @@ namespace {
 
 using tinyxml2::XMLElement;
 
-// A block's "version" may have a minor number or not: 2 and 20 are the same.
+// A block's version may omit the minor number: 2 and 20 are the same.
 int fullVersion(const XMLElement &block) {
     const int version = block.IntAttribute("version");
     return version < 10 ? version * 10 : version;

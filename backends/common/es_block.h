@@ -1,4 +1,4 @@
-// The part of a device profile for one ES version: the strings and limits that the device reports to an application.
+// The part of a device profile for one ES version: the strings and limits that the device reports.
 #pragma once
 
 #include <map>
@@ -11,10 +11,11 @@ struct EsBlock {
     std::string vendor;                      // of the profile; empty when it has none
     std::string renderer;                    // of the profile; empty when it has none
     std::vector<std::string> extensionNames; // in the profile's order, always with "GL_" in front, each once
-    // The numbers of each element, by its name. A repeated element adds to the list; one with children
-    // uses theirs, in order.
+    // The numbers of each element, by its name. Repeated elements add to the list. An element with children has the
+    // children's numbers, in order.
     std::map<std::string, std::vector<double>, std::less<>> limits;
-    // A desktop's block: extensions and numbers that it does not list are the host's, where a device has none.
+    // Whether the block describes a desktop: extensions and numbers that it does not list are the host's, where a
+    // device lacks them.
     bool isDesktop = false;
 
     // Whether the block defines the extensions.

@@ -24,7 +24,7 @@ constexpr int from5Bits(int value) {
 struct Block {
     Color colors[2]; // of the two halves
     int tables[2];
-    bool isFlipped; // the halves lie one above the other
+    bool isFlipped; // the halves are one above the other
     uint32_t bits;  // of the texels, column by column: low bits in the low half, high bits in the high half
 };
 
@@ -37,7 +37,7 @@ Block readBlock(const uint8_t *data) {
             const int base = byte >> 3;
             const int difference = (byte & 3) - (byte & 4);
             block.colors[0][channel] = from5Bits(base);
-            // Out of range is no valid data; any colour will do.
+            // The data is invalid if this is out of range; any colour is allowed then.
             block.colors[1][channel] = from5Bits((base + difference) & 31);
         } else {
             block.colors[0][channel] = from4Bits(byte >> 4);

@@ -12,7 +12,7 @@
 
 namespace {
 
-// A direct reference to the function would look up a name that the back end may not have.
+// Looked up, since a direct reference would require a name that the back end may lack.
 template <typename Function>
 Function host(const char *name) {
     return reinterpret_cast<Function>(hostFunction(name));
@@ -33,12 +33,12 @@ void forEachWord(std::string_view text, Take take) {
     }
 }
 
-// What tells the contexts of a host apart that differ in what they carry.
+// Identifies the contexts of a host that have the same capabilities.
 std::string contextKind() {
     GLint count = 0;
     const auto getIntegerv = host<decltype(&glGetIntegerv)>("glGetIntegerv");
     const std::string version = hostString(GL_VERSION);
-    // Older hosts have no such number, and asking would leave an error.
+    // Older hosts lack this query and generate an error for it.
     if (getIntegerv && !version.empty() && version.front() >= '3') getIntegerv(GL_NUM_EXTENSIONS, &count);
     return version + '\n' + hostString(GL_RENDERER) + '\n' + std::to_string(count);
 }
@@ -48,7 +48,7 @@ struct Known {
     std::map<std::string, std::shared_ptr<const HostFeatures>> byKind; // guarded by mutex
 };
 
-// When the library is unloaded. Contexts that are there when the process ends keep what they have.
+// Empties the map when the library is unloaded. Contexts that still exist when the process ends keep their features.
 const struct Forgetting {
     ~Forgetting() {
         Known &known = neverDestroyed<Known>();
@@ -79,7 +79,7 @@ HostFeatures::HostFeatures() {
     }
 }
 
-// A core context has the list alone, a host before 3.0 the string alone.
+// A core context has only the list, a host before OpenGL 3.0 only the string.
 void HostFeatures::readExtensionList() {
     const auto getIntegerv = host<decltype(&glGetIntegerv)>("glGetIntegerv");
     const auto getStringi = host<decltype(&glGetStringi)>("glGetStringi");

@@ -8,9 +8,9 @@
 
 class HostFeatures {
 public:
-    // Of the host context that is current on this thread. The extension list is read once per version and renderer in
-    // the process, and kept as long as the library is loaded: reading it takes longer than creating the rest of a
-    // back-end context.
+    // The capabilities of the host context that is current on this thread. The extension list is read once per version
+    // and renderer in the process, and kept as long as the library is loaded: reading it takes longer than creating the
+    // rest of a back-end context.
     static std::shared_ptr<const HostFeatures> ofCurrentContext();
 
     // Such as 43 for 4.3; 0 when the host does not report it.

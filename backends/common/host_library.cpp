@@ -5,7 +5,7 @@
 #include "common/open_host_library.h"
 
 void *hostFunction(const char *name) {
-    // The handle's own symbols come before those of other libraries; a global lookup would find our own exports.
+    // A lookup by the handle finds the host's own symbols first; a global lookup would find this library's exports.
     static void *const library = openHostLibrary();
     if (!library) return nullptr;
     if (void *const function = dlsym(library, name)) return function;

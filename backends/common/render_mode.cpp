@@ -11,7 +11,7 @@ constexpr unsigned frontAndBack = 0x0408;
 constexpr unsigned polygonLine = 0x1B01;
 constexpr unsigned polygonFill = 0x1B02;
 
-// The earlier frames have their marker, or drew nothing.
+// Frames before this one have a marker, or no draws.
 std::atomic<uint64_t> nextMarkedFrame = 0;
 
 void setPolygonMode(unsigned mode) {
@@ -23,7 +23,7 @@ void setPolygonMode(unsigned mode) {
 void postMarker() {
     const uint64_t frame = zvCurrentFrameNumber();
     uint64_t next = nextMarkedFrame.load(std::memory_order_relaxed);
-    // Of the threads that draw in a frame, one posts.
+    // Only one of the threads that draw in a frame sends the marker.
     if (frame < next || !nextMarkedFrame.compare_exchange_strong(next, frame + 1)) return;
     zvPostFrameMessage(zvBuildBackEndMarker());
 }

@@ -19,11 +19,11 @@ void setRenderMode(uint8_t mode);
 // Called at each bind: checks for a GUI, which connects before the first context or never.
 void lookForGui(RenderMode &mode);
 
-// Written on the link's thread, beside running GL calls; read by beginDraw().
+// Written on the link's thread while GL calls run on others; read by beginDraw().
 extern constinit std::atomic<bool> isWireframeEverywhere;
 
-// Called before a draw that changes the mode or that a GUI watches: sets the wanted mode on the host and sends a marker
-// once a frame.
+// Called before a draw if the mode changes or a GUI is attached: sets the mode on the host and sends a marker once a
+// frame.
 void applyRenderMode(RenderMode &mode);
 
 // Called before every draw.
@@ -34,7 +34,7 @@ inline void beginDraw(RenderMode &mode) {
 }
 
 // The debug entries that switch wireframe drawing, or null: zvToggleWireframe and Zelvane_ToggleWireframe for every
-// context, zvSetContextWireframe for the current one. A context draws wireframes while either asks for it.
+// context, zvSetContextWireframe for the current one. A context draws wireframes if either requests it.
 [[nodiscard]] void *findWireframeSwitch(std::string_view name);
 
 // The mode of the calling thread's context of this back end, or null without one.

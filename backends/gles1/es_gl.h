@@ -14,7 +14,7 @@ using GLDEBUGPROCKHR = void(GL_APIENTRY *)(GLenum source, GLenum type, GLuint id
 #define GL_COMPRESSED_RGBA_S3TC_DXT3 0x83F2
 #define GL_COMPRESSED_RGBA_S3TC_DXT5 0x83F3
 #define GL_RGB565_OES 0x8D62
-// A desktop format: the nearest one that every host has.
+// The nearest desktop format that every host has.
 #define GL_RGB5 0x8050
 
 extern "C" void GL_APIENTRY glPolygonOffsetClampEXT(GLfloat factor, GLfloat units, GLfloat clamp);

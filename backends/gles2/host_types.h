@@ -3,7 +3,7 @@
 
 #include "es_gl.h"
 
-// The extensions of ES 2 have their own value for half floats.
+// The extensions of ES 2 have another value for half floats.
 [[nodiscard]] constexpr GLenum hostType(GLenum type) {
     return type == GL_HALF_FLOAT_OES ? GLenum(GL_HALF_FLOAT) : type;
 }

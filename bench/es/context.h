@@ -3,7 +3,7 @@
 
 enum class Side {
     Host,        // desktop OpenGL by GLX, core profile
-    BackEnd,     // the function that libGLESv2.so.2 returns, past the proxy of libEGL.so.1
+    BackEnd,     // the function that libGLESv2.so.2 returns, without the proxy of libEGL.so.1
     Application, // the result of eglGetProcAddress
 };
 
@@ -16,7 +16,7 @@ void openContext(Side side, int major);
 
 [[noreturn]] void fail(const char *what);
 
-// Of the two kinds of contexts.
+// One for each kind of context.
 void openGlxContext();
 void openEglContext(bool isPastProxy, int major);
 [[nodiscard]] void *glxFunction(const char *name);

@@ -1,6 +1,6 @@
 // One side of bench/es_bench, which starts it and requests rows. Usage: es_bench_side host|back-end|application [MAJOR]
-// Answers each line of standard input, the name of a row, with a line of nanoseconds and user instructions of one call;
-// "-" where the side has no such call. The line "rows" lists the names.
+// For each line of standard input, the name of a row, prints a line with the nanoseconds and user instructions of one
+// call, or "-" if the side has no such call. The line "rows" lists the names.
 #include "measure.h"
 #include "rows.h"
 
@@ -60,7 +60,7 @@ int main(int argc, char **argv) {
         if (row == allRows().end()) fail(line.c_str());
         answer(scene, *row);
     }
-    // The libraries take their own time to end, and nothing is left to tell.
+    // Exits without the libraries' destructors, which take time.
     std::fflush(stdout);
     std::_Exit(0);
 }

@@ -31,7 +31,7 @@ public:
     Counter(const Counter &) = delete;
     Counter &operator=(const Counter &) = delete;
 
-    // 0 at every call where the machine has no such counter.
+    // 0 if the machine has no such counter.
     [[nodiscard]] double read() const {
         long long count = 0;
         return ::read(m_descriptor, &count, sizeof count) == sizeof count ? static_cast<double>(count) : 0;

@@ -3,9 +3,9 @@
 
 struct Cost {
     double nanoseconds;
-    double instructions; // 0 where the machine does not count them
+    double instructions; // 0 if the machine does not count them
 };
 
-// Of one pass: the fastest of several runs of about two milliseconds, since whatever else the machine does only slows a
-// run. settle: runs between them, outside the figure.
+// The cost of one pass: the fastest of several runs of about two milliseconds, since other load only slows a run.
+// settle: called between the runs, outside the measured time.
 [[nodiscard]] Cost measure(void (*body)(long passes), void (*settle)());

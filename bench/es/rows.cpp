@@ -26,7 +26,7 @@ void fromOneArray(const Scene &scene) {
     scene.pointAt(scene.vertices.data());
     scene.enableArrays(1);
 }
-// As far apart as no interleaved arrays are.
+// The arrays are farther apart than interleaved arrays are.
 void fromArraysApart(const Scene &scene) {
     for (GLuint index = 0; index < 3; ++index)
         scene.gl.glVertexAttribPointer(index, 2, GL_FLOAT, GL_FALSE, 0, &scene.vertices[index * 1000]);

@@ -9,7 +9,7 @@ struct Row {
     const char *name;
     void (*prepare)(const Scene &scene);
     void (*body)(long passes);
-    bool isForHost; // a core context has no arrays in the application's memory
+    bool isForHost; // a core context has no arrays in client memory
 };
 
 [[nodiscard]] std::span<const Row> allRows();

@@ -36,7 +36,7 @@ const void *offset(const Vertex *base, size_t bytes) {
 
 Scene::Scene(Side side) : gl(findFunctions()), grey(side == Side::Host ? GL_RED : GL_LUMINANCE) {
     if (!gl.glGenBuffers) fail("no GL functions");
-    // A core context draws from no object 0.
+    // A core context cannot draw from vertex array object 0.
     if (side == Side::Host) gl.glGenVertexArrays(1, &m_defaultArray);
     if (gl.glGenVertexArrays) gl.glGenVertexArrays(2, arrays);
     for (GLuint &program : programs)

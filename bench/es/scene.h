@@ -20,7 +20,7 @@ struct Vertex {
     std::array<GLfloat, 2> texCoord;
 };
 
-// All vertices lie at one point, so that a draw ends before the rasteriser.
+// All vertices are at one point, so that no pixels are rasterised.
 constexpr GLsizei vertexCount = 3000;
 constexpr GLsizei indexCount = 6000;
 constexpr GLsizei smallImage = 16;
@@ -38,7 +38,7 @@ struct Scene {
     Functions gl;
     GLuint programs[2], buffers[2], vertexBuffer, indexBuffer, framebuffers[2], arrays[2];
     GLuint textures[2], smallColor, largeColor, smallGrey, largeGrey;
-    GLenum grey; // the format of one channel
+    GLenum grey; // the one-component format
     GLint scalar, vector, matrix;
     std::vector<Vertex> vertices = std::vector<Vertex>(vertexCount);
     std::vector<GLushort> indices = std::vector<GLushort>(indexCount);

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Throws the failed call with EGL's error.
+// Throws an exception that names the call and EGL's error.
 [[noreturn]] void fail(const std::string &what) {
     char code[16];
     std::snprintf(code, sizeof code, "0x%04X", static_cast<unsigned>(eglGetError()));
@@ -21,7 +21,7 @@ EglWindow::EglWindow(const char *title, Size size, EGLint samples) {
         m_x = XOpenDisplay(nullptr);
         if (!m_x) throw std::runtime_error("no X display: set DISPLAY to a running X server");
         m_display = eglGetDisplay(m_x);
-        if (m_display == EGL_NO_DISPLAY) fail("EGL knows no such display");
+        if (m_display == EGL_NO_DISPLAY) fail("EGL has no such display");
         if (!eglInitialize(m_display, nullptr, nullptr)) fail("EGL cannot be initialised");
         chooseConfig(samples);
         openWindow(title, size);
@@ -63,7 +63,7 @@ void EglWindow::chooseConfig(EGLint samples) {
 }
 
 void EglWindow::openWindow(const char *title, Size size) {
-    // Some systems tie a config to a visual and refuse windows of another; the others answer 0.
+    // Some systems require a window of the config's visual; the others return 0.
     const int screen = DefaultScreen(m_x);
     Visual *visual = DefaultVisual(m_x, screen);
     int depth = DefaultDepth(m_x, screen);
@@ -94,11 +94,11 @@ void EglWindow::openWindow(const char *title, Size size) {
 
 void EglWindow::bindContext() {
     m_surface = eglCreateWindowSurface(m_display, m_config, m_window, nullptr);
-    if (m_surface == EGL_NO_SURFACE) fail("the window surface cannot be made");
+    if (m_surface == EGL_NO_SURFACE) fail("the window surface cannot be created");
     if (!eglBindAPI(EGL_OPENGL_ES_API)) fail("eglBindAPI failed");
     const EGLint version[] = {EGL_CONTEXT_CLIENT_VERSION, 2, EGL_NONE};
     m_context = eglCreateContext(m_display, m_config, EGL_NO_CONTEXT, version);
-    if (m_context == EGL_NO_CONTEXT) fail("the OpenGL ES 2 context cannot be made");
+    if (m_context == EGL_NO_CONTEXT) fail("the OpenGL ES 2 context cannot be created");
     if (!eglMakeCurrent(m_display, m_surface, m_surface, m_context)) fail("the context cannot be bound to the window");
 }
 
@@ -120,7 +120,7 @@ GlFunctions EglWindow::loadFunctions() const {
     GlFunctions gl = {};
 #define GL_FUNCTION(name)                                                                                              \
     gl.name = reinterpret_cast<decltype(gl.name)>(eglGetProcAddress(#name));                                           \
-    if (!gl.name) throw std::runtime_error("eglGetProcAddress does not know " #name);
+    if (!gl.name) throw std::runtime_error("eglGetProcAddress does not find " #name);
     GL_FUNCTIONS(GL_FUNCTION)
 #undef GL_FUNCTION
     return gl;
@@ -130,7 +130,7 @@ Size EglWindow::surfaceSize() const {
     Size size;
     if (!eglQuerySurface(m_display, m_surface, EGL_WIDTH, &size.width) ||
         !eglQuerySurface(m_display, m_surface, EGL_HEIGHT, &size.height)) {
-        fail("the size of the surface cannot be asked");
+        fail("the size of the surface cannot be queried");
     }
     return size;
 }
@@ -165,6 +165,6 @@ std::string EglWindow::eglVendor() const {
 
 EGLint EglWindow::configAttribute(EGLint attribute) const {
     EGLint value = 0;
-    if (!eglGetConfigAttrib(m_display, m_config, attribute, &value)) fail("the config cannot be asked");
+    if (!eglGetConfigAttrib(m_display, m_config, attribute, &value)) fail("the config cannot be queried");
     return value;
 }

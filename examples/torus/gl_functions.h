@@ -1,4 +1,4 @@
-// The OpenGL ES 2 functions that the program uses, each taken from eglGetProcAddress.
+// The OpenGL ES 2 functions that the program uses, all from eglGetProcAddress.
 #pragma once
 
 #include <GLES2/gl2.h>

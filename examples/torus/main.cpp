@@ -16,12 +16,12 @@ constexpr Size sizeAtStart = {640, 480};
 constexpr Size sizeAtEnd = {800, 600};
 
 constexpr const char *usage = "Usage: torus [--frames N] [--samples N] [--output FILE]\n"
-                              "Draws a turning torus with OpenGL ES 2 in an X window.\n"
-                              "  --frames N     how many frames to draw (300); the window grows half-way\n"
-                              "  --samples N    samples a pixel, 0 for none (4)\n"
-                              "  --output FILE  save the last frame there as PNG\n"
+                              "Draws a rotating torus with OpenGL ES 2 in an X window.\n"
+                              "  --frames N     number of frames (300); the window grows half-way\n"
+                              "  --samples N    samples per pixel, 0 for none (4)\n"
+                              "  --output FILE  save the last frame as a PNG file\n"
                               "  --help         show this text\n"
-                              "Exit status: 0 on success, 1 on failure, 2 for a wrong option.\n";
+                              "Exit status: 0 on success, 1 on failure, 2 for an invalid option.\n";
 
 struct WrongOption : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -94,7 +94,7 @@ void run(const Options &options) {
         scene.draw(drawn, size);
         isOpen = window.handleEvents();
         const bool isLast = !isOpen || drawn + 1 == options.frames;
-        // The swap may throw the picture away, so it is read before.
+        // Read before the swap, which may discard the back buffer.
         if (isLast && !options.output.empty()) {
             writePng(options.output, size, scene.readPixels(size));
             std::printf("picture:      %s, %d x %d\n", options.output.c_str(), size.width, size.height);

@@ -6,7 +6,7 @@
 Mesh makeTorus(float ringRadius, float tubeRadius, int ringSteps, int tubeSteps) {
     constexpr float turn = 2 * std::numbers::pi_v<float>;
     Mesh mesh;
-    // The seam has its vertices twice, since the texture coordinates restart there.
+    // The vertices of the seam are duplicated, since the texture coordinates restart there.
     for (int ring = 0; ring <= ringSteps; ++ring) {
         const float u = static_cast<float>(ring) / static_cast<float>(ringSteps);
         for (int tube = 0; tube <= tubeSteps; ++tube) {

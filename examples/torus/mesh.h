@@ -14,8 +14,8 @@ struct Vertex {
 
 struct Mesh {
     std::vector<Vertex> vertices;
-    std::vector<GLushort> indices; // three a triangle, counter-clockwise from outside
+    std::vector<GLushort> indices; // three per triangle, counter-clockwise from outside
 };
 
-// Around the z axis. The texture goes once around each way.
+// The axis is z. The texture wraps once in each direction.
 [[nodiscard]] Mesh makeTorus(float ringRadius, float tubeRadius, int ringSteps, int tubeSteps);

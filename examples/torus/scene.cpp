@@ -54,7 +54,7 @@ void main() {
 using Matrix = std::array<GLfloat, 16>;
 
 Matrix perspective(float aspect) {
-    // The torus fits a square view, so a narrow window widens the angle.
+    // The torus fits a square view; a narrow window widens the angle.
     constexpr float nearPlane = 1;
     constexpr float farPlane = 20;
     const float scale = 3.0f * std::min(aspect, 1.0f);
@@ -76,7 +76,7 @@ Matrix perspective(float aspect) {
             0};
 }
 
-// Turned about its own axis, then tilted towards the viewer, then moved away.
+// Rotates about the torus's own axis, tilts it towards the viewer, then moves it away.
 Matrix modelView(float spin, float tilt) {
     const float c = std::cos(spin), s = std::sin(spin);
     const float ct = std::cos(tilt), st = std::sin(tilt);
@@ -122,7 +122,7 @@ void Scene::makeProgram() {
          {std::pair(GL_VERTEX_SHADER, vertexSource), {GL_FRAGMENT_SHADER, fragmentSource}}) {
         const GLuint shader = compile(m_gl, static_cast<GLenum>(type), source);
         m_gl.glAttachShader(m_program, shader);
-        m_gl.glDeleteShader(shader); // goes with the program
+        m_gl.glDeleteShader(shader); // deleted with the program
     }
     m_gl.glBindAttribLocation(m_program, positionSlot, "position");
     m_gl.glBindAttribLocation(m_program, normalSlot, "normal");

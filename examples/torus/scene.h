@@ -7,7 +7,7 @@
 
 class Scene {
 public:
-    // With the context current. Throws std::runtime_error with the compiler's log when a shader fails.
+    // Requires the current context. Throws std::runtime_error with the compiler's log when a shader fails.
     explicit Scene(const GlFunctions &gl);
     ~Scene();
     Scene(const Scene &) = delete;

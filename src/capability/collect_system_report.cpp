@@ -49,11 +49,11 @@ void sendHost(SystemReportReceiver &receiver, const HostGlView &view) {
         receiver.receive(ExtensionRecord{id, isPresent[id]});
 }
 
-// One set has all: each level has the bindings of those below it.
+// The ES 3.1 set has all bindings: each level includes those of the levels below.
 void sendAll(SystemReportReceiver &receiver, const Es31Features &set) {
     sendHost(receiver, set.view());
 
-    // Requirements go out whatever the state of the feature.
+    // Requirements are sent whether or not the feature is available.
 #define REPORTED(level, feature) sendFeature(receiver, set.feature);
 #define ES_REQUIREMENT(section, feature)                                                                               \
     receiver.receive(EsRequirementRecord{section, descriptorOf(Feature::feature).name});

@@ -8,7 +8,7 @@ namespace capability {
 
 namespace {
 
-constexpr EsVersion base = 0; // what every gate asks for
+constexpr EsVersion base = 0; // the requirements of every version
 
 struct Gate {
     EsVersion version;
@@ -44,10 +44,10 @@ void addMissing(EsVersion version, const Es31Features &set, std::vector<Feature>
     if (version != base) addMissing(std::ranges::find(gates, version, &Gate::version)->below, set, missing);
 }
 
-// What guarantees each minor version of ES 3, the highest first.
+// The OpenGL version or the extension that guarantees each minor version of ES 3, the highest first.
 constexpr struct {
     int32_t minor;
-    GlVersion glVersion; // that has it in its core
+    GlVersion glVersion; // whose core includes it
     const char *extension;
 } promises[] = {
     {2, unknownGlVersion, "GL_ARB_ES3_2_compatibility"},
@@ -74,7 +74,7 @@ EsGate::EsGate(const Es31Features &set) : m_promisedEs3Minor(promisedMinor(set.v
 }
 
 const GateAnswer &EsGate::of(EsVersion version) const {
-    static const GateAnswer &passed = *new GateAnswer; // threads ask while the process ends
+    static const GateAnswer &passed = *new GateAnswer; // never destroyed: threads query gates while the process ends
     return version >= es2_0 && version <= es3_2 ? m_answers[static_cast<size_t>(version - es2_0)] : passed;
 }
 

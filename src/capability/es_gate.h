@@ -1,4 +1,4 @@
-// Which OpenGL ES version a context gets on this host.
+// The OpenGL ES version that a context gets on this host.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@
 
 namespace capability {
 
-// The gate of one version.
+// The result of one version's gate.
 struct GateAnswer {
     std::vector<Feature> missing;  // in the order of the gate
     bool hasCompatibility = false; // an extension of the host satisfies all of it
@@ -22,10 +22,10 @@ struct GateAnswer {
     [[nodiscard]] bool isPassed() const { return missing.empty() || hasCompatibility; }
 };
 
-// The features that the host lacks for each version, probed once. Constant; any thread.
+// The features that the host lacks for each version, found by one probe. Constant; any thread.
 class EsGate {
 public:
-    // The host context that the set was made for is current.
+    // Called with the host context current that the set was made for.
     explicit EsGate(const Es31Features &set);
 
     // Versions other than ES 2.0 to 3.2 have no gate and pass.
@@ -39,7 +39,7 @@ private:
     std::optional<int32_t> m_promisedEs3Minor;
 };
 
-// Probes the host with a context on the calling thread. Nothing when that cannot be created.
+// Probes the host with a context on the calling thread. Nothing when none can be created.
 [[nodiscard]] std::optional<EsGate> probeEsGate(const DynamicLibrary &library,
                                                 const std::shared_ptr<glove::WSAPI> &windowSystem);
 
@@ -56,8 +56,8 @@ enum class HostAnswer {
 // the device profile or strict mode allows the higher version is not checked.
 void raiseEs3MinorVersion(const EsGate &gate, ContextAttribs &attribs);
 
-// The same as a desktop driver does it: a context of ES 2 or 3 gets the highest version that the host guarantees and
-// the device has. highestMinor: the device's for ES 3; nothing when it has none. canBeEs3: as below.
+// Raises the version as desktop drivers do: a context of ES 2 or 3 gets the highest version that the host guarantees
+// and the device has. highestMinor: the device's for ES 3; nothing when it has none. canBeEs3: as below.
 void raiseAsDriversDo(const EsGate &gate, bool canBeEs3, std::optional<int32_t> highestMinor, ContextAttribs &attribs);
 
 // Sets esMajor and esMinor of a record whose requested version the profile allows. canBeEs3: the config supports ES 3,
@@ -66,7 +66,7 @@ void raiseAsDriversDo(const EsGate &gate, bool canBeEs3, std::optional<int32_t> 
 // cannot be probed; called only if the gate matters.
 template <typename AskGate>
 [[nodiscard]] HostAnswer settleEsVersion(AskGate askGate, bool canBeEs3, ContextAttribs &attribs) {
-    // The application is still told 2.
+    // The context still reports the major version 2.
     if (attribs.requestedMajor == 2 && canBeEs3) attribs.esMajor = 3;
     if (attribs.esMajor != 3 && !attribs.strictContextMode) return HostAnswer::carries;
     const EsGate *const gate = askGate();

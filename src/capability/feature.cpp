@@ -29,7 +29,7 @@ Descriptors makeDescriptors() {
 } // namespace
 
 const FeatureDescriptor &descriptorOf(Feature feature) {
-    // Never destroyed: applications create contexts in their exit handlers too.
+    // Never destroyed: applications may create contexts in their exit handlers.
     static const auto &descriptors = *new Descriptors(makeDescriptors());
     return descriptors[static_cast<size_t>(feature)];
 }

@@ -8,7 +8,7 @@ namespace capability {
 
 namespace {
 
-// The two lookups are the same on this platform. They are kept apart so that each family names the one that it needs.
+// The two lookups are the same on this platform, and are separate so that each family names the one that it requires.
 using Lookup = void *(*)(const DynamicLibrary &library, const char *name);
 
 void *core(const DynamicLibrary &library, const char *name) {
@@ -70,7 +70,8 @@ int32_t selectVariant(const FeatureDescriptor &descriptor, const HostGlView &vie
     return noVariant;
 }
 
-// Not the alternative that was selected: a host of OpenGL 4 can have texture storage without these functions.
+// Checks the extension even if another alternative was selected: a host of OpenGL 4 can have texture storage without
+// these functions.
 void bindDirectStorage(Binding &binding, const HostGlView &view, const DynamicLibrary &library) {
     const auto &descriptor = descriptorOf(Feature::textureStorage);
     const auto byExtension = std::ranges::find(descriptor.alternatives, 1u, &FeatureAlternative::variant);

@@ -33,7 +33,7 @@ struct FeatureBinding : Binding {
     }
 };
 
-// The one test of a feature everywhere: a variant was selected, or none is needed.
+// Whether a variant was selected, or none is required.
 [[nodiscard]] bool isAvailable(Feature feature, const Binding &binding);
 
 template <Feature feature>
@@ -41,8 +41,8 @@ template <Feature feature>
     return isAvailable(feature, binding);
 }
 
-// Selects the variant and looks the functions up; those of an unknown variant stay as they are. Returns whether it
-// looked anything up, or, for a feature without functions, whether it is available.
+// Selects the variant and looks the functions up. Functions of a variant without a family are not written. Returns
+// whether it looked anything up, or, for a feature without functions, whether it is available.
 bool bind(Feature feature, Binding &binding, const HostGlView &view, const DynamicLibrary &library);
 
 template <Feature feature>

@@ -93,7 +93,7 @@ std::string formatSystemReport(const SystemReport &report, bool withExtensions) 
     std::string text = std::string("OpenGL Version: ") + glVersionName(report.glVersion) + "\n\n";
     std::vector<SystemReportSection> kept;
 
-    // A version that is not supported excludes every higher one, even if the list of that is complete.
+    // An unsupported version excludes all higher ones, even those whose features are all available.
     bool isHeldBack = false;
     for (const auto &row : sectionRows) {
         kept.push_back(buildSection(report, report.esRequirements, row.key, row.name));
@@ -102,7 +102,7 @@ std::string formatSystemReport(const SystemReport &report, bool withExtensions) 
     }
     text += "\n";
 
-    // An extension that is supported is not mentioned.
+    // Supported extensions are not listed.
     for (const auto &[extension, features] : report.esExtensionRequirements) {
         const auto name = std::string(esExtensionName(extension, false)) + " support";
         auto section = buildSection(report, report.esExtensionRequirements, extension, name);

@@ -1,4 +1,4 @@
-// The system report as text: the only explanation that a terminal user gets for a refused context.
+// The system report as text. On a terminal it is the only explanation of a failed context creation.
 #pragma once
 
 #include <cstdint>

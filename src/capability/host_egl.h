@@ -13,7 +13,7 @@ struct EGL {
     EGL() = default;
     explicit EGL(const DynamicLibrary &library);
 
-    // Whether a host context was current for the lookup.
+    // Whether a host context was current at the lookup.
     [[nodiscard]] bool hasHost() const { return m_hasHost; }
 
     capability::FeatureBinding<capability::Feature::fenceSync> fenceSync;

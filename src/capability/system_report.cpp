@@ -16,7 +16,7 @@ struct Filling {
 
     void operator()(const FeatureRecord &record) const {
         const auto &name = record.feature.str();
-        // The first record of a name wins.
+        // Later records of the same name are ignored.
         if (report.features.contains(name)) return;
         report.features[name] =
             std::make_shared<SystemReport::Feature>(SystemReport::Feature{name, record.isAvailable, {}});

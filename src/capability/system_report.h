@@ -1,5 +1,5 @@
-// The host's capabilities for each OpenGL ES version. For information only: the results decide nothing.
-// Filled once, on one thread, and only read after that.
+// The host's capabilities for each OpenGL ES version, for information only: no decision depends on it. Filled once, on
+// one thread, and only read after that.
 #pragma once
 
 #include <cstdint>

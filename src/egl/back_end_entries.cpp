@@ -1,4 +1,4 @@
-// The functions that back ends call: they return what is current, and the settings behind their opaque pointer.
+// The functions that back ends call: queries of the current context, and of the settings behind their opaque pointer.
 #include "egl/context.h"
 #include "egl/display.h"
 #include "egl/gui_link.h"

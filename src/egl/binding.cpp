@@ -1,6 +1,7 @@
 #include "egl/binding.h"
 
 #include <atomic>
+#include <utility>
 
 #include "egl/desktop_clients.h"
 #include "egl/refusal.h"
@@ -15,27 +16,28 @@ namespace {
 
 using refusals::Rule;
 
-// Records the rule only: whether the bind fails is decided elsewhere, and callers set the error.
+// Only records the rule. The callers decide whether the bind fails, and set the error.
 bool refuseBind(Rule rule, const Context &context) {
     refusals::lastNote = {rule, {.major = context.attribs.esMajor, .minor = context.attribs.esMinor}};
     return false;
 }
 
-// The share context's back-end context has to exist before it can be given to the back end. Works along a whole chain.
-// Contexts of desktop OpenGL have nothing to give.
+// The back end requires the share context's back-end context. Creates those of a whole chain.
+// Contexts of desktop OpenGL need none.
 void primeShareContext(Context &context, const SurfacePair &surfaces) {
     const auto &share = context.shareContext;
     if (!share || share->isDesktop() || share->esContext.load() || !share->hostContext()) return;
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
-    if (bindContext(share, surfaces)) claim.keep();
-    // Before the claim ends: another thread may wait for it, and the host refuses a context that is current here.
+    if (bindContext(std::shared_ptr(share), surfaces)) claim.keep();
+    // Unbound before the claim ends: another thread may wait for the context, and the host does not bind a context that
+    // is current here.
     (void)host::makeHostContextCurrent(nullptr, nullptr);
     unbindCurrent(context.display);
 }
 
-// At every bind to a window, the same one too, for as long as there is somebody to tell. A window without a title sends
-// an empty one.
+// Called at every bind to a window, even the same one, if a GUI is connected. A window without a title sends an empty
+// one.
 void postWindowTitle(const Surface *draw) {
     const auto *window = draw ? draw->hostSurface.get() : nullptr;
     if (!window || window->isPBuffer() || window->isPixmap() || !state().uiLink().isAttached()) return;
@@ -51,19 +53,19 @@ void tellOfHostWithoutContext(const ContextAttribs &attribs) {
                attribs.legacyClient ? "1" : "2 and 3");
 }
 
-// What the context reads from, if that is not what it draws to. On devices contexts read what they draw.
+// The object that the context reads from if it is not the drawn one. On devices contexts read what they draw.
 const glove::ISurface *readObject(const SurfacePair &surfaces) {
     const bool isOther = desktop_clients::isOn() && surfaces.read && surfaces.read != surfaces.draw;
     return isOther ? surfaces.read->hostSurface.get() : nullptr;
 }
 
-// Makes the back-end context at the first bind and tells it the attributes at every later one.
+// Creates the back-end context at the first bind and sets its attributes at every later one.
 bool bindEsContext(Context &context, host::HostBinding binding) {
     if (const zvEsContext esContext = context.esContext) {
         State::setEsContextAttribs(context.esLibrary, esContext, context.attribs);
         return true;
     }
-    // A back-end context sets its host context up: it waits for a bind that makes that current.
+    // The back-end context initialises its host context when created, so that must be current.
     if (binding != host::HostBinding::current) return true;
     Context *share = context.shareContext.get();
     const SharedEsContext shared(share);
@@ -75,11 +77,11 @@ bool bindEsContext(Context &context, host::HostBinding binding) {
     return true;
 }
 
-// Does what eglDestroyContext put off.
+// Performs a destruction that eglDestroyContext deferred.
 void endClaim(Context &context, Display &display) {
     if (context.pendingDestroy) display.destroyContext(context.handle);
     context.letGo();
-    // Another thread may have seen the claim just before, and left the destruction to this one.
+    // Another thread may have deferred the destruction just before the claim ended.
     if (context.pendingDestroy) display.destroyContext(context.handle);
 }
 
@@ -89,7 +91,7 @@ BindClaim::BindClaim(Context &context) : m_context(context), m_isCurrent(threadR
     if (!context.esContext.load()) m_firstBind = std::unique_lock(context.group->firstBinds);
     m_isTaken = !m_isCurrent && context.claim();
     if (isHeld() || m_firstBind) return;
-    // The first bind of another context of the group may have it for a moment.
+    // The first bind of another context of the group may have claimed it temporarily.
     m_firstBind = std::unique_lock(context.group->firstBinds);
     m_isTaken = context.claim();
 }
@@ -104,15 +106,15 @@ void showPixmap(const Context &current) {
 }
 
 void unbindCurrent(Display &display) {
-    // Held to the end: a destruction that was put off takes it from the thread.
-    const auto current = currentContext();
-    if (!current) return;
-    showPixmap(*current);
+    if (!threadRecord.current) return;
+    showPixmap(*threadRecord.current);
+    // Keeps the context alive, since a deferred destruction removes the thread's reference.
+    const auto current = std::move(threadRecord.hold->current);
     endClaim(*current, display);
     setCurrentContext(nullptr, nullptr);
 }
 
-bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces) {
+bool bindContext(std::shared_ptr<Context> &&context, const SurfacePair &surfaces) {
     primeShareContext(*context, surfaces);
     if (!context->esLibrary.library.isLoaded()) return refuseBind(Rule::noBackEnd, *context);
     const Surface *const draw = surfaces.draw.get();
@@ -124,30 +126,31 @@ bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &sur
     const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get(), readObject(surfaces))
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
     if (binding == host::HostBinding::failed) return refuseBind(Rule::hostBind, *context);
-    // A host that refused the context at its creation shows here first.
+    // If the host failed to create the context, the first bind reports it.
     if (!hostContext || !hostContext->context->container()) {
         tellOfHostWithoutContext(context->attribs);
         return refuseBind(Rule::noHostContext, *context);
     }
-    // The application must not inherit an error that the bind left. Contexts of the host itself keep theirs.
+    // Clears an error that the bind generated on the host. Contexts of desktop OpenGL keep the application's errors.
     if (!context->isDesktop()) state().hostEGL(binding == host::HostBinding::current).sweepError();
 
-    // Never taken back by a later bind to a linear surface: a back end sees it for good once it was set.
+    // A later bind to a linear surface does not reset it: the attribute remains set for the back end.
     if (draw && draw->isSrgb) context->attribs.srgbFramebuffer = 1;
     if (!bindEsContext(*context, binding)) return false;
 
     if (context->surfaces.draw != surfaces.draw || context->surfaces.read != surfaces.read)
         context->surfaces = surfaces;
-    setCurrentContext(context, &context->display);
     context->attribs.surfaceless = 0;
+    Display &display = context->display;
+    setCurrentContext(std::move(context), &display);
     return true;
 }
 
-bool bindSurfaceless(const std::shared_ptr<Context> &context) {
-    if (desktop_clients::isOn()) return bindContext(context, {});
+bool bindSurfaceless(std::shared_ptr<Context> &&context) {
+    if (desktop_clients::isOn()) return bindContext(std::move(context), {});
     const auto surface = context->display.createPrivateSurface(*context);
     context->attribs.surfaceless = 1;
-    return bindContext(context, {surface, surface});
+    return bindContext(std::move(context), {surface, surface});
 }
 
 } // namespace egl

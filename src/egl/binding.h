@@ -1,4 +1,4 @@
-// Binding a context to the calling thread: host context, back-end context and thread record come together here.
+// Binds a context to the calling thread: its host context, back-end context and thread record.
 #pragma once
 
 #include <memory>
@@ -35,14 +35,14 @@ private:
 // wrong table.
 void unbindCurrent(Display &display);
 
-// Copies what the current context has drawn to the pixmap of its surface, if it has one.
+// Copies the current context's rendering to the pixmap of its surface, if it has one.
 void showPixmap(const Context &current);
 
-// The caller has claimed the context and prepared the thread. On failure the thread has no current context, even if it
-// had another one before.
-[[nodiscard]] bool bindContext(const std::shared_ptr<Context> &context, const SurfacePair &surfaces);
+// The caller has claimed the context and prepared the thread. On success the thread takes the reference; on failure it
+// has no current context, even if it had another one before.
+[[nodiscard]] bool bindContext(std::shared_ptr<Context> &&context, const SurfacePair &surfaces);
 
 // Binds with a surface of the library's own, which stays in the display's table until eglTerminate.
-[[nodiscard]] bool bindSurfaceless(const std::shared_ptr<Context> &context);
+[[nodiscard]] bool bindSurfaceless(std::shared_ptr<Context> &&context);
 
 } // namespace egl

@@ -1,7 +1,6 @@
 #include "egl/call_reports.h"
 
 #include <algorithm>
-#include <map>
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -57,12 +56,12 @@ void tellRefusal(Kind kind, const char *call, const std::string &values) {
     tellRefusal(kind, call, values, error, refusals::takeWords(error));
 }
 
-// A later call finds no note of an earlier one.
+// Clears the note, so that it is not used for a later call.
 void forgetNote() {
     refusals::lastNote = {};
 }
 
-// Of a call that programs try until it is taken.
+// Ends the series of a call that programs retry until it succeeds.
 void endSteps(const char *call) {
     forgetNote();
     refusals::settle(call);
@@ -76,22 +75,18 @@ Json sizesJson(const Config &config) {
     return sizes;
 }
 
-// The attribute that threw out most configs.
+// The attribute that the configs failed on which matched the most others.
 std::string whyNone(const ChoiceAccount &account) {
     if (account.fallenOut.empty()) return "the device has no configs";
-    std::map<int32_t, int> counts;
-    for (const auto &[id, reason] : account.fallenOut)
-        ++counts[reason.attribute];
-    const auto most = std::ranges::max_element(counts, {}, [](const auto &entry) { return entry.second; });
-    std::string text = "no config matches";
-    for (const auto &[id, reason] : account.fallenOut) {
-        if (reason.attribute != most->first) continue;
-        text += ": " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
-                " threw out " + std::to_string(most->second) + " of " + std::to_string(account.fallenOut.size()) +
-                "; config " + std::to_string(id) + " has " + valueText(reason.attribute, reason.had);
-        break;
-    }
-    return text;
+    using FallenOut = ChoiceAccount::FallenOut;
+    const FallenOut &nearest =
+        *std::ranges::max_element(account.fallenOut, {}, [](const FallenOut &fallen) { return fallen.reason.passed; });
+    const FallOut &reason = nearest.reason;
+    const auto count = std::ranges::count_if(
+        account.fallenOut, [&](const FallenOut &fallen) { return fallen.reason.attribute == reason.attribute; });
+    return "no config matches: " + attributeName(reason.attribute) + ' ' + valueText(reason.attribute, reason.wanted) +
+           " rejected " + std::to_string(count) + " of " + std::to_string(account.fallenOut.size()) + "; config " +
+           std::to_string(nearest.id) + " has " + valueText(reason.attribute, reason.had);
 }
 
 } // namespace
@@ -160,7 +155,7 @@ void surface(EGLSurface answer, const char *call, EGLDisplay dpy, EGLConfig conf
 void makeCurrent(EGLBoolean answer, EGLSurface draw, EGLSurface read, EGLContext context) {
     if (answer) {
         forgetNote();
-        // The first bind of a context has its device told.
+        // Writes the line about the context's device at its first bind.
         if (journal::isOn()) (void)journal::RecordedContext::current();
         return;
     }

@@ -24,7 +24,7 @@ bool isValidList(const EGLint *attributes) {
     return desktop_clients::isOn() ? isValidByStandard(attributes) : validateAttributeList(attributes);
 }
 
-// Notes the first pair that makes the list wrong.
+// Notes the first invalid pair of the list.
 EGLint becauseOfList(const EGLint *attributes) {
     for (const auto &[name, value] : AttributeList(attributes)) {
         const EGLint pair[] = {name, value, EGL_NONE};

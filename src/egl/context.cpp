@@ -21,7 +21,7 @@ ContextAttribs withHandle(ContextAttribs attribs, uint64_t handle) {
 std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &config, const Context *share,
                                                               const ContextAttribs &attribs, EGLenum api) {
     host::HostContextRequest request;
-    // A config that no profile has carries no host format, so the bind fails for lack of a host context.
+    // A config that the profile lacks has no host format, so the bind fails without a host context.
     request.format = config.hostConfig() ? config.hostConfig()->format() : nullptr;
     request.legacy = attribs.legacyClient;
     if (desktop_clients::isOn()) request.robustness = standard::robustnessOf(attribs);
@@ -30,7 +30,7 @@ std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &conf
     return host::createHostContext(request);
 }
 
-// For the life of the process, since no one knows when the last that shares its objects goes.
+// Keeps the host context until the process ends, since the last context that shares its objects is unknown.
 void leaveBehind(std::shared_ptr<host::HostContextHandle> hostContext) {
     if (hostContext) new std::shared_ptr(std::move(hostContext));
 }
@@ -60,7 +60,8 @@ Context::~Context() {
 }
 
 void *Context::getExtProcAddress(const char *name) const {
-    // The table of functions remembers answers beyond the life of a context, so the code behind them has to stay.
+    // The function table keeps the back end's functions after the context is destroyed, so the library must stay
+    // loaded.
     if (!m_keepsLibrary.exchange(true, std::memory_order_relaxed)) esLibrary.library.keepLoaded("zvGetExtProcAddress");
     return esLibrary.getExtProcAddress ? esLibrary.getExtProcAddress(name) : nullptr;
 }
@@ -69,7 +70,7 @@ bool Context::deleteEsContext() {
     if (threadRecord.current == this) return deleteClaimed();
     if (!claim()) {
         m_deletesWhenLetGo = true;
-        // The thread that had it may have looked just before.
+        // If the thread with the claim released it before the flag was set, the claim succeeds here.
         if (!claim()) return true;
         m_deletesWhenLetGo = false;
     }
@@ -93,7 +94,7 @@ bool Context::deleteClaimed() {
         ended.swap(m_hostContext);
     }
     if (!esContext.load()) return true;
-    // The display of the record stays as it is.
+    // The record's display is unchanged.
     if (threadRecord.current == this) setCurrentContext(nullptr, threadRecord.currentDisplay);
     if (!esLibrary.deleteEsContext) return false;
     deleteUnlessShared();
@@ -106,7 +107,8 @@ void Context::deleteUnlessShared() {
         const std::lock_guard lock(m_mutex);
         m_deletesWithoutSharers = m_sharers > 0;
         if (m_deletesWithoutSharers) return;
-        // The object may live on as the share context of another, whose first bind must not hand out a deleted one.
+        // The object may still be another's share context, and that one's first bind must not use a deleted back-end
+        // context.
         doomed = esContext.exchange(nullptr);
     }
     if (doomed) esLibrary.deleteEsContext(doomed);

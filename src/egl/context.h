@@ -1,4 +1,4 @@
-// An EGL context: the back-end context that does the ES work and the host context that carries it.
+// An EGL context: the back-end context that implements OpenGL ES, and the host context that it uses.
 #pragma once
 
 #include <atomic>
@@ -56,7 +56,7 @@ public:
     // Destroys the host context and the back-end context; deferred if another thread has the context current. False
     // when the back end cannot delete; the host context is destroyed all the same. Any thread.
     [[nodiscard]] bool deleteEsContext();
-    // The same, but deferred until the thread that has it current releases it, even if that is the calling thread.
+    // The same, but always deferred until the thread that has it current, which may be the calling one, releases it.
     void deleteOnceLetGo();
     // Passes a render mode to the back end. False when it accepts none.
     bool setRenderMode(uint8_t mode) const;
@@ -78,7 +78,7 @@ public:
     const uint64_t handle;
     const EGLenum api;
     const std::shared_ptr<const Config> config;
-    const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is gone
+    const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is destroyed
     const std::shared_ptr<ContextGroup> group;
     gl::FunctionTable &functions;
     const EsLibrary esLibrary; // open for the life of the context
@@ -103,7 +103,8 @@ private:
 
     mutable std::atomic<bool> m_keepsLibrary = false;
 
-    // Another display's context of the same number, destroyed in its place while a thread has it current.
+    // Set when eglDestroyContext for another display's context of the same number destroys this one while a thread has
+    // it current.
     std::atomic<bool> m_deletesWhenLetGo = false;
 
     mutable std::mutex m_mutex; // guards the fields below
@@ -116,7 +117,7 @@ private:
 // meanwhile, this destructor completes the deletion.
 class SharedEsContext {
 public:
-    // Null stands for no context.
+    // share: null for no context.
     explicit SharedEsContext(Context *share);
     SharedEsContext(const SharedEsContext &) = delete;
     SharedEsContext &operator=(const SharedEsContext &) = delete;

@@ -39,7 +39,7 @@ public:
         Pool &pool = poolOf(m_kind);
         const std::lock_guard lock(pool.mutex);
         pool.free.push_back(memory);
-        // Nothing for builds without the address sanitizer, which would not notice a use otherwise.
+        // Lets the address sanitizer report uses of a dead context.
         ASAN_POISON_MEMORY_REGION(memory, sizeof(Object));
     }
 

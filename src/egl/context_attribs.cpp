@@ -52,7 +52,7 @@ bool applyAttribute(const Config &config, EGLint attribute, EGLint value, Contex
         attribs.resetStrategy = value;
         return true;
     case EGL_CONTEXT_OPENGL_NO_ERROR_KHR:
-        // Set by any value, EGL_FALSE too.
+        // Any value sets it, even EGL_FALSE.
         attribs.noError = 1;
         return true;
     case EGL_CONTEXT_OPENGL_ROBUST_ACCESS_EXT:

@@ -7,7 +7,7 @@
 
 namespace egl {
 
-// What a context without attributes has: OpenGL ES 1.0 at medium priority.
+// The attributes of a context without a list: OpenGL ES 1.0 at medium priority.
 [[nodiscard]] ContextAttribs defaultContextAttribs();
 
 // False with the error set for a version that the config lacks (EGL_BAD_CONFIG) or an unknown attribute

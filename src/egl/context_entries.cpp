@@ -22,13 +22,13 @@ constexpr const char *hostFallsShort =
     "An OpenGL ES context of the requested version could not be created because the host system does not support the "
     "entire feature-set. You can disable this check by switching the context creation mode to 'loose' in Preferences.";
 
-// What the host lacks is told beside every refusal but that of an unknown config.
+// Every failure except that for an unknown config prints the host's report.
 EGLContext refuse(EGLint error) {
     printSystemReportOnce();
     return fail(error, EGL_NO_CONTEXT);
 }
 
-// Whether the host carries what the attributes come to; it does where that does not matter.
+// Whether the host supports the version of the attributes. True if that does not matter.
 capability::HostAnswer settleVersion(const Config &config, ContextAttribs &attribs) {
     const bool canBeEs3 = config.attributeOr0(EGL_RENDERABLE_TYPE) & EGL_OPENGL_ES3_BIT;
     attribs.strictContextMode = state().isStrictContextMode();
@@ -51,14 +51,14 @@ void tellWhatIsMissing(const ContextAttribs &attribs) {
 
 EGLint readAttributes(const Config &config, const EGLint *list, ContextAttribs &attribs) {
     if (desktop_clients::isOn()) return standard::readContextAttributes(config, state().profile(), list, attribs);
-    // An error of its own, which is pending by then, stays.
+    // parseContextAttribs sets its error, which stays pending.
     if (!parseContextAttribs(config, list, attribs)) return EGL_BAD_ATTRIBUTE;
     const EGLint major = attribs.requestedMajor, minor = attribs.esMinor;
     const bool isAllowed = isEsVersionAllowed(state().profile(), major, minor);
     return isAllowed ? EGL_SUCCESS : refusals::becauseOfVersion(major, minor, EGL_BAD_MATCH);
 }
 
-// Devices do not look.
+// Devices do not check this.
 bool canShare(const ContextAttribs &attribs, const ContextAttribs &share) {
     return !desktop_clients::isOn() || attribs.resetStrategy == share.resetStrategy;
 }
@@ -116,7 +116,7 @@ EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext sh
 std::optional<EGLint> contextAttribute(const Context &context, EGLint attribute) {
     switch (attribute) {
     case EGL_CONTEXT_CLIENT_VERSION:
-        return context.attribs.requestedMajor; // not what it was raised to
+        return context.attribs.requestedMajor; // the requested version, not the one it was raised to
     case EGL_CONTEXT_CLIENT_TYPE:
         return EGL_OPENGL_ES_API;
     case EGL_CONFIG_ID:
@@ -143,7 +143,7 @@ EGLBoolean EGLAPIENTRY eglDestroyContext(EGLDisplay dpy, EGLContext ctx) {
         const auto context = display.findContext(ctx);
         if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
         if (context->boundToThread) context->pendingDestroy = true;
-        // A back end that cannot delete leaves the context in the table; the answer is true all the same.
+        // The call succeeds even if the back end cannot delete the context, which then stays in the table.
         if (!context->boundToThread) display.destroyContext(context->handle);
         return succeed(EGL_TRUE);
     });

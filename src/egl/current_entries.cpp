@@ -1,4 +1,4 @@
-// eglMakeCurrent, and the queries of what is current.
+// eglMakeCurrent, and queries of the current context and surfaces.
 #include "egl/bind_memos.h"
 #include "egl/binding.h"
 #include "egl/call_reports.h"
@@ -24,8 +24,8 @@ EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
     if (!prepareThread()) return fail(EGL_BAD_ALLOC, EGL_FALSE);
     const uint64_t version = display.handlesVersion();
     const BindMemo *const memo = threadRecord.hold->memos.find(request);
-    // A bind that a device takes may be refused here, and the other way round: devices tell after the old context is
-    // gone, and not whether configs fit, since theirs stand on one format.
+    // Desktop mode has its own checks, which may fail where a device's succeed and the other way round: devices check
+    // after the old context is released, and ignore configs, since theirs share one format.
     if (!memo && desktop_clients::isOn()) {
         if (const EGLint error = standard::bindError(display, request); error != EGL_SUCCESS) {
             return fail(error, EGL_FALSE);
@@ -35,21 +35,22 @@ EGLBoolean makeCurrent(Display &display, const BindRequest &request) {
     if (!context) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
     BindClaim claim(*context);
     if (!claim.isHeld()) return fail(EGL_BAD_ACCESS, EGL_FALSE);
-    // Before anything of the new context is tried: a bind that fails has lost the old one. The handles are compared, as
-    // they are everywhere: a context of another display that has the same number is not unbound.
+    // Unbinds first: a failed bind loses the old context. Handles are compared, as in all entries, so a context of
+    // another display with the same number is not unbound.
     if (threadRecord.current && threadRecord.current->handle != context->handle) unbindCurrent(display);
 
     if (!request.draw && !request.read) {
-        if (!bindSurfaceless(context)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+        if (!bindSurfaceless(std::move(context))) return fail(EGL_BAD_ALLOC, EGL_FALSE);
     } else {
         SurfacePair found;
         const bool isKnown = hasSurfacesOf(*context, memo);
         if (!isKnown) found = {display.findSurface(request.draw), display.findSurface(request.read)};
         const SurfacePair &surfaces = isKnown ? context->surfaces : found;
         if (!surfaces.draw || !surfaces.read) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        if (!bindContext(context, surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
+        if (!bindContext(std::move(context), surfaces)) return fail(EGL_BAD_ALLOC, EGL_FALSE);
         if (!isKnown) {
-            threadRecord.hold->memos.note({request, version, context, surfaces.draw.get(), surfaces.read.get()});
+            threadRecord.hold->memos.note(
+                {request, version, threadRecord.hold->current, surfaces.draw.get(), surfaces.read.get()});
         }
     }
     claim.keep();

@@ -87,7 +87,7 @@ void loadBackEnds() {
 
 uint64_t drawableOf(void *native) {
     if (!isOn()) return reinterpret_cast<uintptr_t>(native);
-    // A Window is as wide as a pointer here, whatever X sends over the wire.
+    // Xlib's Window type has the width of long.
     return native ? *static_cast<const unsigned long *>(native) : 0;
 }
 
@@ -96,8 +96,8 @@ void tellOfOtherApi(EGLenum api) {
     if (!isOn() || isTold.exchange(true)) return;
     const bool isOpenGl = api == EGL_OPENGL_API;
     const char *wanted = isOpenGl ? "desktop OpenGL" : "an API of another kind";
-    const char *had = haveOpenGl() ? "OpenGL and OpenGL ES alone" : "OpenGL ES alone";
-    logMessage(LogError, "%s%s%s%s%s", "The application asks EGL for ", wanted, "; this EGL has ", had,
+    const char *offered = haveOpenGl() ? "OpenGL and OpenGL ES only" : "OpenGL ES only";
+    logMessage(LogError, "%s%s%s%s%s", "The application requests ", wanted, "; this EGL supports ", offered,
                isOpenGl ? "; try --opengl." : ".");
 }
 

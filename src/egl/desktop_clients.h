@@ -1,4 +1,4 @@
-// What X11 programs of the desktop expect of an EGL and handheld devices lack. All of it depends on the variable
+// EGL features that X11 desktop programs expect and handheld devices lack. All of it depends on the variable
 // ZELVANE_DESKTOP_CLIENTS, which is read once and must be 1; without it every function here returns an empty result,
 // and the callers behave as a device does.
 #pragma once

@@ -41,7 +41,7 @@ void Display::initialize(const DeviceProfile &profile) {
 }
 
 void Display::terminate() {
-    // Objects removed from the tables are destroyed after the lock is released.
+    // Objects that are removed from the tables are destroyed after the lock is released.
     std::shared_ptr<const ConfigList> configs;
     std::vector<std::shared_ptr<EglImage>> images;
     std::map<uint64_t, std::shared_ptr<Context>> contexts;
@@ -50,9 +50,9 @@ void Display::terminate() {
     const std::lock_guard lock(m_displayMutex);
     configs.swap(m_configs);
     images.swap(m_images);
-    m_syncs.clear(); // the host's fences are left behind
-    standardSyncs.clear();
-    standardImages.clear();
+    m_syncs.clear(); // the host's fences are not deleted
+    standard::clearSyncs(standardSyncs);
+    (void)standardImages.takeAll();
     contexts = m_contexts.takeAll();
     surfaces = m_surfaces.takeAll();
     forgetMemos();
@@ -61,7 +61,7 @@ void Display::terminate() {
 
 void Display::forgetMemos() {
     ++m_handlesVersion;
-    // This thread's would only keep the memory of contexts.
+    // Releases this thread's memos, which would otherwise keep contexts alive.
     if (threadRecord.hold) threadRecord.hold->memos = {};
 }
 
@@ -210,7 +210,7 @@ bool Display::isKnownSync(EGLSync sync) const {
 
 void Display::destroySync(const host::EGL &hostEGL, EGLSync sync) {
     const std::lock_guard lock(m_displayMutex);
-    // Erased under the same lock as the host call, so that two threads cannot delete one fence.
+    // The lock covers the host call, so that two threads cannot delete one fence.
     if (m_syncs.erase(number(sync)) > 0 && hostEGL.glDeleteSync) hostEGL.glDeleteSync(sync);
 }
 

@@ -13,7 +13,7 @@ namespace egl {
 
 namespace {
 
-// A failed load returns no display and leaves EGL_SUCCESS: a display that is not there is no error.
+// After a failed load the display is EGL_NO_DISPLAY and the error EGL_SUCCESS: a missing display is no error.
 EGLDisplay getDisplay(uint64_t nativeId, uint64_t hostDisplay) {
     if (!ensureLoaded()) return succeed(EGL_NO_DISPLAY);
     const std::lock_guard lock(stateMutex());

@@ -1,5 +1,5 @@
-// The EGL headers as every file of the library includes them: exported entries have default visibility, entries that
-// are only reached through eglGetProcAddress have no prototypes here.
+// The EGL headers as all files of the library include them: exported entries have default visibility, and entries that
+// only eglGetProcAddress returns have no prototypes here.
 #pragma once
 
 #define EGLAPI extern __attribute__((visibility("default")))

@@ -1,4 +1,4 @@
-// Entries that are only reached through eglGetProcAddress, where they differ from an exported one.
+// Entries that only eglGetProcAddress returns, where they differ from an exported one.
 #pragma once
 
 #include "egl/egl_api.h"

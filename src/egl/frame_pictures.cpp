@@ -98,11 +98,11 @@ std::optional<Picture> read(Surface &surface) {
         const ReadState readState(host);
         host.readPixels(0, 0, picture.width, picture.height, GL_RGBA, GL_UNSIGNED_BYTE, picture.pixels.data());
     }
-    // With a journal, which goes with pictures, none of the program's is pending on the host.
+    // The journal, which is on whenever pictures are taken, has collected the program's own error from the host.
     return host.getError() == 0 ? std::optional(std::move(picture)) : std::nullopt;
 }
 
-// In one step, so that a reader finds a whole one.
+// Renames the complete file, so that readers never see a part of it.
 bool store(const Picture &picture, const std::string &path) {
     const std::string whole = path + ".part";
     FILE *file = fopen(whole.c_str(), "we");
@@ -140,7 +140,7 @@ const Wish &wish() {
 struct Progress {
     std::mutex mutex; // guards all below
     std::optional<Clock::time_point> first;
-    Clock::time_point nextDue; // of a picture in between
+    Clock::time_point nextDue; // the time of the next picture before the last frame
     bool isDone = false;
 };
 

@@ -1,7 +1,7 @@
-// Pictures of the frames that a program shows, as they were drawn: for "zelvane lab", which requests them by variables.
-//   ZELVANE_PICTURE          the file: FILE-PID.ppm; each picture replaces the one before
+// Pictures of the frames that a program shows, as drawn, for "zelvane lab". Variables request them:
+//   ZELVANE_PICTURE          the file: FILE-PID.ppm; each picture replaces the previous one
 //   ZELVANE_PICTURE_FRAMES   the number of the last frame to save
-//   ZELVANE_PICTURE_SECONDS  or its time, from the first frame on
+//   ZELVANE_PICTURE_SECONDS  or its time, in seconds from the first frame
 // Earlier frames are saved too, within a tenth of the run time, since a program may end or stop drawing before the last
 // frame is reached.
 #pragma once

@@ -42,7 +42,7 @@ const gl::ProcTableRow extensionEntries[] = {
 // Null when there is no such entry.
 gl::Function findFunction(const char *name) {
     if (strncmp(name, "egl", 3) != 0) {
-        // For back ends, whose exported names do not pass by here.
+        // For back ends, whose exported functions are called without this function.
         if (journal::isOn() && strcmp(name, "zvRecordedFunction") == 0) return asFunction(journal::recorded);
         if (const auto function = gl::findEntry(name)) return function;
         if (desktop_clients::isKnownToBackEnd(name)) return gl::dynamicEntry(name);

@@ -11,7 +11,7 @@ namespace egl {
 
 namespace {
 
-// An error's number in the place of a boolean: destroying an unknown image looks like a success and sets no error.
+// An error code as the boolean result: destroying an unknown image appears to succeed and sets no error.
 constexpr EGLBoolean unknownImageResult = EGL_BAD_PARAMETER;
 
 } // namespace

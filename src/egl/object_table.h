@@ -9,7 +9,7 @@
 
 namespace egl {
 
-// Handles count from 1 and are never reused, so that a stale handle is unknown rather than somebody else's.
+// Handles count from 1 and are never reused, so that a stale handle is unknown and not that of another object.
 template <typename Object>
 class ObjectTable {
 public:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr EGLint noAttribute = 0;
 
-// A key that does not fit becomes one that no list accepts, values keep their low 32 bits.
+// A key beyond 32 bits becomes an invalid one; values keep their low 32 bits.
 std::vector<EGLint> narrowed(const EGLAttrib *attributes) {
     std::vector<EGLint> list;
     for (const auto &[name, value] : AttributeList(attributes)) {

@@ -1,4 +1,4 @@
-// Prints what the host supports to standard error, to explain why a context was refused.
+// Prints the host's capabilities to standard error, to explain why a context cannot be created.
 #pragma once
 
 namespace egl {

@@ -37,7 +37,7 @@ std::shared_ptr<glove::ISurface> takePrivateBuffer() {
 }
 
 void leavePrivateBuffer(std::shared_ptr<glove::ISurface> buffer) {
-    // One that the host refused is tried anew by the next context.
+    // A buffer that the host failed to create is not reused: the next context tries again.
     if (!buffer || buffer->nativeHandle().isNull()) return;
     const std::lock_guard lock(left().mutex);
     left().buffers.push_back(std::move(buffer));

@@ -51,7 +51,7 @@ bool hasOneOf(std::string_view wanted, const std::string &announced) {
     return false;
 }
 
-// Client extensions count where there is a display too.
+// Client extensions are included, with or without a display.
 std::string announcedByEgl() {
     const EGLint pending = threadRecord.error;
     std::string text;
@@ -62,7 +62,7 @@ std::string announcedByEgl() {
     return text;
 }
 
-// The extensions that a name belongs to, and whether the device announces one of them; null where nobody can tell.
+// The extensions that define a name, and whether the device advertises one of them; null if neither is known.
 Json eglOrigin(const char *name) {
     const auto *row = std::ranges::find(eglFunctions, std::string_view(name), &EglFunction::name);
     if (row == std::end(eglFunctions)) return {{"extensions", ""}, {"isAnnounced", nullptr}};

@@ -11,7 +11,7 @@ namespace egl {
 
 namespace {
 
-// Every name is followed by one blank, the last one too; applications search for a name with its blank.
+// Every name is followed by a blank, even the last one: applications search for a name with its blank.
 constexpr char displayExtensions[] = "EGL_ANDROID_image_native_buffer "
                                      "EGL_EXT_create_context_robustness "
                                      "EGL_EXT_swap_buffers_with_damage "
@@ -31,7 +31,7 @@ constexpr char displayExtensions[] = "EGL_ANDROID_image_native_buffer "
 
 constexpr char clientExtensions[] = "EGL_EXT_client_extensions EGL_EXT_platform_base ";
 
-// Never destroyed: exit handlers may still read what they were given.
+// Never destroyed: exit handlers may read the returned string.
 const char *versionString() {
     static const std::string &version =
         *new std::string(std::to_string(host::eglMajorVersion()) + "." + std::to_string(host::eglMinorVersion()) +

@@ -47,13 +47,13 @@ std::string highestVersion(const DeviceProfile &profile) {
     return isEsVersionAllowed(profile, 2, 0) ? "2.0" : "1.1";
 }
 
-// The option with more capabilities that is the nearest to a device.
+// The option with more capabilities that is nearest to a device.
 const char *widerOption(const DeviceProfile &profile) {
     return profile.name == "Desktop" ? "--bare" : "--profile Desktop";
 }
 
 std::string versionText(const Facts &facts) {
-    // A back end serves all minor versions.
+    // Minor version 0 is omitted for ES 1: its back end implements all minor versions.
     return std::to_string(facts.major) + (facts.minor > 0 || facts.major > 1 ? '.' + std::to_string(facts.minor) : "");
 }
 

@@ -1,4 +1,4 @@
-// Explanations of refused calls: which rule refused, why, and what would help.
+// Explanations of failed calls: the rule that failed, the reason, and a remedy.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ enum class Rule {
 #undef REFUSAL_RULE
 };
 
-// The values that a rule's text names; 0 for those that do not apply.
+// The values that a rule's text contains; 0 for those that do not apply.
 struct Facts {
     EGLint attribute = 0;
     EGLint value = 0;
@@ -31,7 +31,7 @@ struct Note {
     Facts facts;
 };
 
-// The last rule that refused a call on the calling thread; cleared when a call is reported.
+// The last rule that made a call of the calling thread fail; cleared when a call is reported.
 extern constinit thread_local Note lastNote __attribute__((tls_model("initial-exec")));
 
 // Notes the rule for the later report and returns the error. Costs a few stores.
@@ -49,7 +49,7 @@ struct Words {
     std::string help;
 };
 
-// Takes and clears the note. error: the call's, used for refusals without a note.
+// Returns and clears the note. error: the call's, used for failures without a note.
 [[nodiscard]] Words takeWords(EGLint error);
 
 } // namespace refusals

@@ -27,11 +27,11 @@ Lines &lines() {
 }
 
 void writeLine(int file, const std::string &line) {
-    // Nobody is left to hear of a failure.
+    // A failed write cannot be reported.
     if (::write(file, line.data(), line.size()) < 0) return;
 }
 
-// The command's list: "PID CALL TEXT" a line, without a text for a call that succeeded.
+// The command's list has lines "PID CALL TEXT", without a text for a call that succeeded.
 void addToList(const char *call, const std::string &text) {
     static const int file = [] {
         const char *path = findVariable("ZELVANE_REFUSALS");

@@ -1,11 +1,11 @@
-// The lines about refused calls that a user of "zelvane run" sees: one for each call and reason.
+// The lines about failed calls that a user of "zelvane run" sees: one for each call and reason.
 #pragma once
 
 #include <string>
 
 namespace egl::refusals {
 
-// Whether lines are read: the process serves desktop programs.
+// Whether lines are read, which is so in desktop mode.
 [[nodiscard]] bool hasReaders();
 
 // Prints the line on standard error, unless it was printed before.

@@ -3,6 +3,7 @@
 #include "capability/collect_system_report.h"
 #include "egl/desktop_clients.h"
 #include "egl/gui_link.h"
+#include "egl/libgl.h"
 #include "egl/process_journal.h"
 #include "egl/report_message.h"
 #include "egl/thread_record.h"
@@ -16,7 +17,7 @@ namespace egl {
 
 namespace {
 
-// Never destroyed: threads are inside entries while the process ends, and exit handlers call them.
+// Never destroyed: threads may be inside entries while the process ends, and exit handlers call entries.
 constinit State *globalState = nullptr;
 constinit std::mutex globalStateMutex;
 constinit std::atomic<bool> isStateLoaded = false;
@@ -25,12 +26,14 @@ constinit std::atomic<bool> isStateLoaded = false;
 
 State::State()
     : m_profile(defaultProfile),
-      // Loaders of programs (libepoxy, for one) take a process with libGL.so.1 and a current GLX context, which ours
-      // are, for one that draws by GLX, and go past OpenGL ES.
+      // A process that has loaded the host's libGL.so.1 or libOpenGL.so.0 would not load the one that follows our
+      // contexts.
       m_openGLLibrary(desktop_clients::isOn() ? host::openPlainHostOpenGLLibrary() : host::openHostOpenGLLibrary()),
       m_uiLink(setRenderModeOfAll) {
-    (void)getFirstWorkingDirectory(); // which search paths count from, wherever the application goes later
+    // Relative search paths are resolved against the first working directory, even if the application changes it later.
+    (void)getFirstWorkingDirectory();
     attachGuiLink(*this);
+    if (desktop_clients::isOn()) connectLibGl();
     threadRecord.currentDisplay = nullptr;
 }
 
@@ -50,7 +53,7 @@ bool State::load() {
     const CKZRTString directory(m_settings.getProfilesDirectory().c_str());
     const CKZRTString name(m_settings.getCurrentProfile().c_str());
     if (!name.empty() && !loadDeviceProfile(m_profile, directory, name, &m_profileText)) {
-        // The load is tried anew by every entry.
+        // Every entry retries the load; the failure is logged once.
         if (!std::exchange(m_isProfileFailureTold, true))
             logMessage(LogError, "%s",
                        (failureText("load device profile", name.data()) + " from " + directory.data()).c_str());
@@ -118,7 +121,7 @@ const capability::EsGate *State::esGate() {
         const std::lock_guard lock(m_esGateMutex);
         if (m_esGate) return m_esGate.get();
     }
-    // Without the lock: the host may take its time.
+    // Called without the lock, since the probe may take long.
     auto gate = capability::probeEsGate(m_openGLLibrary, m_windowSystem);
     if (!gate) return nullptr;
     const std::lock_guard lock(m_esGateMutex);
@@ -131,7 +134,7 @@ bool State::isStrictContextMode() const {
 }
 
 bool ensureLoaded() {
-    // There is no way back from here but the end of the process.
+    // Once loaded, the state stays loaded until the process ends.
     if (isStateLoaded.load(std::memory_order_acquire)) return true;
     const std::lock_guard lock(globalStateMutex);
     if (!globalState) globalState = new State;

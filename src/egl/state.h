@@ -49,11 +49,11 @@ public:
     // All null until then. canLookUp: whether one of our contexts is current on the host.
     [[nodiscard]] const host::EGL &hostEGL(bool canLookUp = true);
 
-    // What the host supports: probed during the load, or at the first call if that was not possible. Null when the host
-    // cannot be probed. Any thread.
+    // The host's capabilities: probed during the load, or at the first call if that was not possible. Null when the
+    // host cannot be probed. Any thread.
     [[nodiscard]] const capability::EsGate *esGate();
 
-    // False where the embedding tool forces loose contexts, whatever the settings are.
+    // False if the embedding tool disables strict contexts, whatever the settings are.
     [[nodiscard]] bool isStrictContextMode() const;
 
     // The back-end library for this major version. Logs a failure to load it and returns an empty library then.

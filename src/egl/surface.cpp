@@ -47,7 +47,7 @@ EGLint Surface::attribute(EGLint name) {
     case EGL_HEIGHT:
         return hostSurface ? hostSurface->height() : 0;
     case EGL_BUFFER_AGE_KHR:
-        // Always 0, so that an application repaints in full.
+        // Always 0, so that applications redraw the whole frame.
         bufferAgeQueried = true;
         return 0;
     default:

@@ -30,7 +30,7 @@ public:
 
     // Returns the error of eglQuerySurface; value is written on success only.
     [[nodiscard]] EGLint query(EGLint attribute, EGLint *value);
-    // The stored value or 0; the size comes from the host at every call, and is 0 without a host surface.
+    // The stored value or 0; the size is queried from the host at every call, and is 0 without a host surface.
     [[nodiscard]] EGLint attribute(EGLint attribute);
     // The value in the attribute list, or the given default without one.
     [[nodiscard]] EGLint storedOr(EGLint attribute, EGLint otherwise) const;

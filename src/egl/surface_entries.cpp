@@ -23,7 +23,7 @@ constexpr EGLint pbufferAttributes[] = {
     EGL_MIPMAP_TEXTURE, EGL_VG_COLORSPACE, EGL_VG_ALPHA_FORMAT, EGL_GL_COLORSPACE,
 };
 
-// Looks at the keys alone; values are kept as they come.
+// Checks the keys only; values are stored unchecked.
 EGLint keysError(const EGLint *attributes, std::span<const EGLint> accepted) {
     for (const auto &[name, value] : AttributeList(attributes)) {
         if (std::ranges::find(accepted, name) == accepted.end())
@@ -36,7 +36,7 @@ bool hasSurfaceType(const Config &config, EGLint bit) {
     return config.attributeOr0(EGL_SURFACE_TYPE) & bit;
 }
 
-// On devices the config's surface type is not checked: a config without EGL_WINDOW_BIT takes a window too.
+// Devices do not check the config's surface type: a config without EGL_WINDOW_BIT accepts a window too.
 EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativeWindowType window,
                           const EGLint *attributes) {
     if (desktop_clients::isOn()) {
@@ -101,7 +101,7 @@ EGLSurface EGLAPIENTRY eglCreatePbufferSurface(EGLDisplay dpy, EGLConfig configH
     return reports::told(made, reports::surface, "eglCreatePbufferSurface", dpy, configHandle, attributes);
 }
 
-// Devices do not use the pixmap at all: the surface is a handle and a map of attributes.
+// Devices do not use the pixmap: the surface has a handle and attributes only.
 EGLSurface EGLAPIENTRY eglCreatePixmapSurface(EGLDisplay dpy, EGLConfig configHandle, EGLNativePixmapType pixmap,
                                               const EGLint *attributes) {
     const EGLSurface made = entry(dpy, EGL_NO_SURFACE, [&](Display &display) {
@@ -122,7 +122,7 @@ EGLSurface EGLAPIENTRY eglCreatePbufferFromClientBuffer(EGLDisplay dpy, EGLenum,
 EGLBoolean EGLAPIENTRY eglDestroySurface(EGLDisplay dpy, EGLSurface surface) {
     return entry(dpy, EGL_FALSE, [&](Display &display) {
         if (!display.findSurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-        // One that has left the table already is found while it is current, and cannot be destroyed twice.
+        // A destroyed surface is still found while it is current, but cannot be destroyed again.
         if (!display.destroySurface(surface)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
         return succeed(EGL_TRUE);
     });
@@ -137,7 +137,7 @@ EGLBoolean EGLAPIENTRY eglQuerySurface(EGLDisplay dpy, EGLSurface surface, EGLin
     });
 }
 
-// On devices three attributes are accepted and their values dropped: a later query answers as before.
+// Devices accept three attributes and discard their values, so a later query returns the old ones.
 EGLBoolean EGLAPIENTRY eglSurfaceAttrib(EGLDisplay dpy, EGLSurface surface, EGLint attribute, EGLint value) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);

@@ -18,7 +18,7 @@ EGLBoolean swapBuffers(Display &display, EGLSurface surface) {
     const auto found = display.findSurface(surface);
     if (!found) return fail(EGL_BAD_SURFACE, EGL_FALSE);
     if (desktop_clients::isOn() && !standard::isDrawnTo(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
-    // First: a frame of a window that is not mapped yet is lost.
+    // Flushed first: a frame for a window whose map request is not sent yet would be lost.
     if (desktop_clients::isOn()) host::flushApplication(display.nativeDisplay);
     if (frame_pictures::areWanted()) [[unlikely]]
         frame_pictures::take(*found);
@@ -33,7 +33,7 @@ EGLBoolean setDamageRegion(Display &display, const Context &current, EGLSurface 
     if (found != current.surfaces.draw || found->attribute(EGL_SWAP_BEHAVIOR) != EGL_BUFFER_DESTROYED) {
         return fail(EGL_BAD_MATCH, EGL_FALSE);
     }
-    // The age must have been asked for since the last swap, and the region is set once.
+    // The application must have queried the age since the last swap, and can set the region once per frame.
     if (found->damageRegionSet || !found->bufferAgeQueried) return fail(EGL_BAD_ACCESS, EGL_FALSE);
     found->damageRegionSet = true;
     return succeed(EGL_TRUE);
@@ -52,7 +52,7 @@ EGLBoolean EGLAPIENTRY swapBuffersWithDamage(EGLDisplay dpy, EGLSurface surface,
 }
 
 EGLBoolean EGLAPIENTRY setDamageRegionKHR(EGLDisplay dpy, EGLSurface surface, EGLint *, EGLint) {
-    // Before anything is loaded or looked up, so that this error comes before that of a bad display.
+    // Checked before the load and the display, so that this error precedes EGL_BAD_DISPLAY.
     const auto current = currentContext();
     if (!current) return fail(EGL_BAD_MATCH, EGL_FALSE);
     return entry(dpy, EGL_FALSE, [&](Display &display) { return setDamageRegion(display, *current, surface); });
@@ -67,7 +67,7 @@ EGLBoolean EGLAPIENTRY eglSwapBuffers(EGLDisplay dpy, EGLSurface surface) {
     return reports::told(answer, reports::swap, surface);
 }
 
-// For devices it fails without an error.
+// On devices it fails without an error.
 EGLBoolean EGLAPIENTRY eglCopyBuffers(EGLDisplay dpy, EGLSurface surface, EGLNativePixmapType pixmap) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         const auto found = display.findSurface(surface);

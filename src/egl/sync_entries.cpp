@@ -13,7 +13,8 @@ namespace egl {
 
 namespace {
 
-// 0 and negative flags ask for a flush too, so that a wait without the flag cannot wait for commands never sent.
+// 0 and negative flags flush too, so that a wait without EGL_SYNC_FLUSH_COMMANDS_BIT cannot wait for commands that were
+// never sent.
 uint32_t hostWaitFlags(EGLint flags) {
     return flags < 2 ? 1 : 0;
 }
@@ -30,7 +31,7 @@ EGLint eglWaitResult(uint32_t hostResult) {
     }
 }
 
-// An unknown attribute asks the host for name 0 and is no error.
+// An unknown attribute is queried from the host as name 0, and is no error.
 uint32_t hostSyncName(EGLint attribute) {
     switch (attribute) {
     case EGL_SYNC_TYPE:
@@ -46,7 +47,7 @@ uint32_t hostSyncName(EGLint attribute) {
 
 EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) {
     if (type == EGL_SYNC_FENCE && &display != threadRecord.currentDisplay) return fail(EGL_BAD_MATCH, EGL_NO_SYNC);
-    // Any other type gives this error too.
+    // Other types generate this error too.
     if (!AttributeList(attributes).isEmpty() || type != EGL_SYNC_FENCE) {
         return fail(EGL_BAD_ATTRIBUTE, EGL_NO_SYNC);
     }
@@ -56,7 +57,7 @@ EGLSync createSync(Display &display, EGLenum type, const EGLAttrib *attributes) 
     return succeed(display.createSync(hostEGL));
 }
 
-// What waits and queries of devices check: a known sync, then a current context.
+// The checks of a device's waits and queries: a known sync, then a current context.
 template <typename Result, typename Standard, typename Body>
 Result withSync(EGLDisplay dpy, EGLSync sync, Result failure, Standard standard, Body body) {
     return entry(dpy, failure, [&](Display &display) {
@@ -101,7 +102,7 @@ EGLBoolean EGLAPIENTRY eglDestroySync(EGLDisplay dpy, EGLSync sync) {
     return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (desktop_clients::isOn()) return standard::destroySync(display, sync);
         if (!display.isKnownSync(sync)) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-        // Without a current context the sync stays known and can be destroyed later.
+        // Without a current context the sync remains valid and can be destroyed later.
         if (!threadRecord.current) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
         display.destroySync(state().hostEGL(), sync);
         return succeed(EGL_TRUE);
@@ -123,14 +124,14 @@ EGLBoolean EGLAPIENTRY eglWaitSync(EGLDisplay dpy, EGLSync sync, EGLint flags) {
     return withSync<EGLBoolean>(
         dpy, sync, EGL_FALSE, [&](Display &display) { return standard::waitSync(display, sync, flags); },
         [&](const host::EGL &hostEGL) -> EGLBoolean {
-            // The host takes no flags here and raises an error for them, which the sweep hides.
+            // The host accepts no flags here and generates an error, which is then cleared.
             if (hostEGL.glWaitSync) hostEGL.glWaitSync(sync, hostWaitFlags(flags), GL_TIMEOUT_IGNORED);
             hostEGL.sweepError();
             return succeed(EGL_TRUE);
         });
 }
 
-// Returns the host's numbers, such as GL_SIGNALED for EGL_SYNC_STATUS: nothing is translated back.
+// Returns the host's values, such as GL_SIGNALED for EGL_SYNC_STATUS, without translation.
 EGLBoolean EGLAPIENTRY eglGetSyncAttrib(EGLDisplay dpy, EGLSync sync, EGLint attribute, EGLAttrib *value) {
     return withSync<EGLBoolean>(
         dpy, sync, EGL_FALSE,

@@ -16,8 +16,8 @@ bool canBeBound(Surface &surface) {
            (format == EGL_TEXTURE_RGB || format == EGL_TEXTURE_RGBA);
 }
 
-// On devices copies from what is bound for reading, which is the surface only if the application made it so. Goes past
-// the back end to the texture that is bound on the host.
+// On devices: copies from the current read surface, which is this surface only if the application bound it. The target
+// is the texture that is bound on the host, without the back end.
 void copyToBoundTexture(Surface &surface) {
     const host::EGL &hostEGL = state().hostEGL();
     if (!hostEGL.glCopyTexImage2D) return;

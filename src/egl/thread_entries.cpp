@@ -23,7 +23,7 @@ EGLint becauseOfApi(EGLenum api) {
     return refusals::because(api == EGL_OPENGL_API ? Rule::openGlIsOff : Rule::otherApi, EGL_BAD_PARAMETER);
 }
 
-// On devices the waits return at once: no glFinish reaches the host, and a wait in every frame costs nothing.
+// On devices the waits return at once without a glFinish on the host, so a wait in every frame costs nothing.
 EGLBoolean waitForClient() {
     if (!desktop_clients::isOn() || !threadRecord.current) return succeed(EGL_TRUE);
     const auto glFinish = reinterpret_cast<void (*)()>(threadRecord.current->getExtProcAddress("glFinish"));
@@ -62,7 +62,7 @@ EGLBoolean EGLAPIENTRY eglWaitNative(EGLint engine) {
     return succeed(EGL_TRUE);
 }
 
-// On devices it releases nothing: the current context stays current, and the thread goes on drawing.
+// On devices it releases nothing: the context stays current, and the thread can continue to draw.
 EGLBoolean EGLAPIENTRY eglReleaseThread(void) {
     if (desktop_clients::isOn()) standard::releaseThread();
     return succeed(EGL_TRUE);

@@ -26,7 +26,7 @@ pthread_key_t exitKey() {
     return key;
 }
 
-// The value counts the rounds.
+// Stores the number of the round as the key's value.
 void setRound(uintptr_t round) {
     pthread_setspecific(exitKey(), reinterpret_cast<void *>(round));
 }
@@ -34,13 +34,13 @@ void setRound(uintptr_t round) {
 void endThread(void *value) {
     const auto round = reinterpret_cast<uintptr_t>(value);
     if (round < PTHREAD_DESTRUCTOR_ITERATIONS) return setRound(round + 1);
-    // Binding, flags and deferred destruction stay as they are.
+    // Drops the references only; bindings, flags and deferred destructions are unchanged.
     const std::unique_ptr<ThreadHold> dropped(threadRecord.hold);
     threadRecord = {.error = threadRecord.error, .ended = true};
     gl::currentFunctions = &gl::functionsWithoutContext;
 }
 
-// The library of a context is settled by the version that was asked for.
+// The requested version decides which library a context uses.
 zvThread backEndView(const Context *context) {
     if (!context) return {};
     const zvEsContext esContext = context->esContext;
@@ -67,7 +67,7 @@ void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
     threadRecord.currentEs = context && !context->isDesktop() ? context.get() : nullptr;
     threadRecord.backEnd = backEndView(threadRecord.currentEs);
     gl::currentFunctions = context ? &context->functions : &gl::functionsWithoutContext;
-    // Swapped, so that the old context goes only after the record names the new one.
+    // Swapped, so that the old context is destroyed after the record refers to the new one.
     if (threadRecord.hold) threadRecord.hold->current.swap(context);
 }
 

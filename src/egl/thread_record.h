@@ -17,7 +17,7 @@ struct ThreadHold;
 struct ThreadRecord {
     EGLint error = EGL_SUCCESS;
     EGLenum api = EGL_OPENGL_ES_API;   // of new contexts
-    bool ended = false;                // the last exit handlers run: the thread cannot hold a context any more
+    bool ended = false;                // in the last round of exit handlers: the thread can no longer hold a context
     Context *current = nullptr;        // null when nothing is current
     Context *currentEs = nullptr;      // the same, null too while a context of desktop OpenGL is current
     Display *currentDisplay = nullptr; // of the current context
@@ -36,7 +36,7 @@ struct ThreadHold {
 // A strong reference to the current context, or null.
 [[nodiscard]] std::shared_ptr<Context> currentContext();
 
-// Prepares the thread to hold a context. False when the thread's exit has come too far for that.
+// Prepares the thread to hold a context. False in the last round of the thread's exit handlers.
 [[nodiscard]] bool prepareThread();
 
 // Replaces the current context and its display and drops the reference to the old one; the thread is prepared. A thread

@@ -18,7 +18,7 @@ namespace {
 // each open: a file that is still loaded is opened by the name that it has already.
 class LinkNames {
 public:
-    // Null when the file is not loaded by a name of ours.
+    // Null when this class has not loaded the file.
     [[nodiscard]] void *reopen(const struct stat &file, int scope) {
         const std::lock_guard lock(m_mutex);
         const auto known = m_names.find({file.st_dev, file.st_ino});
@@ -40,7 +40,7 @@ LinkNames &linkNames() {
 }
 
 void *openThroughLink(const std::string &path, int scope) {
-    // A relative path would count from the link's directory, where nothing else lies.
+    // A relative path would be resolved against the link's directory, which holds no other file.
     if (!path.starts_with('/')) return nullptr;
     struct stat file {};
     if (stat(path.c_str(), &file) != 0) return nullptr;
@@ -84,7 +84,7 @@ DynamicLibrary::~DynamicLibrary() {
 
 bool DynamicLibrary::open(const std::vector<std::string> &searchPaths) {
     if (*m_useCount > 1) {
-        // Copies go on with the old handle, and the last of them closes it.
+        // Copies keep the old handle, and the last one closes it.
         --*m_useCount;
         m_useCount = new uint32_t(1);
     } else if (m_handle) {
@@ -109,7 +109,8 @@ void DynamicLibrary::keepLoaded(const char *ownSymbol) const {
     Dl_info image{};
     const void *address = getSymbol(ownSymbol);
     if (!address || dladdr(address, &image) == 0 || !image.dli_fname) return;
-    // Found by the name that it was loaded under, though the link is gone; the flag sticks to what is loaded.
+    // The loader finds the library by the name that it was loaded under, although the link no longer exists. The flag
+    // applies to the loaded library from then on.
     if (void *handle = dlopen(image.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) dlclose(handle);
 }
 

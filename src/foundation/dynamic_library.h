@@ -10,13 +10,13 @@
 
 class DynamicLibrary {
 public:
-    // Who can find the library's symbols: the whole process, or only we.
+    // Which lookups find the library's symbols: those of the whole process, or only those through this object.
     enum class Scope { everybody, owner };
 
     // name is the file name without a directory. Does not open the library.
     explicit DynamicLibrary(std::string name, Scope scope = Scope::everybody);
     DynamicLibrary(const DynamicLibrary &other);
-    // Takes over the other's handle and count and closes nothing: the old handle stays open until the process ends.
+    // Copies the other's handle and count, and closes nothing: the old handle stays open until the process ends.
     DynamicLibrary &operator=(const DynamicLibrary &other);
     ~DynamicLibrary();
 
@@ -29,8 +29,8 @@ public:
     void setLookup(Lookup lookup) { m_lookup = lookup; }
     // Null when nothing is loaded, when the library lacks the symbol, or when symbol is null.
     [[nodiscard]] void *getSymbol(const char *symbol) const;
-    // Keeps the library loaded for the life of the process, whoever closes it. The symbol identifies the image: its
-    // own, not one of its dependencies'. Does nothing when nothing is loaded or the library lacks the symbol.
+    // Keeps the library loaded until the process ends, even if it is closed. The symbol identifies the image: one of
+    // the library itself, not of its dependencies. Does nothing when nothing is loaded or the library lacks the symbol.
     void keepLoaded(const char *ownSymbol) const;
     [[nodiscard]] bool isLoaded() const { return m_handle != nullptr; }
     [[nodiscard]] const std::string &name() const { return m_name; }
@@ -43,8 +43,8 @@ private:
     Lookup m_lookup = nullptr;
 };
 
-// File names of the libraries on this platform. The host's OpenGL without its window system is null where the two are
-// one library; the lookup is for symbols that it does not export.
+// File names of the libraries on this platform. The plain one only has GLX and is null where there is no such
+// library; the lookup is for symbols that it does not export.
 extern const char *const hostOpenGLLibraryName;
 extern const char *const hostPlainOpenGLLibraryName;
 [[nodiscard]] void *findUnexportedHostFunction(const char *name);

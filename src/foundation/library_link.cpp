@@ -12,7 +12,7 @@
 
 namespace {
 
-// Buffer size for the directory of links; with a longer temporary directory nothing is opened.
+// The size of the buffer for the directory's name. With a longer temporary directory no library is opened.
 constexpr size_t parentLimit = 1024;
 
 void tellOnce(const std::string &parent, int reason) {

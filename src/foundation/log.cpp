@@ -33,7 +33,8 @@ std::unique_ptr<char[]> formatVarArgs(const char *format, va_list arguments) {
     const size_t firstSize = strlen(format) + 12;
     auto text = std::make_unique<char[]>(firstSize);
     const int length = vsnprintf(text.get(), firstSize, format, arguments);
-    // Deliberately not <=: a size equal to the length counts as enough, so that text loses its last character.
+    // Deliberately not <=: a buffer of exactly the text's length is taken as large enough, so that the text loses its
+    // last character.
     if (length > 0 && firstSize < static_cast<size_t>(length)) {
         const size_t wholeSize = static_cast<size_t>(length) + 1;
         text = std::make_unique<char[]>(wholeSize);

@@ -17,7 +17,7 @@ const std::string &keep(std::string path) {
     return *new std::string(std::move(path));
 }
 
-// Asked as the library is loaded, since a path that the loader found it by may be relative.
+// Determined when the library is loaded, since the path that the loader reports may be relative.
 [[maybe_unused]] const std::string &settledWhenLoaded = getOwnDirectory();
 
 } // namespace
@@ -32,7 +32,8 @@ const std::string &getOwnDirectory() {
         const auto slash = path.rfind('/');
         if (slash == std::string::npos) return path;
         path.resize(slash);
-        // The loader found it by a relative search path, which counts from the directory that the process is in now.
+        // The loader reports a relative path for a relative search path; it is resolved against the current working
+        // directory.
         if (path.empty() || path.front() == '/') return path;
         std::error_code failed;
         const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
@@ -79,7 +80,7 @@ FILE *openForReading(const std::string &path) {
     if (descriptor < 0) return nullptr;
     struct stat found {};
     const bool isKnown = fstat(descriptor, &found) == 0;
-    // What the process may read and its user may not is not to be told by way of a parser.
+    // A parser's messages quote the file. They must not reveal a file that only the process may read, and not its user.
     const bool isForeign = hasForeignRights() && found.st_uid != getuid();
     FILE *stream = isKnown && !isForeign && S_ISREG(found.st_mode) ? fdopen(descriptor, "r") : nullptr;
     if (stream) return stream;

@@ -43,7 +43,7 @@ void CKZRTString::assign(const char *text, uint64_t count) {
     if (m_capacity <= count) {
         char *buffer = newBuffer(count);
         if (!buffer) return;
-        // The old buffer goes last, since text may lie in it.
+        // The old buffer is freed last, since text may point into it.
         if (count) memcpy(buffer, text, count);
         free(m_text);
         m_text = buffer;
@@ -78,7 +78,7 @@ void CKZRTString::append(const char *text, uint64_t count) {
         if (!buffer) return;
         memcpy(buffer, data(), m_length);
         memcpy(buffer + m_length, text, count);
-        // The old buffer goes last, since text may lie in it.
+        // The old buffer is freed last, since text may point into it.
         free(m_text);
         m_text = buffer;
         m_capacity = newLength + 1;

@@ -6,10 +6,10 @@
 #include <mutex>
 #include <string>
 
+#include "foundation/resolver_code.h"
 #include "gl/entry_proxy.h"
 
-// An entry for each dynamic slot, 32 bytes apart, and its resolver, 16 bytes apart. A resolver saves all registers that
-// can hold arguments while it looks up the function.
+// An entry for each dynamic slot, 32 bytes apart, and its resolver, 16 bytes apart.
 static_assert(offsetof(gl::FunctionTable, slots) == 16 && gl::firstDynamicSlot == 665 && gl::dynamicNameCount == 512,
               "the numbers are written out below");
 asm(R"(
@@ -38,65 +38,7 @@ zelvane_dynamic_resolvers:
     .set slot, slot + 1
     .endr
     .size zelvane_dynamic_resolvers, . - zelvane_dynamic_resolvers
-
-    .p2align 4
-    .type zelvane_dynamic_resolve, @function
-zelvane_dynamic_resolve:
-    .cfi_startproc
-    pushq %rbp
-    .cfi_def_cfa_offset 16
-    .cfi_offset %rbp, -16
-    movq %rsp, %rbp
-    .cfi_def_cfa_register %rbp
-    pushq %rdi
-    pushq %rsi
-    pushq %rdx
-    pushq %rcx
-    pushq %r8
-    pushq %r9
-    pushq %rax
-    subq $136, %rsp
-    movups %xmm0, (%rsp)
-    movups %xmm1, 16(%rsp)
-    movups %xmm2, 32(%rsp)
-    movups %xmm3, 48(%rsp)
-    movups %xmm4, 64(%rsp)
-    movups %xmm5, 80(%rsp)
-    movups %xmm6, 96(%rsp)
-    movups %xmm7, 112(%rsp)
-    movl %r11d, %edi
-    call zelvane_resolve_dynamic_slot
-    movq %rax, %r11
-    movups (%rsp), %xmm0
-    movups 16(%rsp), %xmm1
-    movups 32(%rsp), %xmm2
-    movups 48(%rsp), %xmm3
-    movups 64(%rsp), %xmm4
-    movups 80(%rsp), %xmm5
-    movups 96(%rsp), %xmm6
-    movups 112(%rsp), %xmm7
-    addq $136, %rsp
-    popq %rax
-    popq %r9
-    popq %r8
-    popq %rcx
-    popq %rdx
-    popq %rsi
-    popq %rdi
-    popq %rbp
-    .cfi_def_cfa %rsp, 8
-    jmpq *%r11
-    .cfi_endproc
-    .size zelvane_dynamic_resolve, . - zelvane_dynamic_resolve
-
-    .p2align 4
-    .type zelvane_nothing, @function
-zelvane_nothing:
-    xorl %eax, %eax
-    xorps %xmm0, %xmm0
-    ret
-    .size zelvane_nothing, . - zelvane_nothing
-)");
+)" RESOLVER_CODE("zelvane_dynamic_resolve", "zelvane_resolve_dynamic_slot") NOTHING_CODE("zelvane_nothing"));
 
 extern "C" {
 extern const char zelvane_dynamic_entries[];
@@ -111,8 +53,8 @@ namespace {
 
 struct Names {
     std::mutex mutex;
-    std::map<std::string, size_t, std::less<>> slots; // never shrinks; guarded by mutex
-    const char *bySlot[dynamicNameCount] = {};        // written before the entry is handed out
+    std::map<std::string, size_t, std::less<>> slots; // entries are never removed; guarded by mutex
+    const char *bySlot[dynamicNameCount] = {};        // written before the entry is returned
 };
 
 Names &names() {
@@ -142,7 +84,7 @@ Function dynamicEntry(const char *name) {
 
 } // namespace gl
 
-// Called by the resolvers.
+// Called by the resolvers, with the slot of the entry.
 gl::Function zelvane_resolve_dynamic_slot(unsigned slot) {
     const gl::GLEntryProxy proxy{gl::names().bySlot[slot - gl::firstDynamicSlot], slot};
     return gl::resolveEntry(proxy, zelvane_nothing);

@@ -1,5 +1,5 @@
-// Entries for names that are in no table, assigned at run time. They jump as all entries do, and so are independent of
-// the arguments.
+// Entries for names that are in no table, assigned at run time. Like all entries they jump to the function, and do not
+// depend on its parameters.
 #pragma once
 
 #include <cstddef>

@@ -8,7 +8,7 @@ namespace gl {
 
 namespace {
 
-// The text is formatted first: the log cuts the last character of some texts with a longer format.
+// The text is formatted here, since the log cuts the last character of some texts with a longer format.
 void logError(const std::string &text) {
     logMessage(LogError, "%s", text.c_str());
 }
@@ -23,7 +23,7 @@ Function resolveEntry(const GLEntryProxy &proxy, Function nothing) {
     }
     Function answer = table.ask(table.context, proxy.name);
     if (recorder && table.isRecorded) answer = recorder(proxy.name, answer);
-    // The back end may have called this very entry while it answered; the first answer stays.
+    // The back end may have called this entry during the lookup; the first result is kept.
     Function resolver = functionsWithoutContext.at(proxy.slot);
     const bool isKept = std::atomic_ref(table.slots[proxy.slot])
                             .compare_exchange_strong(resolver, answer ? answer : nothing, std::memory_order_relaxed);

@@ -14,9 +14,9 @@ struct GLEntryProxy {
     size_t slot;      // in every function table
 };
 
-// Called by an entry while its slot is open: looks the function up in the current context's back end and stores the
-// result, null too. Returns nothing, with a log line, without a current context and for a name that the back end lacks;
-// the latter is logged once per name and context. Leaves the EGL error unchanged. Any thread.
+// Called by an entry whose slot is not resolved: looks the function up in the current context's back end and stores the
+// result, even null. Returns nothing, with a log line, without a current context and for a name that the back end
+// lacks; the latter is logged once per name and context. Leaves the EGL error unchanged. Any thread.
 [[nodiscard, gnu::cold]] Function resolveEntry(const GLEntryProxy &proxy, Function nothing);
 
 template <const GLEntryProxy &proxy, typename Signature>
@@ -24,12 +24,12 @@ struct Entry;
 
 template <const GLEntryProxy &proxy, typename Result, typename... Parameters>
 struct Entry<proxy, Result(Parameters...)> {
-    // On the path of every GL call: a thread-local load, a load of the slot, a jump.
+    // Executed by every GL call: a thread-local load, a load of the slot, a jump.
     static Result GL_APIENTRY call(Parameters... arguments) {
         return typed(currentFunctions->at(proxy.slot))(arguments...);
     }
 
-    // In a slot until its name is looked up.
+    // The contents of a slot until its name is looked up.
     [[gnu::cold]] static Result GL_APIENTRY resolve(Parameters... arguments) {
         return typed(resolveEntry(proxy, reinterpret_cast<Function>(&nothing)))(arguments...);
     }
@@ -39,7 +39,7 @@ private:
 
     static Typed typed(Function function) { return reinterpret_cast<Typed>(function); }
 
-    // A call without a function is dropped: the application gets 0.
+    // Does nothing and returns 0, if there is no function.
     static Result GL_APIENTRY nothing(Parameters...) { return Result(); }
 };
 

@@ -9,7 +9,7 @@ namespace gl {
 
 struct ProcTableRow {
     const char *name;
-    Function function; // of the name's own type
+    Function function; // cast from the type of its name
 };
 
 // Extensions, then the debug entries that are passed to the back end.

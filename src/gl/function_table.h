@@ -7,7 +7,7 @@
 
 namespace gl {
 
-// Any function of a back end; only called as the type of its name.
+// Any function of a back end, called only as the type of its name.
 using Function = void (*)();
 
 inline constexpr size_t extensionNameCount = 226;

@@ -11,7 +11,7 @@ using host::platform::ContextContainer;
 using host::platform::NativeObject;
 using host::platform::operations;
 
-// The live contexts. Never destroyed, since applications swap in their exit handlers too.
+// The live contexts. Never destroyed, since applications may swap in their exit handlers.
 struct LiveContexts {
     std::mutex mutex;
     std::map<uint64_t, std::weak_ptr<glove::GLContext>> byNumber;
@@ -29,7 +29,8 @@ bool attach(ContextContainer *container, const NativeObject &native, const Nativ
     if (!read.isNull() && !operations.setReadObject(container, read)) return false;
     if (native.isPixelBuffer()) return operations.setPixelBuffer(container, native.pixelBuffer);
     if (!operations.setView(container, native.view)) return false;
-    // Once more at every bind, and never removed: each registration makes its own update when the frame changes.
+    // Registered again at every bind and never removed: each registration updates the context once when the frame
+    // changes.
     operations.observeViewFrame(container, native.view);
     return true;
 }
@@ -79,7 +80,7 @@ namespace host {
 std::unique_ptr<HostContextHandle> createHostContext(const HostContextRequest &request) {
     ContextContainer *container = nullptr;
     if (request.format) {
-        // The derived format is never released: contexts may outlive whoever would know when.
+        // The derived format is never released: contexts may use it until the process ends.
         const auto *derived = deriveContextPixelFormat(request.format, request.legacy == 1, request.robustness,
                                                        request.desktop ? &*request.desktop : nullptr);
         auto *share = request.share ? request.share->container() : nullptr;
@@ -143,7 +144,7 @@ bool makeHostContextCurrentAsIs(const glove::GLContext &context) {
         operations.clearCurrentContext();
         return true;
     }
-    // Asked only where it can be: hosts take their time to answer.
+    // The platform is queried only if the context may be current, since the query takes long on some hosts.
     const bool isCurrent = threadHostContext == context.number() && operations.currentContext() == container;
     return isCurrent || operations.makeCurrent(container);
 }

@@ -1,4 +1,4 @@
-// Host contexts: the desktop OpenGL context behind an EGL context, and which one a thread has current.
+// Host contexts: the desktop OpenGL context of each EGL context, and the current one of each thread.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ public:
     ~GLContext();
 
     [[nodiscard]] host::platform::ContextContainer *container() const { return m_container; }
-    // Never reused, so that a dead context's number stands for no other context. 0 without a container.
+    // Never reused, so that the number of a dead context never means another one. 0 without a container.
     [[nodiscard]] uint64_t number() const { return m_number; }
 
 private:
@@ -96,7 +96,7 @@ private:
 // The live context of that number. Null when it is dead, or for 0.
 [[nodiscard]] std::shared_ptr<glove::GLContext> lockCurrentHostContext();
 
-// Makes the context current with what is attached to it unless it is already current. A context without a container
+// Makes the context current with its attached drawable unless it is already current. A context without a container
 // clears the current context.
 [[nodiscard]] bool makeHostContextCurrentAsIs(const glove::GLContext &context);
 // For use by the functions that make contexts current only.

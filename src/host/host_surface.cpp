@@ -12,20 +12,20 @@ using host::platform::NativeObject;
 using host::platform::operations;
 using host::platform::PixelBuffer;
 
-// No view equals no object: a surface without a native object flushes a context without a view.
+// A context without a view equals a surface without a native object, and is flushed.
 bool isViewOf(const host::platform::ContextContainer *container, const NativeObject &native) {
-    if (native.isPixelBuffer()) return false; // a pixel buffer is nobody's view
-    // The window alone counts: another display may name the same one.
+    if (native.isPixelBuffer()) return false; // a pixel buffer is never a view
+    // Only the window is compared: two display values may refer to the same window.
     return operations.view(container).window == native.view.window;
 }
 
-// Acts on what the thread last made current, whatever surface asks.
+// Flushes the context that the thread last made current, if the object is its view.
 void flushIfBound(const NativeObject &native) {
     const auto context = host::lockCurrentHostContext();
     if (context && isViewOf(context->container(), native)) operations.flushBuffer(context->container());
 }
 
-// The two texture attributes are crossed over: the target's value becomes a colour format and the format's value a
+// The two texture attributes are swapped: the texture target selects the colour format, and the texture format the
 // target.
 uint32_t bufferTarget(int32_t textureTarget) {
     switch (textureTarget) {

@@ -119,7 +119,7 @@ void flushApplication(uint64_t display);
 // Whether the pixmap exists and surfaces of the format can be created for it.
 enum class PixmapFit { none, otherDepth, fits };
 [[nodiscard]] PixmapFit pixmapFit(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format);
-// Copies what the calling thread's host context has drawn to its surface. False when the host fails.
+// Copies the rendering of the calling thread's host context to its surface to the pixmap. False when the host fails.
 [[nodiscard]] bool copyToPixmap(uint64_t display, uint64_t pixmap, const platform::PixelFormat *format);
 
 } // namespace host

@@ -3,7 +3,7 @@
 namespace host {
 
 DynamicLibrary openHostOpenGLLibrary() {
-    // The host's OpenGL has OpenGL ES names too: a lookup in the whole process must not find them.
+    // The host's OpenGL exports OpenGL ES names too, which lookups in the whole process must not find.
     DynamicLibrary library(hostOpenGLLibraryName, DynamicLibrary::Scope::owner);
     library.open(hostLibrarySearchPaths());
     return library;

@@ -8,7 +8,7 @@
 
 namespace host {
 
-// Sizes in bits, from the config that stands for the host.
+// Sizes in bits, from the config that determines the host format.
 struct PixelFormatRequest {
     uint64_t display = 0;
     bool hasWindowBit = false;

@@ -11,7 +11,7 @@ using platform::operations;
 std::unique_ptr<HostProbeContext> createHostProbeContext(std::shared_ptr<glove::WSAPI> windowSystem) {
     auto record = std::make_unique<HostProbeContext>();
     record->windowSystem = std::move(windowSystem);
-    // The host is queried for the format twice, and the first one is never released.
+    // The format is requested twice, and the first one is never released.
     static_cast<void>(makeProbePixelFormat());
     record->probe = createHostContext({.format = makeProbePixelFormat(), .legacy = 0});
     record->previous = operations.saveBinding();

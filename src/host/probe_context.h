@@ -1,4 +1,4 @@
-// A short-lived core context for probing the host, whatever the thread has current.
+// A short-lived core context for queries of the host, independent of the thread's current context.
 #pragma once
 
 #include <memory>

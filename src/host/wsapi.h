@@ -1,5 +1,5 @@
-// The window system interface: a handle without data. The process counts as loaded once it holds one, and whoever
-// probes the host keeps a reference while it does.
+// The window system interface: a handle without data. The process counts as loaded once it holds one. Code that probes
+// the host keeps a reference meanwhile.
 #pragma once
 
 namespace glove {

@@ -25,7 +25,7 @@ DeviceView::DeviceView(const gl::FunctionTable &table)
     readCompressedFormats();
     for (const EsEnumerant &enumerant : esEnumerants())
         m_lacking[enumerant.value] = !carries(enumerant.origin);
-    // Errors of queries that this context does not support are not the program's.
+    // Clears the errors of queries that this context does not support.
     (void)takeError();
 }
 

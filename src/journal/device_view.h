@@ -28,6 +28,7 @@ public:
         return value < m_lacking.size() && m_lacking[static_cast<size_t>(value)];
     }
     [[nodiscard]] bool announcesCompressedFormat(uint32_t format) const;
+    [[nodiscard]] const std::vector<int32_t> &compressedFormats() const { return m_compressedFormats; }
     // Nothing if the context does not report the limit.
     [[nodiscard]] std::optional<int32_t> limit(uint32_t name);
     // 0 when no error is pending on the context.

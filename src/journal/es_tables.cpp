@@ -22,6 +22,13 @@ constexpr EsEnumerant enumerants[] = {
 };
 static_assert(std::ranges::is_sorted(enumerants, {}, &EsEnumerant::value));
 
+constexpr std::string_view extensions[] = {
+#define ES_EXTENSION(name) name,
+#include "journal/data/es_extensions.def"
+#undef ES_EXTENSION
+};
+static_assert(std::ranges::is_sorted(extensions));
+
 } // namespace
 
 const EsFunction *findEsFunction(std::string_view name) {
@@ -32,6 +39,10 @@ const EsFunction *findEsFunction(std::string_view name) {
 
 std::span<const EsEnumerant> esEnumerants() {
     return enumerants;
+}
+
+std::span<const std::string_view> esExtensionNames() {
+    return extensions;
 }
 
 std::string enumerantName(uint32_t value) {

@@ -30,6 +30,8 @@ struct EsEnumerant {
 [[nodiscard]] const EsFunction *findEsFunction(std::string_view name);
 // In the order of their values.
 [[nodiscard]] std::span<const EsEnumerant> esEnumerants();
+// The names of the extensions of OpenGL ES that devices have, sorted.
+[[nodiscard]] std::span<const std::string_view> esExtensionNames();
 // "GL_TEXTURE_3D", or the number in hexadecimal.
 [[nodiscard]] std::string enumerantName(uint32_t value);
 

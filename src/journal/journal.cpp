@@ -18,8 +18,8 @@ namespace journal {
 
 namespace {
 
-// Kept open by the process; closed at exec, and a started program opens the file itself. A pipe without a reader is
-// rejected, where a plain open would block.
+// The process keeps the file open. It is closed at exec, and a started program opens it itself. O_NONBLOCK makes the
+// open of a pipe without a reader fail instead of block.
 int openFile() {
     const char *path = findVariable("ZELVANE_JOURNAL");
     if (!path || !*path) return -1;
@@ -37,7 +37,7 @@ int file() {
     return opened;
 }
 
-// In one write, so that lines of several writers do not mix. A full disk loses lines and disturbs nothing.
+// Uses one write, so that lines of several writers do not mix. On a full disk lines are lost, without an error.
 void writeWhole(const std::string &text) {
     std::string_view rest = text;
     while (!rest.empty()) {
@@ -53,7 +53,7 @@ double secondsSinceEpoch() {
     return static_cast<double>(duration_cast<microseconds>(system_clock::now().time_since_epoch()).count()) / 1e6;
 }
 
-// Counted from the first that writes.
+// In the order in which threads first write, from 1.
 int threadNumber() {
     static std::atomic<int> count = 0;
     thread_local const int number = ++count;

@@ -1,5 +1,5 @@
-// The journal of a process: one JSON object a line about its EGL and GL calls, in the file that ZELVANE_JOURNAL names.
-// docs/journal.md describes the lines. Several processes may share a file.
+// The journal of a process: one JSON object per line about its EGL and GL calls, in the file that ZELVANE_JOURNAL
+// names. docs/journal.md describes the lines. Several processes may share a file.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>

@@ -20,7 +20,7 @@ std::string printed(const char *format, auto value) {
 
 } // namespace
 
-// The calling convention assigns registers to each class of argument in turn, and the stack to the rest.
+// The calling convention assigns the registers of each class in turn, and the stack to the remaining arguments.
 const uint64_t *RecordedArguments::place(size_t index) const {
     size_t integers = 0, floats = 0, stacked = 0;
     for (size_t i = 0;; ++i) {

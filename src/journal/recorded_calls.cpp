@@ -88,7 +88,7 @@ void lookAtEnumerants(const RecordedCall &call, const RecordedArguments &argumen
 
 void lookAtFormat(const RecordedCall &call, const RecordedArguments &arguments, const DeviceView &device) {
     const auto format = static_cast<uint32_t>(arguments.integer(static_cast<size_t>(call.formatArgument)));
-    // One of an extension that is not there has been found as an enumerant.
+    // A format of a missing extension has been reported as an enumerant.
     if (device.announcesCompressedFormat(format) || device.lacksEnumerant(format)) return;
     findLacking("compressedFormat", enumerantName(format), call.name, {{"whole", wholeCall(call, arguments)}});
 }
@@ -125,7 +125,6 @@ gl::Function recorded(const char *name, gl::Function function) {
     return thunk(known->number, function);
 }
 
-// Of the thread that is inside the call, before it and after it.
 gl::Function beginCall(uint32_t number, const SavedCall &saved) {
     const RecordedCall &call = *calls().byNumber[number].load(std::memory_order_acquire);
     RecordedContext *const context = RecordedContext::current();

@@ -25,7 +25,7 @@ Contexts &contexts() {
     return instance;
 }
 
-// Grows whenever a record has gone that threads may remember.
+// Increased whenever a record is removed, since threads store a pointer to their last one.
 constinit std::atomic<uint64_t> generation = 1;
 
 struct Remembered {
@@ -71,7 +71,7 @@ bool RecordedContext::lacks(const RecordedCall &call) {
 
 uint32_t RecordedContext::collectError() {
     const uint32_t error = device.takeError();
-    // A host keeps one flag a kind; what comes behind the first is of the same call.
+    // A host may have several error flags; those after the first belong to the same call and are dropped.
     for (int more = 0; error && more < 8 && device.takeError(); ++more) {
     }
     if (error && !m_kept) m_kept = error;

@@ -1,4 +1,5 @@
-// The journal's record of one context: its device, and the errors that were read before the program queried them.
+// The journal's record of one context: its device, and the errors that the journal read before the program queried
+// them.
 #pragma once
 
 #include <cstdint>

@@ -9,8 +9,8 @@ static_assert(offsetof(journal::SavedCall, floatCount) == 136 && offsetof(journa
                   journal::thunkCount == 4096,
               "the numbers are written out below");
 
-// A thunk for each number, 16 bytes apart. They save all registers that can hold arguments as a SavedCall below the
-// frame pointer, and pass the function a copy of sixteen words of the caller's stack, more than any GL function has.
+// A thunk for each number, 16 bytes apart. Thunks save all registers that can hold arguments as a SavedCall below the
+// frame pointer, and copy sixteen words of the caller's stack for the function: more than any GL function has.
 asm(R"(
     .text
     .p2align 4
@@ -38,14 +38,9 @@ zelvane_record_call:
     movq %rbx, -8(%rbp)
     .cfi_offset %rbx, -24
     movl %r11d, %ebx
-    movups %xmm0, -208(%rbp)
-    movups %xmm1, -192(%rbp)
-    movups %xmm2, -176(%rbp)
-    movups %xmm3, -160(%rbp)
-    movups %xmm4, -144(%rbp)
-    movups %xmm5, -128(%rbp)
-    movups %xmm6, -112(%rbp)
-    movups %xmm7, -96(%rbp)
+    .irp index, 0, 1, 2, 3, 4, 5, 6, 7
+    movups %xmm\index, 16 * \index - 208(%rbp)
+    .endr
     movq %rax, -72(%rbp)
     movq %rdi, -64(%rbp)
     movq %rsi, -56(%rbp)
@@ -63,14 +58,9 @@ zelvane_record_call:
     movq %r10, 8 * word(%rsp)
     .set word, word + 1
     .endr
-    movups -208(%rbp), %xmm0
-    movups -192(%rbp), %xmm1
-    movups -176(%rbp), %xmm2
-    movups -160(%rbp), %xmm3
-    movups -144(%rbp), %xmm4
-    movups -128(%rbp), %xmm5
-    movups -112(%rbp), %xmm6
-    movups -96(%rbp), %xmm7
+    .irp index, 0, 1, 2, 3, 4, 5, 6, 7
+    movups 16 * \index - 208(%rbp), %xmm\index
+    .endr
     movq -72(%rbp), %rax
     movq -64(%rbp), %rdi
     movq -56(%rbp), %rsi

@@ -82,7 +82,7 @@ void Base64Decoder::decode(std::string_view text, std::string &bytes) {
         const int8_t found = sextetOf(character);
         if (found == noSextet) continue;
         const uint32_t sextet = static_cast<uint8_t>(found);
-        // The phase is also the number of bit pairs by which the group is ahead of a byte's end.
+        // The phase is also the number of bit pairs that the group has beyond the last whole byte.
         const uint32_t bitsForOpenByte = m_phase * 2;
         if (m_phase > 0) bytes += static_cast<char>(m_byte | sextet >> (6 - bitsForOpenByte));
         m_byte = sextet << (bitsForOpenByte + 2) & 0xff;

@@ -6,11 +6,11 @@
 // Grows by the capacity and not by the size: an append as long as the two are equal, but once they differ (from the
 // fourth equal block on) each block is followed by zero bytes.
 std::streamsize CVectorByteWrapper::xsputn(const char *text, std::streamsize count) {
-    // A block of no bytes must not bring a tail along.
+    // An empty block must not append zero bytes.
     if (count <= 0) return 0;
     const size_t oldSize = m_bytes.size();
     const uint32_t newSize = m_capacity + static_cast<uint32_t>(count);
-    // The sum is one of 32 bits; one that wraps leaves no room for the block.
+    // The sum has 32 bits. If it wraps, the block does not fit.
     if (newSize < oldSize || newSize - oldSize < static_cast<size_t>(count)) return 0;
     if (newSize > m_capacity) {
         const uint32_t twice = m_capacity > UINT32_MAX / 2 ? UINT32_MAX : m_capacity * 2;

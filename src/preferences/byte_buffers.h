@@ -5,7 +5,7 @@
 #include <streambuf>
 #include <vector>
 
-// Collects what is written. Accepts whole blocks only: a stream that puts single characters into it fails.
+// Collects the written bytes. Accepts whole blocks only: a stream that puts single characters into it fails.
 class CVectorByteWrapper : public std::streambuf {
 public:
     [[nodiscard]] const std::vector<uint8_t> &bytes() const { return m_bytes; }

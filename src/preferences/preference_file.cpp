@@ -53,7 +53,7 @@ bool createFile(const std::string &path) {
     return true;
 }
 
-// Sets error and gives false when there is no file and none can be made. What is there may still not be readable.
+// False, with error set, when the file does not exist and cannot be created. An existing file may still be unreadable.
 bool ensureFile(const std::string &directory, const std::string &path, std::string &error) {
     struct stat existing {};
     if (stat(path.c_str(), &existing) == 0) return true;
@@ -68,7 +68,7 @@ bool ensureFile(const std::string &directory, const std::string &path, std::stri
     return true;
 }
 
-// For a process that writes nothing.
+// For privileged processes, which write no file.
 FILE *openOrTemplate(const std::string &path) {
     if (FILE *stream = openForReading(path)) return stream;
     return fmemopen(const_cast<char *>(fileTemplate.data()), fileTemplate.size(), "r");
@@ -118,19 +118,19 @@ void KZRPreferencesUnix::closePreferenceFile(PreferenceFile file, bool commit) {
     const bool isClosed = fclose(file.stream) == 0;
     if (!commit) return;
     const std::string temporary = file.path + ".tmp";
-    // A full disk must not cost the user the file that was good.
+    // A failed write, such as on a full disk, keeps the old file.
     if (!isWhole || !isClosed) {
         remove(temporary.c_str());
         return;
     }
-    // Deliberately two steps: the old file goes before the new one takes its name.
+    // Deliberately two steps: the old file is removed before the new one is renamed.
     remove(file.path.c_str());
     rename(temporary.c_str(), file.path.c_str());
 }
 
 bool KZRPreferencesUnix::getPreferenceFileStamp(const std::string &name, bool systemWide, uint32_t &stamp) {
     std::string directory;
-    // Without a home directory the name is looked for at the root, which callers take for a missing file.
+    // Without a home directory the path is one at the root, where the file does not exist.
     (void)getPreferenceDirectory(directory, systemWide);
     struct stat found {};
     if (stat(fileIn(directory, name).c_str(), &found) != 0) return false;

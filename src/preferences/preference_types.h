@@ -31,7 +31,7 @@ enum PreferenceResult : int32_t {
     RESULT_SUCCESS = 0,
     RESULT_NO_VALUE = 1,       // the path leads to no value, or the value is empty
     RESULT_BAD_KEY = 2,        // the key is empty; setters only
-    RESULT_INCORRECT_TYPE = 3, // another type than asked for, or a text that does not parse
+    RESULT_INCORRECT_TYPE = 3, // the value has another type, or its text does not parse
     RESULT_CRITICAL_ERROR = 4, // no document, or a failed reload or stream
 };
 

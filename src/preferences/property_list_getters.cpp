@@ -24,7 +24,7 @@ PreferenceResult findText(tinyxml2::XMLDocument &document, const std::string &ke
     return RESULT_SUCCESS;
 }
 
-// A child that is no text does not parse; no child at all leaves the entry empty.
+// A first child other than a text does not parse. Without a child, entry is left empty.
 template <typename T>
 bool readItem(const tinyxml2::XMLElement &item, T &entry) {
     const auto *child = item.FirstChild();
@@ -32,7 +32,7 @@ bool readItem(const tinyxml2::XMLElement &item, T &entry) {
     return child->ToText() && parseText(child->Value(), entry);
 }
 
-// The name is the value, whatever the element holds.
+// The element's name is the value; its contents are ignored.
 bool readItem(const tinyxml2::XMLElement &item, bool &entry) {
     return parseText(item.Name(), entry);
 }
@@ -132,7 +132,7 @@ PreferenceResult KZRPreferences::getTexts(const std::string &key, Sequence *item
     if (!m_document || !refreshIfChanged()) return RESULT_CRITICAL_ERROR;
     const auto *element = findValue(*m_document, splitKey(key));
     if (!element) return RESULT_NO_VALUE;
-    // The only comparison here that takes upper for lower case. Bools are read out of any element.
+    // Only this comparison ignores case. Bools are read from any element.
     if constexpr (!std::is_same_v<Item, bool>) {
         if (strcasecmp(element->Name(), entryOf(PreferenceType::array).name) != 0) return RESULT_INCORRECT_TYPE;
     }

@@ -40,7 +40,7 @@ PreferenceResult KZRPreferences::setText(const std::string &key, PreferenceType 
     if (!element) return result;
     element->SetName(entryOf(type).name);
     if (!element->FirstChild()) element->InsertEndChild(m_document->NewText(""));
-    // A value with child elements keeps them and gets no text, yet counts as changed.
+    // A value with child elements keeps them and gets no text, but counts as changed.
     if (auto *node = element->FirstChild()->ToText()) node->SetValue(text.c_str());
     m_dirty = true;
     return RESULT_SUCCESS;

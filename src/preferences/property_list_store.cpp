@@ -26,7 +26,7 @@ bool KZRPreferences::load(std::string &error, bool watch) {
     const bool isParsed = m_document->LoadFile(file.stream) == tinyxml2::XML_SUCCESS;
     m_impl->closePreferenceFile(std::move(file), false);
 
-    // A parse error alone is no failure: what the parser reached is used, and the rest is lost at the next save.
+    // A parse error alone is no failure: the part before it is used, and the rest is lost at the next save.
     if (!validateDocument(*m_document, error)) {
         if (!isParsed) error += std::string_view(m_document->ErrorStr()).substr(0, errorDetailLimit);
         return false;
@@ -42,13 +42,13 @@ bool KZRPreferences::save(bool force) {
 
     std::string reason;
     PreferenceFile file = m_impl->openPreferenceFile(m_name, writePreferences, m_systemWide, true, reason);
-    // Without a stream this prints to nowhere and counts as a success. SaveFile would forget the error of the load.
+    // Without a stream nothing is written, which counts as a success. SaveFile would clear the error of the load.
     tinyxml2::XMLPrinter printer(file.stream);
     m_document->Accept(&printer);
     const bool isWritten = !file.stream || (fflush(file.stream) == 0 && !ferror(file.stream));
     m_impl->closePreferenceFile(std::move(file), true);
 
-    // An error of the last load still stands here, so that such a store saves its file and stays dirty.
+    // After a load with an error the file is saved, but the store still has unsaved changes.
     if (!isWritten || m_document->Error()) return false;
     m_dirty = false;
     if (m_watch) (void)m_impl->getPreferenceFileStamp(m_name, m_systemWide, m_stamp);
@@ -80,7 +80,7 @@ PreferenceResult KZRPreferences::remove(const std::string &key) {
     tinyxml2::XMLElement *value = findValue(*m_document, path);
     if (!value) return RESULT_NO_VALUE;
     removeFound(*value);
-    // One duplicate goes along, but never one that holds more values.
+    // One duplicate of the key is removed too, unless its value has child elements.
     if (auto *duplicate = findValue(*m_document, path); duplicate && !duplicate->FirstChildElement()) {
         removeFound(*duplicate);
     }

@@ -39,7 +39,7 @@ public:
     // The first key of the root dict, or null. Valid until the next load or change.
     [[nodiscard]] const tinyxml2::XMLElement *firstEntry() const;
 
-    // Getters. value may be null, to query the result only. It is written on success, and with a fallback also on most
+    // Getters. value may be null, to get the result only. It is written on success, and with a fallback also on most
     // failures, but not when the reload of a changed file fails. A number that does not parse returns
     // RESULT_INCORRECT_TYPE and what the extraction left (zero for a text without a number), never the fallback.
     PreferenceResult getString(const std::string &key, std::string *value);

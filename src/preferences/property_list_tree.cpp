@@ -8,7 +8,8 @@ using tinyxml2::XMLNode;
 
 namespace {
 
-// Levels that the parser counts besides those of the path: document, plist and dict, and the items of an array.
+// The levels that the parser counts in addition to those of the path: document, plist and dict, and the items of an
+// array.
 constexpr size_t otherLevels = 4;
 
 bool isNamed(const XMLElement &element, PreferenceType type) {
@@ -38,7 +39,7 @@ XMLElement *appendSkeleton(XMLDocument &document, XMLNode &parent, const char *n
     return element;
 }
 
-// Values inside an array are not descended into: a list that is malformed below one is valid.
+// The contents of an array's items are not checked: a malformed dict there is valid.
 bool validateArray(const XMLElement *element, std::string &error) {
     for (; element; element = element->NextSiblingElement()) {
         if (isNamed(*element, PreferenceType::key)) {
@@ -49,7 +50,7 @@ bool validateArray(const XMLElement *element, std::string &error) {
     return true;
 }
 
-// Goes as deep as the parser allows elements to be nested.
+// The parser limits the depth of this recursion.
 bool validateDict(const XMLElement *key, std::string &error) {
     while (key) {
         if (!isNamed(*key, PreferenceType::key)) {
@@ -81,7 +82,7 @@ void appendText(XMLElement &parent, const char *text) {
     parent.InsertEndChild(parent.GetDocument()->NewText(text));
 }
 
-// A dict made on the way gets the empty text too; the printer then puts its first key on the line of the dict.
+// A dict gets the empty text too; the printer then prints its first key on the dict's own line.
 XMLElement *appendPair(XMLElement &dict, const std::string &key, PreferenceType type) {
     appendText(*appendElement(dict, PreferenceType::key), key.c_str());
     XMLElement *value = appendElement(dict, type);
@@ -100,8 +101,8 @@ bool validateDocument(XMLDocument &document, std::string &error) {
     }
     const XMLElement *first = root->FirstChildElement();
     if (first && hashesLike(*first, PreferenceType::dict)) return validateDict(first->FirstChildElement(), error);
-    // Other children stay in front of the new dict, and the accessors go on taking the first: such a file loads, but
-    // its values are not found.
+    // Other children remain before the new dict, and the accessors use the first child: such a file loads, but its
+    // values are not found.
     return appendSkeleton(document, *root, "dict", error) != nullptr;
 }
 

@@ -6,14 +6,15 @@
 
 namespace egl {
 
-// The first attribute that rejected a config.
+// The attribute that rejected a config.
 struct FallOut {
     int32_t attribute;
     int32_t wanted;
     int32_t had;
+    int32_t passed = 0; // how many attributes before it the config matched
 };
 
-// Stands for an attribute when the colour bits decide: the sum of the colour sizes that the list requests.
+// In place of an attribute when the colour bits decide: the sum of the colour sizes that the list requests.
 inline constexpr int32_t colourBits = 0;
 
 // The first difference between two configs in the sort order.

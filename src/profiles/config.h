@@ -57,7 +57,7 @@ public:
     [[nodiscard]] bool matches(const int32_t *attributes) const { return !findFallOut(attributes); }
     // The first pair of the list that the config does not match. Nothing for a config that matches.
     [[nodiscard]] std::optional<FallOut> findFallOut(const int32_t *attributes) const;
-    // major is an ES version: 1, 2 or 3. Any other is unsupported.
+    // major: the ES version 1, 2 or 3. Any other is unsupported.
     [[nodiscard]] bool supportsClientVersion(int32_t major) const;
 
 private:

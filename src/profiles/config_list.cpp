@@ -19,7 +19,8 @@ constexpr int32_t builtInConfigAttributes[] = {
 #undef CONFIG_ATTRIBUTE
     EGL_NONE};
 
-// The attributes requested from the host: the built-in config, without an id since it is not listed, without pixmaps.
+// The attributes of the format that is requested from the host: those of the built-in config without its id and
+// pixmaps.
 std::vector<int32_t> hostProbeAttributes() {
     std::vector<int32_t> list;
     for (const auto &[name, value] : AttributeList(builtInConfigAttributes)) {
@@ -50,8 +51,8 @@ ConfigList::ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay, Con
     }
     for (const Config &config : makeConfigs(makeHostConfig(nativeDisplay), profile))
         m_configs[toHandle(config.attributeOr0(EGL_CONFIG_ID))] = config;
-    // A profile without a config 1 gets one here that says no id and has no host format. It stays in the list, and
-    // callers see it counted and stored as handle 0.
+    // If the profile has no config 1, this inserts one without an id and a host format. It stays in the list: callers
+    // see it counted, and stored as handle 0.
     m_noConfig = m_configs[1];
     m_noConfig.setAttribute(EGL_CONFIG_ID, 0);
 }

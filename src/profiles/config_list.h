@@ -20,8 +20,8 @@ enum class ConfigKind {
 
 class ConfigList {
 public:
-    // Requests formats from the platform on the display with this host value. Without a format the list is created all
-    // the same; the failure shows when a context is created.
+    // Requests formats from the platform on the display with this host value. Without a format the list is still
+    // created, and the creation of contexts fails.
     ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay, ConfigKind kind = ConfigKind::ofDevice);
     ConfigList(const ConfigList &) = delete;
     ConfigList &operator=(const ConfigList &) = delete;

@@ -80,20 +80,21 @@ bool isValidPair(int32_t attribute, int32_t value) {
 
 } // namespace
 
-// Attributes that the list leaves out are not tested: no default stands in for them, so that an empty list matches
-// every config, those without windows included.
+// Attributes that are not in the list are not tested, not even with a default: an empty list matches every config,
+// including those without windows.
 std::optional<FallOut> Config::findFallOut(const int32_t *attributes) const {
-    std::optional<FallOut> first;            // without the transparent colours
-    std::optional<FallOut> firstWithColours; // with them
+    std::optional<FallOut> first;            // ignoring the transparent colours
+    std::optional<FallOut> firstWithColours; // including them
     bool wantsTransparentRgb = false;
+    int32_t passed = 0;
     for (const auto &[name, wanted] : AttributeList(attributes)) {
         int32_t offered = 0;
         if (!getAttribute(name, &offered)) continue;
         const MatchRule rule = findRule(name);
         const bool ok = passes(rule.test, offered, wanted);
         if (ok && rule.weight == Weight::alone) return std::nullopt;
-        // A failure does not end the walk: an id further on may still be the answer.
-        const FallOut reason{name, wanted, offered};
+        // The loop continues after a failure, since an id later in the list may decide the result.
+        const FallOut reason{name, wanted, offered, passed++};
         if (!ok && !firstWithColours) firstWithColours = reason;
         if (rule.weight == Weight::transparentOnly) continue;
         if (!ok && !first) first = reason;

@@ -12,11 +12,11 @@ namespace egl {
 
 namespace {
 
-// The smaller value comes first; the attributes are in order of significance.
+// Smaller values are sorted first; the attributes are in order of significance.
 constexpr int32_t sizeKeys[] = {EGL_BUFFER_SIZE, EGL_SAMPLE_BUFFERS, EGL_SAMPLES, EGL_DEPTH_SIZE, EGL_STENCIL_SIZE};
 
-// Nothing when the caveats leave the order open, as an unknown one in a does. Beside EGL_NONE the two directions then
-// contradict: each may say that its a comes first. The partition sort settles the order of such lists.
+// Nothing when the caveats do not decide, as for an unknown caveat in a. If the other is EGL_NONE, the two directions
+// contradict each other: each sorts its a first. The partition sort defines the order of such lists.
 std::optional<bool> compareCaveats(int32_t a, int32_t b) {
     if (a == b) return std::nullopt;
     if (a == EGL_NON_CONFORMANT_CONFIG) return false;
@@ -36,7 +36,7 @@ ConfigSortOrder::ConfigSortOrder(const int32_t *attributes) {
         if (requested[channel] != 0 && requested[channel] != EGL_DONT_CARE) m_channels.push_back(channel);
 }
 
-// Unsigned, since profiles may hold sizes whose sum overflows; only equality of sums is ever asked.
+// Unsigned, since the sizes of a profile may overflow in the sum; sums are only compared for equality.
 uint32_t ConfigSortOrder::colourSum(const Config &config) const {
     uint32_t sum = 0;
     for (const int32_t channel : m_channels)
@@ -48,7 +48,7 @@ Comparison ConfigSortOrder::compare(const Config &a, const Config &b) const {
     const int32_t caveats[] = {a.attributeOr0(EGL_CONFIG_CAVEAT), b.attributeOr0(EGL_CONFIG_CAVEAT)};
     const auto byCaveat = compareCaveats(caveats[0], caveats[1]);
     if (byCaveat) return {*byCaveat, EGL_CONFIG_CAVEAT, caveats[0], caveats[1]};
-    // False in both directions: more colour bits are no advantage, and the partition sort settles the order.
+    // False in both directions: neither config is sorted first, and the partition sort defines the order.
     const uint32_t sums[] = {colourSum(a), colourSum(b)};
     if (sums[0] != sums[1]) return {false, colourBits, static_cast<int32_t>(sums[0]), static_cast<int32_t>(sums[1])};
     for (const int32_t key : sizeKeys) {

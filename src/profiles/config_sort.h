@@ -8,8 +8,8 @@
 
 namespace egl {
 
-// Whether a comes before b for the application's list. Configs that differ in the colour bits that the list requests
-// are unordered, so this is no strict weak order: never pass it to std::sort.
+// Whether a is sorted before b for the application's list. Configs that differ in the colour bits that the list
+// requests are unordered, so this is no strict weak order: never pass it to std::sort.
 class ConfigSortOrder {
 public:
     explicit ConfigSortOrder(const int32_t *attributes);

@@ -29,7 +29,7 @@ void addHostFacts(Config &config, const PixelFormat *format) {
     config.setAttribute(EGL_NATIVE_VISUAL_TYPE, visualType ? visualType : EGL_NONE);
     config.setAttribute(EGL_MIN_SWAP_INTERVAL, 0);
     config.setAttribute(EGL_COLOR_COMPONENT_TYPE_EXT, EGL_COLOR_COMPONENT_TYPE_FIXED_EXT);
-    // Whether a surface can preserve its contents depends on the host.
+    // The host decides whether surfaces can preserve their contents.
     const int32_t hostTypes = operations.pixelFormatValue(format, DrawableTypes);
     const int32_t types = config.attributeOr0(EGL_SURFACE_TYPE) & (EGL_WINDOW_BIT | EGL_PBUFFER_BIT | EGL_PIXMAP_BIT);
     config.setAttribute(EGL_SURFACE_TYPE, (types & hostTypes) | (hostTypes & EGL_SWAP_BEHAVIOR_PRESERVED_BIT));

@@ -12,19 +12,21 @@
 namespace egl {
 
 struct DeviceProfile {
-    std::set<Config> configs;                   // by id; the first of two equal ids stays
+    std::set<Config> configs;                   // by id; a second config with an existing id is dropped
     std::string name;                           // the requested name; empty in defaultProfile
     std::set<capability::EsVersion> esVersions; // that contexts may have
     bool hasConfigsOfHostOnly = false;          // for desktop clients: configs that the host does not have are left out
 };
 
-// No device: one built-in config and every ES version. Never destroyed, since threads may use it as the process ends.
+// The profile without a device: one built-in config and every ES version. Never destroyed, since threads may use it
+// while the process ends.
 extern const DeviceProfile &defaultProfile;
 
 // Compares configs and name; versions are ignored.
 [[nodiscard]] bool isDefaultProfile(const DeviceProfile &profile);
 
-// The minor number of the highest ES 3 version that contexts may have; nothing without ES 3. No device allows all.
+// The minor number of the highest ES 3 version that contexts may have; nothing without ES 3. Without a device all
+// versions are allowed.
 [[nodiscard]] std::optional<int32_t> highestEs3Minor(const DeviceProfile &profile);
 
 // Whether a context of this version may be created. Versions that ES never had are rejected under every profile, except

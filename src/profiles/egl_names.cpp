@@ -33,7 +33,7 @@ enum class Kind {
     vgAlpha,
     textureFormat,
     textureTarget,
-    apiBits, // from here on sums of words
+    apiBits, // this kind and those below: sums of words
     surfaceBits,
     contextBits,
     profileBits,
@@ -114,7 +114,7 @@ std::string upperCase(std::string_view text) {
     return result;
 }
 
-// Whether somebody who wrote the word means the name. Names of EGL have small letters too.
+// Compares without case, since names of EGL have small letters too.
 bool isMeant(std::string_view word, std::string_view name) {
     const std::string wanted = upperCase(word), whole = upperCase(name);
     return wanted == whole || wanted == whole.substr(prefix.size());
@@ -128,7 +128,7 @@ std::optional<int32_t> readNumber(std::string_view text) {
     uint32_t number = 0;
     const auto [end, error] = std::from_chars(text.begin(), text.end(), number, isHexadecimal ? 16 : 10);
     if (error != std::errc() || end != text.end()) return std::nullopt;
-    // Sums of bits may take the highest one; nothing else lies beyond an EGLint.
+    // A hexadecimal number may set the highest bit; any other must fit in an EGLint.
     if (number > INT32_MAX && (isNegative || !isHexadecimal)) return std::nullopt;
     return static_cast<int32_t>(isNegative ? 0u - number : number);
 }

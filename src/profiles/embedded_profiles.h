@@ -15,7 +15,7 @@ extern const std::vector<std::string_view> &embeddedProfiles;
 // not parse.
 [[nodiscard]] std::string profileDisplayName(std::string_view text);
 
-// The first text of that name; empty if there is none. Parses the texts at every call.
+// The first text of that name; empty if there is none. Parses the texts that contain the name, at every call.
 [[nodiscard]] std::string findEmbeddedProfile(std::string_view name);
 
 } // namespace egl

@@ -1,5 +1,5 @@
-// The sort of config lists, written out: the order of configs is not transitive, so the result depends on every step,
-// and applications see it. Stays inside the range and terminates for any order.
+// The sort of config lists: the order of configs is not transitive, so the result depends on every step, and
+// applications see it. Stays inside the range and terminates for any order.
 #pragma once
 
 #include <array>
@@ -58,7 +58,7 @@ private:
                     continue;
                 }
             }
-            // Recurses into the smaller side, which bounds the depth by the logarithm of the size.
+            // Recurses into the smaller side, so the depth is at most logarithmic.
             if (split - first < last - split) {
                 sort(first, split);
                 first = split + 1;
@@ -144,7 +144,7 @@ private:
         return i;
     }
 
-    // Insertion sort. False when it gave up with records left, after limit of them had to be moved.
+    // Insertion sort. False, with records left unsorted, after limit of them had to be moved.
     bool insert(size_t first, size_t last, size_t limit) {
         size_t next = first + 1;
         if (last - first >= 3) {

@@ -30,13 +30,13 @@ constexpr Choice choices[] = {
 constexpr int32_t transparentColours[] = {EGL_TRANSPARENT_RED_VALUE, EGL_TRANSPARENT_GREEN_VALUE,
                                           EGL_TRANSPARENT_BLUE_VALUE};
 
-// The standard allows these in lists and ignores them.
+// EGL allows these attributes in lists and ignores them.
 constexpr int32_t passedOver[] = {EGL_MAX_PBUFFER_WIDTH, EGL_MAX_PBUFFER_HEIGHT, EGL_MAX_PBUFFER_PIXELS,
                                   EGL_NATIVE_VISUAL_ID};
 
 using Request = std::map<int32_t, int32_t>;
 
-// The last of several values of an attribute counts.
+// Of several values of an attribute the last one is used.
 Request readRequest(const int32_t *attributes) {
     Request request;
     for (const auto &[name, value] : AttributeList(attributes))
@@ -113,7 +113,7 @@ int32_t caveatRank(int32_t caveat) {
     }
 }
 
-// Of the sizes that the request asks for.
+// The sum of the sizes that the request contains.
 int32_t sumColourBits(const Config &config, const Request &request) {
     uint32_t bits = 0; // profiles may hold sizes whose sum overflows
     for (const int32_t channel : {EGL_RED_SIZE, EGL_GREEN_SIZE, EGL_BLUE_SIZE, EGL_ALPHA_SIZE, EGL_LUMINANCE_SIZE}) {
@@ -123,7 +123,7 @@ int32_t sumColourBits(const Config &config, const Request &request) {
     return static_cast<int32_t>(bits);
 }
 
-// In the order of their weight. The smaller comes first, but for colour bits.
+// The attributes in order of significance. Smaller values are sorted first, except for colour bits.
 constexpr int32_t sortKeys[] = {EGL_CONFIG_CAVEAT,      EGL_COLOR_BUFFER_TYPE, colourBits,
                                 EGL_BUFFER_SIZE,        EGL_SAMPLE_BUFFERS,    EGL_SAMPLES,
                                 EGL_DEPTH_SIZE,         EGL_STENCIL_SIZE,      EGL_ALPHA_MASK_SIZE,
@@ -135,7 +135,7 @@ int32_t keyValue(const Config &config, const Request &request, int32_t key) {
 
 int32_t rankOf(int32_t key, int32_t value) {
     if (key == EGL_CONFIG_CAVEAT) return caveatRank(value);
-    return key == colourBits ? ~value : value; // a minus could overflow
+    return key == colourBits ? ~value : value; // negation could overflow
 }
 
 Comparison compare(const Config &a, const Config &b, const Request &request) {
@@ -158,22 +158,24 @@ bool isValidByStandard(const int32_t *attributes) {
 
 std::optional<FallOut> findFallOutByStandard(const Config &config, const int32_t *attributes) {
     const Request request = readRequest(attributes);
-    // An id stands for itself alone.
+    // With an id all other attributes are ignored.
     const int32_t id = valueOr(request, EGL_CONFIG_ID, EGL_DONT_CARE);
     if (id != EGL_DONT_CARE) {
         const int32_t own = config.attributeOr0(EGL_CONFIG_ID);
         return own == id ? std::nullopt : std::optional(FallOut{EGL_CONFIG_ID, id, own});
     }
+    int32_t passed = 0;
     for (const Choice &choice : choices) {
         int32_t offered = 0;
         if (!config.getAttribute(choice.attribute, &offered)) continue;
         const int32_t wanted = valueOr(request, choice.attribute, choice.byDefault);
-        if (!passes(choice.rule, offered, wanted)) return FallOut{choice.attribute, wanted, offered};
+        if (!passes(choice.rule, offered, wanted)) return FallOut{choice.attribute, wanted, offered, passed};
+        ++passed;
     }
     if (valueOr(request, EGL_TRANSPARENT_TYPE, EGL_NONE) != EGL_TRANSPARENT_RGB) return std::nullopt;
     for (const int32_t colour : transparentColours) {
         const int32_t offered = config.attributeOr0(colour), wanted = valueOr(request, colour, EGL_DONT_CARE);
-        if (!passes(Rule::exact, offered, wanted)) return FallOut{colour, wanted, offered};
+        if (!passes(Rule::exact, offered, wanted)) return FallOut{colour, wanted, offered, passed};
     }
     return std::nullopt;
 }

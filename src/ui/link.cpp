@@ -15,7 +15,7 @@ constexpr uint32_t bits(int first, int last) {
     return ((1u << (last + 1)) - 1) & ~((1u << first) - 1);
 }
 
-// Bit numbers are record types. The other types that a queue may hold are the link's own or the GUI's.
+// Bit numbers are record types. Queues may also hold types of the link itself or of the GUI.
 constexpr uint32_t forwardedTypes =
     bits(ZV_WINDOW_TITLE, ZV_BACK_END_LISTS) | bits(ZV_SYSTEM_REPORT_GL_VERSION, ZV_SYSTEM_REPORT_END);
 static_assert(forwardedTypes == 2082812);
@@ -24,8 +24,8 @@ bool isForwarded(uint32_t type) {
     return type <= ZV_SYSTEM_REPORT_END && (forwardedTypes >> type & 1);
 }
 
-// A signal that is handled on a thread of the link would cut its call short, which counts as the end of the connection.
-// What a fault raises stays with the thread that made it.
+// A signal handler on a thread of the link would interrupt its call, which counts as the end of the connection. Signals
+// of faults are not blocked: they are handled on the thread that caused them.
 void blockSignals() {
     sigset_t signals;
     sigfillset(&signals);
@@ -42,7 +42,7 @@ UiLink::UiLink(SetRenderMode setRenderMode)
 }
 
 void UiLink::post(const Message &message) const {
-    // Nobody would read it, and without a sender nobody would take it from the queue.
+    // Without a GUI there is no sender, and the queue would grow.
     if (isAttached()) m_queue->push(message);
 }
 
@@ -59,7 +59,7 @@ void UiLink::senderThread(const std::shared_ptr<KZRIPC::Client> &client, const s
         if (isForwarded(message.header.type)) send(message);
     }
     send(message);
-    // Until the GUI closes the connection or says that it leaves.
+    // Returns when the GUI closes the connection or sends ZV_GUI_DISCONNECT.
     if (receiverEnded.valid()) receiverEnded.wait();
 }
 
@@ -70,7 +70,8 @@ std::future<void> UiLink::startReceiver(const std::shared_ptr<KZRIPC::Client> &c
         std::thread(std::move(receive)).detach();
         return ended;
     } catch (const std::system_error &) {
-        // Nobody could notice the end of the connection: better none than an application that ends here.
+        // Without a receiver the end of the connection would not be noticed, so the connection is closed; the
+        // application continues.
         client->close();
         return {};
     }
@@ -80,8 +81,8 @@ void UiLink::receiverThread(const std::shared_ptr<KZRIPC::Client> &client, SetRe
     Message message{};
     while (client->isOpen()) {
         const int32_t received = client->receive(&message, sizeof message);
-        // The buffer keeps the type of the record before, so that a GUI's last command is carried out once more at its
-        // end. A short block is taken for a record, and an unknown type is ignored.
+        // The buffer keeps the previous record's type at the end of the stream, so a GUI's last command is executed
+        // again. A short block counts as a record; an unknown type is ignored.
         if (received <= 0) client->close();
         switch (message.header.type) {
         case ZV_GUI_DISCONNECT:

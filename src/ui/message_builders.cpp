@@ -21,7 +21,7 @@ Message withoutFrame(zvMessageType type) {
     return message;
 }
 
-// The field was zeroed, so its last byte remains a terminator.
+// The field is zero and its last byte is not written, so it remains a terminator.
 template <size_t size>
 void copyText(char (&field)[size], std::string_view text) {
     text.copy(field, size - 1);

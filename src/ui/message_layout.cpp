@@ -1,4 +1,4 @@
-// The wire format: GUIs are built separately from the library, so a moved field must fail to compile.
+// Checks the wire format: GUIs are built separately from the library, so a moved field must not compile.
 #include <cstddef>
 
 #include "zelvane/messages.h"

@@ -30,13 +30,13 @@ bool setBlocking(int descriptor, bool isBlocking) {
     return flags >= 0 && fcntl(descriptor, F_SETFL, isBlocking ? flags & ~O_NONBLOCK : flags | O_NONBLOCK) == 0;
 }
 
-// Any user can listen in the temporary directory; records are for this user only.
+// Checks the peer, since any user can listen in the temporary directory, and records are for this user only.
 bool isTrusted(int descriptor) {
     const auto user = peerUser(descriptor);
     return user && (*user == geteuid() || *user == 0);
 }
 
-// Without waiting: a listener that has stopped with a full queue is nobody's listener.
+// Does not wait: a listener with a full queue has stopped and counts as none.
 bool connectTo(const std::string &path, int descriptor) {
     const Address address(path);
     if (descriptor < 0 || !address.length || !setBlocking(descriptor, false)) return false;

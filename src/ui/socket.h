@@ -57,7 +57,7 @@ public:
 private:
     bool m_failed = false; // constant after construction
     std::atomic<bool> m_isOpen = true;
-    mutable std::mutex m_mutex; // guards what is below
+    mutable std::mutex m_mutex; // guards the fields below
     std::shared_ptr<Descriptor> m_descriptor;
 };
 
@@ -73,7 +73,7 @@ public:
     Client &operator=(const Client &other);
 
     [[nodiscard]] bool failed() const { return m_failed; }
-    // True while nobody has closed this client, which does not mean that there is a peer.
+    // True until this client is closed, which does not mean that there is a peer.
     [[nodiscard]] bool isOpen() const { return m_socket->isOpen(); }
     // Bytes sent, or a negative number. Senders take turns.
     int32_t send(const void *bytes, size_t count);

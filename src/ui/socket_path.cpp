@@ -1,4 +1,4 @@
-// Separate from the transport, so that tests can link a path of their own.
+// Separate from the transport, so that tests can link another path.
 #include "ui/socket.h"
 
 std::string KZRIPC::socketPath(std::string_view name) {

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 namespace {
 
-// What each level looks up, on a library that has everything.
+// The number of lookups of each level, for a library that has every function.
 std::vector<size_t> lookUpsOf(const ScriptedHost &host) {
     const Es31Features es31(host.library);
     std::vector<size_t> counts;
@@ -51,7 +51,7 @@ TEST(FeatureSets, ALevelBindsWhatIsItsOwnByTheNamesOfItsVariant) {
     EXPECT_EQ(Es30Features(host.library).shaderImageLoadStore.variant, 1);
     EXPECT_TRUE(es20.get.variant == -1 && featureAvailable(es20.get)) << "mandatory";
     EXPECT_EQ(FeatureBinding<Feature::get>().function<void *>("glGetString"), nullptr) << "nothing is looked up";
-    // All names lead to one function of the fake, apart from those that it really has.
+    // All names have the same function in the fake, except those that it really has.
     EXPECT_EQ(es20.get.function<void *>("glGetString"), host.library.getSymbol("glGetString"));
     EXPECT_EQ(es20.fenceSync.functions.at(3), host.library.getSymbol("glGetSynciv"));
 }

@@ -1,4 +1,4 @@
-// A host OpenGL library with a version and an extension list of the test's own.
+// A host OpenGL library with a scripted version and extension list.
 #pragma once
 
 #include <stdexcept>
@@ -9,7 +9,7 @@
 
 class ScriptedHost {
 public:
-    // Null texts are those that the host does not give. The texts must outlive the host.
+    // A null text is one that the host does not report. The texts must outlive the host.
     explicit ScriptedHost(const char *version, const char *extensions = "", const std::string &directory = "") {
         if (!library.open({FAKE_GL_DIRECTORY "/" + directory})) throw std::runtime_error("no fake libGL");
         script = reinterpret_cast<FakeGl *(*)()>(library.getSymbol("fakeGl"))();

@@ -50,7 +50,7 @@ const std::string data = ZELVANE_SOURCE_DIR "/tests/capability/data/";
 } // namespace
 
 TEST(CollectSystemReport, SendsEachFactInOrder) {
-    std::string records; // all of them, made from the tables apart
+    std::string records; // all records, generated from the tables independently
     collected(ScriptedHost("4.2", "GL_EXT_draw_buffers2 GL_ARB_imaging"),
               [&](const ReportRecord &record) { records += lineOf(record) + "\n"; });
     EXPECT_EQ(records, fileText(data + "4.2_records.txt"));

@@ -1,7 +1,7 @@
 // An application with an X window and an EGL context on the real library.
 #pragma once
 
-#include <gtest/gtest.h> // before Xlib, whose macros it does not survive
+#include <gtest/gtest.h> // before Xlib, whose macros break it
 
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
@@ -15,7 +15,7 @@ using Pixel = std::array<uint8_t, 4>;
 const Pixel red{255, 0, 0, 255};
 const Pixel green{0, 255, 0, 255};
 
-// A function as eglGetProcAddress hands it out, of the type that is wanted.
+// A result of eglGetProcAddress that converts to any function type.
 struct Named {
     explicit Named(const char *name) : name(name) {}
     template <typename Function>
@@ -45,21 +45,21 @@ protected:
     ClientTest();
     ~ClientTest() override;
 
-    // Chooses the first config and makes an ES 2 context on it.
+    // Chooses the first config and creates an ES 2 context on it.
     void initialise(EGLNativeDisplayType native);
     EGLContext makeContext(EGLContext share = EGL_NO_CONTEXT, EGLint major = 2);
     Window makeWindow();
     Window makeWindowOf(Visual *visual, int depth);
-    // A window of a visual that is not the default one.
+    // A window whose visual is not the default one.
     Window makeWindowOfAnotherVisual();
     EGLSurface makeSurface(Window window);
     void bind(EGLSurface surface, EGLContext context);
-    // A round trip, so that the server has drawn.
+    // Waits for the server, so that it has drawn.
     EGLint widthOf(EGLSurface surface);
     // Clears the current surface with the colour and reads its middle back.
     static Pixel drawAndRead(const GlFunctions &gl, float red, float green, float blue);
     Pixel shownAfterSwap(EGLSurface surface, int x, int y);
-    // What the screen shows; windows stand at its origin, the newest on top.
+    // The pixel on the screen. Windows are at its origin, the newest on top.
     Pixel shownPixel(int x, int y);
 
     Display *m_x;

@@ -63,7 +63,7 @@ TEST_F(Client, SwapShowsInWindowsOfAnyVisual) {
     }
 }
 
-// A child window that covered its parent before that was mapped kept every Expose from the application.
+// A child window that covered its parent before the parent was mapped received all Expose events of the application.
 TEST_F(Client, WindowsOfAnyVisualGetTheirExposeEvents) {
     initialise(m_x);
     const Window window = XCreateSimpleWindow(m_x, DefaultRootWindow(m_x), 0, 0, 64, 48, 0, 0, 0);
@@ -84,7 +84,7 @@ TEST_F(Client, BadWindowsGiveFailuresAndNothingMore) {
         const GlFunctions gl;
         XDestroyWindow(m_x, window);
         XSync(m_x, False);
-        // The swap comes first: a draw at once would have the software renderer allocate by a random size.
+        // Swaps first: the software renderer would allocate by an uninitialised size if it drew at once.
         for (int frame = 0; frame < 3; ++frame) {
             EXPECT_TRUE(eglSwapBuffers(m_egl, surface));
             gl.clear(GL_COLOR_BUFFER_BIT);
@@ -106,7 +106,7 @@ TEST_F(Client, ServerThatIsNotThereFailsTheBind) {
     }
 }
 
-// Xlib ended the program, though its own connections were well.
+// Xlib ended the program although the program's own connections were intact.
 TEST_F(Client, ServerThatDiesFailsBindsAndEndsNothing) {
     FILE *output = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp 2>/dev/null", "r");
     int process = 0, number = -1;
@@ -124,7 +124,7 @@ TEST_F(Client, ServerThatDiesFailsBindsAndEndsNothing) {
     const GlFunctions gl;
     for (int frame = 0; frame < 20; ++frame) {
         gl.clear(GL_COLOR_BUFFER_BIT);
-        // Between draw and swap: at a draw the software renderer takes a random size for the drawable's.
+        // Between draw and swap, since at a draw the software renderer uses an uninitialised size for the drawable.
         if (frame == 10) {
             kill(process, SIGKILL);
             pclose(output);
@@ -148,7 +148,7 @@ TEST_F(Client, XErrorsStayWithTheirConnection) {
         XCreateWindow(m_x, root, 0, 0, 8, 8, 0, 0, InputOnly, static_cast<Visual *>(CopyFromParent), 0, nullptr);
     const Pixmap pixmap = XCreatePixmap(m_x, root, 8, 8, 24);
     for (const Window bad : {Window(0x12345), Window(1), inputOnly, pixmap}) {
-        expectBindFails(makeSurface(bad), context); // while the surface is made of any value
+        expectBindFails(makeSurface(bad), context); // creating the surface accepts any value
         EXPECT_EQ(drawAndRead(GlFunctions(), 1, 0, 0), red) << "what was bound is still drawn to";
     }
     const EGLint tooLarge[] = {EGL_WIDTH, 1 << 30, EGL_HEIGHT, 1 << 30, EGL_NONE};

@@ -1,12 +1,12 @@
-// Whatever an application has current outlives what the library does on its own account: it probes the host when it
-// loads and when a context is made.
+// An application's current context is kept while the library probes the host, at its load and when a context is
+// created.
 #include "client_fixture.h"
 
 #include <GL/glx.h>
 
 namespace {
 
-// What GLX says is current on this thread.
+// The current context and drawables of this thread, as GLX reports them.
 struct GlxBinding {
     Display *display = glXGetCurrentDisplay();
     GLXDrawable draw = glXGetCurrentDrawable();
@@ -17,7 +17,7 @@ struct GlxBinding {
 
 class CurrentIsKept : public ClientTest {
 protected:
-    // A context of the application's own, which draws to one window and reads from another.
+    // A GLX context of the application, which draws to one window and reads from another.
     void useGlx() {
         const int wanted[] = {GLX_DOUBLEBUFFER, True, GLX_RED_SIZE, 8, GLX_GREEN_SIZE, 8, None};
         int count = 0;
@@ -56,10 +56,10 @@ TEST_F(CurrentIsKept, OfEglWhileASecondContextIsMade) {
     const GlxBinding eglsOwn;
     EXPECT_NE(makeContext(context, 3), EGL_NO_CONTEXT);
     EXPECT_EQ(GlxBinding(), eglsOwn);
-    gl.clear(GL_COLOR_BUFFER_BIT); // with the colour from before
+    gl.clear(GL_COLOR_BUFFER_BIT); // with the previous colour
     EXPECT_EQ(shownAfterSwap(surface, 32, 24), red);
 
-    useGlx(); // takes the thread over behind EGL's back, which takes it back
+    useGlx(); // replaces EGL's context on the thread; EGL then binds its own again
     bind(surface, context);
     EXPECT_EQ(drawAndRead(gl, 1, 0, 0), red);
 }

@@ -1,4 +1,4 @@
-// Programs of the desktop on a real server.
+// Desktop programs on a real server.
 #include "client_fixture.h"
 
 #include <EGL/eglext.h>
@@ -12,7 +12,7 @@ namespace {
 class DesktopProgram : public ClientTest {
 protected:
     DesktopProgram() { setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1); }
-    // The first one that pixmaps can be made surfaces of.
+    // Chooses the first config that supports pixmap surfaces.
     void choosePixmapConfig() {
         const EGLint attributes[] = {EGL_SURFACE_TYPE, EGL_PIXMAP_BIT, EGL_NONE};
         EGLint count = 0;

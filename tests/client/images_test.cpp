@@ -9,7 +9,7 @@ namespace {
 
 const Pixel blue{0, 0, 255, 255};
 
-// Before the first function is looked up.
+// Set before the first function is looked up.
 struct DesktopVariable {
     DesktopVariable() { setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1); }
 };
@@ -28,7 +28,7 @@ protected:
         std::vector<Pixel> texels(16, texel);
         gl.texImage2D(target, level, GL_RGBA, size, size, 0, GL_RGBA, GL_UNSIGNED_BYTE, texels.data());
     }
-    // A source of 4 x 4 texels, level 1 of which is green where there is one.
+    // A source of 4 x 4 texels. Level 1, if there is one, is green.
     GLuint makeSource(GLenum target) {
         GLuint name = 0;
         if (target == EGL_GL_RENDERBUFFER) {
@@ -228,7 +228,7 @@ TEST_F(DesktopImages, OfWhatIsNoSourceAreRefused) {
     EXPECT_NE(makeImage(EGL_GL_TEXTURE_2D, makeSource(EGL_GL_TEXTURE_2D)), again);
 }
 
-// Drawn as a whole, so that fixed function shows it.
+// Drawn as a whole, since fixed function draws it.
 TEST_F(DesktopImages, OfEs1ShareToo) {
     eglMakeCurrent(m_egl, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
     m_context = makeContext(EGL_NO_CONTEXT, 1);

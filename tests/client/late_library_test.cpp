@@ -1,4 +1,4 @@
-// An application that opens the library late: its exit handlers run after the library's own.
+// An application that opens the library late, so that its exit handlers run after the library's.
 #include <EGL/egl.h>
 #include <gtest/gtest.h>
 
@@ -19,12 +19,12 @@ void *library;
 EGLDisplay display;
 
 bool open(const char *path) {
-    library = dlopen(path, RTLD_NOW | RTLD_GLOBAL); // back ends call it
+    library = dlopen(path, RTLD_NOW | RTLD_GLOBAL); // global, since back ends call it
     display = ENTRY(eglGetDisplay)(EGL_DEFAULT_DISPLAY);
     return ENTRY(eglInitialize)(display, nullptr, nullptr);
 }
 
-// Never returns. What it works on stays: the process ends meanwhile.
+// Never returns and keeps its objects: the process ends meanwhile.
 void workForEver(EGLConfig config, std::atomic<int> &rounds) {
     const EGLint size[] = {EGL_WIDTH, 1, EGL_HEIGHT, 1, EGL_NONE};
     for (;; ++rounds) {
@@ -48,7 +48,7 @@ TEST(LateLibrary, ExitHandlersFindEverythingAsItWas) {
     EXPECT_EXIT(openAndExit(), testing::ExitedWithCode(0), "");
 }
 
-// Freed displays and an unloaded host library ended one process in eighteen by a signal.
+// Freed displays and an unloaded host library made one process in eighteen end by a signal.
 TEST(LateLibrary, ProcessEndsWhileThreadsAreInsideEntries) {
     const Variable backEnds("KZRTRACE_LIB_PATH", STAGED_BACK_ENDS);
     const auto workAndExit = [](int rounds) {
@@ -56,7 +56,7 @@ TEST(LateLibrary, ProcessEndsWhileThreadsAreInsideEntries) {
         EGLConfig config = nullptr;
         EGLint count = 0;
         ENTRY(eglGetConfigs)(display, &config, 1, &count);
-        // Keeps the back end loaded: to load a library while the process ends runs constructors for a second time.
+        // Keeps the back end loaded, since loading a library while the process ends would run its constructors again.
         ENTRY(eglCreateContext)(display, config, EGL_NO_CONTEXT, nullptr);
         std::atomic<int> done = 0;
         for (int thread = 0; thread < 4; ++thread)

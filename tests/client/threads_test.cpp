@@ -1,4 +1,4 @@
-// Four threads that do everything at once; the thread sanitizer looks on.
+// Four threads that use all objects at once, for the thread sanitizer.
 #include "client_fixture.h"
 
 #include <thread>

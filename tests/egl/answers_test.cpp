@@ -1,4 +1,4 @@
-// What the entries answer, row by row.
+// Tables of the results of entries.
 #include "egl/fixture.h"
 
 #include <functional>
@@ -7,7 +7,7 @@ namespace {
 
 class Answers : public EntryTest {
 protected:
-    // A list of attributes, which is kept for good.
+    // An attribute list that lives as long as the process.
     template <typename Type, typename... Values>
     static const Type *list(Values... values) {
         static std::vector<std::vector<Type>> kept;

@@ -93,7 +93,7 @@ TEST_F(Contexts, OnePointerServesThoseOfBothBackEnds) {
     const auto getString = procAddress<PFNGLGETSTRINGPROC>("glGetString");
     EXPECT_EQ(errorsOf([&] { EXPECT_EQ(getString(GL_VERSION), nullptr); }),
               "(Error) Attempted to call 'glGetString', but there is no current context.\n");
-    // A dead context's memory was taken by one of the other version, which then got the wrong back end's functions.
+    // A context of the other version reused a dead context's memory and got the wrong back end's functions.
     for (const EGLint major : {1, 2, 1, 2}) {
         const EGLContext made = current(major);
         EXPECT_STREQ(reinterpret_cast<const char *>(getString(GL_VERSION)), major == 1 ? "es1" : "es2");

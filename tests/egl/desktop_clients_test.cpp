@@ -51,6 +51,6 @@ TEST_F(DesktopClients, FindWhatTheyExpect) {
     EXPECT_EQ(querySurface(eglCreatePlatformWindowSurface(m_display, config(), &window, nullptr), EGL_WIDTH), 640);
     EXPECT_FAILS(EGL_BAD_NATIVE_WINDOW, create(m_display, config(), nullptr, nullptr));
     EXPECT_EQ(errorsOf([] { EXPECT_FALSE(eglBindAPI(EGL_OPENGL_API) || eglBindAPI(EGL_OPENGL_API)); }),
-              "(Error) The application asks EGL for desktop OpenGL; this EGL has OpenGL ES alone; try --opengl.\n")
+              "(Error) The application requests desktop OpenGL; this EGL supports OpenGL ES only; try --opengl.\n")
         << "told once";
 }

@@ -56,9 +56,9 @@ TEST_F(DisplayEntries, InitializeAndTerminateMoveBetweenTwoStates) {
 TEST_F(DisplayEntries, FirstCallProbesTheHost) {
     recordingSetFormatValue(12, 24); // the depth
     m_display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
-    // The context's format is derived with what the host gave, and double-buffered whatever it says.
+    // The context's format is derived from the host's values, and always double-buffered.
     EXPECT_EQ(takeLog(), golden("egl/data/first_call.txt"));
-    recordingFailNext("createPixelFormat"); // all configs share one, and stand without it
+    recordingFailNext("createPixelFormat"); // all configs share one, and exist without it
     EXPECT_SUCCEEDS(eglInitialize(m_display, nullptr, nullptr));
     EXPECT_SUCCEEDS(eglSwapBuffers(m_display, window()));
     EXPECT_EQ(takeLog(), "createPixelFormat(0, 99 12800 5 8 24 11 8 12 24 13 8 55 1 56 4 0) = null\n")

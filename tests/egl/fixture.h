@@ -1,4 +1,4 @@
-// A process with the staged library, an initialised display and the fakes within reach.
+// A process with the staged library, an initialised display and access to the fakes.
 #pragma once
 
 #include <EGL/egl.h>
@@ -23,12 +23,12 @@ class EntryTest : public testing::Test {
 protected:
     EntryTest();
 
-    // The calls on the recording platform, the fake host and the fake back ends since the last time, one a line.
+    // The calls of the recording platform, the fake host and the fake back ends since the last call, one per line.
     static std::string takeLog();
-    // Those that contain the text.
+    // The lines that contain the text.
     static std::vector<std::string> takeLines(const std::string &containing);
 
-    // What the action writes to a standard stream.
+    // The output of the action to a standard stream.
     template <typename Action>
     static std::string errorsOf(Action action) {
         testing::internal::CaptureStderr();
@@ -43,7 +43,7 @@ protected:
         return testing::internal::GetCapturedStdout();
     }
 
-    // Writes the preferences file with these keys and values, as the user would have done before the first EGL call.
+    // Writes a preferences file with these keys and values, before the first EGL call.
     static void prefer(const std::string &pairs);
 
     static void useBackEnds(const char *directory); // below the stage
@@ -56,24 +56,24 @@ protected:
     EGLContext context(EGLint major = 2, EGLContext share = EGL_NO_CONTEXT);
     EGLSurface window(EGLNativeWindowType id = 77);
     EGLSurface pbuffer(EGLint width = 16, EGLint height = 8);
-    // A context of this version current on a window. Its host context is context2 where it is the first: the load has
-    // probed the host with context1.
+    // A context of this version, current on a window. The first one's host context is context2, since the load probes
+    // the host with context1.
     EGLContext current(EGLint major = 2);
 
-    // The answer of eglQuerySurface, -77 where it stores nothing.
+    // The result of eglQuerySurface; -77 if it writes nothing.
     EGLint querySurface(EGLSurface surface, EGLint attribute);
 
     EGLDisplay m_display = EGL_NO_DISPLAY;
     const EGLSurface unknownSurface = reinterpret_cast<EGLSurface>(99);
 };
 
-// A function of eglGetProcAddress under its type.
+// A result of eglGetProcAddress with its type.
 template <typename Function>
 Function procAddress(const char *name) {
     return reinterpret_cast<Function>(eglGetProcAddress(name));
 }
 
-// False, null or 0, and the error that comes with it.
+// Expects the failure result (false, null or 0) and the error.
 #define EXPECT_FAILS(error, call)                                                                                      \
     do {                                                                                                               \
         EXPECT_FALSE(call);                                                                                            \

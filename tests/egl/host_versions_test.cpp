@@ -1,4 +1,4 @@
-// What becomes of the version that the application asks for on hosts of different strength.
+// The versions that contexts get on hosts with different capabilities.
 #include "egl/fixture.h"
 
 #include <tuple>
@@ -15,7 +15,7 @@ protected:
                                  share);
     }
 
-    // Makes such a context and looks at what the back end is told of it.
+    // Creates such a context and checks the record that the back end receives.
     void expectAttribs(EGLint major, EGLint minor, EGLint esMajor, EGLint esMinor, int isStrict, const char *reason) {
         const EGLContext context = create(major, minor);
         const EGLSurface surface = window();
@@ -26,7 +26,7 @@ protected:
             << reason;
     }
 
-    // In a process of its own, since the host is looked at once.
+    // Runs in a process of its own, since the host is probed once.
     template <typename Action>
     void onHost(const char *version, const char *extensions, Action action, const char *errors = "") {
         const auto act = [&] {

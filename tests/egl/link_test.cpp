@@ -1,4 +1,4 @@
-// What a GUI sees of an application, and what its commands do to the back ends.
+// The records that a GUI receives from an application, and the effects of its commands on the back ends.
 #include "egl/fixture.h"
 
 #include <algorithm>
@@ -27,10 +27,10 @@ protected:
         gui.accept();
     }
 
-    // The text of the next window title and nothing in between but what is no title.
+    // The text of the next window title; records before it must have another type.
     std::string nextTitle() { return textOf(gui.readUntil(ZV_WINDOW_TITLE)); }
 
-    // Lines of the back ends about the render mode, once there are so many.
+    // The back ends' lines about the render mode, after there are at least that many.
     static std::vector<std::string> renderModeLines(size_t count) {
         std::vector<std::string> lines;
         while (lines.size() < count) {
@@ -43,11 +43,11 @@ protected:
     ScriptedGui gui;
 };
 
-// Modes that the process sent itself. The socket holds far fewer than the receiver has to take below.
+// The number of modes that the process sent. The socket holds far fewer than the receiver must accept below.
 std::atomic<int> modesSent = 0;
 
-// Runs when the static objects of the libraries are gone, and lets their threads go on for a while. A thread that a
-// sanitizer holds takes nothing more.
+// Runs after the static objects of the libraries are destroyed, and gives their threads time to continue. A thread that
+// a sanitizer holds receives no more.
 void linger(int, void *) {
     const int before = modesSent;
     for (int wait = 0; before && modesSent < before + 500; ++wait) {
@@ -56,7 +56,7 @@ void linger(int, void *) {
     }
 }
 
-// What is registered before any library starts is called after every library has ended.
+// Handlers that are registered before any library starts are called after every library has ended.
 __attribute__((no_sanitize("address", "thread", "undefined"))) void lingerAtTheEnd() {
     on_exit(linger, nullptr);
 }
@@ -92,7 +92,7 @@ TEST_F(EntryLink, EveryBindToAWindowSendsItsTitle) {
     const EGLContext made = context();
     const EGLSurface first = window(), small = pbuffer(), second = window(), nameless = window(78);
     useBackEnds("none");
-    EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, nameless, nameless, context())); // which sends nothing
+    EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, nameless, nameless, context())); // sends nothing
     useBackEnds("back_ends");
     recordingFailNext("makeCurrent");
     EXPECT_FAILS(EGL_BAD_ALLOC, eglMakeCurrent(m_display, first, first, made));
@@ -150,7 +150,7 @@ TEST_F(EntryLink, ModesArriveWhileThreadsMakeAndDestroyContexts) {
     EXPECT_TRUE(eglInitialize(m_display, nullptr, nullptr)) << "the application goes on";
 }
 
-// The threads of the link outlive the state, whose displays go while the process ends.
+// The threads of the link outlive the state, whose displays are destroyed while the process ends.
 TEST_F(EntryLink, ProcessEndsWhileModesArrive) {
     connect();
     for (uintptr_t id = 1; id < 200; ++id)

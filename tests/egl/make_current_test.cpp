@@ -82,7 +82,7 @@ TEST_F(MakeCurrent, FailuresAndWhatSurvivesThem) {
     EXPECT_SUCCEEDS(makeCurrent(surface, surface, fresh)) << "a later bind tries again";
     recordingFailNext("setPixelBuffer");
     EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(nullptr, nullptr, old));
-    expectNothingCurrent(); // a bind without surfaces loses the old context too
+    expectNothingCurrent(); // a failed bind without surfaces loses the old context too
 
     useBackEnds("no_create");
     EXPECT_EQ(errorsOf([&] { EXPECT_FAILS(EGL_BAD_ALLOC, makeCurrent(surface, surface, context())); }),
@@ -136,7 +136,7 @@ TEST_F(MakeCurrent, ShareContextIsPrimedFirst) {
     EXPECT_EQ(outputOf([&] { EXPECT_SUCCEEDS(makeCurrent(surface, surface, child)); }),
               "(Warning) Attempting to share two contexts of differing API versions is unsupported.\n");
     EXPECT_EQ(eglGetCurrentContext(), child);
-    EXPECT_SUCCEEDS(eglDestroyContext(m_display, parent)); // since priming leaves nothing bound
+    EXPECT_SUCCEEDS(eglDestroyContext(m_display, parent)); // since priming leaves no context bound
     EXPECT_SUCCEEDS(makeCurrent(surface, surface, late));
     EXPECT_THAT(takeLines("teEsContext("),
                 ElementsAre("es1 zvCreateEsContext(share (nil)) = 0x100", "es2 zvCreateEsContext(share 0x100) = 0x100",

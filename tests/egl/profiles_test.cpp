@@ -1,4 +1,4 @@
-// What a client sees of a device profile that the preferences file chooses.
+// The effects of a device profile that the preferences file selects.
 #include <filesystem>
 #include <fstream>
 
@@ -44,7 +44,7 @@ TEST_F(Profiles, AnEmbeddedOneGivesConfigsVersionsAndItsText) {
 }
 
 TEST_F(Profiles, WithoutOneBackEndsGetAnEmptyText) {
-    prefer(chosen("TI PandaBoard")); // needs a directory, though it is embedded
+    prefer(chosen("TI PandaBoard")); // requires a directory although it is embedded
     current();
     EXPECT_STREQ(backEnd().profileText, "");
 }
@@ -76,7 +76,7 @@ TEST_F(Profiles, AConfigWithoutPbuffersIsNamedBeforeAWrongAttribute) {
 
 TEST_F(Profiles, ABrokenOneFailsTheLoadUntilItIsMended) {
     choose("mine");
-    std::string words = "(Error) failed to load device profile 'mine' from " + directory + "\n"; // once
+    std::string words = "(Error) failed to load device profile 'mine' from " + directory + "\n"; // printed once
     for (const char *text : {"no file yet", "", "<profile><egl>", "<profile/>", "<device><egl/></device>"}) {
         if (text != std::string("no file yet")) writeProfile(text);
         EXPECT_EQ(errorsOf([] { EXPECT_FAILS(EGL_SUCCESS, eglGetDisplay(EGL_DEFAULT_DISPLAY)); }), words) << text;

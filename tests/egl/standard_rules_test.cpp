@@ -1,4 +1,4 @@
-// Desktop clients find the rules of the EGL standard where devices have rules of their own.
+// The EGL standard's rules in desktop mode, where they differ from a device's.
 #include "egl/fixture.h"
 
 #include "host/platform/operations.h"
@@ -77,7 +77,7 @@ TEST_F(StandardRules, ReusableSyncsWaitForTheirSignal) {
     const auto createKhr = procAddress<PFNEGLCREATESYNCKHRPROC>("eglCreateSyncKHR");
     EXPECT_FAILS(EGL_BAD_PARAMETER, eglCreateSync(m_display, EGL_NONE, nullptr));
     EXPECT_FAILS(EGL_BAD_ATTRIBUTE, createKhr(m_display, EGL_NONE, nullptr));
-    // Without a context there is nothing to fence.
+    // There is no context whose commands could be fenced.
     EXPECT_FAILS(EGL_BAD_MATCH, eglCreateSync(m_display, EGL_SYNC_FENCE, nullptr));
 
     const EGLSync sync = eglCreateSync(m_display, EGL_SYNC_REUSABLE_KHR, nullptr);

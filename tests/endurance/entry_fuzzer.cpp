@@ -1,5 +1,5 @@
-// Calls random entries with handles that are known, stale or nobody's, from one thread and then from four, while a GUI
-// sends random records. Links the staged library. Usage: entry_fuzzer [SECONDS [SEED]]
+// Calls random entries with valid, stale and invalid handles, from one thread and then from four, while a GUI sends
+// random records. Links the staged library. Usage: entry_fuzzer [SECONDS [SEED]]
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 
@@ -18,7 +18,7 @@
 #include "zelvane/messages.h"
 
 extern "C" __attribute__((visibility("default"), used)) int __lsan_is_turned_off() {
-    return 1; // terminated displays leave contexts behind by rule
+    return 1; // terminated displays leak contexts by design
 }
 
 namespace {
@@ -44,7 +44,7 @@ constexpr EGLint attributes[] = {EGL_WIDTH,
                                  EGL_MULTISAMPLE_RESOLVE,
                                  EGL_MATCH_NATIVE_PIXMAP};
 
-// The last handles of a kind that threads have got, whether they are good still or not.
+// The last handles of a kind that threads have received, whether or not they are still valid.
 class Handles {
 public:
     void add(void *handle) { m_handles[m_next++ % std::size(m_handles)] = handle; }
@@ -213,7 +213,7 @@ void work(const Run &run, uint64_t number, std::chrono::steady_clock::time_point
     eglMakeCurrent(displays.any(random), EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
 }
 
-// Reads what comes and sends rubbish of any length; the application never minds.
+// Reads all records and sends random data of any length, which the application must tolerate.
 void beGui(const Run &run, KZRIPC::ServerSocket &server) {
     Random random(run.seed + 99);
     KZRIPC::Client application(server);

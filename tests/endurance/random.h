@@ -1,4 +1,4 @@
-// The numbers of a run that its seed gives again.
+// Random numbers that the seed of a run reproduces.
 #pragma once
 
 #include <chrono>
@@ -23,7 +23,7 @@ public:
         constexpr int32_t edges[] = {0, 1, -1, 2, 3, 16, 0x3038, INT32_MAX, INT32_MIN, 65536};
         return once(3) ? static_cast<int32_t>(m_engine()) : of(edges);
     }
-    // A text that is a little wrong: bytes changed, parts doubled, cut or put elsewhere.
+    // A mutated text: bytes changed, parts duplicated, cut or moved.
     std::string mutated(std::string text) {
         for (uint32_t change = below(8); change > 0 && !text.empty(); --change) {
             const uint32_t from = below(text.size()), length = below(40), to = below(text.size());
@@ -49,7 +49,7 @@ private:
     std::mt19937_64 m_engine;
 };
 
-// What both fuzzers take: seconds, and a seed that another run has told.
+// The arguments of both fuzzers: seconds, and the seed of an earlier run.
 struct Run {
     Run(int argc, char **argv)
         : end(std::chrono::steady_clock::now() + std::chrono::seconds(argc > 1 ? atoi(argv[1]) : 60)),

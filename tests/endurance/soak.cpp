@@ -1,5 +1,5 @@
-// Goes through the life of every kind of object on the real library and holds what a round costs in memory, descriptors
-// and windows against what the rules of the library lose. Usage: soak [MINUTES]
+// Creates, uses and destroys every kind of object on the real library, and compares the cost of a round in memory,
+// descriptors and windows with the known losses. Usage: soak [MINUTES]
 #include <EGL/egl.h>
 #include <X11/Xlib.h>
 
@@ -75,7 +75,7 @@ long windows() {
     return count;
 }
 
-// In whole hundreds. What loses memory by rule ends early: an hour of it would not fit the machine.
+// In multiples of 100. Kinds with a known loss end early, since an hour of them would fill the memory.
 long roundsFor(const Kind &kind, std::chrono::milliseconds time) {
     constexpr long mostBytes = 1 << 30;
     const long most = kind.lostPerRound ? mostBytes / kind.lostPerRound : std::numeric_limits<long>::max();
@@ -88,10 +88,10 @@ long roundsFor(const Kind &kind, std::chrono::milliseconds time) {
 }
 
 bool isFlat(const Kind &kind, std::chrono::milliseconds time) {
-    roundsFor(kind, time / 10); // for what is made once
+    roundsFor(kind, time / 10); // for objects that are created once
     const long heapBefore = heapBytes(), descriptorsBefore = descriptors(), windowsBefore = windows();
     const long rounds = roundsFor(kind, time - time / 10);
-    // Mesa's software driver has one or two upload buffers of 1 MB more or less.
+    // The number of 1 MB upload buffers of Mesa's software driver varies by one or two.
     constexpr long slackBytes = 3 << 20;
     const long grown = heapBytes() - heapBefore, lost = rounds * kind.lostPerRound;
     const long more = descriptors() - descriptorsBefore, moreWindows = windows() - windowsBefore;

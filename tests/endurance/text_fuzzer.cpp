@@ -1,4 +1,4 @@
-// Gives mutated texts to the preferences store and to the profile reader. Usage: text_fuzzer [SECONDS [SEED]]
+// Passes mutated texts to the preferences store and to the profile reader. Usage: text_fuzzer [SECONDS [SEED]]
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

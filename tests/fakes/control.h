@@ -1,5 +1,5 @@
-// Script of the fakes that lie beside the staged library. What they are called with goes into the recording
-// platform's log, so that one log shows the order of host, back end and window system calls.
+// The script of the fakes beside the staged library. Their calls are added to the recording platform's log, so that one
+// log shows the order of host, back end and window system calls.
 #pragma once
 
 #include <cstdint>
@@ -11,11 +11,11 @@ extern "C" {
 // In the fake host OpenGL library.
 struct FakeGl {
     uint32_t clientWaitResult; // of glClientWaitSync
-    int32_t syncValue;         // what glGetSynciv stores
-    uint64_t nextSync;         // what glFenceSync gives next; counts up
-    const char *version;       // of glGetString; null gives null, and so for the other two
+    int32_t syncValue;         // the value that glGetSynciv writes
+    uint64_t nextSync;         // the next result of glFenceSync; counts up
+    const char *version;       // of glGetString; null for a null result, also of the other two
     const char *glslVersion;
-    const char *extensions; // separated by blanks; the list of glGetStringi too
+    const char *extensions; // separated by blanks; also the list of glGetStringi
 };
 FakeGl *fakeGl();
 
@@ -25,8 +25,8 @@ struct FakeBackEnd {
     ContextAttribs createdWith; // of the last zvCreateEsContext
     ContextAttribs setTo;       // of the last zvSetEsContextAttribs
     uint64_t displayAndHandle[2];
-    const char *profilesDirectory; // as zvSettingsProfilesDirectory told at creation
-    const char *profileText;       // as zvSettingsProfileText did
+    const char *profilesDirectory; // the result of zvSettingsProfilesDirectory at creation
+    const char *profileText;       // that of zvSettingsProfileText
     zvEsContext currentDuringCreate;
 };
 FakeBackEnd *fakeBackEnd();

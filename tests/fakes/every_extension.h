@@ -1,4 +1,4 @@
-// All names of the extension catalogue, as a host would list them.
+// All names of the extension catalogue, in the form of a host's extension string.
 #pragma once
 
 #include <initializer_list>

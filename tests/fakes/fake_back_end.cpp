@@ -1,5 +1,5 @@
-// A back end that notes every call with its own name in front. Knows a handful of GL functions.
-// Built once a library; FAKE_NAME tells them apart, FAKE_LACKS_DELETE and FAKE_LACKS_CREATE leave an export out.
+// A back end that records every call with its own name in front. Implements a few GL functions. Built once per library;
+// FAKE_NAME distinguishes them, FAKE_LACKS_DELETE and FAKE_LACKS_CREATE omit an export.
 #include <cstring>
 #include <mutex>
 
@@ -10,7 +10,7 @@ namespace {
 
 FakeBackEnd script{};
 [[maybe_unused]] uintptr_t nextEsContext = 0x100;
-std::mutex scriptMutex; // contexts may come and go on several threads
+std::mutex scriptMutex; // contexts may be created and deleted on several threads
 
 void fakeClear(uint32_t mask) {
     note(FAKE_NAME " glClear(%u)", mask);

@@ -1,4 +1,4 @@
-// Every other name that the feature table looks up, so that each look-up of a set can be told by what it found.
+// All other names that the feature table looks up, so that the result identifies each lookup.
 extern "C" __attribute__((visibility("default"))) void fakeEntryPoint() {}
 
 #define EXPORT(name) asm(".weak " name "\n.type " name ", @function\n.set " name ", fakeEntryPoint");

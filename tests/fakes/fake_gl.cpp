@@ -1,5 +1,5 @@
-// The host's OpenGL library as the tests want it: notes calls, answers from its script. Questions about the host itself
-// are not noted. FAKE_LACKS_STRINGI leaves an export out.
+// A fake of the host's OpenGL library: records calls, and returns the results of its script. Queries about the host
+// itself are not recorded. FAKE_LACKS_STRINGI omits an export.
 #include <atomic>
 #include <sstream>
 #include <string>

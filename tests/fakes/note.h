@@ -1,4 +1,4 @@
-// Writes a line into the recording platform's log, where the process has one.
+// Writes a line to the recording platform's log, if the process has one.
 #pragma once
 
 #include <cstdarg>

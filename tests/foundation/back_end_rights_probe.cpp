@@ -1,4 +1,4 @@
-// What the ES back ends make of their variables, which they look up themselves; run as foreign_rights_probe is.
+// Prints the variables that the ES back ends read, which they look up themselves; run as foreign_rights_probe is.
 #include <cstdio>
 #include <unistd.h>
 
@@ -7,5 +7,5 @@
 int main() {
     std::puts(servesDesktopClients() ? "desktop client" : "device client");
     std::fflush(stdout);
-    _exit(0); // the leak check may not look into such a process
+    _exit(0); // the leak check has no access to such a process
 }

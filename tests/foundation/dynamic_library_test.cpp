@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
-// A fresh copy of the library, so that nothing that another case left open is this file.
+// A new copy of the library, so that it is not a file that another case left open.
 class DynamicLibraryTest : public testing::Test {
 protected:
     DynamicLibraryTest() {
@@ -37,7 +37,7 @@ protected:
 };
 
 TEST_F(DynamicLibraryTest, SearchOrder) {
-    // Whoever may write there had the bare name opened.
+    // The bare name was opened in this directory, so any user who could write there could plant a library.
     const fs::path planted = fs::path(getenv("TMPDIR")) / "planted.so";
     fs::copy_file(ZELVANE_LOADABLE, planted);
     fs::current_path(directory);
@@ -55,7 +55,7 @@ TEST_F(DynamicLibraryTest, SearchOrder) {
                                         {"/other", "/other"}}) {
         const Variable variable("KZRTRACE_LIB_PATH", value);
         EXPECT_EQ(esLibrarySearchPaths(), (std::vector<std::string>{getOwnDirectory(), wanted}));
-        fs::current_path("/"); // the directory at the first call counts
+        fs::current_path("/"); // the directory at the first call is used
     }
 }
 
@@ -81,7 +81,7 @@ TEST_F(DynamicLibraryTest, LongTemporaryDirectoryOpensNothing) {
     std::string longest = directory.string();
     while (longest.size() < 1021)
         longest += "/" + std::string(std::min<size_t>(200, 1020 - longest.size()), 'd');
-    for (const char *end : {"d", "dd"}) { // a slash follows, which makes it 1023 and 1024 in all
+    for (const char *end : {"d", "dd"}) { // with the slash after it, 1023 and 1024 in all
         fs::create_directories(longest + end);
         const Variable variable("TMPDIR", longest + end);
         EXPECT_EQ(library.open({directory}), end == "d"s);

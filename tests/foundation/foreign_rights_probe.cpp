@@ -1,4 +1,4 @@
-// What the library makes of its variables; the test runs it with and without foreign rights.
+// Prints the variables that the library reads; the test runs it with and without foreign rights.
 #include <cstdio>
 #include <unistd.h>
 
@@ -16,5 +16,5 @@ int main() {
                 esLibrarySearchPaths().size(), settings.getProfilesDirectory().c_str(), preferences.c_str(),
                 getTemporaryDirectory().c_str(), egl::desktop_clients::isOn() ? "desktop" : "device");
     std::fflush(stdout);
-    _exit(0); // the leak check may not look into such a process
+    _exit(0); // the leak check has no access to such a process
 }

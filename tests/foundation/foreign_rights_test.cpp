@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A user who has started nothing and owns nothing, and a group with rights of its own.
+// A user without processes and files, and a group with rights of its own.
 constexpr uid_t visitor = 65534;
 constexpr gid_t keepers = 1;
 

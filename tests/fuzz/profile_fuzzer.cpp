@@ -1,4 +1,4 @@
-// Gives texts to the profile reader, and to the check that tells what the reader makes of them.
+// Passes texts to the profile reader, and to the check that reports how the reader interprets them.
 #include <cstdint>
 #include <cstdlib>
 
@@ -14,12 +14,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     egl::DeviceProfile profile;
     const bool isRead = readDeviceProfile(profile, text, name);
     for (const egl::Config &config : profile.configs) {
-        // Every attribute beside the id comes from a row or from the defaults: the list ends, and is not long.
+        // All attributes except the id come from a row or from the defaults, so the list ends and is short.
         if (config.toAttributeList().size() > 81) abort();
     }
     if (!isRead && !profile.configs.empty()) abort();
 
-    // A text that reads as it looks is one that loads.
+    // A text without findings must load.
     if (!checkProfile(text, "fuzzed").hasProblems() && !isRead) abort();
     return 0;
 }

@@ -1,4 +1,4 @@
-// Contexts that are nothing but an address, and a back end of the test's own that answers for them.
+// Contexts that are only an address, and a back end of the test that returns their functions.
 #include "gl/entry_proxy.h"
 
 #include <gmock/gmock.h>
@@ -23,11 +23,11 @@ using testing::SizeIs;
 
 namespace {
 
-// Set before there are several threads; called on the asking one.
+// Set before other threads start; called on the querying thread.
 std::function<void *(const void *context, const std::string &name)> backEnd = [](auto...) { return nullptr; };
-std::atomic<size_t> questions = 0; // to the back end
+std::atomic<size_t> questions = 0; // queries of the back end
 std::mutex errorMutex;
-std::vector<std::string> errors; // that were logged
+std::vector<std::string> errors; // the logged errors
 
 std::byte contexts[64];
 
@@ -50,7 +50,7 @@ int answerTwo() {
     return 2;
 }
 
-// Two slots that the tables give to other names, of these signatures here.
+// Two slots that the tables assign to other names, with these signatures here.
 constexpr GLEntryProxy first{"glFirst", 0};
 constexpr GLEntryProxy second{"glSecond", 1};
 
@@ -74,7 +74,7 @@ protected:
 } // namespace
 
 TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
-    const auto entry = &Entry<first, int()>::call; // taken before any context is there
+    const auto entry = &Entry<first, int()>::call; // obtained before any context exists
     EXPECT_EQ(entry(), 0);
     EXPECT_EQ(entry(), 0);
     const auto line = "Attempted to call 'glFirst', but there is no current context.";
@@ -91,7 +91,7 @@ TEST_F(EntryProxy, OnePointerReachesTheFunctionOfEachContext) {
     EXPECT_EQ(questions, 2u);
 }
 
-// Also what a new context at the address of a dead one gets.
+// Also for a new context at the address of a dead one.
 TEST_F(EntryProxy, UnknownNameIsAskedAndLoggedOnceForEachContext) {
     const auto line = "Attempted to use an unsupported extension function: 'glFirst'";
     for (const size_t context : {0, 1}) {
@@ -123,8 +123,8 @@ TEST_F(EntryProxy, ArgumentsAndResultPassUnchanged) {
         EXPECT_EQ(std::apply(Entry<first, Mixed>::call, arguments), 1LL << 50) << "call " << call;
 }
 
-// A name that no table has, whose signature only the caller knows: every register that arguments can be in comes
-// through the first call, and the stack.
+// A name that is in no table, whose signature only the caller knows: all argument registers and the stack must be
+// preserved through the first call.
 TEST_F(EntryProxy, DynamicEntriesPassWhatTheyDoNotKnow) {
     using Mixed = double(int, double, void *, float, int, int, double, int, double, int, double, int, double, int,
                          double, double, double);
@@ -169,7 +169,7 @@ TEST_F(EntryProxy, BackEndMayCallEntriesWhileItAnswers) {
     EXPECT_THAT(errors, SizeIs(1));
 }
 
-// Contexts wander from thread to thread between calls.
+// Contexts move from thread to thread between calls.
 TEST_F(EntryProxy, ThreadsAskOnceForEachContext) {
     backEnd = [](const void *context, const std::string &) {
         std::this_thread::yield();
@@ -193,7 +193,7 @@ TEST_F(EntryProxy, ThreadsAskOnceForEachContext) {
     EXPECT_THAT(errors, AllOf(SizeIs(32), Each(line)));
 }
 
-// Whatever a back end returns there, an integer or a pointer, comes through whole.
+// Integers and pointers must be returned whole.
 TEST_F(EntryProxy, DebugEntriesHandBackAWholeRegister) {
     const auto toggle = reinterpret_cast<GLuint64 (*)(GLuint)>(gl::extensionTable[208].function);
     EXPECT_EQ(toggle(1), 0u);

@@ -35,7 +35,7 @@ TEST(EntryTables, OrderIsFixed) {
 #include "gl/data/places.def"
 }
 
-// Core functions are linked, so that they are not found by name. Every look-up clears a pending error.
+// Core EGL functions are linked and not found by name. Every lookup clears a pending error.
 TEST(GetProcAddress, NamesGiveTheEntriesBehindThemAndOtherNamesNull) {
     const std::string home = getenv("HOME");
     const auto find = [](const char *name) {

@@ -1,4 +1,4 @@
-// The operations list as every implementation has to keep it: data/promises.def, built once for each of them.
+// The promises of the operations list, data/promises.def, built once for each implementation.
 #include "host/operations_host.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +32,7 @@ Context context(const List &list, ContextContainer *share = nullptr) {
     return Context(operations.createContext(format(list).get(), share));
 }
 
-// One output at a time.
+// Queries one output at a time.
 template <typename Object>
 Size sizeOf(void (*ask)(Object, int32_t *, int32_t *), std::type_identity_t<Object> object) {
     Size size = untouched;
@@ -46,7 +46,7 @@ struct Bench {
     Context first = context(core), second = context(legacy);
     View view = host.makeView(64, 48, title);
     Buffer buffer{operations.createPixelBuffer(0x1908, 0xDE1, 2, 16, 8, nullptr)};
-    const ContextContainer *const firstContext = first.get(); // also once it was released
+    const ContextContainer *const firstContext = first.get(); // also after it was released
     SavedBinding *saved = nullptr;
 
     void bind(const Context &context) const {
@@ -62,7 +62,7 @@ const std::map<std::string, void (*)(Bench &)> steps = {
 #include "host/data/steps.def"
 };
 
-// The steps are words between commas.
+// The steps are separated by commas.
 void keep(OperationsHost &host, const std::string &row, unsigned on, const char *words) {
     if (!(on & host.implementation())) return;
     SCOPED_TRACE(row);

@@ -10,7 +10,7 @@ namespace {
 
 double seen[18];
 
-// More of each sort than registers hold, in turns.
+// More arguments of each class than there are registers, alternating.
 double manyArguments(int a, float b, int64_t c, double d, unsigned e, float f, int g, float h, int i, float j, int k,
                      float l, int m, float n, int o, float p, float q, float r) {
     const double given[] = {double(a), b, double(c), d, double(e), f, double(g), h, double(i), j,

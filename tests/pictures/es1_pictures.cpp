@@ -1,4 +1,4 @@
-// Draws fixed-function scenes and writes the pixels of each into a file. Usage: es1_pictures DIRECTORY
+// Draws fixed-function scenes and writes the pixels of each to a file. Usage: es1_pictures DIRECTORY
 #include "pictures/scenes.h"
 
 #include <EGL/egl.h>
@@ -57,7 +57,7 @@ void loadFunctions() {
 #undef FUNCTION
 }
 
-// A surface may stand on its head, where edges fall on other pixels.
+// A surface may be upside down, where edges cover other pixels.
 void drawToImage() {
     GLuint framebuffer = 0, images[2] = {};
     gl.genFramebuffers(1, &framebuffer);

@@ -1,4 +1,4 @@
-// What happens to fragments.
+// Per-fragment operations.
 #include "pictures/scenes.h"
 #include "pictures/shapes.h"
 

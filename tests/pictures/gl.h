@@ -1,4 +1,4 @@
-// The functions of ES 1.1 that the scenes call, as eglGetProcAddress hands them out.
+// The functions of ES 1.1 that the scenes call, from eglGetProcAddress.
 #pragma once
 
 #define GL_GLEXT_PROTOTYPES

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Lights and materials add up to less than 1, where Mesa's ES would forget to cut the colours of vertices.
+// Lights and materials add up to less than 1, since Mesa's ES does not clamp vertex colours.
 using Color = std::array<GLfloat, 4>;
 
 void light(GLenum name, const Color &position, const Color &diffuse, const Color &specular = {0, 0, 0, 1}) {
@@ -21,7 +21,7 @@ void material(GLenum property, const Color &color) {
     gl.materialfv(GL_FRONT_AND_BACK, property, color.data());
 }
 
-// A floor of many vertices, so that lights that are near show.
+// A floor of many vertices, so that near lights are visible.
 void drawFloor() {
     gl.normal3f(0, 0, 1);
     for (int index = 0; index < 256; ++index) {

@@ -7,7 +7,7 @@
 
 namespace {
 
-// On a diagonal, at centres of pixels.
+// On a diagonal, at pixel centres.
 constexpr std::array<GLfloat, 10> places = {16.5f, 16.5f, 40.5f, 40.5f, 64.5f, 64.5f, 88.5f, 88.5f, 112.5f, 112.5f};
 
 void countInPixels() {

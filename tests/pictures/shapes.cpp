@@ -15,7 +15,7 @@ void drawRectangle(Corner from, Corner to, GLfloat z) {
         gl.enableClientState(GL_TEXTURE_COORD_ARRAY);
     }
     gl.drawArrays(GL_TRIANGLE_STRIP, 0, 4);
-    // The arrays end here, and other shapes have more corners.
+    // Disabled, since the arrays end here and other shapes have more vertices.
     for (const GLenum unit : {GL_TEXTURE1, GL_TEXTURE0}) {
         gl.clientActiveTexture(unit);
         gl.disableClientState(GL_TEXTURE_COORD_ARRAY);

@@ -9,12 +9,12 @@ struct Corner {
 
 // With texture coordinates from 0 to 1.
 void drawRectangle(Corner from, Corner to, GLfloat z = 0);
-// One of columns x rows equal parts of the picture, with a margin, counted from the lower left.
+// Draws one of columns x rows equal parts of the picture, with a margin, counted from the lower left.
 void drawCell(int index, int columns, int rows);
-// Of radius 1, with normals and texture coordinates.
+// The radius is 1. Has normals and texture coordinates.
 void drawSphere();
 // A corridor that leads away from the eye, under a perspective projection that it sets.
 void drawCorridor();
 
-// An orthogonal view of a cube from -1 to 1, seen from a slant.
+// An orthogonal view of a cube from -1 to 1, from an oblique angle.
 void lookAslant();

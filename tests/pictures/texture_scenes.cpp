@@ -27,7 +27,7 @@ void scenes::texEnvironments() {
         bindPattern(format);
         for (const GLenum mode : {GL_MODULATE, GL_REPLACE, GL_DECAL, GL_BLEND, GL_ADD}) {
             gl.texEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, static_cast<GLint>(mode));
-            // ES leaves it open what a decal is of these.
+            // ES does not define GL_DECAL for these formats.
             const bool isOpen = mode == GL_DECAL && format != GL_RGB && format != GL_RGBA;
             if (!isOpen) drawCell(cell, 5, 5);
             ++cell;
@@ -66,7 +66,7 @@ void scenes::multitexture() {
         gl.texEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, static_cast<GLint>(modes[cell]));
         drawCell(cell, 2, 2);
     }
-    // Without an array the coordinates are the current ones.
+    // Without an array the current texture coordinates are used.
     gl.multiTexCoord4f(GL_TEXTURE1, 0.3f, 0.6f, 0, 1);
     const GLfloat corners[] = {-0.4f, -0.4f, 0.4f, -0.4f, -0.4f, 0.4f, 0.4f, 0.4f};
     gl.texCoordPointer(2, GL_FLOAT, 0, corners);
@@ -107,7 +107,7 @@ void scenes::palettedTextures() {
 void scenes::etc1Texture() {
     gl.enable(GL_TEXTURE_2D);
     std::vector<GLubyte> blocks;
-    // Bases in the middle, so that every difference stays in bounds.
+    // Medium base colours, so that every modified colour is in range.
     for (int byte = 0; byte < 8 * 16; ++byte)
         blocks.push_back(static_cast<GLubyte>(byte % 8 < 3 ? 64 + byte * 53 % 128 : byte * 97 + 31));
     bindNewTexture();

@@ -3,7 +3,7 @@
 
 #include "pictures/gl.h"
 
-// Filtered to the nearest texel.
+// Uses nearest filtering.
 inline GLuint bindNewTexture(GLenum target = GL_TEXTURE_2D) {
     GLuint name = 0;
     gl.genTextures(1, &name);
@@ -13,7 +13,7 @@ inline GLuint bindNewTexture(GLenum target = GL_TEXTURE_2D) {
     return name;
 }
 
-// 16 x 16 texels of many colours and alphas, of a format of bytes.
+// 16 x 16 texels of many colours and alphas, in a format of bytes.
 inline void loadPattern(GLenum format) {
     GLubyte texels[16 * 16 * 4];
     for (int index = 0; index < 16 * 16 * 4; ++index)

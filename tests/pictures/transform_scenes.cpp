@@ -1,4 +1,4 @@
-// Matrices, clip planes and arrays of numbers that are no floats.
+// Matrices, clip planes and arrays of integers and fixed-point numbers.
 #include "pictures/scenes.h"
 #include "pictures/shapes.h"
 

@@ -22,7 +22,7 @@ TEST(Base64, LinesPadsAndForeignCharacters) {
 #include "preferences/data/base64.def"
 }
 
-// The sum of capacity and count is one of 32 bits: a wrapped one must not be written behind.
+// The sum of capacity and count has 32 bits: if it wraps, nothing may be written past the buffer.
 TEST(ByteBuffers, RefusesSingleCharactersAndSumsThatWrap) {
     CVectorByteWrapper buffer;
     EXPECT_EQ(buffer.sputn("aa", 2), 2);

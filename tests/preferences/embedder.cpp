@@ -1,4 +1,4 @@
-// Stands for a tool that embeds the library: loose contexts, no current profile.
+// A tool that embeds the library: loose contexts, no current profile.
 #include <cstdint>
 
 extern "C" __attribute__((visibility("default"))) uint32_t ZelvaneConfiguration;

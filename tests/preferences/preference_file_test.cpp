@@ -41,13 +41,13 @@ TEST_F(PreferenceFileTest, ReadingMakesDirectoriesAndTemplateOrNamesTheStepThatF
     std::ofstream(home / ".kzrconfig") << "in the way";
     expectFailure("Failed to create preference directory structure", ENOTDIR);
     fs::remove(home / ".kzrconfig");
-    // A file that may be written but not read was taken for a missing one, and the template took its place.
+    // A file that was writable but not readable was treated as missing, and the template replaced it.
     write("old");
     fs::permissions(file, fs::perms::owner_write);
     if (!std::ifstream(file)) expectFailure("Failed to open preference file", EACCES);
     fs::permissions(file, fs::perms::owner_all);
     EXPECT_EQ(text(), "old");
-    // A pipe was waited for as long as nobody wrote into it.
+    // Opening a pipe blocked until a process wrote to it.
     fs::remove(file);
     ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
     expectFailure("Failed to open preference file", ENOTSUP);

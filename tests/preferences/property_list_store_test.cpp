@@ -26,7 +26,7 @@ protected:
         write(fileText(ZELVANE_SOURCE_DIR "/tests/preferences/data/"s + name));
         ASSERT_TRUE(store.load(error, false)) << error;
     }
-    // Result and value of a getter whose output holds this value at the call.
+    // The result of a getter and its output, which has this value before the call.
     template <typename T, typename... Fallback>
     pair<PreferenceResult, T> read(const std::string &key,
                                    PreferenceResult (Store::*get)(const std::string &, T *, Fallback...), T value,
@@ -79,7 +79,7 @@ TEST_F(PropertyList, SaveWritesOnlyWhatIsDirty) {
     EXPECT_TRUE(store.save(false));
     EXPECT_NE(text(), "changed");
     write("changed");
-    // A disk that filled up during the write took the good file away.
+    // If the disk was full during the write, the old file was removed.
     fs::create_symlink("/dev/full", temporary);
     EXPECT_FALSE(store.save(true));
     fs::create_directory(temporary);
@@ -105,7 +105,7 @@ TEST_F(PropertyList, WatchFollowsTheFile) {
     EXPECT_EQ(error, "before ERROR: Failed to retrieve $(HOME) variable.");
 }
 
-// A copy was left with the document that the original deleted when it loaded again.
+// A copy kept the document that the original deleted when it loaded again.
 TEST_F(PropertyList, CopyKeepsItsDocumentWhenTheOriginalLoads) {
     loadPairs("<key>a</key><integer>1</integer>");
     const Store copy(store);
@@ -142,7 +142,7 @@ TEST_F(PropertyList, GettersGoByPathAndElement) {
 
 TEST_F(PropertyList, ChangesReachTheFile) {
     loadFile("changes_before.plist");
-    // A grouping locale of the application must not.
+    // The application's locale must not affect numbers.
     struct Grouping : std::numpunct<char> {
         std::string do_grouping() const override { return "\3"; }
     };
@@ -155,7 +155,7 @@ TEST_F(PropertyList, ChangesReachTheFile) {
 }
 
 TEST_F(PropertyList, DataRoundTrip) {
-    // Decoding works in blocks of 49152 bytes; from the fourth one on a tail of zero bytes is part of the value.
+    // Data is decoded in blocks of 49152 bytes; from the fourth one on, zero bytes are appended to the value.
     for (const auto &[size, readSize] : {pair(55u, 55u), {147456u, 147456u}, {147466u, 4 * 49152 + 10u}}) {
         loadPairs("");
         std::vector<uint8_t> bytes(size);

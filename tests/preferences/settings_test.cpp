@@ -41,7 +41,7 @@ TEST_F(SettingsTest, VariableSeedsTheDirectoryOnce) {
     }
 }
 
-// The word is looked up once in a process, and this case has one of its own.
+// The symbol is looked up once per process, so this case has a process of its own.
 TEST_F(SettingsTest, WordOfTheProcess) {
     ASSERT_TRUE(dlopen(ZELVANE_EMBEDDER, RTLD_NOW | RTLD_GLOBAL));
     writePairs("<key>Zelvane 6.31</key><dict>" + directoryPair + otherPairs + "</dict>");

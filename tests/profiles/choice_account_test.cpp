@@ -1,4 +1,4 @@
-// The reasons of a choice against a table worked by hand.
+// The reasons of a choice, compared with a table that was derived by hand.
 #include "profiles/choice_account.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ constexpr ConfigKind device = ConfigKind::ofDevice, desktop = ConfigKind::ofDesk
 constexpr int32_t colours = egl::colourBits, open = -1;
 
 using Fallen = std::vector<std::tuple<int32_t, int32_t, int32_t, int32_t>>; // id, attribute, wanted, had
-// Of each neighbour in the order: the key, or the key and "open" where it settles nothing.
+// For each neighbour in the order: the key, or the key and "open" if it does not decide.
 using Keys = std::vector<std::vector<int32_t>>;
 
 struct Row {

@@ -1,4 +1,4 @@
-// Attribute lists without their end.
+// Attribute lists without EGL_NONE.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ inline List ended(List list) {
     return list;
 }
 
-// Over the defaults, without a config id or a depth, which lists may ask for all the same.
+// Replaces defaults. Has no config id and no depth, which lists may still request.
 inline egl::Config configOf(const List &attributes) {
     return {nullptr, ended(attributes).data()};
 }

@@ -10,7 +10,7 @@ namespace {
 
 using egl::Config;
 
-// How the order answers for two configs, in either direction.
+// The result of the order for two configs, in both directions.
 using Order = std::pair<bool, bool>;
 constexpr Order first{true, false}, neither{false, false}, both{true, true};
 

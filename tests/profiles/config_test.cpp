@@ -48,7 +48,7 @@ TEST(ValidateAttributeList, AcceptsExactlyTheKnownValues) {
         }
 }
 
-// The handles that are stored for this size, then what stayed untouched of the four places.
+// The handles that are written for this size, then the unchanged ones of the four places.
 std::vector<intptr_t> stored(const ConfigList &list, int32_t size, const int32_t *choice = nullptr) {
     std::vector<intptr_t> handles(4);
     const auto out = reinterpret_cast<void **>(handles.data());

@@ -9,7 +9,7 @@
 
 namespace {
 
-// What the devices are, scripts/check-profiles knows.
+// scripts/check-profiles checks the contents.
 const char *const files[] = {
 #define EMBEDDED_PROFILE(file) ZELVANE_SOURCE_DIR "/src/profiles/data/" #file ".xml",
 #include "profiles/data/embedded_profiles.def"

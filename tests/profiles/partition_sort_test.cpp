@@ -11,7 +11,7 @@
 
 namespace {
 
-// Digits, capitals and small letters are three groups: only records of one group are before or after one another.
+// Digits, capitals and small letters are three groups: only records of the same group are ordered.
 bool groupedBefore(char a, char b) {
     return a / 32 == b / 32 && a < b;
 }
@@ -26,7 +26,7 @@ TEST(PartitionSort, OrderThatIsNotTransitiveLeavesWhatTheStepsLeave) {
 #include "profiles/data/partition_sorts.def"
 }
 
-// Applications see the order that the steps leave, so that a hash of many results has to stay as it is.
+// Applications see the resulting order, so the hash of many results must not change.
 TEST(PartitionSort, NoStepChanges) {
     std::mt19937 random(11);
     uint32_t hash = 0;
@@ -46,7 +46,7 @@ TEST(PartitionSort, NoStepChanges) {
     EXPECT_EQ(hash, 1091826043u);
 }
 
-// The arrays have exactly the size of the range, so that the sanitizer sees a step that leaves it.
+// The arrays have exactly the size of the range, so that the sanitizer reports a step outside it.
 TEST(PartitionSort, OrderWithoutAnyRulesStaysInsideAndKeepsEveryRecord) {
     std::mt19937 random(5);
     const std::function<bool(uint32_t, uint32_t)> orders[] = {

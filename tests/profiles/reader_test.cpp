@@ -53,7 +53,7 @@ TEST(ProfileReader, TakesConfigsAndVersionsFromWhatIsAProfile) {
         EXPECT_EQ(found, ids);
         EXPECT_EQ(isEsVersionAllowed(profile, 1, 1), !storesName || versions.contains(es1_1)) << "no default profile";
     }
-    std::string nested; // beyond what the parser takes
+    std::string nested; // deeper than the parser accepts
     for (int i = 0; i < 100000; ++i)
         nested += "<profile>";
     DeviceProfile profile;
@@ -81,7 +81,7 @@ TEST_F(ProfileFiles, AFileIsFoundByItsWholeNameUnlessOneIsEmbedded) {
     write("a device.xml", device);
     write("TI PandaBoard", device);
     write("cut", "<profile><egl>");
-    mkfifo((directory / "pipe").c_str(), 0600); // opening it would wait for ever
+    mkfifo((directory / "pipe").c_str(), 0600); // opening it would block
     EXPECT_FALSE(load("missing"));
     EXPECT_EQ(text, "as before");
     for (const char *name : {"", "a device", "cut", ".", "pipe", "ti pandaboard"}) {

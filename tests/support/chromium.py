@@ -10,7 +10,7 @@ import subprocess
 import tempfile
 import time
 
-PATIENCE = 60  # seconds, for whatever has to come
+PATIENCE = 60  # seconds, for every expected event
 
 
 class Missing(Exception):
@@ -23,13 +23,14 @@ class Chromium:
         if not program:
             raise Missing
         self.profile = tempfile.mkdtemp()
-        # It reads from descriptor 3 and writes to 4; the shell puts the ends there, which have higher numbers here.
+        # The browser reads from descriptor 3 and writes to 4; the shell moves the ends there, since they have higher
+        # numbers here.
         low = [*os.pipe(), *os.pipe()]
         ends = [fcntl.fcntl(end, fcntl.F_DUPFD_CLOEXEC, 10) for end in low]
         for end in low:
             os.close(end)
         commands, self.sending, self.receiving, answers = ends
-        # As root, and in many containers, its sandbox cannot be set up.
+        # Its sandbox does not work as root and in many containers.
         arguments = [program, '--headless=new', '--no-sandbox', '--disable-gpu', '--disable-dev-shm-usage',
                      '--no-first-run', '--disable-background-networking', '--disable-component-update',
                      '--disable-extensions', '--force-color-profile=srgb', '--hide-scrollbars',
@@ -44,7 +45,7 @@ class Chromium:
         self.number = 0
         self.rest = b''
         self.session = None
-        self.noted = []  # what pages wrote to their consoles, errors and refused contents with it
+        self.noted = []  # messages of the pages' consoles, including errors and blocked contents
         target = self.call('Target.createTarget', url='about:blank')['targetId']
         self.session = self.call('Target.attachToTarget', targetId=target, flatten=True)['sessionId']
         for domain in ('Page', 'Runtime', 'Log'):

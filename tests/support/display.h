@@ -1,4 +1,4 @@
-// For cases that need an X server in binaries that do without.
+// For cases that require an X server in binaries that run without one.
 #pragma once
 
 #include <gtest/gtest.h>

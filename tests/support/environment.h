@@ -1,4 +1,4 @@
-// Sets an environment variable, or takes it away, until the end of the scope.
+// Sets or removes an environment variable until the end of the scope.
 #pragma once
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// A whole file, byte by byte; a missing one is empty.
+// The contents of a file, unchanged; empty for a missing one.
 #pragma once
 
 #include <filesystem>

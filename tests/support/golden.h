@@ -5,7 +5,7 @@
 #include <sstream>
 #include <string>
 
-// The text of a file below the tests.
+// The text of a file in the tests' directory.
 inline std::string golden(const std::string &path) {
     std::ostringstream text;
     text << std::ifstream(TESTS_DIRECTORY "/" + path).rdbuf();

@@ -1,4 +1,4 @@
-// Linked by binaries whose cases draw on an X server: without one they are skipped, and ctest says so.
+// Linked by binaries whose cases draw on an X server: without one they are skipped, which ctest reports.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -8,7 +8,7 @@ namespace {
 class NeedsDisplay : public testing::Environment {
     void SetUp() override {
         const char *display = getenv("DISPLAY");
-        // The mark is what ctest looks for; a skip in the environment prints none of its own.
+        // ctest looks for this mark; a skip in the environment does not print it.
         if (!display || !*display) GTEST_SKIP() << "[  SKIPPED ] there is no X server: DISPLAY is not set";
     }
 };

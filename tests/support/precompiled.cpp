@@ -1,2 +1,2 @@
-// Nothing but a program to precompile headers for.
+// A program to precompile headers for.
 int main() {}

@@ -1,5 +1,5 @@
-// In the place of the library's own path: a socket in the temporary directory of the case, so that neither cases nor
-// suites meet at the one socket of the machine.
+// Replaces the library's path: a socket in the temporary directory of the case, so that neither cases nor suites share
+// the machine's socket.
 #include <cstdlib>
 
 #include "ui/socket.h"

@@ -1,4 +1,4 @@
-// Every case runs in a process with a HOME and a TMPDIR of its own, which go away at the end.
+// Every case runs in a process with its own HOME and TMPDIR, which are removed at the end.
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-// The drivers' own losses and those that the rules require are listed, with reasons, in the suppression files.
+// The suppression files list leaks of the drivers and known losses, with reasons.
 #define FOR_THE_SANITIZER extern "C" __attribute__((visibility("default"), used)) const char *
 FOR_THE_SANITIZER __lsan_default_options() {
     return ZELVANE_LEAK_OPTIONS;
@@ -17,7 +17,7 @@ FOR_THE_SANITIZER __tsan_default_options() {
     return ZELVANE_THREAD_OPTIONS;
 }
 
-// Drivers that were unloaded before the leak check could not be told by their names any more.
+// The leak check cannot name drivers that were unloaded before it runs.
 static void keepLibrariesLoaded() {
     const auto keep = [](dl_phdr_info *info, size_t, void *) {
         if (info->dlpi_name[0] == '/') (void)dlopen(info->dlpi_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
@@ -37,7 +37,7 @@ int main(int argc, char **argv) {
     unsetenv("ZELVANE_PROFILE_PATH");
     unsetenv("KZRTRACE_LIB_PATH");
     unsetenv("XDG_RUNTIME_DIR");
-    setenv("LSAN_OPTIONS", ZELVANE_LEAK_OPTIONS, 1); // for the commands that cases run
+    setenv("LSAN_OPTIONS", ZELVANE_LEAK_OPTIONS, 1); // for commands that cases run
 
     const int result = RUN_ALL_TESTS();
     keepLibrariesLoaded();

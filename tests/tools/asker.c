@@ -1,9 +1,9 @@
-/* Makes the EGL calls that its words name, and goes on whatever they answer:
-     choose[=ATTRIBUTE:VALUE]  eglChooseConfig for ES 2, the first config counts from then on
-     context=MAJOR.MINOR       eglCreateContext, and eglMakeCurrent without surfaces if that gives one
+/* Makes the EGL calls that its arguments name, and continues after failures:
+     choose[=ATTRIBUTE:VALUE]  eglChooseConfig for ES 2; the first config is used from then on
+     context=MAJOR.MINOR       eglCreateContext, and eglMakeCurrent without surfaces on success
      window=NUMBER             eglCreateWindowSurface of a window of that number
      api                       eglBindAPI for desktop OpenGL
-     die                       ends by a signal */
+     die                       raises a fatal signal */
 #include <EGL/egl.h>
 
 #include <signal.h>

@@ -10,7 +10,7 @@ using testing::HasSubstr;
 
 namespace {
 
-// The words of the command are the shell's, so that a row can have quotes.
+// A shell parses the words of the command, so that a row can contain quotes.
 struct Row {
     const char *what;
     const char *words;

@@ -1,4 +1,4 @@
-// The journal of programs, as zelvane run has it written.
+// The journals of programs that zelvane run starts.
 #include <gmock/gmock.h>
 
 #include <set>
@@ -23,7 +23,7 @@ std::vector<Json> linesOf(const std::filesystem::path &path) {
     return lines;
 }
 
-// The lines of an event, or the one line of it.
+// The lines of an event, or its only line.
 std::vector<Json> linesOf(const std::vector<Json> &lines, const std::string &event) {
     std::vector<Json> found;
     for (const Json &line : lines)
@@ -48,7 +48,7 @@ TEST(Journal, TellsWhatAProgramUsesThatItsDeviceLacks) {
     counts[{what, name, call}] = count;
 #include "tools/data/lacking.def"
     const std::string alone = run("run --profile 'TI PandaBoard' " USES_LACKING).output;
-    // With a word the program dies: what was found is there all the same.
+    // With an argument the program is killed; its findings are still in the journal.
     for (const std::string word : {"", " die"}) {
         const auto file = homeDirectory() / ("journal" + word.substr(0, 1));
         const auto result = run("run --profile 'TI PandaBoard' --journal '" + file.string() + "' " USES_LACKING + word);

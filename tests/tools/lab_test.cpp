@@ -1,4 +1,4 @@
-// The lab: its parts, and a whole one on two devices.
+// The lab: its parts, and a complete run on two devices.
 #include <gmock/gmock.h>
 
 #include <nlohmann/json.hpp>

@@ -1,5 +1,5 @@
-/* Uses one thing of each kind that a device of OpenGL ES 2 lacks, asks for the error of a wrong call, shows a frame, and
-   ends by a signal if it is given a word. */
+/* Uses one feature of each kind that a device of OpenGL ES 2 lacks, queries the error of an invalid call, shows a
+   frame, and raises a fatal signal if it has an argument. */
 #include <EGL/egl.h>
 #include <GLES3/gl32.h>
 #include <GLES2/gl2ext.h>

@@ -1,4 +1,4 @@
-/* A libEGL of somebody else, with one function more. */
+/* Another libEGL, which has one function more. */
 int eglGetError(void) {
     return 0;
 }

@@ -23,11 +23,11 @@ bool hasSocketFile() {
     return access(KZRIPC::socketPath(productName).c_str(), F_OK) == 0;
 }
 
-// An application as the monitor sees it, with any process number.
+// An application for the monitor, with any process number.
 class Application {
 public:
     explicit Application(int32_t number) {
-        // The monitor makes the socket file some time after its start.
+        // The monitor creates the socket file some time after its start.
         for (int attempt = 0; m_client.failed() && attempt < 6000; ++attempt) {
             usleep(10000);
             m_client.close();
@@ -41,7 +41,7 @@ public:
 
     void send(const Message &message) { sendBytes(&message, sizeof message); }
     void sendBytes(const void *bytes, size_t count) { EXPECT_EQ(m_client.send(bytes, count), int(count)); }
-    // Types of the commands that have come, once there are so many.
+    // The types of the received commands, after there are at least that many.
     std::vector<uint32_t> commands(size_t count) {
         std::vector<uint32_t> types;
         for (Message message; types.size() < count && m_client.receive(&message, sizeof message) > 0;)
@@ -53,13 +53,13 @@ private:
     KZRIPC::Client m_client{productName};
 };
 
-// With a word in the place of every time that looks as it should.
+// Replaces every valid time by a word.
 std::string timeless(const std::string &text) {
     static const std::regex time(R"((^|\d{4}-\d\d-\d\dT)\d\d:\d\d:\d\d\.\d{3}(Z| ))", std::regex::multiline);
     return std::regex_replace(text, time, "TIME$2");
 }
 
-// No process has so high a number, so that the command name is empty.
+// No process has such a high number, so the command name is empty.
 constexpr int32_t nobody = 2000000001;
 
 } // namespace
@@ -119,7 +119,7 @@ TEST(Monitor, ShowsWhatIsAskedForAlone) {
     for (const auto &[options, types] : rows) {
         RunningMonitor monitor("--json " + options + " --once --process " + std::to_string(getpid()));
         {
-            // Not followed, so that its end is not the end.
+            // Not followed, so its end does not end the monitor.
             Application other(nobody);
             other.send(logError("of another"));
         }
@@ -139,14 +139,14 @@ TEST(Monitor, ShowsWhatIsAskedForAlone) {
 TEST(Monitor, TakesItsPlaceFromNobody) {
     const std::string path = KZRIPC::socketPath(productName);
     std::ofstream(path) << "a file";
-    EXPECT_THAT(run("monitor").output, testing::HasSubstr("it is no socket, and is left alone"));
+    EXPECT_THAT(run("monitor").output, testing::HasSubstr("exists and is not a socket"));
     EXPECT_TRUE(std::filesystem::remove(path));
-    (void)KZRIPC::ServerSocket(productName, 1); // one that died
+    (void)KZRIPC::ServerSocket(productName, 1); // a dead listener's socket
     const RunningMonitor monitor("--json");
     const Application application(nobody);
     const CommandResult second = run("monitor");
     EXPECT_EQ(second.status, 1);
-    EXPECT_TRUE(std::regex_search(second.output, std::regex(R"(process \d+ \(zelvane\) listens .* since \d{4}-)")))
+    EXPECT_TRUE(std::regex_search(second.output, std::regex(R"(process \d+ \(zelvane\) already listens .* since \d{4}-)")))
         << second.output;
     EXPECT_TRUE(hasSocketFile());
 }
@@ -176,7 +176,7 @@ TEST(Monitor, TakesApplicationsOfItsUserAndAsRootOfAll) {
     ofNobody.lineWith("sent away: process " + std::to_string(getpid()) + " (monitor_tests) of user 0");
 }
 
-// It span, and took no signal.
+// The monitor used the processor continuously and did not handle signals.
 TEST(Monitor, OutOfDescriptorsItWaits) {
     RunningMonitor monitor("", RunningMonitor::Nothing, "prlimit --nofile=10");
     monitor.lineWith("listening");
@@ -232,7 +232,7 @@ TEST(Monitor, EndsWithTheReaderOfItsOutputAndLeavesTheFileOfALaterListener) {
 #ifdef TORUS
 TEST(Monitor, RunShowsTheProgramUntilItsEnd) {
     SKIP_WITHOUT_DISPLAY();
-    // The program's own losses are not what is looked at here; drivers have theirs.
+    // Leaks of the program itself and of drivers are not checked here.
     const CommandResult result = run("run --monitor -- env ASAN_OPTIONS=detect_leaks=0 " TORUS " --frames 2");
     EXPECT_EQ(result.status, 0);
     for (const char *part : {"listening", "connected", "title: Zelvane: torus", "  gone\n", "frames:       2"})

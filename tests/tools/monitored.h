@@ -1,5 +1,5 @@
-// A running "zelvane monitor" whose output is read here, and which gets typed commands if it has a terminal. Waits are
-// as long as the monitor runs.
+// A running "zelvane monitor" whose output is read here, and which gets typed commands if it has a terminal. Functions
+// wait as long as the monitor runs.
 #pragma once
 
 #include <cstdio>
@@ -10,7 +10,7 @@ class RunningMonitor {
 public:
     enum Input { Nothing, Terminal };
 
-    // launcher: a command that starts it, such as prlimit with its options.
+    // launcher: a command that starts the monitor, such as prlimit with its options.
     explicit RunningMonitor(const std::string &options, Input input = Nothing, const std::string &launcher = {});
     RunningMonitor(const RunningMonitor &) = delete;
     RunningMonitor &operator=(const RunningMonitor &) = delete;
@@ -18,13 +18,13 @@ public:
 
     // The next line that contains the text.
     std::string lineWith(const std::string &text);
-    // What it writes up to its end.
+    // The rest of its output.
     std::string rest();
     void type(const std::string &command);
     void signal(int number);
-    // So far, of the processor; in clock ticks.
+    // The processor time used so far, in clock ticks.
     [[nodiscard]] long ticksUsed() const;
-    // Stops reading and waits for the end; the exit code, or minus the signal.
+    // Stops reading and waits for the end. Returns the exit code, or minus the signal.
     int exitCode();
 
 private:

@@ -17,9 +17,9 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '../
 from chromium import Chromium, Missing  # noqa: E402
 from page_world import ERROR, INFO, TITLE, WARNING, Application, World, memory_of, record, until  # noqa: E402
 
-NOBODY = 2000000001  # no process has so high a number
+NOBODY = 2000000001  # no process has such a high number
 HOSTILE = '<img src=x onerror="window.isHit=1"><script>window.isHit=1</script>'
-# It gives contexts that lack much of what OpenGL ES 3 needs.
+# Contexts lack much of what OpenGL ES 3 requires.
 LESSER_HOST = {'MESA_GL_VERSION_OVERRIDE': '3.2', 'MESA_EXTENSION_OVERRIDE': '-GL_ARB_ES3_compatibility -GL_ARB_sync '
                '-GL_ARB_sampler_objects -GL_ARB_texture_swizzle -GL_ARB_transform_feedback2'}
 IS_SANITIZED = 'ZELVANE_SANITIZED' in os.environ
@@ -71,7 +71,7 @@ def a_busy_port_is_told(world, monitor):
 
 
 def open_starts_a_browser(world):
-    """Other users see the words of a process: the token must not be among them."""
+    """Other users see the arguments of a process: the token must not be among them."""
     told = os.path.join(world.directory, 'told')
     opener = os.path.join(world.directory, 'xdg-open')
     with open(opener, 'w') as file:
@@ -98,7 +98,7 @@ class Page:
         return self.wait_for(f'(card => card && ({condition}))({self.card(pid)})')
 
     def pid_of_next(self, name):
-        """Of the application of that name that connects now."""
+        """The process number of the next application of that name."""
         pid = self.wait_for('''[...document.querySelectorAll(".card")]
             .filter(card => card.querySelector("h3").textContent == %s)
             .map(card => Number(card.querySelector(".pid").textContent))
@@ -107,7 +107,7 @@ class Page:
         return pid
 
     def shown(self):
-        """The texts of the log lines that are in sight."""
+        """The texts of the visible log lines."""
         return self.evaluate('Array.from(document.querySelectorAll(".line:not([hidden]) .text"), text => text.innerText)')
 
     def wait_for_lines(self, *texts):
@@ -185,7 +185,7 @@ def the_filter_filters(page, application):
     assert page.shown() == ['Three']
     page.click('#pause')
     page.wait_for_lines('Three', 'three again')
-    # The keyboard alone.
+    # With the keyboard only.
     page.evaluate('document.querySelector("#log-lines").focus()')
     for _ in range(2):
         page.browser.press('ArrowUp', 38)
@@ -270,7 +270,7 @@ def first_event(monitor, last_id=None):
 
 
 def a_lost_stream_goes_on_where_it_was(world, monitor):
-    """A browser that connects again tells the last event that it had."""
+    """A browser that reconnects sends the id of the last event."""
     known, whole = first_event(monitor)
     application = Application(world.directory, NOBODY + 1)
     application.say(WARNING, 'meanwhile')
@@ -328,7 +328,7 @@ def main():
         a_lost_stream_goes_on_where_it_was(world, monitor)
         a_flood_leaves_it_usable(world, monitor, page)
         its_end_and_return_are_told(world, monitor, page)
-        # The end of the monitor, and the new one that lets nobody in who has the old address, are told above.
+        # Excludes the expected errors of the ended monitor and of the new one that rejects the old address.
         unexpected = [note for note in map(json.dumps, browser.noted) if 'net::ERR' not in note and '403' not in note]
         assert not unexpected, unexpected
     return 0

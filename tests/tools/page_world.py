@@ -19,7 +19,7 @@ def record(kind, payload, frame=NO_FRAME):
 
 
 class Application:
-    """One that says whatever the test wants."""
+    """A scripted application."""
 
     def __init__(self, directory, pid):
         self.socket = socket.socket(socket.AF_UNIX)
@@ -53,7 +53,7 @@ class World(contextlib.ExitStack):
     def start(self, words, **options):
         process = subprocess.Popen(words, env=options.pop('env', self.environment), **options)
 
-        # "zelvane run" passes the signal on to its program.
+        # "zelvane run" forwards the signal to its program.
         def end():
             process.terminate()
             try:
@@ -74,7 +74,7 @@ class World(contextlib.ExitStack):
             if line.startswith('listening'):
                 break
         monitor.port = int(re.search(r':(\d+)/', monitor.address)[1])
-        # Nobody reads the rest, and a full pipe would hold it.
+        # Reads the rest, since a full pipe would block the monitor.
         self.start(['cat'], stdin=monitor.stdout, stdout=subprocess.DEVNULL)
         return monitor
 
@@ -83,7 +83,7 @@ class World(contextlib.ExitStack):
                           env=dict(self.environment, **environment))
 
     def lit_pixels(self):
-        """How much of the screen has another colour than most of it, where windows are drawn first."""
+        """The number of pixels on the screen that differ from the most frequent colour."""
         with open(os.path.join(self.directory, 'Xvfb_screen0'), 'rb') as file:
             picture = file.read()
         header = struct.unpack('>20I', picture[:80])
@@ -101,6 +101,6 @@ def until(what, condition):
 
 
 def memory_of(process):
-    """The most that it ever had, in megabytes."""
+    """Its peak memory in megabytes."""
     with open(f'/proc/{process.pid}/status') as file:
         return int(re.search(r'VmHWM:\s+(\d+)', file.read())[1]) / 1024

@@ -1,4 +1,4 @@
-/* Ends with 4 where it finds an EGL; with an argument it also calls what it may be linked to and nobody has. */
+/* Exits with 4 if it finds an EGL; with an argument it also calls a linked function that no library has. */
 #include <EGL/egl.h>
 
 #ifdef CALLS_NOBODYS

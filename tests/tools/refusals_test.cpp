@@ -1,4 +1,4 @@
-// What a user reads of refused calls.
+// The lines about failed calls that a user sees.
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -10,11 +10,11 @@ namespace {
 
 struct Row {
     const char *what;
-    const char *words; // of run and of the asker
+    const char *words; // for run and for the asker
     std::vector<std::string> lines;
 };
 
-// Those that begin with "zelvane: ", without that.
+// The lines that begin with "zelvane: ", without that.
 std::vector<std::string> linesOfCommand(const std::string &output) {
     constexpr std::string_view head = "zelvane: ";
     std::vector<std::string> found;
@@ -33,7 +33,7 @@ TEST(Refusals, AreSaidOnceAndOnlyWhereNothingSucceededLater) {
     };
     for (const Row &row : rows)
         EXPECT_EQ(linesOfCommand(run(std::string("run ") + row.words).output), row.lines) << row.what;
-    // The library by itself says nothing of them.
+    // Without zelvane run the library prints nothing about them.
     const std::string alone = shell(ASKER " choose=0x3025:99 context=3.7 window=0").output;
     EXPECT_THAT(alone, testing::Not(testing::HasSubstr("refused")));
 }

@@ -1,4 +1,4 @@
-/* Asks for a context of OpenGL ES 3 that the host does not carry, and goes on living without it. */
+/* Requests a context of OpenGL ES 3 that the host does not support, and continues without it. */
 #include <EGL/egl.h>
 
 #include <stdio.h>

@@ -18,16 +18,18 @@ capability::SystemReport collected(const ScriptedHost &host) {
     return report;
 }
 
+const capability::HostIdentity identity{"A vendor", "", "4.2 of it"};
+
 } // namespace
 
 TEST(Report, TextTellsWhatHoldsBackWhat) {
-    const ScriptedHost host("4.2", "GL_ARB_gpu_shader5 GL_ARB_sample_shading");
-    const auto answers = askAboutVersions(*capability::probeEsGate(host.library, windowSystem));
-    EXPECT_EQ(reportAsText(collected(host), answers, false), golden("tools/data/report.txt"));
+    const ScriptedHost scripted("4.2", "GL_ARB_gpu_shader5 GL_ARB_sample_shading");
+    const auto answers = askAboutVersions(*capability::probeEsGate(scripted.library, windowSystem));
+    EXPECT_EQ(reportAsText(identity, collected(scripted), answers, false), golden("tools/data/report.txt"));
 }
 
 TEST(Report, JsonTellsWhatStrictModeRefuses) {
-    const ScriptedHost host("4.1", "GL_ARB_ES3_compatibility");
-    const auto answers = askAboutVersions(*capability::probeEsGate(host.library, windowSystem));
-    EXPECT_EQ(reportAsJson(collected(host), answers, true), golden("tools/data/report.json"));
+    const ScriptedHost scripted("4.1", "GL_ARB_ES3_compatibility");
+    const auto answers = askAboutVersions(*capability::probeEsGate(scripted.library, windowSystem));
+    EXPECT_EQ(reportAsJson(identity, collected(scripted), answers, true), golden("tools/data/report.json"));
 }

@@ -11,10 +11,10 @@
 
 struct CommandResult {
     int status;
-    std::string output; // of both streams
+    std::string output; // of both output streams
 };
 
-// Runs a line of the shell, to which zelvane is a word.
+// Runs a shell line, with zelvane in PATH.
 inline CommandResult shell(const std::string &line) {
     const std::string script = "zelvane() { " ZELVANE_COMMAND " \"$@\"; }\n{ " + line + "\n} 2>&1";
     FILE *pipe = popen(script.c_str(), "r");
@@ -27,7 +27,7 @@ inline CommandResult shell(const std::string &line) {
     return result;
 }
 
-// arguments as the shell takes them.
+// arguments: as the shell parses them.
 inline CommandResult run(const std::string &arguments) {
     return shell("zelvane " + arguments);
 }

@@ -1,4 +1,4 @@
-// Sessions of a shell: commands behind "$ ", what they say without empty lines, and their exit status if it is not 0.
+// Shell sessions: commands after "$ ", their output without empty lines, and their exit status if it is not 0.
 #include <gtest/gtest.h>
 
 #include <regex>
@@ -33,4 +33,4 @@ TEST_P(Session, GoesAsWritten) {
     EXPECT_EQ(played, session);
 }
 
-INSTANTIATE_TEST_SUITE_P(, Session, testing::Values("use", "run"));
+INSTANTIATE_TEST_SUITE_P(, Session, testing::Values("diff", "doctor", "run", "use"));

@@ -1,5 +1,5 @@
-// The link with a GUI that keeps to the rules, and with those that are not there, do not read, send rubbish or die.
-// Whatever they do, the application goes on.
+// The link with a well-behaved GUI, and with missing ones and ones that do not read, send invalid data or die. The
+// application must continue in all cases.
 #include "ui/link.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ protected:
     UiLink link{noteRenderMode};
 };
 
-// Of this process, in memory.
+// The resident memory of this process.
 size_t residentBytes() {
     size_t all = 0, resident = 0;
     std::ifstream("/proc/self/statm") >> all >> resident;
@@ -49,7 +49,7 @@ TEST_F(Link, OnlyTypesOfTheLibraryAndTheBackEndsAreSent) {
     for (const uint32_t type : {0u, 11u, 12u, 13u, 21u, 32u, 34u, 0x80000002u, ~0u})
         post(link, type);
     for (const uint32_t type : wanted)
-        post(UiLink(link), type); // a copy is the same link
+        post(UiLink(link), type); // a copy uses the same link
     const Message hello = *gui.read();
     EXPECT_EQ(hello.header.type, ZV_PROCESS_HELLO);
     EXPECT_EQ(hello.processHello.processNumber, getpid());
@@ -70,7 +70,7 @@ TEST_F(Link, NothingFollowsTheStop) {
     EXPECT_EQ(renderModes(2), "0 1");
 }
 
-// A handler that cuts the receiver's call short would end the connection.
+// A handler that interrupts the receiver's call would end the connection.
 TEST_F(Link, SignalsOfTheApplicationStayWithItsThreads) {
     EXPECT_EQ(gui.read()->header.type, ZV_PROCESS_HELLO);
     gui.send(guiRenderModeOn());
@@ -131,7 +131,7 @@ TEST_F(Link, AGuiThatDoesNotReadLosesNothingAndCanStillDisconnect) {
         ASSERT_EQ(number, next[producer]++) << "every thread keeps its order";
     }
     gui.send(guiDisconnect());
-    // The sender waits in a call at this time and must not keep the connection open.
+    // The sender is blocked in a call now, which must not keep the connection open.
     while (gui.read()) {
     }
 }
@@ -146,11 +146,11 @@ TEST_F(Link, ShortAndUnknownRecordsDoNoHarm) {
     }
     gui.send(guiRenderModeOff());
     EXPECT_EQ(renderModes(1), "0");
-    // What is short is taken as a record.
+    // A short block counts as a record.
     const Message on = guiRenderModeOn();
     gui.sendBytes(&on, 12);
     EXPECT_EQ(renderModes(2), "0 1");
-    // Less than the type: the type of the record before counts again.
+    // Shorter than the type field: the previous record's type is used again.
     gui.sendBytes(&on, 5);
     EXPECT_EQ(renderModes(3), "0 1 1");
     gui.close();

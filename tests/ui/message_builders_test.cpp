@@ -1,4 +1,4 @@
-// Reads the records at the offsets of the wire, as a GUI that was built elsewhere does.
+// Reads the records at the offsets of the wire format, as a separately built GUI does.
 #include "ui/message_builders.h"
 
 #include <gmock/gmock.h>
@@ -43,7 +43,7 @@ TEST(SocketPath, IsWhereGuisListen) {
     EXPECT_EQ(KZRIPC::socketPath("Zelvane"), "/tmp/Zelvane");
 }
 
-// A build without the cut would show here as what follows the field, or as a read beyond the record.
+// Without truncation, data after the field or a read past the record would show here.
 TEST(MessageBuilders, TextsAreCutOneShortOfTheirField) {
     using Build = Message (*)(const std::string &);
     const std::tuple<Build, size_t, size_t> rows[] = {

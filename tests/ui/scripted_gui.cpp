@@ -14,7 +14,7 @@ using ui::messages::Message;
 
 namespace {
 
-// Long enough for a loaded machine; only a test that fails waits it out.
+// Long enough for a loaded machine; only a failing test waits this long.
 constexpr int patienceMs = 60000;
 
 bool isReadable(int descriptor, int timeoutMs) {
@@ -33,7 +33,7 @@ struct Noted {
     std::condition_variable grown;
     std::vector<int> modes;
 };
-// Never destroyed: the link's threads go on while the process ends.
+// Never destroyed: the link's threads run while the process ends.
 Noted &noted = *new Noted;
 
 } // namespace

@@ -67,12 +67,12 @@ TEST_F(Transport, CloseWakesAThreadThatWaitsInACall) {
         }
     });
     pollfd room{client.descriptor(), POLLOUT, 0};
-    while (poll(&room, 1, 0) == 1) // until nothing more goes in, so that the sender waits
+    while (poll(&room, 1, 0) == 1) // until the socket is full, so that the sender waits
         std::this_thread::yield();
     client.close();
 }
 
-// The first call of an application waited for such a listener, for ever.
+// The first call of an application blocked forever with such a listener.
 TEST_F(Transport, AListenerWithAFullQueueIsNobodys) {
     const ServerSocket server(name, 1);
     int connected = 0;

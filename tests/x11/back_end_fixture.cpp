@@ -10,7 +10,7 @@ namespace {
 GLXContext hostContext = nullptr;
 GLXPbuffer surface = 0;
 
-// Stays open: the driver is unloaded with the last connection, and its losses could not be told by its name any more.
+// Stays open: the driver is unloaded with the last connection, and its leaks could then not be recognised by its name.
 Display *connection() {
     static Display *const display = XOpenDisplay(nullptr);
     return display;
@@ -26,7 +26,7 @@ BackEnd::BackEnd() : m_library(dlopen(ZELVANE_BACK_END, RTLD_LAZY | RTLD_GLOBAL)
     Display *const display = connection();
     if (!display || !m_library) throw std::runtime_error("no X display, or no back end");
 
-    // A host may take any surface for one of sRGB values; the back end has to cope.
+    // A host may treat any surface as sRGB; the back end must handle that.
     constexpr int srgbCapable = 0x20B2;
     const int format[] = {
         GLX_DRAWABLE_TYPE, GLX_PBUFFER_BIT, GLX_RED_SIZE, 8, GLX_DEPTH_SIZE, 24, srgbCapable, True, None};

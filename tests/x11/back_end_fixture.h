@@ -1,5 +1,5 @@
-// A desktop context of version 3.2 core on a pbuffer, made without libEGL, and the back end opened beside it. What
-// libEGL would do, the fixture does: it binds the context and tells which back-end context is current.
+// A desktop context of version 3.2 core on a pbuffer, created without libEGL, and the back end beside it. The fixture
+// does libEGL's part: it binds the context and reports the current back-end context.
 #pragma once
 
 #define GL_GLEXT_PROTOTYPES
@@ -20,13 +20,13 @@ using Pixel = std::array<GLubyte, 4>;
 #include "x11/data/shaders.def"
 #undef SHADER
 
-// What an application gets for the name, and what the library itself has under it.
+// The function that an application gets for the name, and the library's own symbol.
 #define ES(name) (this->es<decltype(name)>(#name))
 #define OWN(name) reinterpret_cast<decltype(&name)>(this->symbol(#name))
 
 class BackEnd : public testing::Test {
 public:
-    // What the back end is told of every thread that binds a context.
+    // The record of the thread that binds contexts.
     static inline zvThread thread = {};
     static inline zvEsContext &current = thread.esContext;
 
@@ -39,11 +39,11 @@ protected:
 
     BackEnd();
     ~BackEnd() override;
-    // Every case takes the errors that it expects.
+    // Every case must clear the errors that it expects.
     void TearDown() override { EXPECT_EQ(current ? error() : GL_NO_ERROR, GL_NO_ERROR); }
 
-    // Makes a back-end context of this version on the bound host context and makes it the current one, in the place of
-    // the one before.
+    // Creates a back-end context of this version on the bound host context and makes it current in place of the
+    // previous one.
     void start(int esMajor, int esMinor, bool isSrgb = false) {
         if (current) OWN(zvDeleteEsContext)(std::exchange(current, nullptr));
         attribs.requestedMajor = esMajor;
@@ -54,7 +54,7 @@ protected:
         current = OWN(zvCreateEsContext)(&attribs, displayAndHandle, nullptr, nullptr);
         ASSERT_NE(current, nullptr);
     }
-    // The same with a cleared surface and with a program in use, whose attribute 0 is "position".
+    // The same with a cleared surface and a current program whose attribute 0 is "position".
     void startWith(int esMajor, int esMinor, const std::string &vertex, const std::string &fragment) {
         start(esMajor, esMinor);
         use(vertex, fragment);
@@ -62,7 +62,7 @@ protected:
         clear();
     }
 
-    // What an application gets for the name. The prototype says the type: es<decltype(glClear)>("glClear").
+    // The function that an application gets for the name, with its type: es<decltype(glClear)>("glClear").
     template <typename Function>
     Function *es(const char *name) {
         return reinterpret_cast<Function *>(OWN(zvGetExtProcAddress)(name));
@@ -99,7 +99,7 @@ protected:
     }
     GLuint program = 0;
 
-    // Draws to an image of this format from now on, in framebuffer 40 and renderbuffer 50.
+    // Draws to an image of this format from then on, in framebuffer 40 and renderbuffer 50.
     void drawToImage(GLenum format) {
         ES(glBindFramebuffer)(GL_FRAMEBUFFER, 40);
         ES(glBindRenderbuffer)(GL_RENDERBUFFER, 50);
@@ -110,7 +110,7 @@ protected:
         ES(glClearColor)(r, g, b, a);
         ES(glClear)(GL_COLOR_BUFFER_BIT);
     }
-    // A new buffer, bound.
+    // A new bound buffer.
     GLuint buffer(GLenum target, const void *bytes, size_t byteCount) {
         GLuint name = 0;
         ES(glGenBuffers)(1, &name);
@@ -118,7 +118,7 @@ protected:
         ES(glBufferData)(target, static_cast<GLsizeiptr>(byteCount), bytes, GL_STATIC_DRAW);
         return name;
     }
-    // Of positions of two numbers, in a buffer.
+    // Draws positions of two numbers from a buffer.
     void draw(GLenum mode, const std::vector<GLfloat> &positions) {
         buffer(GL_ARRAY_BUFFER, positions.data(), positions.size() * sizeof(GLfloat));
         ES(glVertexAttribPointer)(0, 2, GL_FLOAT, GL_FALSE, 0, nullptr);
@@ -140,7 +140,7 @@ protected:
         const GLubyte *const string = ES(glGetString)(name);
         return string ? reinterpret_cast<const char *>(string) : "null";
     }
-    // As the constants are written, signed.
+    // Signed, as the constants are.
     GLint error() { return static_cast<GLint>(ES(glGetError)()); }
 
     ContextAttribs attribs = {};

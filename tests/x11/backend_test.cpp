@@ -19,7 +19,7 @@ std::string homeOf(void *function) {
 zvEsContext lateContext = nullptr;
 decltype(&zvDeleteEsContext) deleteLate = nullptr;
 
-// Runs when the back end's own objects of static storage have ended, since it is there before the back end is opened.
+// Constructed before the back end is opened, so destroyed after its static objects.
 struct EndsLate {
     EndsLate() {
         std::atexit([] { deleteLate(lateContext); });
@@ -44,14 +44,14 @@ TEST_F(BackEnd, TheLinkedNamesReachTheCurrentContext) {
     OWN(glClear)(GL_COLOR_BUFFER_BIT);
     EXPECT_EQ(pixel(3, 3), green);
     EXPECT_EQ(homeOf(symbol("glClear")), "libGLESv2");
-    // The current context may be one of ES 1, whose handle is not ours to read.
+    // The current context may be one of the ES 1 back end, whose handle this back end must not read.
     const zvThread own = thread;
     int foreign = 0;
     thread = {&foreign, nullptr};
     const std::string version = text(GL_VERSION);
     thread = own;
     EXPECT_THAT(version, testing::MatchesRegex("[1-9].*")) << "the host's own";
-    // A thread that never bound a context has none, and a call there leaves the others alone.
+    // A thread that never bound a context has none, and its calls do not affect the others.
     std::thread([&] { OWN(glHint)(GL_GENERATE_MIPMAP_HINT, GL_BACK); }).join();
     EXPECT_EQ(error(), GL_NO_ERROR);
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A copy whose neighbours cannot be read, before its first byte or behind its last. Left to the process.
+// A copy with unreadable memory before its first byte or after its last. Never freed.
 char *guardedCopy(const void *bytes, size_t size, bool isGuardedInFront) {
     const size_t page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
     void *const memory = mmap(nullptr, 3 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
@@ -17,7 +17,7 @@ char *guardedCopy(const void *bytes, size_t size, bool isGuardedInFront) {
     return static_cast<char *>(memcpy(isGuardedInFront ? middle : middle + page - size, bytes, size));
 }
 
-// The driver reads this while it makes a context, which the fixture does first of all.
+// The driver reads this when it creates a context, which the fixture does first.
 struct ChosenHost : testing::WithParamInterface<bool> {
     ChosenHost() {
         if (GetParam()) return;
@@ -26,7 +26,7 @@ struct ChosenHost : testing::WithParamInterface<bool> {
     }
 };
 
-// On a host that keeps buffers mapped while it draws from them, and on one that does not.
+// On a host with persistent mapping, and on one without.
 class BackEndClientArrays : public ChosenHost, public BackEnd {
 protected:
     void startColumns(int major, int minor) {
@@ -38,7 +38,7 @@ protected:
     void setColumns(const void *pointer, GLsizei stride = 0) {
         ES(glVertexAttribPointer)(0, 1, GL_FLOAT, GL_FALSE, stride, pointer);
     }
-    // The columns that the call draws: "012".
+    // The columns that the call draws, such as "012".
     std::string drawn(const std::function<void()> &call) {
         clear();
         call();
@@ -82,7 +82,7 @@ TEST_P(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
     EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 2); }), "37");
 }
 
-// Draws go on in the memory of the last one, as long as nothing but vertices and pointers differs.
+// Draws continue in the memory of the previous one if only vertices and pointers differ.
 TEST_P(BackEndClientArrays, DrawsFollowWhatChangesBetweenThem) {
     startColumns(3, 0);
     const auto draw = [&](GLint first, GLsizei count) {
@@ -180,7 +180,7 @@ TEST_P(BackEndClientArrays, ObjectsKeepTheirArrays) {
 TEST_P(BackEndClientArrays, TheBufferOfAnIndexListIsNotSeen) {
     startColumns(3, 1);
     setColumns(columns.data());
-    GLubyte list[40] = {1, 7}; // more than are drawn without a list
+    GLubyte list[40] = {1, 7}; // more than are drawn without an index list
     const GLuint command[5] = {};
     const auto expectNone = [&](const std::function<void()> &call) {
         EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 40, GL_UNSIGNED_BYTE, list); }), "017");
@@ -200,7 +200,7 @@ TEST_P(BackEndClientArrays, TheBufferOfAnIndexListIsNotSeen) {
 
 TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
     startColumns(2, 0);
-    // One that is off and one that the program does not have.
+    // A disabled array and one that the program does not read.
     ES(glVertexAttribPointer)(shift, 1, GL_FLOAT, GL_FALSE, 0, reinterpret_cast<const void *>(8));
     ES(glVertexAttribPointer)(7, 4, GL_FLOAT, GL_FALSE, 0, reinterpret_cast<const void *>(8));
     ES(glEnableVertexAttribArray)(7);
@@ -211,7 +211,7 @@ TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
         EXPECT_EQ(drawn([&] { ES(glDrawElements)(GL_POINTS, 3, GL_UNSIGNED_BYTE, indices); }), "456");
         EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 4, 3); }), "456");
     }
-    // One that is gone, and a draw that reads none.
+    // A freed array, and a draw that reads none.
     auto gone = std::make_unique<std::vector<GLfloat>>(8, 3.0F);
     for (int draw = 0; draw < 4; ++draw) {
         setColumns(gone->data());
@@ -223,7 +223,7 @@ TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
     ES(glVertexAttrib1f)(0, 12);
     EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 1); }), "c");
     ES(glEnableVertexAttribArray)(0);
-    // The stream takes more draws than a chunk of it holds, and a draw that is larger than a chunk.
+    // More draws than fit a chunk of the stream, and a draw that is larger than a chunk.
     std::vector<GLfloat> many(300000, 20);
     many.back() = 11;
     setColumns(many.data());
@@ -232,7 +232,7 @@ TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
             ES(glDrawArrays)(GL_POINTS, 0, static_cast<GLsizei>(many.size()));
     };
     EXPECT_EQ(drawn(drawMany), "b");
-    // Draws of a few vertices fill more memory than the host keeps for them.
+    // Draws of a few vertices that exceed the memory that the host keeps for them.
     GLfloat column = 0;
     setColumns(&column);
     for (int draw = 0; draw < 150000; ++draw) {
@@ -240,7 +240,7 @@ TEST_P(BackEndClientArrays, ReadsNoMoreThanTheDrawDoes) {
         ES(glDrawArrays)(GL_POINTS, 0, 1);
     }
     EXPECT_EQ(pixel(3, 0), green);
-    // The index that restarts is no vertex.
+    // The restart index is no vertex.
     startColumns(3, 0);
     ES(glEnable)(GL_PRIMITIVE_RESTART_FIXED_INDEX);
     const GLubyte restarting[] = {1, 255, 0};
@@ -278,7 +278,7 @@ TEST_P(BackEndClientArrays, TheStateIsTheApplications) {
     EXPECT_EQ(integer(GL_ARRAY_BUFFER_BINDING), 0);
     EXPECT_EQ(integer(GL_ELEMENT_ARRAY_BUFFER_BINDING), 0);
 
-    // An array without memory gives the constant of its attribute.
+    // An array without memory reads the current value of its attribute.
     setColumns(nullptr);
     ES(glVertexAttrib1f)(0, 12);
     EXPECT_EQ(drawn([&] { ES(glDrawArrays)(GL_POINTS, 0, 1); }), "c");

@@ -19,7 +19,7 @@ protected:
         ES(glBindFramebuffer)(target, framebuffer);
         return pixel(3, 3)[0];
     }
-    // What is deleted while it is bound leaves the surface in its place.
+    // Deleting a bound framebuffer binds the surface.
     void bind(GLenum target, GLuint framebuffer) {
         const GLuint deleted = 41;
         const bool isByDeletion = framebuffer == 0 && bindsSurfaceByDeletion;
@@ -44,7 +44,7 @@ TEST_F(BackEndFramebuffers, BlitsConvertWhatHasSrgbValuesAndNothingElse) {
     EXPECT_EQ(encoding, GL_LINEAR) << "of the surface, whatever the host's can do";
     const struct {
         GLenum format;
-        GLubyte fromSurface, toSurface; // what becomes of 128, as the image's values
+        GLubyte fromSurface, toSurface; // the results of 128, as values of the image
         bool isByDeletion;
     } rows[] = {{GL_RGBA8, 128, 128, false}, {GL_SRGB8_ALPHA8, 188, 55, false}, {GL_SRGB8_ALPHA8, 188, 55, true}};
     for (const auto &row : rows) {
@@ -55,7 +55,7 @@ TEST_F(BackEndFramebuffers, BlitsConvertWhatHasSrgbValuesAndNothingElse) {
         drawToImage(row.format);
         blit(0, 40);
         EXPECT_NEAR(gray(GL_READ_FRAMEBUFFER, 40), row.fromSurface, 1);
-        // The image's own value of 128 again.
+        // The image's own value of 128 is unchanged.
         ES(glBindFramebuffer)(GL_FRAMEBUFFER, 40);
         const float linear = row.format == GL_RGBA8 ? 0.5F : 0.2159F;
         clear(linear, linear, linear);
@@ -90,6 +90,35 @@ TEST_F(BackEndFramebuffers, AreCompleteWithImagesThatEsDrawsTo) {
         ES(glRenderbufferStorage)(GL_RENDERBUFFER, GL_DEPTH_COMPONENT16, size * 2, size);
         ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, 61);
         EXPECT_EQ(ES(glCheckFramebufferStatus)(GL_FRAMEBUFFER), status) << "images of two sizes";
+    }
+}
+
+TEST_F(BackEndFramebuffers, ResolveIntoTexturesOfTheFormat) {
+    const struct {
+        GLenum samples, texture, format, type;
+        GLenum error;
+    } rows[] = {
+        {GL_RGBA8, GL_RGBA8, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR},
+        {GL_RGBA8, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR}, // no size is 8 bits
+        {GL_RGB8, GL_RGB, GL_RGB, GL_UNSIGNED_BYTE, GL_NO_ERROR},
+        {GL_RGB565, GL_RGB, GL_RGB, GL_UNSIGNED_SHORT_5_6_5, GL_NO_ERROR},
+        {GL_RGBA8, GL_RGB, GL_RGB, GL_UNSIGNED_BYTE, GL_INVALID_OPERATION},
+        {GL_RGBA4, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_INVALID_OPERATION},
+    };
+    start(3, 0);
+    for (const auto &row : rows) {
+        SCOPED_TRACE(testing::Message() << std::hex << row.samples << ' ' << row.texture << ' ' << row.type);
+        drawToTexture(row.texture, row.format, row.type);
+        ES(glBindRenderbuffer)(GL_RENDERBUFFER, 62);
+        ES(glRenderbufferStorageMultisample)(GL_RENDERBUFFER, 4, row.samples, size, size);
+        ES(glBindFramebuffer)(GL_FRAMEBUFFER, 61);
+        ES(glFramebufferRenderbuffer)(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, 62);
+        clear(1, 1, 1);
+        blit(61, 60);
+        EXPECT_EQ(error(), row.error);
+        if (row.error == GL_NO_ERROR) {
+            EXPECT_EQ(gray(GL_READ_FRAMEBUFFER, 60), 255);
+        }
     }
 }
 

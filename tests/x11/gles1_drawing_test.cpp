@@ -2,7 +2,7 @@
 
 namespace {
 
-// The numbers as the type has them.
+// The numbers converted to the type.
 std::vector<char> inType(GLenum type, const std::vector<GLfloat> &numbers) {
     std::vector<char> bytes;
     const auto append = [&](auto number) {
@@ -34,7 +34,7 @@ protected:
             EXPECT_EQ(pixel(x, y), color) << x << ' ' << y;
     }
     void expectRightHalf(Pixel color) { expectPixels({{9, 3, color}, {15, 15, color}, {7, 3, black}}); }
-    // Red, green; above them blue, white.
+    // The lower row is red and green, the upper one blue and white.
     void bindColors() {
         bindTexture();
         const Pixel texels[] = {red, green, blue, white};
@@ -55,7 +55,7 @@ protected:
 TEST_F(Gles1Drawing, DrawsFromArraysOfEveryTypeWhereverTheyLie) {
     ES(glEnableClientState)(GL_VERTEX_ARRAY);
     ES(glColor4x)(0, 65536, 0, 65536);
-    // Two vertices that no draw reads, then the right half. The copies end where the numbers do.
+    // Two vertices that no draw reads, then the right half. The copies end with the numbers.
     const std::vector<GLfloat> corners = {9, 9, 9, 9, 0, -1, 1, -1, 0, 1, 1, 1};
     const GLushort indices[] = {2, 3, 4, 4, 3, 5};
     for (const GLenum type : {GL_BYTE, GL_SHORT, GL_FIXED, GL_FLOAT}) {
@@ -88,7 +88,7 @@ TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
     EXPECT_EQ(pixel(5, 5), green);
     ES(glDisableClientState)(GL_COLOR_ARRAY);
 
-    // Light from the front: black unless the normals point there.
+    // Light from the front: black unless the normals point to it.
     const GLfixed whites[] = {65536, 65536, 65536, 65536};
     ES(glNormal3x)(0, 0, -65536);
     ES(glEnableClientState)(GL_NORMAL_ARRAY);
@@ -100,7 +100,7 @@ TEST_F(Gles1Drawing, ConvertsColorsNormalsAndTextureCoordinates) {
     EXPECT_EQ(pixel(5, 5)[0], 255);
     ES(glDisable)(GL_LIGHTING);
 
-    // In the second unit, while the first is the active one.
+    // Uses the second unit while the first is active.
     ES(glColor4ub)(255, 255, 255, 255);
     ES(glActiveTexture)(GL_TEXTURE1);
     bindColors();
@@ -134,7 +134,7 @@ TEST_F(Gles1Drawing, EachVertexArrayObjectHasItsOwnArrays) {
     clear();
     ES(glDrawArrays)(GL_TRIANGLE_STRIP, 0, 4);
     expectRightHalf(white);
-    // What is left of the array must not be read at an offset that was one of the buffer.
+    // The array must not be read at an address that was an offset in the buffer.
     ES(glDeleteBuffers)(1, &name);
     ES(glDrawArrays)(GL_TRIANGLE_STRIP, 0, 4);
     ES(glDeleteVertexArraysOES)(1, &object);
@@ -160,9 +160,9 @@ TEST_F(Gles1Drawing, PointsMayHaveSizesOfTheirOwn) {
 
 TEST_F(Gles1Drawing, DrawsTheCropOfATextureInWindowCoordinates) {
     bindColors();
-    const GLint crop[] = {0, 2, 2, -2}; // upside down
+    const GLint crop[] = {0, 2, 2, -2}; // flipped
     ES(glTexParameteriv)(GL_TEXTURE_2D, GL_TEXTURE_CROP_RECT_OES, crop);
-    // All of this must be set aside and come back.
+    // All of this state must be ignored by the draw and restored after it.
     ES(glMatrixMode)(GL_TEXTURE);
     ES(glScalex)(3 * 65536, 5 * 65536, 65536);
     ES(glEnable)(GL_LIGHTING);
@@ -219,7 +219,7 @@ TEST_F(Gles1Drawing, TheRenderModeAndTheDebugEntriesSwitchWireframe) {
     }
 }
 
-// Two matrices with equal weights move the left half by half of what the second one moves; the normals turn with them.
+// Two matrices with equal weights move the left half by half of the second one's translation; normals rotate with them.
 TEST_F(Gles1Drawing, MatricesOfAPaletteMoveVerticesAndNormals) {
     const std::vector<GLfloat> corners = {9, 9, -1, -1, 0, -1, -1, 1, 0, 1},
                                normals = {0, 0, 1, -1, 0, 0, -1, 0, 0, -1, 0, 0, -1, 0, 0};
@@ -228,7 +228,7 @@ TEST_F(Gles1Drawing, MatricesOfAPaletteMoveVerticesAndNormals) {
     const GLushort indices[] = {1, 2, 3, 4};
     const GLfloat front[] = {0, 0, 1, 0};
     const std::vector<char> directions = inType(GL_FIXED, normals);
-    ES(glTranslatef)(0, 0, 0.5f); // the palette takes the modelview's place
+    ES(glTranslatef)(0, 0, 0.5f); // the palette replaces the modelview
     ES(glMatrixMode)(GL_MATRIX_PALETTE_OES);
     EXPECT_EQ(integer(GL_MATRIX_MODE), GL_MATRIX_PALETTE_OES);
     for (const GLuint index : {0u, 3u}) {
@@ -258,10 +258,10 @@ TEST_F(Gles1Drawing, MatricesOfAPaletteMoveVerticesAndNormals) {
         ES(glGetPointerv)(GL_VERTEX_ARRAY_POINTER, &pointer);
         EXPECT_EQ(pointer, places.data());
     }
-    // The first one turns the normals to the light.
+    // The first matrix turns the normals to the light.
     ES(glCurrentPaletteMatrixOES)(0);
     ES(glRotatef)(90, 0, 1, 0);
-    ES(glScalef)(0, 0, 0); // and has no inverse in the end
+    ES(glScalef)(0, 0, 0); // singular
     ES(glLoadIdentity)();
     ES(glRotatef)(90, 0, 1, 0);
     ES(glEnable)(GL_LIGHTING);

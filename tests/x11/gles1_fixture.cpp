@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-// The headers of GLX bring those of desktop OpenGL, which cannot stand beside those of ES.
+// The headers of GLX include those of desktop OpenGL, which conflict with those of ES.
 #define __gl_h_
 #define __gl_glext_h_
 #include <GL/glx.h>
@@ -14,7 +14,7 @@ namespace {
 zvThread thread = {};
 std::string profileText;
 
-// Stays open: the driver is unloaded with the last connection, and its losses could not be told by its name any more.
+// Stays open: the driver is unloaded with the last connection, and its leaks could then not be recognised by its name.
 Display *connection() {
     static Display *const display = XOpenDisplay(nullptr);
     return display;
@@ -89,7 +89,7 @@ zvEsContext Gles1::start(const std::string &profile, bool isCore, zvEsContext sh
     const auto createEsContext = reinterpret_cast<decltype(&zvCreateEsContext)>(symbol("zvCreateEsContext"));
     thread.es1Context = host.esContext = createEsContext(&attribs, displayAndHandle, &profileText, share);
     hosts.push_back(host);
-    // Surfaces with and without alpha give the same pixels then.
+    // With this, surfaces with and without alpha have the same pixels.
     if (current()) ES(glClearColor)(0, 0, 0, 1);
     return current();
 }

@@ -1,5 +1,5 @@
-// A desktop context on a pbuffer, made without libEGL, and the ES 1 back end opened beside it. What libEGL would do,
-// the fixture does: it binds the context, tells which back-end context is current and which device profile is in force.
+// A desktop context on a pbuffer, created without libEGL, and the ES 1 back end beside it. The fixture does libEGL's
+// part: it binds the context, and reports the current back-end context and the device profile.
 #pragma once
 
 #include "es_gl.h"
@@ -24,8 +24,8 @@ protected:
     Gles1();
     ~Gles1() override;
 
-    // Makes a host context and a back-end context on it, which shares with the last one if asked, and makes them the
-    // current ones. Null when the back end refuses.
+    // Creates a host context and a back-end context on it, which shares with the last one if requested, and makes both
+    // current. Null if the back end fails.
     zvEsContext start(const std::string &profile = "", bool isCore = false, zvEsContext share = nullptr);
 
     static zvEsContext current();
@@ -37,9 +37,9 @@ protected:
     void *symbol(const char *name) const;
 
     Pixel pixel(GLint x, GLint y);
-    // Clears to nothing and draws what the arrays hold.
+    // Clears to zero and draws the arrays.
     void clear();
-    // A texture of one level with these texels, bound, on and unfiltered.
+    // A bound and enabled texture of one level with these texels, unfiltered.
     GLuint bindTexture(GLenum target = GL_TEXTURE_2D);
     GLint integer(GLenum pname);
     GLint error();

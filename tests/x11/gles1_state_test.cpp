@@ -26,7 +26,7 @@ TEST_F(Gles1State, TellsWhatTheDeviceTellsAsFarAsTheHostCarriesIt) {
         EXPECT_EQ(integer(name), number) << std::hex << name;
     EXPECT_LT(integer(GL_MAX_MODELVIEW_STACK_DEPTH), 100000);
 
-    start("<profile><es version=\"2\"/></profile>"); // which is no device of ES 1
+    start("<profile><es version=\"2\"/></profile>"); // which has no block for ES 1
     EXPECT_NE(text(GL_EXTENSIONS).find("GL_OES_compressed_paletted_texture"), std::string::npos);
     for (const char *name : {"EGL_image", "GL_ARB_"})
         EXPECT_EQ(text(GL_EXTENSIONS).find(name), std::string::npos) << name;
@@ -113,7 +113,7 @@ TEST_F(Gles1State, RefusesACoreContext) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "(Error) no OpenGL ES 1 context: the host's context is a core one, and ES 1 needs a compatibility "
               "context\n");
-    // Calls without a context of this library reach the host or nothing, and never end the process.
+    // Calls without a context of this library reach the host or do nothing, and never crash.
     EXPECT_EQ(error(), GL_NO_ERROR);
     ES(glDrawTexiOES)(0, 0, 0, 4, 4);
     ES(glPointSizePointerOES)(GL_FLOAT, 0, nullptr);

@@ -6,7 +6,7 @@ class Gles1Textures : public Gles1 {
 protected:
     Gles1Textures() { start(); }
 
-    // Draws the bound texture's whole image over the surface, one texel to (size / width) pixels.
+    // Draws the bound texture's whole image over the surface: each texel covers (size / width) pixels.
     void drawImage(GLint width, GLint height) {
         const GLint crop[] = {0, 0, width, height};
         ES(glTexParameteriv)(GL_TEXTURE_2D, GL_TEXTURE_CROP_RECT_OES, crop);
@@ -28,7 +28,7 @@ TEST_F(Gles1Textures, DecodesPalettedTexturesWithAllTheirLevels) {
         std::vector<GLubyte> data(first.size() * (isByte ? 256 : 16));
         std::ranges::copy(first, data.begin());
         std::ranges::copy(second, data.begin() + static_cast<ptrdiff_t>(first.size()));
-        // 2 x 2: red, green, green, red; then one texel, green.
+        // Level 0: red, green, green, red. Level 1: green.
         const std::vector<GLubyte> indices =
             isByte ? std::vector<GLubyte>{0, 1, 1, 0, 1} : std::vector<GLubyte>{0x01, 0x10, 0x10};
         data.insert(data.end(), indices.begin(), indices.end());
@@ -49,7 +49,7 @@ TEST_F(Gles1Textures, DecodesPalettedTexturesWithAllTheirLevels) {
     }
 }
 
-// The host's decoder of ETC2, which takes every ETC1 block, is the judge.
+// The host's decoder of ETC2, which accepts every ETC1 block, is the reference.
 TEST_F(Gles1Textures, DecodesEtc1AsTheHostDoes) {
     constexpr GLenum compressedRgb8Etc2 = 0x9274;
     const GLubyte blocks[] = {
@@ -105,7 +105,7 @@ TEST_F(Gles1Textures, ContextsThatShareTexturesShareTheirCrops) {
     ES(glDeleteTextures)(1, &texture);
     ES(glBindTexture)(GL_TEXTURE_2D, texture);
     EXPECT_EQ(read(), (std::array<GLint, 4>{})) << "the name is that of another texture now";
-    // A share context of another back end is nobody here.
+    // A share context of another back end is ignored.
     int foreign = 0;
     ASSERT_NE(start("", false, &foreign), nullptr);
 }

@@ -1,4 +1,4 @@
-// A device's limits hold: what is beyond them is an error, though the host would take it.
+// A device's limits are enforced: exceeding them is an error even if the host allows it.
 #include "x11/back_end_fixture.h"
 
 extern std::string profileText;
@@ -24,7 +24,7 @@ protected:
     }
 };
 
-// A pair of shaders with this many vectors each of attributes, varyings and uniforms of either stage.
+// A pair of shaders with this many vectors of attributes, varyings and uniforms of either stage.
 std::pair<std::string, std::string> shadersWith(int attribs, int varyings, int vertexUniforms, int fragmentUniforms) {
     const auto list = [](const char *kind, int count) {
         return count ? std::string(kind) + '[' + std::to_string(count) + "];\n" : std::string();

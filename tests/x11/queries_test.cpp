@@ -4,7 +4,7 @@ std::string profileText;
 
 namespace {
 
-// What a form answers, and a sentinel behind it.
+// The results of one query function, and a sentinel after them.
 template <typename Value>
 std::vector<double> ask(void(GL_APIENTRY *get)(GLenum, Value *), GLenum name) {
     std::vector<Value> values(256, Value(77));
@@ -26,7 +26,7 @@ TEST_F(BackEnd, EveryFormAnswersEveryEnumerantOfTheVersion) {
         const auto floats = ask<GLfloat>(ES(glGetFloatv), name);
         const auto booleans = ask<GLboolean>(ES(glGetBooleanv), name);
         EXPECT_EQ(error(), GL_NO_ERROR);
-        // An empty list leaves them all alone.
+        // An empty list writes nothing.
         EXPECT_EQ(integers[0] == 77, floats[0] == 77);
         EXPECT_EQ(booleans[0] != 0, floats[0] != 0);
     };

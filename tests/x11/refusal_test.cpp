@@ -4,7 +4,7 @@
 
 namespace {
 
-// The driver reads this while it makes a context, which the fixture does first of all.
+// The driver reads this when it creates a context, which the fixture does first.
 struct PoorHost {
     PoorHost() { setenv("MESA_EXTENSION_OVERRIDE", "-GL_ARB_ES3_compatibility", 1); }
 };
@@ -26,7 +26,7 @@ TEST_F(BackEndOnAPoorHost, ContextsThatItCannotCarryAreRefusedInWords) {
 TEST_F(BackEndOnAPoorHost, Etc1IsDecodedHere) {
     start(2, 0);
     EXPECT_THAT(text(GL_EXTENSIONS), testing::HasSubstr("GL_OES_compressed_ETC1_RGB8_texture"));
-    // Red on the left, blue on the right, each a little brighter by the first modifier.
+    // Red on the left, blue on the right, each slightly brighter by the first modifier.
     const GLubyte block[8] = {0xF0, 0, 0x0F, 0, 0, 0, 0, 0};
     ES(glBindTexture)(GL_TEXTURE_2D, 1);
     ES(glPixelStorei)(GL_UNPACK_ALIGNMENT, 8);

@@ -8,11 +8,11 @@ std::vector<uint32_t> postedTypes;
 
 class BackEndRenderMode : public BackEnd {
 protected:
-    // What is inside a triangle that covers most of the lower left half.
+    // The colour inside a triangle that covers most of the lower left half.
     Pixel drawnInside() {
         clear();
         draw(GL_TRIANGLES, {-0.6875, -0.6875, 1, -0.6875, -0.6875, 1});
-        // The edge goes through the row below, which a filled triangle need not touch.
+        // The edge crosses the row below, which a filled triangle need not cover.
         EXPECT_TRUE(pixel(6, 2) == green || pixel(6, 3) == green);
         return pixel(5, 5);
     }
@@ -47,7 +47,7 @@ TEST_F(BackEndRenderMode, AFrameThatDrawsPostsOneMarkerToAnAttachedGui) {
     startWith(2, 0, plainVertex, greenFragment);
     drawnInside();
     EXPECT_TRUE(postedTypes.empty());
-    isGuiAttached = 1; // as if since the start of the process
+    isGuiAttached = 1; // as if attached at the start of the process
     OWN(zvSetEsContextAttribs)(current, &attribs);
     for (frame = 5; frame < 8; ++frame) {
         drawnInside();

@@ -6,7 +6,7 @@ class BackEndTextures : public BackEnd {
 protected:
     void startTextured(int major, int minor) {
         startWith(major, minor, texturedVertex, texturedFragment);
-        drawToImage(GL_RGBA8); // the surface may have an alpha of few bits
+        drawToImage(GL_RGBA8); // the surface's alpha may have few bits
         bindNew();
     }
     GLuint bindNew() {
@@ -28,7 +28,7 @@ protected:
         ES(glGetTexLevelParameteriv)(GL_TEXTURE_2D, 0, name, &value);
         return value;
     }
-    // The texture's colour, as a shader sees it.
+    // The texture's colour in a shader.
     Pixel sampled() {
         draw(GL_TRIANGLES, {-1, -1, 3, -1, -1, 3});
         return pixel(5, 5);
@@ -58,7 +58,7 @@ TEST_F(BackEndTextures, FormatsThatOnlyEsHasAreWhatEsSays) {
 #include "x11/data/images.def"
 #undef IMAGE
 
-    // Half floats keep more than a byte does.
+    // Half floats store more precision than bytes.
     const GLushort big[] = {0x4500, 0x3C00, 0x3C00, 0x3C00};
     image(GL_RGBA, GL_HALF_FLOAT_OES, big);
     use(texturedVertex, tenthFragment);
@@ -92,7 +92,7 @@ TEST_F(BackEndTextures, StoragesAndPartsOfImagesHaveThemToo) {
     EXPECT_EQ(error(), GL_INVALID_VALUE);
     EXPECT_EQ(untouched, -2);
     bindNew();
-    // Red on a block of ETC1, a little brighter by the first modifier.
+    // A red block of ETC1, slightly brighter by the first modifier.
     const GLubyte block[8] = {0xF8, 0, 0, 0, 0, 0, 0, 0};
     ES(glCompressedTexImage2D)(GL_TEXTURE_2D, 0, GL_ETC1_RGB8_OES, 4, 4, 0, sizeof block, block);
     EXPECT_EQ(sampled(), (Pixel{255, 2, 2, 255}));
@@ -133,7 +133,7 @@ TEST_F(BackEndTextures, CopiesTakeTheChannelsThatTheFormatNames) {
 
 TEST_F(BackEndTextures, BlocksAreCopiedToTexelsOfTheirSizeAndBack) {
     startTextured(3, 2);
-    // Red, on a block and on one that stands over the border.
+    // A red block, and one that exceeds the border.
     const std::array<GLubyte, 16> bytes = {0xFF, 0, 0, 0, 0, 0, 0, 0, 0xFF, 0, 0, 0, 0, 0, 0, 0};
     const auto storage = [&](GLenum format, GLsizei width, GLsizei height) {
         const GLuint texture = bindNew();
@@ -172,7 +172,7 @@ TEST_F(BackEndTextures, AnEglImageIsTheTextureThatItWasMadeOf) {
     ES(glBindTexture)(GL_TEXTURE_2D, source);
     EXPECT_EQ(sampled(), blue);
 
-    // One image after the other, as a stream of pictures does.
+    // One image after the other, as video streams do.
     const GLuint other = bindNew();
     image(red);
     record[1] = other;
@@ -187,7 +187,7 @@ TEST_F(BackEndTextures, AnEglImageIsTheTextureThatItWasMadeOf) {
 
 TEST_F(BackEndTextures, NamesMayBeMadeUp) {
     startTextured(2, 0);
-    // 7000000 is past the names that are found without a lock.
+    // 7000000 is beyond the names that are found without a lock.
     for (const GLuint name : {100u, 7000000u}) {
         EXPECT_EQ(ES(glIsTexture)(name), GL_FALSE);
         bind(name);

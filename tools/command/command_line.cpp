@@ -29,7 +29,7 @@ std::vector<std::string> verbNames(const CLI::App &app) {
     return names;
 }
 
-// The error for an unexpected word. speaker: the verb with the verbs before it.
+// The error for an unexpected word. speaker: the verb, preceded by the verbs above it.
 std::string mistakeOf(const std::string &word, const CLI::App &app, const std::string &speaker) {
     const std::string quoted = '"' + word + '"';
     if (isOption(word)) {
@@ -38,7 +38,7 @@ std::string mistakeOf(const std::string &word, const CLI::App &app, const std::s
     }
     const std::vector<std::string> verbs = verbNames(app);
     if (!verbs.empty()) return "there is no verb " + quoted + " of \"" + speaker + '"' + suggestion(word, verbs);
-    return quoted + " is a word too many for \"" + speaker + '"';
+    return quoted + " is an unexpected argument of \"" + speaker + '"';
 }
 
 } // namespace
@@ -59,7 +59,7 @@ Word Word::oneOf(const std::vector<std::string> &values) const {
         std::string list;
         for (const std::string &known : values)
             list += (list.empty() ? "" : ", ") + known;
-        return '"' + value + "\" is none of " + list + suggestion(value, values);
+        return '"' + value + "\" is not one of " + list + suggestion(value, values);
     });
 }
 
@@ -129,7 +129,7 @@ Verb CommandLine::top() const {
 
 std::vector<std::string> CommandLine::takeProgram(std::vector<std::string> &words, const std::string &verb) const {
     if (words.empty() || words[0] != verb) return {};
-    // "--option value" is two words, "--option=value" one.
+    // "--option value" has two words, "--option=value" one.
     const auto takesNext = [&, app = m_app->get_subcommand(verb)](const std::string &word) {
         const CLI::Option *option = app->get_option_no_throw(word);
         return option && option->get_items_expected_min() > 0;
@@ -145,7 +145,7 @@ std::vector<std::string> CommandLine::takeProgram(std::vector<std::string> &word
 }
 
 bool CommandLine::run(std::vector<std::string> words) const {
-    std::reverse(words.begin(), words.end()); // the parser takes them from the end
+    std::reverse(words.begin(), words.end()); // the parser reads them from the end
     try {
         m_app->parse(words);
     } catch (const UsageError &error) {
@@ -171,5 +171,5 @@ void CommandLine::explain(const std::string &mistake) const {
               << (!unknown.empty()      ? mistakeOf(unknown.front(), *verb, speaker)
                   : verb == m_app.get() ? "a verb is missing"
                                         : mistake)
-              << "\n\"" << speaker << " --help\" tells what there is.\n";
+              << "\n\"" << speaker << " --help\" lists the options.\n";
 }

@@ -15,6 +15,10 @@ std::string jsonLine(const Json &json) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
+Json orNull(const std::string &text) {
+    return text.empty() ? Json(nullptr) : Json(text);
+}
+
 std::string jsonFields(const Json &object, const std::string &rows) {
     std::string text;
     for (const auto &[name, value] : object.items()) {

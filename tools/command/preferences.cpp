@@ -8,17 +8,26 @@
 #include "tools/command/failure.h"
 
 ToolPreferences::ToolPreferences() : m_store(productName) {
-    std::string error;
-    if (!m_store.load(error, false)) failCommand("the preferences cannot be read: " + error);
+    const std::string error = read();
+    if (!error.empty()) failCommand(error);
+}
 
+ToolPreferences::ToolPreferences(std::string &error) : m_store(productName) {
+    error = read();
+}
+
+std::string ToolPreferences::read() {
+    const std::string unreadable = "the preferences cannot be read: ";
+    std::string reason;
     KZRPreferencesUnix files;
-    const PreferenceFile file = files.openPreferenceFile(productName, readPreferences, false, false, error);
-    if (!file.stream) failCommand("the preferences cannot be read: " + error);
+    const PreferenceFile file = files.openPreferenceFile(productName, readPreferences, false, false, reason);
     m_path = file.path;
+    if (!file.stream) return unreadable + reason;
     tinyxml2::XMLDocument document;
     document.LoadFile(file.stream);
     files.closePreferenceFile(file, false);
-    if (document.Error()) failCommand("\"" + m_path + "\" is no well-formed XML: " + document.ErrorStr());
+    if (!m_store.load(reason, false)) return unreadable + reason;
+    return document.Error() ? "\"" + m_path + "\" is not well-formed XML: " + document.ErrorStr() : "";
 }
 
 std::string ToolPreferences::storedDirectory() {
@@ -63,7 +72,7 @@ void ToolPreferences::setStrict(bool strict) {
 }
 
 void ToolPreferences::storeString(const char *name, const std::string &value) {
-    // A value that is a dict or an array accepts no text, and the store reports no error.
+    // A dict or an array cannot be replaced by a text, and the store does not report an error.
     std::string stored;
     m_store.setString(settingKey(name), value);
     m_store.getString(settingKey(name), &stored, std::string());
@@ -71,6 +80,6 @@ void ToolPreferences::storeString(const char *name, const std::string &value) {
 }
 
 void ToolPreferences::save() {
-    // Forced: a removal does not count as a change.
+    // Forced, since a removal does not count as a change.
     if (!m_store.save(true)) failCommand("\"" + m_path + "\" cannot be written");
 }

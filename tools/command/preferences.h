@@ -10,22 +10,26 @@ public:
     // Reads the file, creating it if there is none. Fails the verb when it cannot be read completely: writing it back
     // would lose what follows the error.
     ToolPreferences();
+    // The same, but a failure is a text in error, and nothing else may be called then except path().
+    explicit ToolPreferences(std::string &error);
 
     [[nodiscard]] std::string storedDirectory();
     // The directory that the library would use: the stored one, else $ZELVANE_PROFILE_PATH. Empty without both.
     [[nodiscard]] std::string profilesDirectory();
-    // As stored; the library reads it only when there is a directory.
+    // The stored name; the library reads the profile only if there is a directory.
     [[nodiscard]] std::string currentProfile();
     [[nodiscard]] bool isStrict();
 
-    // Each writes the file; other keys are unchanged. A failure fails the verb.
+    // Each of these writes the file; other keys are unchanged. A failure fails the verb.
     void setProfile(const std::string &directory, const std::string &name);
     void removeProfile();
     void setStrict(bool strict);
 
-    [[nodiscard]] const std::string &path() const { return m_path; }
+    [[nodiscard]] const std::string &path() const { return m_path; } // empty before it was found
 
 private:
+    // Returns why not.
+    [[nodiscard]] std::string read();
     void storeString(const char *name, const std::string &value);
     void save();
 

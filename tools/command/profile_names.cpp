@@ -8,6 +8,7 @@
 #include "profiles/profile_reader.h"
 #include "tools/command/failure.h"
 #include "tools/command/nearest.h"
+#include "tools/command/own_directory.h"
 
 std::vector<std::string> builtInProfileNames() {
     std::vector<std::string> names;
@@ -26,18 +27,18 @@ std::vector<std::string> fileNames(const std::string &directory) {
     return names;
 }
 
-namespace {
+std::string shippedProfiles() {
+    return ownDirectory(desktopProfile, {ZELVANE_INSTALLED_PROFILES, ZELVANE_BUILT_PROFILES});
+}
 
-[[noreturn]] void failForProfile(const std::string &name, const std::string &directory) {
+void failForProfile(const std::string &name, const std::string &directory) {
     std::vector<std::string> names = builtInProfileNames();
     if (!directory.empty()) std::ranges::copy(fileNames(directory), std::back_inserter(names));
     const std::string meant = suggestion(name, names);
-    failCommand("\"" + name + "\" is none of the built-in profiles, and " +
+    failCommand("\"" + name + "\" is not a built-in profile, and " +
                 (directory.empty() ? "no profiles directory is set" : "\"" + directory + "\" has no such file") +
-                (meant.empty() ? "; \"zelvane profiles\" lists what there is" : meant));
+                (meant.empty() ? "; \"zelvane profiles\" lists all profiles" : meant));
 }
-
-} // namespace
 
 void checkProfileName(const std::string &name, const std::string &directory) {
     egl::DeviceProfile profile;
@@ -45,6 +46,6 @@ void checkProfileName(const std::string &name, const std::string &directory) {
     const auto text = egl::findProfileText(CKZRTString(directory.c_str()), profileName);
     if (!text) failForProfile(name, directory);
     if (!readDeviceProfile(profile, *text, profileName)) {
-        failCommand("\"" + name + "\" is no profile; \"zelvane profiles check\" tells what is wrong with a file");
+        failCommand("\"" + name + "\" is not a profile; \"zelvane profiles check\" lists the faults of a file");
     }
 }

@@ -11,7 +11,7 @@
 
 void occupyStandardStreams() {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        // open() returns the lowest free number, which is the stream's.
+        // open() returns the lowest free number, which is that of the closed stream.
         if (fcntl(stream, F_GETFD) < 0) (void)open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
     }
 }
@@ -29,7 +29,7 @@ int finishOutput(int status) {
     errno = 0;
     std::cout.flush();
     if (fflush(stdout) == 0 && !ferror(stdout)) return status;
-    // An earlier write may be the one that failed, and its reason is lost.
+    // If an earlier write failed, its reason is lost.
     const std::string reason = errno ? std::string(": ") + strerror(errno) : "";
     if (!hasReader(STDOUT_FILENO)) return status;
     std::cerr << "zelvane: the output cannot be written" << reason << '\n';

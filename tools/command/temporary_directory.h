@@ -11,7 +11,7 @@
 class TemporaryDirectory {
 public:
     TemporaryDirectory() : m_path(getTemporaryDirectory() + "zelvane-run.XXXXXX") {
-        if (!mkdtemp(m_path.data())) failCommand("no directory can be made in \"" + getTemporaryDirectory() + "\"");
+        if (!mkdtemp(m_path.data())) failCommand("no directory can be created in \"" + getTemporaryDirectory() + "\"");
     }
     TemporaryDirectory(const TemporaryDirectory &) = delete;
     TemporaryDirectory &operator=(const TemporaryDirectory &) = delete;

@@ -12,7 +12,7 @@ class App;
 class Option;
 } // namespace CLI
 
-// Thrown by an action when its arguments do not fit together: what is missing or too many.
+// Thrown by an action for missing or surplus arguments, with a message.
 struct UsageError {
     std::string text;
 };
@@ -48,7 +48,7 @@ public:
     // May be given more than once.
     Word option(const std::string &name, std::vector<std::string> &values, const std::string &placeholder,
                 const std::string &help) const;
-    // The value may be omitted, and is empty then. Without the option there is no value.
+    // The value may be omitted, and is then empty. Without the option there is no value.
     Word optionalValue(const std::string &name, std::optional<std::string> &value, const std::string &placeholder,
                        const std::string &help) const;
     // A positional argument.

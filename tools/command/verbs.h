@@ -7,7 +7,9 @@
 
 #include "tools/command/verb.h"
 
+void addDoctorCommand(const Verb &top);
 void addExplainCommand(const Verb &top);
+void addInfoCommand(const Verb &top);
 // program: see run.
 void addLabCommand(const Verb &top, const std::vector<std::string> &program);
 void addMonitorCommand(const Verb &top);

@@ -1,6 +1,6 @@
 # Completion of zelvane for bash.
 
-# The names that begin with the word, each quoted as the shell needs it.
+# Adds the names that begin with the word, each quoted for the shell.
 _zelvane_profiles() {
     local word=$1 name
     while IFS= read -r name; do
@@ -18,7 +18,7 @@ _zelvane_attributes='
     EGL_SURFACE_TYPE= EGL_TRANSPARENT_TYPE= EGL_TRANSPARENT_RED_VALUE= EGL_TRANSPARENT_GREEN_VALUE=
     EGL_TRANSPARENT_BLUE_VALUE='
 
-# Completes the program of "run" and its words, which begin at the index.
+# Completes the program of "run" and its arguments, which begin at the index.
 _zelvane_program() {
     local first=$1
     if declare -F _command_offset >/dev/null; then
@@ -34,15 +34,15 @@ _zelvane() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]} index
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'run lab explain profiles use strict report monitor --help --version' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'run lab explain info profiles use strict report doctor monitor --help --version' -- "$word")
         return
     fi
 
-    # "--option=value" comes in three words.
+    # "--option=value" is passed as three words.
     [[ $word == = ]] && word=
     [[ $before == = ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
     case $verb:$before in
-    run:--profile | explain:--profile) _zelvane_profiles "${word//\\/}"; return ;;
+    run:--profile | explain:--profile | info:--profile) _zelvane_profiles "${word//\\/}"; return ;;
     run:--backends | use:--directory) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     lab:--devices | lab:--reference)
         _zelvane_profiles "${word//\\/}"
@@ -52,7 +52,7 @@ _zelvane() {
     lab:--out) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     lab:--fail-on) mapfile -t COMPREPLY < <(compgen -W 'start error refusal lacking picture' -- "$word"); return ;;
     profiles:check | run:--journal) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
-    profiles:show) _zelvane_profiles "${word//\\/}"; return ;;
+    profiles:show | profiles:diff) _zelvane_profiles "${word//\\/}"; return ;;
     monitor:--level) mapfile -t COMPREPLY < <(compgen -W 'info warning error' -- "$word"); return ;;
     monitor:--type)
         mapfile -t COMPREPLY < <(compgen -W 'log log_info log_warning log_error process_hello link_stop window_title
@@ -79,7 +79,11 @@ _zelvane() {
     case $verb in
     run) words='--profile --bare --strict --loose --opengl --backends --journal --monitor --help' ;;
     lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
-    profiles) words='show check --json --names --help' ;;
+    info) words='--profile --bare --json --help' ;;
+    profiles)
+        words='show check diff --json --names --help'
+        [[ ${COMP_WORDS[2]} == diff ]] && { _zelvane_profiles "${word//\\/}"; words='--json --help'; }
+        ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;
     explain)
         words='--profile --bare --device-rules --json --help'
@@ -87,6 +91,7 @@ _zelvane() {
         ;;
     strict) words='on off --help' ;;
     report) words='--extensions --json --help' ;;
+    doctor) words='--json --help' ;;
     monitor) words='--json --once --level --process --type --web --open --help' ;;
     esac
     mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -W "$words" -- "$word")

@@ -16,7 +16,7 @@ std::string upperCase(std::string text) {
     return text;
 }
 
-// Of a word with or without "EGL_", names in the same form.
+// A suggestion for a word, with names in the word's form: with or without "EGL_".
 std::string meant(const std::string &word, std::vector<std::string> names) {
     constexpr std::string_view prefix = "EGL_";
     const std::string wanted = upperCase(word);
@@ -37,7 +37,7 @@ int32_t valueOf(int32_t attribute, const std::string &text) {
     if (const auto value = egl::readValue(attribute, text)) return *value;
     const std::vector<std::string> names = egl::valueNames(attribute);
     const std::string known = names.empty() ? "a number" : "a number or one of " + listText(names);
-    throw UsageError{'"' + text + "\" is no value of " + egl::attributeName(attribute) + ", which takes " + known +
+    throw UsageError{'"' + text + "\" is not a value of " + egl::attributeName(attribute) + ", which takes " + known +
                      meant(text, names)};
 }
 

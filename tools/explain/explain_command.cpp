@@ -21,7 +21,7 @@ struct Options {
 void explainChoice(const Options &options) {
     const std::vector<int32_t> criteria = readCriteria(options.words);
     const PrivatePreferences preferences({.device = options.device, .strict = {}});
-    // The configs of desktop programs tell what the host has behind them.
+    // In desktop mode the attributes of configs depend on the host.
     if (!options.byDeviceRules) checkXServer();
     const auto rules = options.byDeviceRules ? egl::ConfigKind::ofDevice : egl::ConfigKind::ofDesktop;
     const Explanation explanation = explain(criteria, rules);
@@ -33,17 +33,17 @@ void explainChoice(const Options &options) {
 
 void addExplainCommand(const Verb &top) {
     const Verb explain = top.verb(
-        "explain", "Tell which configs eglChooseConfig takes for ATTRIBUTE=VALUE, and why not the others",
+        "explain", "Show the configs that eglChooseConfig returns for ATTRIBUTE=VALUE, and why not the others",
         "Attributes and values as in EGL's header, with or without EGL_: DEPTH_SIZE=24\n"
-        "'SURFACE_TYPE=WINDOW_BIT|PBUFFER_BIT'. Exit status: 0 a config is taken, 1 none is or EGL refuses the\n"
-        "list, 2 the command line is wrong.");
+        "'SURFACE_TYPE=WINDOW_BIT|PBUFFER_BIT'. Exit status: 0 a config matches, 1 none does or EGL rejects the\n"
+        "list, 2 invalid command line.");
     auto options = std::make_shared<Options>();
     const Word profile =
-        explain.option("--profile", options->device.profile, "NAME", "the device; without it that of \"zelvane run\"");
+        explain.option("--profile", options->device.profile, "NAME", "the device; default: that of \"zelvane run\"");
     explain.flag("--bare", options->device.isBare, "no device: the built-in config").excludes(profile);
     explain.flag("--device-rules", options->byDeviceRules,
-                 "choose as the device does, and not as the EGL standard does for \"zelvane run\"");
+                 "use the device's rules, not those of the EGL standard as \"zelvane run\" does");
     explain.flag("--json", options->asJson, "print one JSON object");
-    explain.words("criteria", options->words, "ATTRIBUTE=VALUE, in their order; a later value wins");
+    explain.words("criteria", options->words, "ATTRIBUTE=VALUE, in order; of equal attributes the last counts");
     explain.action([options] { explainChoice(*options); });
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-// As in the library: without a directory there is no device.
+// As the library does: without a directory no profile is read.
 egl::DeviceProfile readChosenProfile() {
     ToolPreferences preferences;
     const std::string name = preferences.currentProfile(), directory = preferences.profilesDirectory();
@@ -28,8 +28,8 @@ void checkPairs(const std::vector<int32_t> &criteria, egl::ConfigKind rules) {
     for (const auto &[name, value] : AttributeList(criteria.data())) {
         const int32_t single[] = {name, value, EGL_NONE};
         if (isTaken(single, rules)) continue;
-        failCommand("eglChooseConfig refuses the list with EGL_BAD_ATTRIBUTE: " + egl::valueText(name, value) +
-                    " is no value that it takes for " + egl::attributeName(name));
+        failCommand("eglChooseConfig rejects the list with EGL_BAD_ATTRIBUTE: " + egl::valueText(name, value) +
+                    " is not a valid value for " + egl::attributeName(name));
     }
 }
 

@@ -51,7 +51,7 @@ std::string explanationAsText(const Explanation &explanation) {
                 (fallen == fallenOut.end() ? "taken" : "out    " + fallOutText(fallen->reason, explanation.criteria)) +
                 '\n';
     }
-    text += order.empty() ? "\nno config is taken\n" : "\norder:\n";
+    text += order.empty() ? "\nno config matches\n" : "\norder:\n";
     for (size_t place = 0; place < order.size(); ++place) {
         text += padded(static_cast<int32_t>(place) + 1, 3) + ". config " + padded(order[place], 3);
         if (place < comparisons.size()) text += "  " + comparisonText(comparisons[place], order[place + 1]);

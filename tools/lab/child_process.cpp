@@ -41,7 +41,7 @@ ChildProcess::ChildProcess(const std::vector<std::string> &words, const std::vec
     posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, output.empty() ? "/dev/null" : output.c_str(),
                                      O_WRONLY | O_CREAT | O_TRUNC | O_APPEND, 0644);
     posix_spawn_file_actions_adddup2(&files, STDOUT_FILENO, STDERR_FILENO);
-    // dup2 to the same number: that clears close-on-exec.
+    // dup2 to the same number clears close-on-exec.
     if (kept >= 0) posix_spawn_file_actions_adddup2(&files, kept, kept);
     posix_spawnattr_t attributes;
     sigset_t none;

@@ -8,18 +8,18 @@
 
 class ChildProcess {
 public:
-    // Searched in PATH. environment: "NAME=VALUE", replacing ours where a name is in both. output: a file for both
-    // streams; empty for none. kept: a descriptor that the process gets at the same number, or -1. isStarted() returns
-    // whether it could be started.
+    // words: the program, searched in PATH, and its arguments. environment: "NAME=VALUE", replacing variables of this
+    // process. output: a file for both output streams; empty for none. kept: a descriptor that the process inherits at
+    // the same number, or -1. isStarted() returns whether the process started.
     ChildProcess(const std::vector<std::string> &words, const std::vector<std::string> &environment,
                  const std::string &output, int kept = -1);
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
-    // Ends it.
+    // Ends the process.
     ~ChildProcess() { end(); }
 
     [[nodiscard]] bool isStarted() const { return m_process > 0; }
-    // The status of waitpid, once it has ended.
+    // The status of waitpid, after the process has ended.
     [[nodiscard]] std::optional<int> poll();
     // Sends the process SIGTERM, and after two seconds SIGKILL to the group.
     void end();

@@ -25,7 +25,7 @@ struct LabGlError {
 
 struct DeviceResult {
     std::string device;
-    // From the journal. The first four are empty for a program that never got a context.
+    // From the journal. The first four are empty for a program without a context.
     std::string esVersion, renderer, host;
     std::string config; // its id and sizes as text
     bool hasContext = false;
@@ -34,7 +34,7 @@ struct DeviceResult {
     std::vector<LabRefusal> refusals;
     std::vector<LabFinding> lacking;
     std::vector<LabGlError> glErrors;
-    // Of the run.
+    // The length of the run.
     double seconds = 0;
     std::string end; // as text
     bool endedWell = false;

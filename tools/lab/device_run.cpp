@@ -24,14 +24,14 @@ using Clock = std::chrono::steady_clock;
 // The time limits for a program's first frame, and for its last one if frames are counted.
 constexpr double startSeconds = 10;
 constexpr double framesSeconds = 60;
-// After so long without a frame a program is taken to wait for its user.
+// After this time without a frame a program is assumed to wait for input.
 constexpr double idleSeconds = 5;
 
 double secondsSince(Clock::time_point begin) {
     return std::chrono::duration<double>(Clock::now() - begin).count();
 }
 
-// What the journal tells while it grows.
+// Reads the journal while it grows.
 class JournalWatch {
 public:
     explicit JournalWatch(const std::string &journal) : m_journal(journal) {}
@@ -83,7 +83,7 @@ std::vector<std::string> environment(const LabOptions &options, const std::strin
 }
 
 void tellExit(int status, DeviceResult &result) {
-    // "zelvane run" gives the program's own status, and 128 and the number of a signal.
+    // "zelvane run" returns the program's exit status, or 128 and the number of a signal.
     const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     result.endedWell = code == 0;
     result.end = code == runFailure ? "not started"
@@ -91,17 +91,17 @@ void tellExit(int status, DeviceResult &result) {
                                     : "exit status " + std::to_string(code);
 }
 
-// Why the lab ends a program that still runs, and whether that is well; nothing while it may go on.
+// Why the lab ends a running program, and whether that is a success; nothing while it may continue.
 std::optional<std::pair<const char *, bool>> reasonToEnd(const LabOptions &options, const JournalWatch &watch,
                                                          double seconds) {
-    constexpr double grace = 1; // for the frame that the picture is taken of
+    constexpr double grace = 1; // for the frame of the picture
     if (watch.hasLastPicture()) return std::pair("ended by the lab after the last frame", true);
     const bool isIdle =
         options.frames ? watch.sinceNewestFrame() > idleSeconds : watch.sinceFirstFrame() > options.seconds + grace;
     if (isIdle) return std::pair("ended by the lab; it showed no more frames", true);
     if (!watch.hasFrame() && seconds > startSeconds) return std::pair("ended by the lab; it showed no frame", false);
     if (options.frames && seconds > framesSeconds)
-        return std::pair("ended by the lab; it did not get to its last frame", false);
+        return std::pair("ended by the lab; it did not reach its last frame", false);
     return std::nullopt;
 }
 
@@ -153,7 +153,7 @@ DeviceResult runOnDevice(const LabOptions &options, const std::string &device, c
     if (!options.isHere) {
         server.emplace();
         if (server->display().empty()) {
-            result.end = "Xvfb gives no X server";
+            result.end = "Xvfb does not start";
             return result;
         }
     }

@@ -10,7 +10,7 @@
 // A file name: the device's letters, digits and dots, with "-" for all other characters.
 [[nodiscard]] std::string fileNameOf(const std::string &device);
 
-// Writes "journal" and "log" to the directory, which exists. isStopped: set when the lab is to end; the run then ends
-// soon, and its result covers the time until then. Threads may run devices concurrently.
+// Writes "journal" and "log" to the existing directory. isStopped: set to end the lab; the run then ends soon, and its
+// result covers the time until then. Threads may run devices concurrently.
 [[nodiscard]] DeviceResult runOnDevice(const LabOptions &options, const std::string &device,
                                        const std::string &directory, const std::atomic<bool> &isStopped);

@@ -5,18 +5,13 @@
 
 #include "tools/command/failure.h"
 #include "tools/command/nearest.h"
+#include "tools/command/profile_names.h"
 #include "tools/profiles/profile_list.h"
 
-namespace {
-
-constexpr char desktop[] = "Desktop";
-
-} // namespace
-
 std::vector<std::string> allDevices() {
-    std::vector<std::string> names = {desktop};
+    std::vector<std::string> names = {desktopProfile};
     for (const ListedProfile &listed : listProfiles().profiles)
-        if (listed.place != ListedProfile::hiddenFile && listed.name != desktop) names.push_back(listed.name);
+        if (listed.place != ListedProfile::hiddenFile && listed.name != desktopProfile) names.push_back(listed.name);
     return names;
 }
 
@@ -29,6 +24,6 @@ std::vector<std::string> readDevices(const std::string &names) {
             failCommand("there is no device \"" + name + '"' + suggestion(name, known));
         if (std::ranges::find(devices, name) == devices.end()) devices.push_back(name);
     }
-    if (devices.empty()) failCommand("no device is named");
+    if (devices.empty()) failCommand("no device is given");
     return devices;
 }

@@ -7,5 +7,5 @@
 // "Desktop", the built-in ones, and the profile files of the user's directory.
 [[nodiscard]] std::vector<std::string> allDevices();
 
-// From names separated by commas. Fails the command for an unknown one.
+// Parses names that are separated by commas. Fails the command for an unknown one.
 [[nodiscard]] std::vector<std::string> readDevices(const std::string &names);

@@ -40,7 +40,7 @@ private:
 
     void readDevice(const Json &line) {
         m_result.hasContext = true;
-        // The text before the brackets, which name the host.
+        // The text before the parentheses, which contain the host's version.
         const std::string version = line["version"];
         m_result.esVersion = version.substr(0, version.find(" Zelvane"));
         m_result.renderer = line["renderer"];
@@ -81,7 +81,7 @@ private:
         if (m_result.frames++ == 0) m_firstFrame = m_newestFrame;
     }
 
-    // The counts; without an end each was seen once at least.
+    // Reads the counts. A journal without this line has at least one of each.
     void readEnd(const Json &line) {
         for (const Json &counted : line["lacking"]) {
             for (LabFinding &finding : m_result.lacking)

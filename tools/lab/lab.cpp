@@ -59,7 +59,7 @@ public:
     Workers &operator=(const Workers &) = delete;
     ~Workers() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
 
-    // Gives the number of the signal that ended it early, or 0.
+    // Returns the number of the signal that ended it early, or 0.
     [[nodiscard]] int run() {
         std::vector<std::thread> threads;
         for (unsigned job = 0; job < m_options.jobs; ++job)

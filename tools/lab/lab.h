@@ -6,8 +6,8 @@
 #include "tools/lab/device_result.h"
 #include "tools/lab/lab_options.h"
 
-// Runs the program on each device, several at a time, with a line on standard error for each that is done; then judges
-// and writes index.html, lab.json and junit.xml, and a directory a device. Ends early, with what there is until then,
-// at a signal that ends programs; gives its number then, and 0 otherwise. Fails the command when the directory cannot
-// be written.
+// Runs the program on each device, several at a time, with a line on standard error for each completed run; then
+// evaluates the results and writes index.html, lab.json, junit.xml and a directory for each device. At a signal that
+// ends programs it stops early with the results so far and returns the signal's number; otherwise it returns 0. Fails
+// the command when the directory cannot be written.
 [[nodiscard]] int runLab(const LabOptions &options, std::vector<DeviceResult> &results);

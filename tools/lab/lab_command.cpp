@@ -24,13 +24,13 @@ struct Words {
     bool isHere = false;
 };
 
-// Above 0 and whole in the words.
+// Parses a positive number, which must be an integer.
 double numberOf(const std::string &option, const std::string &word) {
     char *end = nullptr;
     const double number = strtod(word.c_str(), &end);
     constexpr double most = 1e6;
     if (word.empty() || *end != '\0' || !(number > 0) || number > most)
-        throw UsageError{option + ": \"" + word + "\" is no number above 0"};
+        throw UsageError{option + ": \"" + word + "\" is not a positive number"};
     return number;
 }
 
@@ -39,7 +39,7 @@ std::set<std::string> readKinds(const std::string &words) {
     std::istringstream list(words);
     for (std::string kind; std::getline(list, kind, ',');) {
         if (std::ranges::find(faultKinds(), kind) == faultKinds().end())
-            throw UsageError{"--fail-on: \"" + kind + "\" is none of start, error, refusal, lacking, picture" +
+            throw UsageError{"--fail-on: \"" + kind + "\" is not one of start, error, refusal, lacking, picture" +
                              suggestion(kind, faultKinds())};
         kinds.insert(kind);
     }
@@ -49,7 +49,7 @@ std::set<std::string> readKinds(const std::string &words) {
 std::string readReference(const std::string &name, const std::vector<std::string> &devices) {
     if (name.empty()) return devices.front();
     if (std::ranges::find(devices, name) == devices.end())
-        failCommand("--reference: \"" + name + "\" is none of the devices that run" + suggestion(name, devices));
+        failCommand("--reference: \"" + name + "\" is not one of the selected devices" + suggestion(name, devices));
     return name;
 }
 
@@ -60,7 +60,7 @@ LabOptions readOptions(const Words &words, const std::vector<std::string> &progr
     if (options.frames == 0) options.seconds = words.seconds.empty() ? 3 : numberOf("--seconds", words.seconds);
     options.isHere = words.isHere;
     const unsigned processors = std::max(1u, std::thread::hardware_concurrency());
-    // Programs on one display cover one another's windows.
+    // Windows of programs on one display would cover each other.
     options.jobs = words.isHere         ? 1
                    : words.jobs.empty() ? processors
                                         : static_cast<unsigned>(std::max(1.0, numberOf("--jobs", words.jobs)));
@@ -79,7 +79,8 @@ void runLabCommand(const Words &words, const std::vector<std::string> &program) 
     if (options.isHere) {
         checkXServer();
     } else if (!VirtualServer::isThere()) {
-        failCommand("there is no Xvfb, which gives each device an X server: install it (Debian: xvfb), or take --here");
+        failCommand(
+            "there is no Xvfb, which provides each device's X server: install it (Debian: xvfb), or use --here");
     }
     std::vector<DeviceResult> results;
     const int stoppedBy = runLab(options, results);
@@ -95,20 +96,19 @@ void addLabCommand(const Verb &top, const std::vector<std::string> &program) {
     const Verb lab = top.verb(
         "lab", "Run a program on every device: zelvane lab [OPTIONS] [--] PROGRAM [ARGUMENTS]",
         "Each device has an X server of its own (Xvfb), a journal and a time limit. DIR/index.html shows them in a\n"
-        "table with their last frames; lab.json and junit.xml have the same for programs.\n"
-        "Exit status: 0 all devices pass, 1 some do not or the lab cannot run, 2 the command line is wrong.");
+        "table with their last frames; lab.json and junit.xml contain the same data for programs.\n"
+        "Exit status: 0 all devices pass, 1 a device fails or the lab cannot run, 2 invalid command line.");
     auto words = std::make_shared<Words>();
     const Word devices = lab.option("--devices", words->devices, "NAME,...",
                                     "these devices; \"zelvane profiles\" lists them, and \"Desktop\" is one");
     lab.flag("--all", words->all, "all devices, which is the default").excludes(devices);
-    const Word frames = lab.option("--frames", words->frames, "N", "end each run with that frame");
-    lab.option("--seconds", words->seconds, "S", "or so long after its first frame; 3 without either").excludes(frames);
-    lab.option("--out", words->out, "DIR", "where the files go; zelvane-lab without it");
-    const Word jobs = lab.option("--jobs", words->jobs, "N", "devices at a time; as many as there are processors");
-    lab.flag("--here", words->isHere, "run on the present display, one device after another").excludes(jobs);
-    lab.option("--reference", words->reference, "NAME",
-               "the device whose picture the others are held against; the first without it");
+    const Word frames = lab.option("--frames", words->frames, "N", "end each run after this frame");
+    lab.option("--seconds", words->seconds, "S", "or this time after its first frame; default: 3").excludes(frames);
+    lab.option("--out", words->out, "DIR", "the directory of the output; default: zelvane-lab");
+    const Word jobs = lab.option("--jobs", words->jobs, "N", "devices at a time; default: the number of processors");
+    lab.flag("--here", words->isHere, "run on the current display, one device after another").excludes(jobs);
+    lab.option("--reference", words->reference, "NAME", "the device to compare the pictures with; default: the first");
     lab.option("--fail-on", words->failOn, "KIND,...",
-               "what a device fails on: start, error, refusal, lacking, picture; start without it");
+               "what fails a device: start, error, refusal, lacking, picture; default: start");
     lab.action([words, &program] { runLabCommand(*words, program); });
 }

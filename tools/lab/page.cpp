@@ -8,7 +8,7 @@
 #include "tools/lab/results_json.h"
 #include "tools/lab/verdict.h"
 
-// page/page.html, which the build knows that this object depends on.
+// Embeds page/page.html. The build declares that this object depends on it.
 asm(".section .rodata\n"
     ".hidden zelvane_lab_page\n.global zelvane_lab_page\nzelvane_lab_page:\n.incbin \"" ZELVANE_LAB_PAGE "\"\n"
     ".hidden zelvane_lab_page_end\n.global zelvane_lab_page_end\nzelvane_lab_page_end:\n.byte 0\n.previous");
@@ -39,7 +39,7 @@ std::string joined(const Items &items, const char *between) {
     return text;
 }
 
-// What the page shows beside the fields of lab.json.
+// Adds the values that the page shows and lab.json lacks.
 void addWords(Json &row, const DeviceResult &result, size_t number) {
     row["number"] = number;
     row["verdict"] = result.passes ? "passes" : "fails";

@@ -5,7 +5,7 @@
 
 namespace {
 
-// From the outermost values to the current item.
+// The values of the enclosing sections, the innermost last.
 using Scopes = std::vector<const Json *>;
 
 const Json &find(const Scopes &scopes, const std::string &name) {
@@ -44,7 +44,7 @@ std::string escaped(const std::string &text) {
 
 std::string valueText(const Json &value) {
     if (value.is_null()) return {};
-    // What is no UTF-8 gets replacement characters.
+    // jsonLine() replaces bytes that are not UTF-8.
     return escaped(value.is_string() ? std::string(Json::parse(jsonLine(value))) : jsonLine(value));
 }
 
@@ -56,7 +56,8 @@ class Filler {
 public:
     explicit Filler(std::string_view text) : m_text(text) {}
 
-    // Until the end of the section, or of the text for an empty name. isThere: whether anything is put out.
+    // Fills the template up to the end of the section, or to its own end for an empty name. isThere: whether to append
+    // the result.
     void fill(Scopes &scopes, const std::string &section, bool isThere, std::string &out) {
         for (;;) {
             const size_t hole = m_text.find("{{", m_at);

@@ -1,9 +1,8 @@
-// Texts with holes. In a template
-//   {{name}}                  is the value of the name, with what HTML has a meaning for escaped
-//   {{#name}} ... {{/name}}   is there once for each item of a list, or once for a value that is neither false nor null
-//   nor
-//                             empty; names inside are looked for in the item first, and "." is the item itself
-//   {{^name}} ... {{/name}}   is there where the other is not
+// Text templates:
+//   {{name}}                  the value of the name, escaped for HTML
+//   {{#name}} ... {{/name}}   the contents, once for each item of a list, or once for any value except false, null and
+//                             the empty text; names inside are looked up in the item first, and "." is the item itself
+//   {{^name}} ... {{/name}}   the contents, if {{#name}} would omit them
 #pragma once
 
 #include <string>

@@ -12,7 +12,7 @@ std::optional<Picture> readPicture(const std::string &path) {
     int highest = 0;
     Picture picture;
     file >> kind >> picture.width >> picture.height >> highest;
-    file.get(); // the one blank before the pixels
+    file.get(); // skips the blank before the pixels
     constexpr int most = 1 << 15;
     if (!file || kind != "P6" || highest != 255 || picture.width <= 0 || picture.height <= 0 || picture.width > most ||
         picture.height > most)

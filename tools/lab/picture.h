@@ -9,10 +9,10 @@
 struct Picture {
     int width = 0;
     int height = 0;
-    std::vector<uint8_t> pixels; // RGB, the highest row first
+    std::vector<uint8_t> pixels; // RGB, the top row first
 };
 
-// Reads a PPM file with 8 bits a channel, as the library writes it. Nothing for any other file.
+// Reads a PPM file with 8 bits per channel, as the library writes it. Nothing for other files.
 [[nodiscard]] std::optional<Picture> readPicture(const std::string &path);
 
 // The bytes of a PNG file. Empty when libpng fails.
@@ -20,8 +20,8 @@ struct Picture {
 
 struct PictureDifference {
     uint64_t pixels = 0; // that differ
-    double share = 0;    // of all, from 0 to 1
-    Picture picture;     // bright where they differ, a dark grey shadow of the reference elsewhere
+    double share = 0;    // of all pixels, from 0 to 1
+    Picture picture;     // differing pixels are bright, the others a dark grey copy of the reference
 };
 
 // A pixel differs when one of its channels differs by more than this; drivers round and blend edges differently.

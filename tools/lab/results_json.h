@@ -7,8 +7,8 @@
 #include "tools/lab/device_result.h"
 #include "tools/lab/lab_options.h"
 
-// Names of pictures are paths below the directory of the lab.
+// Pictures are given as paths below the directory of the lab.
 [[nodiscard]] Json resultsAsJson(const LabOptions &options, const std::vector<DeviceResult> &results);
 
-// For CI: a test case a device.
+// For CI: one test case per device.
 [[nodiscard]] std::string resultsAsJunit(const LabOptions &options, const std::vector<DeviceResult> &results);

@@ -11,7 +11,7 @@ public:
     // Whether Xvfb is in PATH.
     [[nodiscard]] static bool isThere();
 
-    // Waits until it accepts connections, ten seconds at most. display() is empty when it does not.
+    // Waits up to ten seconds until it accepts connections. display() is empty if it does not.
     VirtualServer();
 
     [[nodiscard]] const std::string &display() const { return m_display; }

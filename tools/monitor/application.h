@@ -18,9 +18,10 @@ public:
 
     // For poll(); negative once the connection has ended.
     [[nodiscard]] int descriptor() const { return m_client.descriptor(); }
-    // Reads what has arrived, without waiting, and returns the record that it completes. Detects the connection's end.
+    // Reads the data that has arrived, without waiting, and returns the record that it completes. Detects the end of
+    // the connection.
     [[nodiscard]] std::optional<ui::messages::Message> receive();
-    // False when the application does not accept it now. Never waits.
+    // False if the application cannot receive it now. Never waits.
     bool send(const ui::messages::Message &command);
 
     // 0 and empty before the hello.

@@ -1,4 +1,4 @@
-// One object a record, on a line of its own.
+// Prints one object per record, each on a line of its own.
 #include <cstdio>
 
 #include "tools/monitor/json_record.h"
@@ -16,7 +16,7 @@ public:
 
     void ended(const MonitoredApplication &application) override { puts(jsonEnd(application).c_str()); }
 
-    // Standard output is for the objects alone.
+    // Standard output contains only the objects.
     void notice(const std::string &text) override { fprintf(stderr, "%s\n", text.c_str()); }
 };
 

@@ -8,7 +8,7 @@ using ui::messages::Message;
 
 namespace {
 
-// A number without a name stays a number.
+// A number without a name is written as a number.
 Json catalogueValue(FieldKind kind, uint32_t value) {
     const std::string name = valueName(kind, value);
     return name.empty() ? Json(value) : Json(name);

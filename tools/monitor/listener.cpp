@@ -14,8 +14,8 @@
 
 namespace {
 
-// Monitors check the socket file and replace it under this lock of its directory, which creates no file of its own. A
-// lock that is held for long is not waited for.
+// Monitors check and replace the socket file under this lock of its directory, which creates no file. The lock is not
+// waited for if it is held long.
 class DirectoryLock {
 public:
     explicit DirectoryLock(const std::string &path)
@@ -56,23 +56,23 @@ void failIfSomebodyListens(const std::string &path, const struct stat &file) {
     const int error = isConnected ? 0 : errno;
     const pid_t listener = isConnected ? peerOf(probe).pid : 0;
     close(probe);
-    // A full queue is that of somebody who listens.
+    // A full queue belongs to a live listener.
     if (error == 0 || error == EAGAIN) {
-        failCommand(processText(listener) + " listens at \"" + path + "\" already, since " +
+        failCommand(processText(listener) + " already listens at \"" + path + "\", since " +
                     timeText(localtime_r, "%F %T", file.st_mtim.tv_sec));
     }
     if (error == EACCES)
-        failCommand("\"" + path + "\" is closed to us; it belongs to user " + std::to_string(file.st_uid));
+        failCommand("\"" + path + "\" is not accessible; it belongs to user " + std::to_string(file.st_uid));
 }
 
 void failIfTaken(const std::string &path) {
     struct stat file {};
     if (lstat(path.c_str(), &file) != 0) return;
-    if (!S_ISSOCK(file.st_mode)) failCommand("\"" + path + "\" is in the way: it is no socket, and is left alone");
+    if (!S_ISSOCK(file.st_mode)) failCommand("\"" + path + "\" exists and is not a socket");
     failIfSomebodyListens(path, file);
 }
 
-// The numbers of files are given again; their times are not.
+// File numbers are reused; the times tell such files apart.
 bool isSameFile(const struct stat &one, const struct stat &other) {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_mtim.tv_sec == other.st_mtim.tv_sec &&
            one.st_mtim.tv_nsec == other.st_mtim.tv_nsec;
@@ -84,7 +84,7 @@ Listener::Listener() {
     const std::string path = KZRIPC::socketPath(productName);
     const DirectoryLock lock(path);
     failIfTaken(path);
-    // Applications of other users get as far as accept(), and those of root's monitor further.
+    // Every user may connect: accept() checks the user, and a monitor of root accepts all.
     const mode_t mask = umask(0111);
     m_server.emplace(productName, 16);
     const int error = errno;

@@ -25,10 +25,10 @@ public:
         std::optional<KZRIPC::Client> client; // empty when no descriptor was left or the process was rejected
         std::string refusal;                  // the process that accept() has rejected; empty for none
     };
-    // Accepts a waiting connection. Applications of our own user are accepted; with root, all are.
+    // Accepts a waiting connection. Applications of the same user are accepted; root's monitor accepts all.
     [[nodiscard]] Arrival accept() const;
 
 private:
     std::optional<KZRIPC::ServerSocket> m_server;
-    struct stat m_file {}; // ours
+    struct stat m_file {}; // the file that this object created
 };

@@ -16,7 +16,7 @@ constexpr char help[] = "w, wire on [PROCESS]   switch the wireframe on, for one
                         "d [PROCESS]            disconnect\n"
                         "q                      quit";
 
-// How long applications wait for the next check when no descriptor is free.
+// The time until the next check when no descriptor is free.
 constexpr int fullPauseMs = 1000;
 
 std::optional<Message> commandFor(const std::string &verb, const std::string &argument) {
@@ -36,11 +36,11 @@ void Monitor::run() {
     m_output->listening(m_listener.path(), m_options.takesCommands);
     while (!m_isEnding && fflush(stdout) == 0) {
         std::vector<pollfd> waiting{{m_ending, POLLIN, 0},
-                                    // It stays readable while nobody can be taken.
+                                    // Not polled while no descriptor is free, since it would remain readable.
                                     {m_isFull ? -1 : m_listener.descriptor(), POLLIN, 0},
                                     {m_terminal.descriptor, POLLIN, 0},
                                     {m_page.descriptor, POLLIN, 0},
-                                    // Reports only that the reader of a pipe has gone.
+                                    // Polled only for the end of a pipe's reader.
                                     {STDOUT_FILENO, 0, 0}};
         const size_t first = waiting.size();
         for (const auto &application : m_applications)
@@ -86,7 +86,7 @@ void Monitor::dropEnded() {
     std::erase_if(m_applications, [this](const auto &application) {
         if (application->descriptor() >= 0) return false;
         if (m_options.page) m_options.page->ended(*application);
-        // One that leaves without a hello has not been shown.
+        // An application that disconnects without a hello was never shown.
         if (!application->processNumber()) return true;
         if (m_options.filter.showsEnd(*application)) m_output->ended(*application);
         m_isEnding |= m_options.endsWithTheFirst && m_options.filter.follows(*application);
@@ -154,7 +154,7 @@ void Monitor::obey(const std::string &line) {
             ++reached;
             if (m_options.page) m_options.page->commanded(*application, *command);
         } else {
-            notice(std::to_string(application->processNumber()) + " takes no command now");
+            notice(std::to_string(application->processNumber()) + " cannot receive a command now");
         }
     }
     notice("sent to " + std::to_string(reached) + (reached == 1 ? " application" : " applications"));

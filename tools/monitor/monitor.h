@@ -15,8 +15,8 @@ struct MonitorOptions {
     bool takesCommands = false;    // reads lines of standard input as commands
     bool endsWithTheFirst = false; // of the applications that the filter follows
     RecordFilter filter = {};
-    MonitorOutput *page = nullptr; // receives everything, whatever the filter shows; owned by the caller
-    int pageCommands = -1;         // a pipe with lines as a user types them; owned by the caller
+    MonitorOutput *page = nullptr; // receives all records, independent of the filter; owned by the caller
+    int pageCommands = -1;         // a pipe with command lines; owned by the caller
 };
 
 class Monitor {
@@ -39,11 +39,11 @@ private:
     void readWhatIsLeft();
     // Command lines, and their source.
     struct CommandInput {
-        int descriptor;    // negative when there are none, or no more
-        std::string typed; // a line that is not complete yet
+        int descriptor;    // negative if there are no commands, or no more
+        std::string typed; // an incomplete line
     };
     void readCommands(CommandInput &input);
-    // A line such as "w", "W 1234", "wire off" or "d".
+    // Executes a line such as "w", "W 1234", "wire off" or "d".
     void obey(const std::string &line);
 
     void notice(const std::string &text);
@@ -53,7 +53,7 @@ private:
     int m_ending;
     MonitorOptions m_options;
     bool m_isFull = false;  // applications wait for a descriptor
-    bool m_hasTold = false; // that they did once
+    bool m_hasTold = false; // whether that was reported
     bool m_isEnding = false;
     CommandInput m_terminal, m_page;
     std::vector<std::unique_ptr<MonitoredApplication>> m_applications;

@@ -1,4 +1,4 @@
-// zelvane monitor: watch applications, and switch their render mode.
+// zelvane monitor: shows the records of applications and switches their render mode.
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
@@ -27,19 +27,19 @@ struct Options {
     bool once = false;
     std::string level = levels[0];
     RecordFilter filter;
-    std::optional<std::string> web; // a port, or empty for the usual one
+    std::optional<std::string> web; // a port, or empty for the default one
     bool open = false;
 };
 
 constexpr int usualPort = 6310;
 
-// A terminal or a pipe; what else stands there (a file, a closed input) belongs to somebody else.
+// Commands are read from a terminal or a pipe only, not from a file or a closed input.
 bool takesCommands(int input) {
     struct stat status {};
     return isatty(input) || (fstat(input, &status) == 0 && S_ISFIFO(status.st_mode));
 }
 
-// An output that nobody reads any more and a key in the background are noticed where they happen.
+// SIGPIPE and SIGTTIN are ignored, since their causes are detected at the calls.
 int catchSignals() {
     signal(SIGPIPE, SIG_IGN);
     signal(SIGTTIN, SIG_IGN);
@@ -62,16 +62,17 @@ std::optional<int> portOf(const std::string &text) {
 }
 
 std::string whatIsWrongWithPort(const std::string &port) {
-    return portOf(port) ? std::string() : '"' + port + "\" is no port: a number up to 65535, 0 for any that is free";
+    return portOf(port) ? std::string()
+                        : '"' + port + "\" is not a port: use a number up to 65535, or 0 for any free one";
 }
 
 void watch(const Options &options) {
-    if (options.open && !options.web) throw UsageError{"--open needs --web"};
+    if (options.open && !options.web) throw UsageError{"--open requires --web"};
     MonitorOptions monitorOptions{takesCommands(STDIN_FILENO), options.once, options.filter};
     const auto level = std::ranges::find(levels, options.level) - levels.begin();
     monitorOptions.filter.leastLevel = ZV_LOG_INFO + static_cast<uint32_t>(level);
     auto output = options.json ? makeJsonOutput() : makeTextOutput();
-    // Before there are threads: signals are this one's.
+    // Called before threads are created, so that this thread handles the signals.
     const int ending = catchSignals();
     std::optional<MonitorPage> page;
     std::optional<Browser> browser;
@@ -82,37 +83,36 @@ void watch(const Options &options) {
         output->notice("page at " + page->address());
     }
     if (options.open) browser.emplace(page->address());
-    if (browser && !browser->failure().empty()) output->notice("no browser is started: " + browser->failure());
+    if (browser && !browser->failure().empty()) output->notice("no browser was started: " + browser->failure());
     Monitor(std::move(output), ending, monitorOptions).run();
 }
 
 std::string whatIsWrongWith(const std::string &recordName) {
     if (isRecordName(recordName)) return {};
-    return "no record is called \"" + recordName + '"' + suggestion(recordName, recordNames());
+    return "there is no record type \"" + recordName + '"' + suggestion(recordName, recordNames());
 }
 
 } // namespace
 
 void addMonitorCommand(const Verb &top) {
-    const Verb monitor = top.verb(
-        "monitor", "Show what applications that start from now on report",
-        "A TYPE is a name that --json writes, such as log_error, or what several begin with: log, back_end,\n"
-        "system_report. Lines that are typed, or that come through a pipe, are commands: w, W, wire on|off, d\n"
-        "and q, each but q with a process number for one application alone.\n"
-        "Exit status: 0 done, 1 somebody else listens, the socket cannot be made or the port of the page is taken.");
+    const Verb monitor =
+        top.verb("monitor", "Show the records of applications that start from now on",
+                 "A TYPE is a name of a record in --json, such as log_error, or a prefix of several: log, back_end,\n"
+                 "system_report. Typed lines, and lines from a pipe, are commands: w, W, wire on|off, d\n"
+                 "and q, all but q with a process number for one application only.\n"
+                 "Exit status: 0 success, 1 another monitor listens, the socket cannot be created or the page's port "
+                 "is in use.");
     auto options = std::make_shared<Options>();
-    monitor.flag("--json", options->json, "one JSON object a record, for other tools");
-    monitor.flag("--once", options->once, "end with the first application");
-    monitor
-        .option("--level", options->level, "LEVEL", "the least level of log lines that are shown: info, warning, error")
+    monitor.flag("--json", options->json, "print one JSON object per record");
+    monitor.flag("--once", options->once, "end when the first application ends");
+    monitor.option("--level", options->level, "LEVEL", "the lowest level of log lines to show: info, warning, error")
         .oneOf(levels);
-    monitor.option("--process", options->filter.processes, "NUMBER|NAME",
-                   "show this process alone; may be given again");
-    monitor.option("--type", options->filter.types, "TYPE", "show these records alone; may be given again")
+    monitor.option("--process", options->filter.processes, "NUMBER|NAME", "show only this process; may be repeated");
+    monitor.option("--type", options->filter.types, "TYPE", "show only these records; may be repeated")
         .checkedBy(whatIsWrongWith);
     monitor
         .optionalValue("--web", options->web, "[PORT]",
-                       "show everything on a page in a browser too; port " + std::to_string(usualPort) +
+                       "also show everything on a page in a browser; port " + std::to_string(usualPort) +
                            " unless given")
         .checkedBy(whatIsWrongWithPort);
     monitor.flag("--open", options->open, "with --web: start the browser");

@@ -1,4 +1,4 @@
-// The monitor's output: for people, or one JSON object a line for other tools.
+// The monitor's output: text, or one JSON object per line.
 #pragma once
 
 #include <memory>

@@ -19,7 +19,7 @@ std::string fileOf(pid_t process, const char *name) {
     return "/proc/" + std::to_string(process) + '/' + name;
 }
 
-// As the program was started.
+// The value at the start of the program.
 std::string variableOf(pid_t process, const std::string &name) {
     std::ifstream file(fileOf(process, "environ"), std::ios::binary);
     for (std::string entry; std::getline(file, entry, '\0');) {
@@ -32,7 +32,7 @@ int64_t startOf(pid_t process) {
     std::ifstream file(fileOf(process, "stat"));
     std::string text;
     std::getline(file, text);
-    // The name in front may hold anything, brackets and blanks too.
+    // The command name before it may contain any characters, parentheses and blanks too.
     const size_t name = text.rfind(')');
     if (name == std::string::npos) return 0;
     std::istringstream fields(text.substr(name + 1));
@@ -61,7 +61,7 @@ std::string settingOf(tinyxml2::XMLDocument &document, const char *name) {
     return text ? text : "";
 }
 
-// As Settings reads it, but of another process and without making a file.
+// As Settings reads it, but for another process and without creating a file.
 std::string deviceOf(pid_t process) {
     const std::string path = preferencesDirectoryOf(process) + "/com.tarnlight." + productName + ".plist";
     const std::unique_ptr<FILE, int (*)(FILE *)> file(openForReading(path), fclose);

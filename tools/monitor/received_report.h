@@ -8,7 +8,7 @@
 
 class ReceivedReport {
 public:
-    // Far more than a report has: a sender without an end must not fill the memory.
+    // Far more than a report has, so that an endless sender cannot fill the memory.
     static constexpr size_t mostRecords = 4096;
 
     // Types 14 to 19. An invalid or surplus record is ignored: any connected process may send it.

@@ -114,7 +114,7 @@ bool hasFrame(const Message &message) {
 
 std::string valueName(FieldKind kind, uint32_t value) {
     const auto nameOf = [&](const auto &name) {
-        // Every catalogue has one text for all numbers that it lacks.
+        // Catalogues return the same text for all unknown numbers.
         const std::string found = name(static_cast<int32_t>(value));
         return found == name(-1) ? std::string() : found;
     };

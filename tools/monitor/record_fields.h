@@ -15,7 +15,7 @@ enum class FieldKind {
     Flag,
     Text,
     List,
-    // Numbers of the catalogues, for which valueName() has names.
+    // Numbers of the catalogues, whose names valueName() returns.
     GlVersion,
     HostExtension,
     HostExtensionList,

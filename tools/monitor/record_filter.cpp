@@ -17,7 +17,7 @@ bool includes(const std::vector<std::string> &names, const std::string &record) 
 } // namespace
 
 bool RecordFilter::follows(const MonitoredApplication &application) const {
-    constexpr size_t longestName = 15; // the system cuts names
+    constexpr size_t longestName = 15; // the system truncates names
     return processes.empty() || std::ranges::any_of(processes, [&](const std::string &process) {
                return process == std::to_string(application.processNumber()) ||
                       process.substr(0, longestName) == application.commandName();

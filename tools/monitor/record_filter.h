@@ -1,4 +1,4 @@
-// Which records a monitor shows.
+// Selects the records that a monitor shows.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 struct RecordFilter {
     uint32_t leastLevel = ZV_LOG_INFO;  // of log lines
-    std::vector<std::string> processes; // numbers, or names as the system knows them; empty for all
-    // Names of record types, or what several begin with, such as "log" for "log_info" and "log_error"; empty for all.
+    std::vector<std::string> processes; // numbers, or command names as the system reports them; empty for all
+    // Names of record types, or prefixes such as "log" for "log_info" and "log_error"; empty for all.
     std::vector<std::string> types;
 
     [[nodiscard]] bool follows(const MonitoredApplication &application) const;

@@ -1,5 +1,5 @@
-// Lines for people: "18:00:00.000 1234 torus  (Error) text". The facts of the System Report are shown together when all
-// are there.
+// Prints lines such as "18:00:00.000 1234 torus  (Error) text". The facts of a System Report are shown together after
+// the last one.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -17,14 +17,14 @@ using ui::messages::Message;
 
 namespace {
 
-// What an application says must not steer the terminal.
+// Removes control characters, so that applications cannot control the terminal.
 std::string printable(std::string_view text, std::string_view kept = {}) {
     std::string result(text);
     for (char &character : result) {
         const bool isControl = static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
         if (isControl && kept.find(character) == std::string_view::npos) character = '?';
     }
-    // The second set of controls, U+0080 to U+009F: terminals obey them in UTF-8 too.
+    // The C1 controls, U+0080 to U+009F, which terminals execute in UTF-8 too.
     for (size_t at = 0; (at = result.find('\xC2', at)) != std::string::npos; ++at) {
         const unsigned char next = result.c_str()[at + 1];
         if (next >= 0x80 && next < 0xA0) result.replace(at, 2, "?");
@@ -59,7 +59,7 @@ std::string allFields(const Message &message) {
     return text;
 }
 
-// What a terminal makes of a piece of a line.
+// The style of a part of a line on a terminal.
 enum class Style { plain, faint, name, warning, error };
 
 bool isForColours(int stream) {
@@ -76,7 +76,7 @@ class TextOutput final : public MonitorOutput {
 public:
     void listening(const std::string &path, bool takesCommands) override {
         printf("listening at %s\n", path.c_str());
-        if (takesCommands) puts("w or W switches the wireframe on or off, d disconnects, q quits; ? tells more");
+        if (takesCommands) puts("w or W switches the wireframe on or off, d disconnects, q quits; ? shows help");
     }
 
     void record(const MonitoredApplication &application, const Message &message) override {
@@ -116,7 +116,8 @@ private:
         return starts[static_cast<size_t>(style)] + text + "\033[0m";
     }
 
-    // A back end marks every frame that it draws; a line for each would push everything else out of sight.
+    // A back end sends a marker for every frame with draws. They are counted, since a line for each would scroll all
+    // other lines away.
     void countFrame(const MonitoredApplication &application, uint64_t number) {
         const auto now = std::chrono::steady_clock::now();
         const auto [found, isFirst] = m_frames.try_emplace(&application, Frames{now, 0});
@@ -163,8 +164,8 @@ private:
     };
 
     const bool m_hasColours = isForColours(STDOUT_FILENO);
-    std::map<const MonitoredApplication *, Frames> m_frames;          // since the last line about them
-    std::map<const MonitoredApplication *, ReceivedReport> m_reports; // those that are still coming in
+    std::map<const MonitoredApplication *, Frames> m_frames;          // since the last line about frames
+    std::map<const MonitoredApplication *, ReceivedReport> m_reports; // incomplete reports
 };
 
 } // namespace

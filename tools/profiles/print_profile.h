@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "profiles/device_profile.h"
 
@@ -11,6 +12,9 @@
 
 // "1.x, 2.0", or "none".
 [[nodiscard]] std::string versionsText(const egl::DeviceProfile &profile);
+
+// Their number, and one row a config.
+[[nodiscard]] std::string configTable(const std::vector<egl::Config> &configs);
 
 // Identity, configs as a table in the values that programs see, then extensions and limits of each es block.
 // text is the profile's own and parses.

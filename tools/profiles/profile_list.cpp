@@ -41,14 +41,10 @@ std::string row(const ListedProfile &listed, bool isInForce) {
 
 std::string inForceText(const ProfileList &list) {
     const std::string chosen = '"' + list.chosen + '"';
-    if (list.chosen.empty()) return "none; programs find the built-in config and every ES version";
+    if (list.chosen.empty()) return "none; programs get the built-in config and every ES version";
     if (!list.isRead()) return "none; " + chosen + " is chosen, but it is read only when a profiles directory is set";
     if (!list.inForce()) return chosen + ", which cannot be read: EGL fails with EGL_NOT_INITIALIZED";
     return list.chosen;
-}
-
-Json orNull(const std::string &text) {
-    return text.empty() ? Json(nullptr) : Json(text);
 }
 
 Json jsonRow(const ListedProfile &listed) {

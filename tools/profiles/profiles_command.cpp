@@ -1,15 +1,14 @@
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <iostream>
 
-#include "foundation/paths.h"
 #include "profiles/profile_reader.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
+#include "tools/command/text_file.h"
 #include "tools/command/verbs.h"
 #include "tools/profiles/check_profile.h"
+#include "tools/profiles/diff_command.h"
 #include "tools/profiles/print_profile.h"
 #include "tools/profiles/profile_list.h"
 
@@ -32,46 +31,40 @@ void showProfile(const std::string &name) {
 }
 
 void checkFile(const std::string &path) {
-    FILE *file = openForReading(path);
-    if (!file) failCommand("\"" + path + "\" cannot be read: " + strerror(errno));
-    std::string text;
-    char bytes[4096];
-    while (const size_t count = fread(bytes, 1, sizeof bytes, file))
-        text.append(bytes, count);
-    fclose(file);
-    const ProfileFindings findings = checkProfile(text, std::filesystem::path(path).filename());
-    for (const ProfileFinding &finding : findings.list) {
+    const ProfileFindings findings = checkProfile(readTextFile(path), std::filesystem::path(path).filename());
+    for (const ProfileFinding &finding : findings.list()) {
         std::cout << path << ':' << finding.lines << ": " << (finding.isProblem ? "" : "note: ") << finding.text
                   << '\n';
     }
     if (findings.hasProblems()) throw Failure{1};
-    std::cout << path << ": reads as it looks\n";
+    std::cout << path << ": no faults\n";
 }
 
 } // namespace
 
 void addProfilesCommand(const Verb &top) {
-    const Verb profiles = top.verb("profiles", "List the device profiles, and tell which one is in force",
-                                   "Exit status: 0 done, 1 the preferences file or the profile cannot be read.");
+    const Verb profiles = top.verb("profiles", "List the device profiles, and show the current one",
+                                   "Exit status: 0 success, 1 the preferences file or the profile cannot be read.");
     auto options = std::make_shared<Options>();
     const Word json = profiles.flag("--json", options->asJson, "print one JSON object");
-    profiles.flag("--names", options->asNames, "print the names alone, one a line").excludes(json);
+    profiles.flag("--names", options->asNames, "print only the names, one per line").excludes(json);
     profiles.action([options] {
         const ProfileList list = listProfiles();
         std::cout << (options->asJson ? listAsJson(list) : options->asNames ? listAsNames(list) : listAsText(list));
     });
 
     const Verb show = profiles.verb("show", "Print a profile: configs, extensions, limits",
-                                    "Exit status: 0 done, 1 there is no such profile.");
+                                    "Exit status: 0 success, 1 there is no such profile.");
     show.word("name", options->name, "a name that \"zelvane profiles\" lists").required();
     show.action([options] { showProfile(options->name); });
 
-    const Verb check = profiles.verb(
-        "check", "Tell what the reader makes of a profile file",
-        "Tells every element that the reader ignores or reads differently than it looks, with line numbers.\n"
-        "Lines with \"note:\" tell what is never read, and do no harm.\n"
-        "Exit status: 0 the file reads as it looks, 1 it does not or cannot be read.");
-    check.word("file", options->path, "the file, wherever it lies").required();
+    const Verb check =
+        profiles.verb("check", "Check a profile file",
+                      "Lists the elements that the reader ignores or reads in an unexpected way, with line numbers.\n"
+                      "Lines with \"note:\" list harmless elements that are never read.\n"
+                      "Exit status: 0 no faults, 1 the file has faults or cannot be read.");
+    check.word("file", options->path, "the path of the file").required();
     check.action([options] { checkFile(options->path); });
+    addProfilesDiffCommand(profiles);
     profiles.canStandAlone();
 }

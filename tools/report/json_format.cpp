@@ -1,3 +1,4 @@
+#include "foundation/product.h"
 #include "tools/command/json.h"
 #include "tools/report/formats.h"
 
@@ -7,7 +8,7 @@ using namespace capability;
 
 namespace {
 
-// A refused version is null.
+// Null for an unsupported version.
 Json esVersion(EsVersion version) {
     return version ? Json(esVersionName(version)) : Json(nullptr);
 }
@@ -22,11 +23,15 @@ Json extensionNames(const SystemReport &report) {
 
 } // namespace
 
-std::string reportAsJson(const SystemReport &report, const VersionAnswers &answers, bool withExtensions) {
+std::string reportAsJson(const HostIdentity &host, const SystemReport &report, const VersionAnswers &answers,
+                         bool withExtensions) {
     Json features = Json::object();
     for (const auto &[name, feature] : report.features)
         features[name] = feature->available;
-    Json json = {{"openGL", glVersionName(report.glVersion)}, {"features", features}};
+    Json json = {{"zelvane", {{"version", productVersion}, {"build", productBuild}}},
+                 {"host", {{"vendor", host.vendor}, {"renderer", host.renderer}, {"version", host.version}}},
+                 {"openGL", glVersionName(report.glVersion)},
+                 {"features", features}};
     json["requests"] = jsonList(answers.versions, [](const VersionAnswer &answer) -> Json {
         return {{"requested", esVersion(answer.requested)},
                 {"loose", esVersion(answer.loose)},

@@ -1,4 +1,4 @@
-// zelvane report: the system report of this host, and what a context would get.
+// zelvane report: the system report of this host, and the versions that contexts would get.
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -37,11 +37,12 @@ int runReport(const Options &options) {
         const char *display = getenv("DISPLAY");
         if (!display) return refuse("no context on the host: DISPLAY is not set");
         return refuse(std::string("no context on the host: the X server '") + display +
-                      "' is not there or gives no OpenGL 3.2 core context");
+                      "' is not running or has no OpenGL 3.2 core context");
     }
 
+    const auto identity = capability::probeHostIdentity(library, windowSystem).value_or(capability::HostIdentity{});
     const auto answers = askAboutVersions(*gate);
-    std::cout << (options.asJson ? reportAsJson : reportAsText)(collected, answers, options.withExtensions);
+    std::cout << (options.asJson ? reportAsJson : reportAsText)(identity, collected, answers, options.withExtensions);
     return answers.carriesEs30 ? carriesEs30 : lacksEs30;
 }
 
@@ -50,9 +51,9 @@ int runReport(const Options &options) {
 } // namespace tools
 
 void addReportCommand(const Verb &top) {
-    const Verb report = top.verb(
-        "report", "Tell what this host can carry",
-        "Exit status: 0 if the host carries OpenGL ES 3.0 in strict mode, 1 if not, 2 if it gives no context.");
+    const Verb report =
+        top.verb("report", "Report the capabilities of this host",
+                 "Exit status: 0 if the host supports OpenGL ES 3.0 in strict mode, 1 if not, 2 if it has no context.");
     const auto options = std::make_shared<tools::Options>();
     report.flag("--extensions", options->withExtensions, "list the host's OpenGL extensions too");
     report.flag("--json", options->asJson, "print one JSON object");

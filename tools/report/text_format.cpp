@@ -4,12 +4,20 @@
 
 #include "capability/feature_texts.h"
 #include "capability/format_system_report.h"
+#include "foundation/product.h"
 
 namespace tools {
 
 using namespace capability;
 
 namespace {
+
+std::string identityText(const HostIdentity &host) {
+    const auto orUnknown = [](const std::string &text) { return text.empty() ? std::string("unknown") : text; };
+    return std::string(productName) + ' ' + productVersion + " (SDK " + productBuild +
+           ")\nHost vendor: " + orUnknown(host.vendor) + "\nHost renderer: " + orUnknown(host.renderer) +
+           "\nHost version: " + orUnknown(host.version) + "\n\n";
+}
 
 std::string versionLine(const VersionAnswer &answer) {
     std::string line = std::string("OpenGL ES ") + esVersionName(answer.requested) + " request: ";
@@ -31,14 +39,15 @@ std::string failureOf(Feature feature) {
     const auto &descriptor = descriptorOf(feature);
     const auto &alternatives = descriptor.alternatives;
     std::string text = describeFeatureFailure(descriptor, alternatives.size() == 1 ? alternatives[0].variant : 0);
-    // No alternative follows the last one.
+    // The text after the last separator is empty.
     constexpr std::string_view separator = "\nOR\n";
     if (text.ends_with(separator)) text.resize(text.size() - separator.size());
     return text;
 }
 
-std::string reportAsText(const SystemReport &report, const VersionAnswers &answers, bool withExtensions) {
-    std::string text = formatSystemReport(report, withExtensions) + "\n";
+std::string reportAsText(const HostIdentity &host, const SystemReport &report, const VersionAnswers &answers,
+                         bool withExtensions) {
+    std::string text = identityText(host) + formatSystemReport(report, withExtensions) + "\n";
     for (const auto &answer : answers.versions)
         text += versionLine(answer);
     for (const auto &[feature, versions] : answers.heldBack) {

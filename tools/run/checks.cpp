@@ -28,7 +28,7 @@ bool isRunnable(const std::string &file) {
     return fs::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0;
 }
 
-// As the shell looks it up. Empty when there is no such program.
+// Searches PATH as the shell does. Empty if there is no such program.
 std::string findProgram(const std::string &name) {
     if (name.find('/') != std::string::npos) return isRunnable(name) ? name : "";
     const char *path = getenv("PATH");
@@ -40,14 +40,14 @@ std::string findProgram(const std::string &name) {
     return {};
 }
 
-// Why the loader takes no search path from us, if it does not.
+// Why the loader ignores LD_LIBRARY_PATH for the program; null if it does not.
 const char *foreignRights(const std::string &file) {
     struct stat found {};
     if (stat(file.c_str(), &found) != 0) return nullptr;
     const bool isSomebodyElses =
         (found.st_mode & S_ISUID && found.st_uid != getuid()) || (found.st_mode & S_ISGID && found.st_gid != getgid());
     if (isSomebodyElses) return " runs with the rights of another user";
-    // To root they give nothing that it lacks.
+    // Root has all of these capabilities already.
     const bool hasCapabilities = getxattr(file.c_str(), "security.capability", nullptr, 0) > 0;
     return hasCapabilities && getuid() != 0 ? " has file capabilities" : nullptr;
 }
@@ -58,21 +58,20 @@ bool isOurs(const std::string &name) {
 
 void checkLibraries(const std::string &program, const LoaderTrace &trace, const std::string &libraries) {
     for (const auto &[name, file] : trace.libraries) {
-        if (file.empty()) failCommand(name + ", which " + quoted(program) + " needs, is not there");
+        if (file.empty()) failCommand(name + ", which " + quoted(program) + " requires, is missing");
         std::error_code error;
         if (!isOurs(name) || fs::equivalent(fs::path(file).parent_path(), libraries, error)) continue;
         if (!fs::exists(fs::path(libraries) / name, error))
-            failCommand(quoted(program) + " needs " + name + ", which is not among the libraries in " +
-                        quoted(libraries));
-        failCommand(quoted(program) + " is linked to another copy: it takes " + name + " from " + quoted(file) +
-                    ", a place that is written into it or into a library of it and goes before every search path");
+            failCommand(quoted(program) + " requires " + name + ", which is not in " + quoted(libraries));
+        failCommand(quoted(program) + " uses another copy: it loads " + name + " from " + quoted(file) +
+                    ", a path in the program or one of its libraries that precedes every search path");
     }
 }
 
 void warnOfSymbols(const std::string &program, const std::vector<std::string> &missing) {
     if (missing.empty()) return;
     constexpr size_t shown = 5;
-    std::cerr << "zelvane: warning: " << quoted(program) << " is linked to functions that no library has, and ends when"
+    std::cerr << "zelvane: warning: " << quoted(program) << " is linked to functions that no library has, and ends if"
               << " it needs one:";
     for (size_t index = 0; index < missing.size() && index < shown; ++index)
         std::cerr << ' ' << missing[index];
@@ -85,26 +84,26 @@ void warnOfSymbols(const std::string &program, const std::vector<std::string> &m
 void checkXServer() {
     const char *name = getenv("DISPLAY");
     if (!name || !*name)
-        failCommand("there is no X server: DISPLAY is not set; \"xvfb-run\" gives a program one without a screen");
+        failCommand("there is no X server: DISPLAY is not set; \"xvfb-run\" provides one without a screen");
     Display *display = XOpenDisplay(nullptr);
-    if (!display) failCommand("there is no X server at " + quoted(name) + ", where DISPLAY leads");
+    if (!display) failCommand("there is no X server at " + quoted(name) + ", which DISPLAY names");
     XCloseDisplay(display);
 }
 
 void checkProgram(const std::vector<std::string> &words, const std::string &libraries) {
     const std::string program = findProgram(words[0]);
-    if (program.empty()) failCommand(quoted(words[0]) + " is no program that can be run");
+    if (program.empty()) failCommand(quoted(words[0]) + " is not an executable program");
     const ElfProgram elf = readElfProgram(program);
     if (elf.kind == ElfProgram::notElf) return;
     if (elf.kind == ElfProgram::otherMachine)
         failCommand(quoted(program) + " is built for another kind of machine than this library");
     if (const char *rights = foreignRights(program))
-        failCommand(quoted(program) + rights + ", so the loader takes no library of ours");
+        failCommand(quoted(program) + rights + ", so the loader ignores the directory of this library");
     if (elf.kind == ElfProgram::fixed) {
-        std::cerr << "zelvane: warning: " << quoted(program) << " is linked statically: it loads no library of ours\n";
+        std::cerr << "zelvane: warning: " << quoted(program) << " is statically linked and cannot load this library\n";
         return;
     }
-    // Other loaders would run the program instead of listing.
+    // Other loaders would run the program instead of listing its libraries.
     if (!fs::path(elf.interpreter).filename().string().starts_with("ld-linux")) return;
     const LoaderTrace trace = traceLoader(program);
     checkLibraries(program, trace, libraries);

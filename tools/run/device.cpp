@@ -4,7 +4,6 @@
 #include <iostream>
 
 #include "tools/command/failure.h"
-#include "tools/command/own_directory.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
 
@@ -12,13 +11,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char desktop[] = "Desktop";
-
-std::string shippedProfiles() {
-    return ownDirectory(desktop, {ZELVANE_INSTALLED_PROFILES, ZELVANE_BUILT_PROFILES});
-}
-
-// Whether the user has chosen a device. Without a directory of profiles the library reads none.
+// Whether the user has chosen a device. Without a profiles directory the library reads none.
 bool hasUsersDevice(ToolPreferences &preferences) {
     const std::string name = preferences.currentProfile();
     if (name.empty() || preferences.profilesDirectory().empty()) return false;
@@ -39,10 +32,10 @@ void settleDevice(const DeviceWish &wish, const std::string &standIn) {
         return;
     }
     if (wish.profile.empty() && hasUsersDevice(preferences)) return;
-    const std::string name = wish.profile.empty() ? desktop : wish.profile;
+    const std::string name = wish.profile.empty() ? desktopProfile : wish.profile;
     std::string directory = preferences.profilesDirectory();
-    // A user's own file of the name goes first.
-    if (name == desktop && (directory.empty() || !fs::exists(fs::path(directory) / desktop)))
+    // The user's own file of this name takes precedence.
+    if (name == desktopProfile && (directory.empty() || !fs::exists(fs::path(directory) / desktopProfile)))
         directory = shippedProfiles();
     checkProfileName(name, directory);
     preferences.setProfile(directory.empty() ? standIn : directory, name);

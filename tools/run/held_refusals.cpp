@@ -20,7 +20,7 @@ HeldRefusals::HeldRefusals(const std::string &directory) : m_path(directory + "/
     if (std::ofstream(m_path)) setenv("ZELVANE_REFUSALS", m_path.c_str(), 1);
 }
 
-// A line is "PID CALL TEXT"; without a text the call succeeded.
+// Lines are "PID CALL TEXT", without a text for a call that succeeded.
 void HeldRefusals::print() const {
     std::vector<Held> held;
     std::ifstream list(m_path);

@@ -1,4 +1,4 @@
-// Refused calls that the library holds back until the program has ended: for calls that programs retry, no refusal is
+// Failed calls that the library does not print until the program has ended: for calls that programs retry, none is
 // printed if one succeeded in the end.
 #pragma once
 
@@ -6,7 +6,7 @@
 
 class HeldRefusals {
 public:
-    // Points started programs to a list in the directory. Continues without a list if it cannot be created.
+    // Passes the path of a list in the directory to started programs. Continues without a list if it cannot be created.
     explicit HeldRefusals(const std::string &directory);
 
     // Prints the lines without a later success of that name on standard error, once the program has ended.

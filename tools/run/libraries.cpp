@@ -11,6 +11,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr char ownName[] = "libEGL.so.1";
+constexpr char desktopName[] = "desktop"; // see foundation/libgl_link.h
 
 void linkTo(const fs::path &target, const fs::path &link) {
     std::error_code error;
@@ -18,13 +19,17 @@ void linkTo(const fs::path &target, const fs::path &link) {
     if (error) failCommand("\"" + link.string() + "\" cannot be made: " + error.message());
 }
 
-// Under its own name and the unversioned one, which some programs open first.
+// Links the library by its own name and the unversioned one, which some programs open first.
 void linkLibrary(const fs::path &library, const fs::path &directory) {
     linkTo(library, directory / library.filename());
     linkTo(library, directory / library.filename().stem());
 }
 
 } // namespace
+
+std::string ownLibraries() {
+    return findOwnDirectory(ownName, {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES});
+}
 
 RunLibraries::RunLibraries(const std::string &backEnds)
     : m_directory(ownDirectory(ownName, {ZELVANE_INSTALLED_LIBRARIES, ZELVANE_BUILT_LIBRARIES})) {
@@ -40,5 +45,10 @@ RunLibraries::RunLibraries(const std::string &backEnds)
     }
     if (!hasAny) failCommand("\"" + backEnds + "\" has neither " + es1LibraryName + " nor " + es2LibraryName);
     linkLibrary(fs::path(m_directory) / ownName, m_links->path());
+    linkTo(fs::path(m_directory) / desktopName, fs::path(m_links->path()) / desktopName);
     m_directory = m_links->path();
+}
+
+std::string RunLibraries::searchPath() const {
+    return m_directory + ":" + (fs::path(m_directory) / desktopName).string();
 }

@@ -6,6 +6,9 @@
 
 #include "tools/command/temporary_directory.h"
 
+// Where our libraries are installed or built, seen from the command. Empty when they are not there.
+[[nodiscard]] std::string ownLibraries();
+
 class RunLibraries {
 public:
     // With back ends from another directory, all or some, and our own for the rest; empty for our own only. The library
@@ -14,6 +17,8 @@ public:
     explicit RunLibraries(const std::string &backEnds);
 
     [[nodiscard]] const std::string &directory() const { return m_directory; }
+    // The directories that the loader has to search first: that one, and that of the libGL.so.1 for desktop programs.
+    [[nodiscard]] std::string searchPath() const;
 
 private:
     std::optional<TemporaryDirectory> m_links;

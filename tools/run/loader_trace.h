@@ -10,6 +10,10 @@ struct LoaderTrace {
     std::vector<std::string> missingSymbols;
 };
 
-// Only for dynamic programs of the C library's own loader, which lists instead of running them. The search path is that
-// of our environment.
+// Only for dynamic programs of the C library's own loader, which lists the libraries instead of running them. The
+// search path is that of this process's environment.
 [[nodiscard]] LoaderTrace traceLoader(const std::string &program);
+
+// The files that the loader finds for these names, with their dependencies, when LD_LIBRARY_PATH is the search path. A
+// name without a file is missing in the result.
+[[nodiscard]] LoaderTrace traceLibraries(const std::vector<std::string> &names, const std::string &searchPath);

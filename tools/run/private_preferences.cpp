@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// An empty file if the user has none.
+// Creates an empty file if the user has none.
 void copyPreferences(const std::string &directory) {
     KZRPreferencesUnix files;
     std::string usersDirectory, error;

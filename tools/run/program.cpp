@@ -19,7 +19,7 @@ pid_t startProgram(const std::vector<std::string> &words) {
         arguments.push_back(const_cast<char *>(word.c_str()));
     arguments.push_back(nullptr);
 
-    // Signals that we block or ignore would be blocked or ignored in the program too.
+    // The program would inherit the signals that this process blocks or ignores.
     posix_spawnattr_t attributes;
     sigset_t none, ignored;
     sigemptyset(&none);
@@ -42,9 +42,9 @@ SignalRelay::SignalRelay() {
     for (const int number : relayed)
         sigaddset(&m_taken, number);
     sigprocmask(SIG_BLOCK, &m_taken, &m_before);
-    // Whoever started us may ignore it, and then nobody could wait for the program.
+    // The parent process may ignore SIGCHLD, which would make the wait for the program impossible.
     signal(SIGCHLD, SIG_DFL);
-    // The program's output is read by others too; a reader that goes is not the end of us.
+    // A closed output of this process must not end it while the program runs.
     signal(SIGPIPE, SIG_IGN);
 }
 
@@ -58,7 +58,7 @@ int SignalRelay::relayTo(pid_t program) const {
             return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
         siginfo_t info{};
         const int number = sigwaitinfo(&m_taken, &info);
-        // The terminal sends its signals to the program as well as to us; other processes send them to us alone.
+        // The terminal sends its signals to both processes. Signals of other processes are forwarded.
         if (number > 0 && number != SIGCHLD && info.si_code <= 0) kill(program, number);
     }
 }

@@ -1,4 +1,4 @@
-// Starts a program and acts for it towards our parent process.
+// Starts a program and represents it towards the parent process.
 #pragma once
 
 #include <csignal>
@@ -9,8 +9,8 @@
 // The exit status when the program was not started.
 inline constexpr int runFailure = 125;
 
-// Searched in PATH, with our environment and the signal mask of a program started by a shell. Fails the command when it
-// cannot be started.
+// words: the program, searched in PATH, and its arguments. Uses this process's environment and the signal mask of a
+// program started by a shell. Fails the command if the program cannot be started.
 [[nodiscard]] pid_t startProgram(const std::vector<std::string> &words);
 
 // While it lives, signals that end or control a program are held for relayTo().

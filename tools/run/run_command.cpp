@@ -27,7 +27,7 @@ struct Options {
     bool monitor = false;
 };
 
-// Beside the program, in a thread of its own: records of the program while it runs, and what it leaves at its end.
+// Shows the records of the program while it runs, in a thread, and the rest after its end.
 class WatchedRun {
 public:
     WatchedRun() : m_monitor(makeTextOutput(), m_end.reading(), {}), m_thread([this] { m_monitor.run(); }) {}
@@ -40,7 +40,7 @@ private:
     struct Pipe {
         int ends[2] = {-1, -1};
         Pipe() {
-            if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+            if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be created");
         }
         ~Pipe() { close(ends[0]); }
         int reading() const { return ends[0]; }
@@ -53,16 +53,17 @@ private:
 };
 
 int runProgram(const Options &options, const std::vector<std::string> &words) {
-    // First: no signal may end us while there are files to take away, and all threads leave the signals to this one.
+    // Constructed first, so that no signal ends this process while it has temporary files, and all threads block the
+    // signals.
     const SignalRelay signals;
     const PrivatePreferences preferences(options.wishes);
     const RunLibraries libraries(options.backEnds);
     const char *before = getenv("LD_LIBRARY_PATH");
-    const std::string path = libraries.directory() + (before && *before ? std::string(":") + before : "");
+    const std::string path = libraries.searchPath() + (before && *before ? std::string(":") + before : "");
     setenv("LD_LIBRARY_PATH", path.c_str(), 1);
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
     if (options.openGl) setenv("ZELVANE_DESKTOP_OPENGL", "1", 1);
-    // The program may change its directory before it asks for EGL.
+    // Absolute, since the program may change its working directory.
     if (!options.journal.empty()) setenv("ZELVANE_JOURNAL", std::filesystem::absolute(options.journal).c_str(), 1);
     checkXServer();
     checkProgram(words, libraries.directory());
@@ -78,23 +79,24 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
 } // namespace
 
 void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
-    const Verb run = top.verb(
-        "run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]",
-        "The user's preferences stay as they are, and hold where no option says otherwise. Without a device\n"
-        "of the user's the program finds \"Desktop\": the configs and versions that drivers of a desktop have.\n"
-        "Exit status: the program's own, 128 + N when signal N ended it, 125 when it was not started,\n"
-        "2 when the command line is wrong.");
+    const Verb run =
+        top.verb("run", "Run a program on this library: zelvane run [OPTIONS] [--] PROGRAM [ARGUMENTS]",
+                 "The user's preferences are not changed, and apply unless an option overrides them. If they have no\n"
+                 "device, the program gets \"Desktop\": the configs and versions of desktop drivers.\n"
+                 "Exit status: the program's own, 128 + N if signal N ended it, 125 if it was not started,\n"
+                 "2 for an invalid command line.");
     auto options = std::make_shared<Options>();
     const Word profile = run.option("--profile", options->wishes.device.profile, "NAME",
-                                    "the device that it finds; \"zelvane profiles\" lists them");
+                                    "the program's device; \"zelvane profiles\" lists them");
     run.flag("--bare", options->wishes.device.isBare, "no device: the built-in config and every ES version")
         .excludes(profile);
-    const Word strict = run.flag("--strict", options->strict, "refuse contexts that the host does not wholly carry");
-    run.flag("--loose", options->loose, "accept contexts that the host does not wholly carry").excludes(strict);
-    run.flag("--opengl", options->openGl, "offer desktop OpenGL beside OpenGL ES, for programs that need it");
-    run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries go before our own");
-    run.option("--journal", options->journal, "FILE", "add what happens at EGL to a file, a JSON object a line");
-    run.flag("--monitor", options->monitor, "show meanwhile what \"zelvane monitor\" would");
+    const Word strict = run.flag("--strict", options->strict, "reject contexts that the host does not fully support");
+    run.flag("--loose", options->loose, "accept contexts that the host does not fully support").excludes(strict);
+    run.flag("--opengl", options->openGl, "also offer desktop OpenGL, for programs that require it");
+    run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries replace Zelvane's");
+    run.option("--journal", options->journal, "FILE",
+               "append a journal of EGL and GL calls to a file, one JSON object per line");
+    run.flag("--monitor", options->monitor, "also show the output of \"zelvane monitor\"");
     run.action([options, &program] {
         if (program.empty()) throw UsageError{"PROGRAM is missing"};
         if (options->strict || options->loose) options->wishes.strict = options->strict;
@@ -102,7 +104,7 @@ void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
         try {
             status = runProgram(*options, program);
         } catch (const Failure &) {
-            // What it was has been said.
+            // The error has been printed.
         }
         if (status != 0) throw Failure{status};
     });

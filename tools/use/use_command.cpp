@@ -31,7 +31,7 @@ void useProfile(const std::string &name, std::string directory) {
     if (isGiven) {
         // The setting is read by programs that are started elsewhere.
         directory = std::filesystem::absolute(directory);
-        if (!std::filesystem::is_directory(directory)) failCommand("\"" + directory + "\" is no directory");
+        if (!std::filesystem::is_directory(directory)) failCommand("\"" + directory + "\" is not a directory");
     } else {
         directory = preferences.profilesDirectory();
     }
@@ -60,14 +60,14 @@ void useNone() {
 
 void addUseCommand(const Verb &top) {
     const Verb use =
-        top.verb("use", "Choose the device that programs find from now on",
-                 "Exit status: 0 done, 1 there is no such profile or the preferences file cannot be written,\n"
+        top.verb("use", "Choose the device of programs that start from now on",
+                 "Exit status: 0 success, 1 there is no such profile or the preferences file cannot be written,\n"
                  "2 neither a name nor --none, or both.");
     auto options = std::make_shared<Options>();
     const Word name = use.word("name", options->name, "a name that \"zelvane profiles\" lists");
     const Word none = use.flag("--none", options->none, "no device: the built-in config and every ES version");
-    const Word directory =
-        use.option("--directory", options->directory, "DIRECTORY", "where profile files lie; stored too");
+    const Word directory = use.option("--directory", options->directory, "DIRECTORY",
+                                      "the directory of profile files, which is stored too");
     none.excludes(name).excludes(directory);
     use.action([options] {
         if (options->none) return useNone();

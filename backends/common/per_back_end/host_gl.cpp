@@ -25,7 +25,7 @@ const HostGl *findHostGl() {
 }
 
 void sweepHostErrors() {
-    // A lost context returns errors without end.
+    // Limited, since a lost context returns an error at every call.
     for (int count = 0; count < 16 && hostGl().getError() != GL_NO_ERROR; ++count) {
     }
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Not all ES headers define these names.
+// Some ES headers lack these names.
 constexpr GLenum packAlignment = 0x0D05, packRowLength = 0x0D02, packSkipPixels = 0x0D04, packSkipRows = 0x0D03;
 constexpr GLenum unpackAlignment = 0x0CF5, unpackRowLength = 0x0CF2, unpackSkipPixels = 0x0CF4, unpackSkipRows = 0x0CF3;
 constexpr GLenum unpackSkipImages = 0x806D, unpackImageHeight = 0x806E;

@@ -5,7 +5,7 @@
 
 #include <zelvane/back_end.h>
 
-// Weak: a test replaces libEGL.so.1 and has no such entry.
+// Weak, since the libEGL.so.1 of a test lacks this function.
 extern "C" __attribute__((weak)) void (*eglGetProcAddress(const char *name))();
 
 namespace {

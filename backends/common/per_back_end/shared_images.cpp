@@ -1,21 +1,16 @@
 #include "common/per_back_end/shared_images.h"
 
-#include <utility>
-
 void SharedImages::begin(uint64_t image) {
     const std::lock_guard lock(m_mutex);
     m_live.insert(image);
 }
 
 void SharedImages::end(uint64_t image, GLuint storage) {
-    const std::lock_guard lock(m_mutex);
-    m_live.erase(image);
-    m_ended.push_back(storage);
-}
-
-std::vector<GLuint> SharedImages::takeEnded() {
-    const std::lock_guard lock(m_mutex);
-    return std::exchange(m_ended, {});
+    {
+        const std::lock_guard lock(m_mutex);
+        m_live.erase(image);
+    }
+    m_ended.add(storage);
 }
 
 bool SharedImages::isTaken(GLuint texture) const {

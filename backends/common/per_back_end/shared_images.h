@@ -2,6 +2,7 @@
 // Any thread.
 #pragma once
 
+#include "common/pending_list.h"
 #include "common/shared_map.h"
 
 #include <cstdint>
@@ -21,14 +22,14 @@ public:
     // The image is destroyed; its siblings remain. storage: the host's texture.
     void end(uint64_t image, GLuint storage);
     // The storages of destroyed images, for the caller to delete.
-    [[nodiscard]] std::vector<GLuint> takeEnded();
+    [[nodiscard]] std::vector<GLuint> takeEnded() { return m_ended.take(); }
     // Whether the texture, by the host's name, is a sibling of an existing image.
     [[nodiscard]] bool isTaken(GLuint texture) const;
 
     SharedMap<ImageSibling> siblings; // by the host's name
 
 private:
-    mutable std::mutex m_mutex; // guards the fields below
-    std::unordered_set<uint64_t> m_live;
-    std::vector<GLuint> m_ended;
+    mutable std::mutex m_mutex;
+    std::unordered_set<uint64_t> m_live; // guarded by m_mutex
+    PendingList<GLuint> m_ended;
 };

@@ -1,5 +1,6 @@
 #include "common/per_back_end/texture_contents.h"
 
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/pixel_store.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 namespace enums {
 
-// Not all ES headers define these names.
+// Some ES headers lack these names.
 constexpr GLenum stencilIndex = 0x1901, depthComponent = 0x1902, depthStencil = 0x84F9, rgbaInteger = 0x8D99;
 constexpr GLenum signedInteger = 0x1404, unsignedInteger = 0x1405, unsignedNormalized = 0x8C17,
                  floatsAndStencils = 0x8DAD;
@@ -22,7 +23,7 @@ constexpr GLenum redSize = 0x805C, greenSize = 0x805D, alphaSize = 0x805F, depth
 struct Sized {
     GLenum unsizedFormat, sizedFormat;
 };
-// Those that have one size on every host.
+// The formats that have the same size on every host.
 constexpr Sized sizes[] = {
     {0x1903, 0x8229},       // red
     {0x8227, 0x822B},       // red and green
@@ -44,7 +45,7 @@ GLint ask(GLenum target, GLint level, GLenum pname) {
     return value;
 }
 
-// Of a format without one, by the bits that the host has given it.
+// The sized format for an unsized one, by the bits that the host allocated.
 GLenum sizedFormat(GLenum target, GLenum internal) {
     if (internal == GL_RGB) return ask(target, 0, enums::greenSize) == 6 ? enums::rgb565 : enums::rgb8;
     if (internal == GL_RGBA) {
@@ -91,12 +92,12 @@ std::optional<TextureShape> boundTextureShape(GLenum target) {
 }
 
 BoundTexture::BoundTexture(GLenum target, GLuint texture) : m_target(target) {
-    hostGl().getIntegerv(target == enums::cubeMap ? enums::bindingCubeMap : GLenum(GL_TEXTURE_BINDING_2D), &m_before);
+    m_before = textureBoundTo(target == enums::cubeMap ? enums::bindingCubeMap : GLenum(GL_TEXTURE_BINDING_2D));
     hostGl().bindTexture(target, texture);
 }
 
 BoundTexture::~BoundTexture() {
-    hostGl().bindTexture(m_target, static_cast<GLuint>(m_before));
+    hostGl().bindTexture(m_target, m_before);
 }
 
 TextureContents::TextureContents(const TextureShape &shape) : m_shape(shape) {
@@ -128,8 +129,7 @@ TextureContents::TextureContents(const TextureShape &shape) : m_shape(shape) {
         for (GLint level = 0; level < shape.levels; ++level) {
             const GLsizei width = sizeAt(shape.width, level);
             const GLsizei height = sizeAt(shape.height, level);
-            Image &image =
-                m_images.emplace_back(Image{imageTarget(shape.target, face), face, level, width, height, {}});
+            Image &image = m_images.emplace_back(Image{imageTarget(shape.target, face), level, width, height, {}});
             image.texels.resize(static_cast<size_t>(width) * static_cast<size_t>(height) * bytes);
             hostGl().getTexImage(image.target, level, m_format, m_type, image.texels.data());
         }
@@ -144,10 +144,10 @@ void TextureContents::fill() const {
     }
 }
 
-void TextureContents::defineAllBut(GLint face, GLint level) const {
+void TextureContents::defineAllBut(GLenum target, GLint level) const {
     const PackedPixels packed;
     for (const Image &image : m_images) {
-        if (image.face == face && image.level == level) continue;
+        if (image.target == target && image.level == level) continue;
         hostGl().texImage2D(image.target, image.level, static_cast<GLint>(m_shape.internal), image.width, image.height,
                             0, m_format, m_type, image.texels.data());
     }

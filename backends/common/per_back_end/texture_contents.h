@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-// Of the texture that is bound to a texture target, which is not a cube face.
+// The shape of the texture that is bound to a texture target other than a cube map face.
 struct TextureShape {
     GLenum target;
     GLsizei width;
@@ -30,7 +30,7 @@ public:
 
 private:
     const GLenum m_target;
-    GLint m_before = 0;
+    GLuint m_before = 0;
 };
 
 // The texels of all images of the bound texture. Throws std::bad_alloc.
@@ -38,15 +38,15 @@ class TextureContents {
 public:
     explicit TextureContents(const TextureShape &shape);
 
-    // Into the bound storage of the same shape.
+    // Writes the texels to the bound storage of the same shape.
     void fill() const;
-    // Specifies such images in the bound texture, except the one of this face, counted from 0, and level.
-    void defineAllBut(GLint face, GLint level) const;
+    // Specifies these images in the bound texture, except the one of this target, which may be a face, and level.
+    void defineAllBut(GLenum target, GLint level) const;
 
 private:
     struct Image {
         GLenum target;
-        GLint face, level;
+        GLint level;
         GLsizei width, height;
         std::vector<GLubyte> texels;
     };
@@ -55,6 +55,20 @@ private:
     GLenum m_type = GL_UNSIGNED_BYTE;
     std::vector<Image> m_images;
 };
+
+// As a level index: no level gets a new image, and all are kept.
+constexpr GLint allLevels = -1;
+
+// Replaces the bound texture before an image of this target and level is specified. replace: binds another object to
+// the shape's target, which then gets the other images. Throws std::bad_alloc.
+template <typename Replace>
+void replaceAllBut(const TextureShape &shape, GLenum target, GLint level, Replace replace) {
+    const bool isOnlyImage = shape.levels == 1 && shape.faces() == 1 && level == 0;
+    if (isOnlyImage) return replace();
+    const TextureContents contents(shape);
+    replace();
+    contents.defineAllBut(target, level);
+}
 
 // Replaces the bound texture's images with an immutable storage, so that views can share it; the contents are kept.
 // Throws std::bad_alloc.

@@ -54,7 +54,7 @@ const std::vector<double> *told(const std::optional<EsBlock> &device, std::strin
     return found == device->limits.end() || found->second.size() < count ? nullptr : &found->second;
 }
 
-// A range that shares nothing with the host's leaves the host's in force.
+// A range that does not intersect the host's leaves the host's unchanged.
 void cut(std::vector<double> &host, const std::vector<double> &device) {
     if (host.size() == 1) {
         host[0] = std::min(host[0], device[0]);
@@ -102,7 +102,7 @@ void Limits::takeCompressedFormats(const HostFeatures &host, const std::optional
     m_values[GL_COMPRESSED_TEXTURE_FORMATS] = std::move(formats);
 }
 
-// A device may tell the type alone; the first format that goes with it is taken then.
+// If the device defines the type only, the first format that is valid with it is used.
 void Limits::takeReadFormat(const std::optional<EsBlock> &device) {
     const auto type = device ? device->limit("implementation_color_read_type") : std::nullopt;
     const auto format = device ? device->limit("implementation_color_read_format") : std::nullopt;

@@ -8,7 +8,7 @@
 
 class Limits {
 public:
-    // With the host context current.
+    // Requires a current host context.
     Limits(const HostFeatures &host, const std::optional<EsBlock> &device);
 
     // Null where the host's own value applies.

@@ -14,7 +14,7 @@ namespace {
 
 using Numbers = std::vector<double>;
 
-// The bits of each number of the host's matrix, for machines without floats.
+// The bits of each number of the host's matrix, for GL_OES_matrix_get.
 Numbers matrixBits(GLenum matrix) {
     GLfloat floats[16] = {};
     hostGl().getFloatv(matrix, floats);
@@ -24,7 +24,7 @@ Numbers matrixBits(GLenum matrix) {
     return numbers;
 }
 
-// Empty where the host's answer is right.
+// The result that differs from the host's; empty if the host's is correct.
 Numbers ownAnswer(GLenum pname) {
     const EsContext *const context = EsContext::current();
     if (!context) return {};
@@ -67,7 +67,7 @@ Numbers ownAnswer(GLenum pname) {
     }
 }
 
-// askHost: where there is no answer of our own.
+// askHost: called if the result is the host's.
 template <typename Number, typename AskHost, typename Convert>
 void get(GLenum pname, Number *data, AskHost askHost, Convert convert) {
     if (!data) return;
@@ -75,7 +75,7 @@ void get(GLenum pname, Number *data, AskHost askHost, Convert convert) {
     if (!context) return askHost();
     reportingMemory(*context, [&] {
         const Numbers answer = ownAnswer(pname);
-        // A list of formats may be empty without being the host's.
+        // An empty list of formats may be the device's own.
         if (answer.empty() && !context->announced.limits.find(pname)) return askHost();
         std::ranges::transform(answer, data, convert);
     });
@@ -124,7 +124,7 @@ GLenum GL_APIENTRY getError() {
     const GLenum own = context ? context->takeError() : GL_NO_ERROR;
     if (own != GL_NO_ERROR) return own;
     const GLenum host = hostGl().getError();
-    // What ES 1 cannot know, such as a lost context.
+    // Errors that ES 1 lacks, such as that of a lost context.
     const bool isForeign = host > GL_INVALID_FRAMEBUFFER_OPERATION_OES;
     return context && isForeign ? GL_INVALID_OPERATION : host;
 }
@@ -148,7 +148,7 @@ void GL_APIENTRY getIntegerv(GLenum pname, GLint *data) {
 
 void GL_APIENTRY getFixedv(GLenum pname, GLfixed *params) {
     const State *state = findState(pname);
-    // The one list whose length differs from host to host.
+    // The only list whose length depends on the host.
     constexpr State formats = {GL_COMPRESSED_TEXTURE_FORMATS, 0, Kind::Enumerant};
     if (pname == formats.name) state = &formats;
     if (!state) return raise(GL_INVALID_ENUM);

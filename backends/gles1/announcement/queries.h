@@ -1,4 +1,4 @@
-// The results of glGet that do not come from the host.
+// The results of glGet that differ from the host's.
 #pragma once
 
 #include "es_gl.h"
@@ -8,5 +8,5 @@
 
 class EsContext;
 
-// For vertex arrays that the host does not hold; nothing where the host's value is right.
+// The state of vertex arrays that the host does not hold; nothing if the host's value is correct.
 [[nodiscard]] std::optional<GLint> ownArrayState(const EsContext &context, GLenum pname);

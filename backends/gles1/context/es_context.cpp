@@ -6,7 +6,7 @@
 
 namespace {
 
-// The cube map extension has another default than desktop OpenGL, in every unit.
+// The initial mode of the cube map extension differs from desktop OpenGL's, in every unit.
 void setTextureGenerationModes() {
     const HostGl &gl = hostGl();
     GLint units = 0;

@@ -35,7 +35,7 @@ public:
 
     Vertices vertices;
     MatrixPalette palette;
-    TextureCrop cropOfTextureZero = {}; // which no two contexts share
+    TextureCrop cropOfTextureZero = {}; // of texture 0, which contexts do not share
 };
 
 // Raises an error in the current context, if there is one.

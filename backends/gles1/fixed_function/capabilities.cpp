@@ -1,4 +1,4 @@
-// The capabilities of glEnable: those of ES 1, and not all that the host has.
+// The capabilities of glEnable: those of ES 1 only, of the many that the host has.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -17,7 +17,7 @@ void setClipPlane(GLenum plane, const Number *equation, Convert convert) {
     hostGl().clipPlane(plane, numbers.data());
 }
 
-// A plane that the host does not know leaves the application's numbers alone.
+// For an invalid plane the host generates an error and equation is not written.
 template <typename Convert, typename Number>
 void getClipPlane(GLenum plane, Number *equation, Convert convert) {
     std::array<double, 4> numbers;

@@ -30,7 +30,7 @@ void setVector(Family family, GLenum name, const GLfixed *numbers, Set set) {
     set(floats.data());
 }
 
-// What the host leaves as it is, after an error of its own, does not reach the application.
+// Values that the host does not write, after an error, are not written for the application.
 template <typename Get>
 void getVector(Family family, GLenum name, GLfixed *numbers, Get get) {
     const Parameter *const parameter = numbers ? checkVector(family, name) : nullptr;

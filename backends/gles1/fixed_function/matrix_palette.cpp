@@ -97,7 +97,7 @@ void GL_APIENTRY loadPaletteFromModelViewMatrixOES() {
     if (context) context->palette.matrices[context->palette.current] = modelview();
 }
 
-// Matrices of the palette have no stack.
+// Palette matrices have no stack.
 void GL_APIENTRY pushMatrix() {
     if (EsContext *const context = contextInPaletteMode()) return context->raise(stackOverflow);
     hostGl().pushMatrix();

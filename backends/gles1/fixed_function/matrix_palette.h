@@ -17,7 +17,7 @@ struct MatrixPalette {
     std::array<Matrix, matrixCount> matrices;
     GLuint current = 0;
     bool isOn = false;
-    bool isMode = false; // matrix functions act on the palette here; the host's mode is then the modelview
+    bool isMode = false; // matrix functions change the palette; the host's mode is then the modelview
 };
 
 // The matrix of the application's matrix mode.

@@ -62,7 +62,7 @@ void GL_APIENTRY texParameteri(GLenum target, GLenum pname, GLint param) {
     if (checkScalar(Family::TexParameter, pname)) hostGl().texParameteri(target, pname, param);
 }
 
-// Both sides have one material.
+// ES 1 accepts only GL_FRONT_AND_BACK.
 void GL_APIENTRY materialf(GLenum face, GLenum pname, GLfloat param) {
     if (face != GL_FRONT_AND_BACK) return raise(GL_INVALID_ENUM);
     if (checkScalar(Family::Material, pname)) hostGl().materialf(face, pname, param);

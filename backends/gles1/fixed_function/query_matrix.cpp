@@ -5,7 +5,7 @@
 
 namespace overrides {
 
-// A bit of the result is set for each number that has no such form.
+// A bit of the result is set for each number that is infinite or not a number.
 GLbitfield GL_APIENTRY queryMatrixxOES(GLfixed *mantissa, GLint *exponent) {
     if (!mantissa || !exponent) return 0xFFFF;
     const Matrix matrix = currentMatrix();

@@ -33,7 +33,7 @@ struct Image {
     GLsizei width, height;
 };
 
-// Texels without gaps between rows, whatever alignment the application has set.
+// The texels are tightly packed, whatever alignment the application has set.
 void upload(const Image &image, GLenum format, GLenum type, const uint8_t *texels) {
     const HostGl &gl = hostGl();
     GLint before = 4;
@@ -52,7 +52,7 @@ size_t indexBytes(const PaletteFormat &format, const Image &image) {
     return (texelCount(image) * format.bits + 7) / 8;
 }
 
-// The level below an image's.
+// The next smaller level of an image.
 Image nextLevel(const Image &image) {
     return {image.target, image.level + 1, std::max(image.width / 2, 1), std::max(image.height / 2, 1)};
 }
@@ -60,7 +60,7 @@ Image nextLevel(const Image &image) {
 void uploadPaletted(const PaletteFormat &format, const Image &image, const uint8_t *palette, const uint8_t *indices) {
     std::vector<uint8_t> texels(texelCount(image) * format.bytes);
     for (size_t texel = 0; texel < texelCount(image); ++texel) {
-        // Of two indices in a byte the first stands in the high half.
+        // The first of two indices in a byte is in the high half.
         const unsigned index = format.bits == 8 ? indices[texel]
                                : texel % 2 == 0 ? indices[texel / 2] >> 4
                                                 : indices[texel / 2] & 15;
@@ -75,7 +75,7 @@ bool isTooLarge(GLsizei width, GLsizei height) {
     return width < 0 || height < 0 || width > limit || height > limit;
 }
 
-// One call brings all levels of detail; level is minus the number of the last.
+// One call specifies all levels: level is minus the number of the last one.
 GLenum setPaletted(const PaletteFormat &format, const Image &image, size_t size, const uint8_t *data) {
     constexpr GLint maxLevels = 31;
     if (image.target != GL_TEXTURE_2D) return GL_INVALID_ENUM;
@@ -125,7 +125,7 @@ void GL_APIENTRY compressedTexImage2D(GLenum target, GLint level, GLenum interna
     });
 }
 
-// No part of a decoded image can be replaced.
+// Parts of decoded images cannot be replaced.
 void GL_APIENTRY compressedTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLsizei width,
                                          GLsizei height, GLenum format, GLsizei imageSize, const void *data) {
     if (findPaletteFormat(format) || format == GL_ETC1_RGB8_OES) return raise(GL_INVALID_OPERATION);

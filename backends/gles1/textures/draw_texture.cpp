@@ -13,11 +13,11 @@ namespace {
 
 struct Unit {
     GLenum name;
-    // Texture coordinates at the left bottom and right top corner.
+    // Texture coordinates at the lower left and upper right corner.
     std::array<GLfloat, 2> from, to;
 };
 
-// Matrices are put back by their numbers: a stack may be full.
+// Saves a matrix by value, since the stack may be full.
 class SavedMatrix {
 public:
     SavedMatrix(GLenum mode, GLenum matrix) : m_mode(mode) {
@@ -38,7 +38,7 @@ private:
     std::array<GLfloat, 16> m_numbers;
 };
 
-// That of one unit, which becomes the active one.
+// Saves the texture matrix of one unit, which becomes the active one.
 class SavedTextureMatrix {
 public:
     explicit SavedTextureMatrix(GLenum unit) : m_unit(unit), m_matrix(GL_TEXTURE, GL_TEXTURE_MATRIX) {}
@@ -61,7 +61,7 @@ struct SavedState {
     SavedState &operator=(const SavedState &) = delete;
 };
 
-// Of the active unit; nothing without an image.
+// The active unit; nothing without an image.
 std::optional<Unit> readUnit(EsContext &context, GLenum name) {
     const HostGl &gl = hostGl();
     GLint width = 0;
@@ -76,7 +76,7 @@ std::optional<Unit> readUnit(EsContext &context, GLenum name) {
                 {share(double(left) + across, width), share(double(bottom) + up, height)}};
 }
 
-// Leaves what would change the texture coordinates off; SavedState puts it on again.
+// Disables all that would change the texture coordinates; SavedState restores it.
 std::vector<Unit> readUnits(EsContext &context, std::list<SavedTextureMatrix> &matrices) {
     const HostGl &gl = hostGl();
     GLint count = 0;
@@ -103,7 +103,7 @@ void setTransformation(const SavedMatrix &projection, double x, double y, double
     const double across = std::clamp(std::ceil(x + width) - left, 1.0, double(limits[0]));
     const double up = std::clamp(std::ceil(y + height) - bottom, 1.0, double(limits[1]));
     gl.viewport(toInteger(left), toInteger(bottom), toInteger(across), toInteger(up));
-    // The quad's corners are 0 and 1. Its depth comes in after the fog, which sees the eye.
+    // The quad's corners are 0 and 1. The projection sets the depth, since fog depends on eye coordinates.
     const auto part = [](double number) { return static_cast<GLfloat>(number); };
     projection.load({part(2 * width / across), 0, 0, 0,                                  //
                      0, part(2 * height / up), 0, 0,                                     //
@@ -148,7 +148,7 @@ void drawRectangle(EsContext &context, double x, double y, double z, double widt
 void draw(double x, double y, double z, double width, double height) {
     EsContext *const context = EsContext::current();
     if (!context) return;
-    // Not a number is no size either.
+    // The comparison also rejects NaN.
     if (!(width > 0 && height > 0)) return context->raise(GL_INVALID_VALUE);
     reportingMemory(*context, [&] { drawRectangle(*context, x, y, z, width, height); });
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-// What an image's owner points to.
+// The object that an image's owner points to.
 using Owner = std::shared_ptr<ShareGroup>;
 
 void deleteEnded(ShareGroup &shared) {
@@ -38,7 +38,7 @@ EGLint makeImage(EsContext &context, const zvImageSource &source, zvImage &image
     const bool isFace = source.target != EGL_GL_TEXTURE_2D;
     const GLenum target = isFace ? GL_TEXTURE_CUBE_MAP_OES : GL_TEXTURE_2D;
     const BoundTexture bound(target, texture);
-    // The host refuses to bind a texture of another kind.
+    // The host generates an error for a texture of another target.
     if (gl.getError() != GL_NO_ERROR) return EGL_BAD_PARAMETER;
     const auto shape = boundTextureShape(target);
     if (!shape) return EGL_BAD_PARAMETER;
@@ -99,7 +99,7 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     context->shared->images.siblings.set(view, {image.number, true});
 }
 
-// Images are made of textures alone here, whose host object cannot be the storage of a renderbuffer.
+// Images have textures as sources only, and a texture on the host cannot be the storage of a renderbuffer.
 void GL_APIENTRY imageTargetRenderbufferStorage(GLenum target, GLeglImageOES) {
     raise(target == GL_RENDERBUFFER_OES ? GL_INVALID_OPERATION : GL_INVALID_ENUM);
 }

@@ -1,5 +1,6 @@
 #include "textures/stand_ins.h"
 
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "common/per_back_end/texture_contents.h"
@@ -31,20 +32,7 @@ void bindWithParameters(GLenum target, GLuint texture) {
         gl.texParameteri(target, parameters[index], values[index]);
 }
 
-void rebindUnits(GLenum target, GLuint old, GLuint fresh) {
-    const HostGl &gl = hostGl();
-    GLint active = GL_TEXTURE0;
-    GLint count = 0;
-    gl.getIntegerv(GL_ACTIVE_TEXTURE, &active);
-    gl.getIntegerv(GL_MAX_TEXTURE_UNITS, &count);
-    for (GLint unit = 0; unit < count; ++unit) {
-        gl.activeTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
-        if (boundHostTexture(target) == old) gl.bindTexture(target, fresh);
-    }
-    gl.activeTexture(static_cast<GLenum>(active));
-}
-
-// For the bound framebuffer.
+// Replaces the texture in the bound framebuffer.
 void swapAttached(GLuint old, GLuint fresh) {
     const HostGl &gl = hostGl();
     GLint bound = 0;
@@ -64,12 +52,6 @@ void swapAttached(GLuint old, GLuint fresh) {
     }
 }
 
-void replaceBy(EsContext &context, GLenum target) {
-    GLuint fresh = 0;
-    hostGl().genTextures(1, &fresh);
-    replaceBoundTexture(context, target, fresh);
-}
-
 } // namespace
 
 void StandIns::set(GLuint name, GLuint hostName) {
@@ -87,9 +69,7 @@ GLuint StandIns::remove(GLuint name) {
 }
 
 GLuint boundHostTexture(GLenum target) {
-    GLint bound = 0;
-    hostGl().getIntegerv(bindingOf(target), &bound);
-    return static_cast<GLuint>(bound);
+    return textureBoundTo(bindingOf(target));
 }
 
 void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh) {
@@ -98,10 +78,10 @@ void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh) {
     const GLuint name = shared.standIns.nameOf(old);
     bindWithParameters(target, fresh);
     shared.standIns.set(name, fresh);
-    rebindUnits(target, old, fresh);
+    rebindUnits(target, bindingOf(target), GL_MAX_TEXTURE_UNITS, old, fresh);
     swapAttached(old, fresh);
     shared.images.siblings.remove(old);
-    // The object of the application's own name keeps the name from others.
+    // The object of that name stays, so that the host does not generate the name for another one.
     if (old != name) hostGl().deleteTextures(1, &old);
 }
 
@@ -112,13 +92,12 @@ void leaveImage(GLenum target, GLint level) {
     const auto sibling = context->shared->images.siblings.find(boundHostTexture(whole));
     const auto shape = sibling && sibling->isMutable ? boundTextureShape(whole) : std::nullopt;
     if (!shape) return;
-    const bool isAllReplaced = shape->levels == 1 && shape->faces() == 1 && level == 0;
-    if (isAllReplaced) return replaceBy(*context, whole);
     reportingMemory(*context, [&] {
-        const TextureContents contents(*shape);
-        replaceBy(*context, whole);
-        const bool isFace = whole != target;
-        contents.defineAllBut(isFace ? static_cast<GLint>(target - GL_TEXTURE_CUBE_MAP_POSITIVE_X_OES) : 0, level);
+        replaceAllBut(*shape, target, level, [&] {
+            GLuint fresh = 0;
+            hostGl().genTextures(1, &fresh);
+            replaceBoundTexture(*context, whole, fresh);
+        });
     });
 }
 

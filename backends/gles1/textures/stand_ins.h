@@ -2,6 +2,7 @@
 // new object. Every other texture has the application's name on the host.
 #pragma once
 
+#include "common/per_back_end/texture_contents.h"
 #include "common/shared_map.h"
 
 class EsContext;
@@ -27,9 +28,6 @@ private:
 // one. Bindings in this context are updated; other contexts use it once they bind or attach the name again.
 void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh);
 
-// As the index of the level that gets a new image: no level does, and all are kept.
-constexpr GLint allLevels = -1;
-
-// Called before the bound texture gets an image of this target and level. A sibling of an EGL image gets a storage of
-// its own first; its other levels are kept.
+// Called before an image of this target and level is specified for the bound texture. A sibling of an EGL image first
+// gets a storage of its own, with its other levels.
 void leaveImage(GLenum target, GLint level);

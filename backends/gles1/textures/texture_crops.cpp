@@ -11,12 +11,12 @@
 
 namespace {
 
-// By the application's name.
+// The bound texture, by the application's name.
 GLuint boundTexture(const EsContext &context) {
     return context.shared->standIns.nameOf(boundHostTexture(GL_TEXTURE_2D));
 }
 
-// False where the host is to judge the call.
+// False if the call is passed to the host.
 template <typename Number>
 bool setCrop(GLenum target, GLenum pname, const Number *params) {
     EsContext *const context = EsContext::current();

@@ -24,5 +24,5 @@ private:
 
 class EsContext;
 
-// For the texture that is bound to the active unit. With the host context current.
+// The rectangle of the texture that is bound to the active unit. Requires a current host context.
 [[nodiscard]] TextureCrop boundTextureCrop(EsContext &context);

@@ -36,7 +36,7 @@ bool isImageTarget(GLenum target) {
 GLenum formatError(GLenum format, GLenum type) {
     const auto is = [&](const PixelFormat &row) { return row.format == format && row.type == type; };
     if (std::ranges::any_of(pixelFormats, is)) return GL_NO_ERROR;
-    // Depth with stencil is of renderbuffers alone, but the names are known: no internal format goes with them.
+    // A valid format and type of renderbuffers, which no internal format of textures accepts.
     if (format == GL_DEPTH_STENCIL_OES && type == GL_UNSIGNED_INT_24_8_OES) return GL_NO_ERROR;
     const bool isFormat = format == GL_DEPTH_STENCIL_OES ||
                           std::ranges::find(pixelFormats, format, &PixelFormat::format) != std::end(pixelFormats);
@@ -85,7 +85,7 @@ void GL_APIENTRY copyTexImage2D(GLenum target, GLint level, GLenum internalforma
     hostGl().copyTexImage2D(target, level, internal->host, x, y, width, height, 0);
 }
 
-// Sized formats alone.
+// Accepts sized formats only.
 void GL_APIENTRY texStorage2DEXT(GLenum target, GLsizei levels, GLenum internalformat, GLsizei width, GLsizei height) {
     const InternalFormat *const internal = findInternalFormat(internalformat);
     const bool isSized = internal && internal->name != internal->base;

@@ -46,7 +46,7 @@ void GL_APIENTRY bindVertexArrayOES(GLuint array) {
     hostGl().bindVertexArray(array);
     EsContext *const context = EsContext::current();
     if (!context) return;
-    // The host may have rejected the name.
+    // Queried, since the host may have rejected the name.
     GLint bound = 0;
     hostGl().getIntegerv(GL_VERTEX_ARRAY_BINDING_OES, &bound);
     if (static_cast<GLuint>(bound) == array) reportingMemory(*context, [&] { context->vertices.arrays.bind(array); });

@@ -1,5 +1,5 @@
-// Vertex arrays that the host cannot hold, since it lacks their types, and those that it lacks completely: point sizes,
-// matrix indices and weights. Each vertex array object has its own.
+// Vertex arrays whose types the host lacks, and arrays that it lacks completely: point sizes, matrix indices and
+// weights. Each vertex array object has its own.
 #pragma once
 
 #include "es_gl.h"
@@ -18,7 +18,7 @@ struct OwnArray {
     [[nodiscard]] GLsizei distance() const { return stride == 0 ? elementSize() : stride; }
 };
 
-// The host's arrays in one row: texture coordinate arrays are at the end, one a unit.
+// The host's arrays: texture coordinate arrays are at the end, one per unit.
 enum ArraySlot : unsigned { VertexSlot, NormalSlot, ColorSlot, TexCoordSlot };
 
 // An array that the host lacks completely.
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] bool isDefaultBound() const { return m_bound == &m_default; }
 
     void bind(GLuint name);
-    // Deleting the bound one binds the default.
+    // Deleting the bound object binds the default one.
     void erase(GLuint name);
 
 private:

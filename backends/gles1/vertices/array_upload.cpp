@@ -62,7 +62,7 @@ public:
         }
     }
 
-    // Null where the buffer has ended.
+    // Null past the end of the buffer.
     [[nodiscard]] const std::byte *vertex(GLuint index) const {
         const size_t offset = (index - m_first) * m_distance;
         return offset + m_elementSize <= m_length ? m_bytes + offset : nullptr;
@@ -88,7 +88,7 @@ private:
     std::vector<std::byte> m_copy;
 };
 
-// An application's array may lie at any address.
+// The application's array may be unaligned.
 template <typename Number>
 Number numberAt(const std::byte *place, GLint index) {
     Number number;
@@ -118,7 +118,7 @@ bool isOn(unsigned slot) {
     return hostGl().isEnabled(GL_TEXTURE_COORD_ARRAY);
 }
 
-// With the stream buffer bound.
+// Requires that the stream buffer is bound.
 void pointHostAt(unsigned slot, GLint size, size_t offset) {
     const HostGl &gl = hostGl();
     const auto *const place = reinterpret_cast<const void *>(offset);
@@ -175,8 +175,8 @@ bool drawsFromOwnArrays(const ArrayObject &object) {
 
 bool uploadOwnArrays(EsContext &context, const VerticesRead &vertices) {
     const HostGl &gl = hostGl();
-    // Vertices keep their numbers, so that the host's own arrays go with them: the buffer has room for those before the
-    // first, which nobody reads or writes.
+    // Vertices keep their indices, since the host's own arrays use the same ones: the buffer has unused room for those
+    // before the first.
     const size_t bytesOfOne = (size_t{vertices.last} + 1) * sizeof(GLfloat);
     std::vector<std::pair<unsigned, const OwnArray *>> wanted;
     size_t total = 0;

@@ -1,4 +1,4 @@
-// Buffer mapping: ES 1 has write access only.
+// Buffer mapping: ES 1 allows write access only.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"

@@ -1,5 +1,5 @@
-// Vertex array pointers. The host has neither bytes nor fixed point for most arrays: such an array is held here and
-// uploaded as floats when it is drawn from.
+// Vertex array pointers. The host lacks bytes and fixed point for most arrays: such an array is kept here and uploaded
+// as floats for each draw.
 #include "announcement/queries.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
@@ -33,7 +33,7 @@ bool isAllowed(EsContext &context, const OwnArray &array, const Allowed &allowed
     } else if (std::ranges::find(allowed.types, array.type) == allowed.types.end()) {
         context.raise(GL_INVALID_ENUM);
     } else if (array.buffer == 0 && array.pointer && !context.vertices.arrays.isDefaultBound()) {
-        // As the host does with the types that it has: an object holds arrays in buffers alone.
+        // The same error as the host's for the types that it has: objects accept arrays in buffers only.
         context.raise(GL_INVALID_OPERATION);
     } else {
         return true;
@@ -41,7 +41,7 @@ bool isAllowed(EsContext &context, const OwnArray &array, const Allowed &allowed
     return false;
 }
 
-// True when the array is one for the host. isHosts: the host has its type.
+// True if the array is set on the host. isHosts: the host has its type.
 bool goesToHost(unsigned slot, OwnArray array, const Allowed &allowed, bool isHosts) {
     EsContext *const context = EsContext::current();
     if (!context) return true;
@@ -67,7 +67,7 @@ struct ArrayNames {
     GLenum size, type, stride, buffer; // 0 for none
 };
 
-// In the order of the slots; the last rows are those of the arrays that the host lacks.
+// In the order of the slots; the arrays that the host lacks are at the end.
 constexpr ArrayNames arrayNames[] = {
     {GL_VERTEX_ARRAY_SIZE, GL_VERTEX_ARRAY_TYPE, GL_VERTEX_ARRAY_STRIDE, GL_VERTEX_ARRAY_BUFFER_BINDING},
     {0, GL_NORMAL_ARRAY_TYPE, GL_NORMAL_ARRAY_STRIDE, GL_NORMAL_ARRAY_BUFFER_BINDING},
@@ -87,7 +87,7 @@ constexpr GLenum pointerNames[] = {GL_VERTEX_ARRAY_POINTER,         GL_NORMAL_AR
 constexpr EsArray ArrayObject::*esArrays[] = {&ArrayObject::pointSizes, &ArrayObject::matrixIndices,
                                               &ArrayObject::weights};
 
-// The array of that row of the tables, if it is not the host's.
+// The array of that row; null if the host holds it.
 const OwnArray *ownArray(const EsContext &context, size_t row) {
     const ArrayObject &object = context.vertices.arrays.bound();
     if (row > TexCoordSlot) return &(object.*esArrays[row - TexCoordSlot - 1]).array;
@@ -177,7 +177,7 @@ void GL_APIENTRY getPointerv(GLenum pname, void **params) {
     if (params) *params = const_cast<void *>(array->pointer);
 }
 
-// A buffer that goes leaves the arrays of the object that is bound; nothing lies at their offsets then.
+// Deleting a buffer detaches it from the arrays of the bound object, which then have offsets without data.
 void GL_APIENTRY deleteBuffers(GLsizei n, const GLuint *buffers) {
     if (EsContext *const context = EsContext::current(); context && buffers && n > 0) {
         ArrayObject &object = context->vertices.arrays.bound();

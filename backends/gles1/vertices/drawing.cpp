@@ -30,7 +30,7 @@ bool beginDraw(EsContext &context, GLenum mode) {
     return true;
 }
 
-// vertexOf: number of the vertex at a place in the list. draw: draws a number of places from a place on.
+// vertexOf: the vertex at a place of the list. draw: draws the given number of places from a place on.
 template <typename VertexOf, typename Draw>
 void drawPoints(const EsContext &context, const VerticesRead &vertices, GLsizei count, VertexOf vertexOf, Draw draw) {
     const HostGl &gl = hostGl();
@@ -43,7 +43,7 @@ void drawPoints(const EsContext &context, const VerticesRead &vertices, GLsizei 
         GLsizei end = start + 1;
         while (end < count && sizeAt(end) == size)
             ++end;
-        // The host has an error for sizes of 0 and below and draws the smallest point for this one.
+        // The host generates an error for sizes of 0 and below; the smallest positive number draws the smallest point.
         gl.pointSize(std::max(std::numeric_limits<GLfloat>::min(), size));
         draw(start, end - start);
         start = end;

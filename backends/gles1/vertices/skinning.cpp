@@ -43,7 +43,7 @@ std::pair<OwnArray, bool> arrayOf(const ArrayObject &object, unsigned slot) {
             true};
 }
 
-// The inverse, transposed, of what turns and scales. Nothing is left of normals that have no direction then.
+// The inverse transpose of the upper left 3 x 3 matrix; zeros if it has no inverse.
 Normal normalMatrix(const Matrix &m) {
     const Normal cofactors = {m[5] * m[10] - m[9] * m[6], m[8] * m[6] - m[4] * m[10], m[4] * m[9] - m[8] * m[5],
                               m[9] * m[2] - m[1] * m[10], m[0] * m[10] - m[8] * m[2], m[8] * m[1] - m[0] * m[9],
@@ -55,13 +55,13 @@ Normal normalMatrix(const Matrix &m) {
     return result;
 }
 
-// Whole numbers stand for -1 to 1 in normals.
+// Integers in normals represent -1 to 1.
 GLfloat normalPart(GLenum type, GLfloat number) {
     if (type == GL_BYTE) return (2 * number + 1) / 255;
     return type == GL_SHORT ? (2 * number + 1) / 65535 : number;
 }
 
-// What moves each vertex: so many matrices, each with a weight.
+// The matrices that transform each vertex, each with a weight.
 class Moves {
 public:
     Moves(const EsContext &context, const VerticesRead &vertices)
@@ -69,7 +69,7 @@ public:
           m_indices(readNumbers(m_object.matrixIndices.array, vertices)),
           m_weights(readNumbers(m_object.weights.array, vertices)) {}
 
-    // add: takes the number of a matrix and its weight.
+    // add: called with the number of a matrix and its weight.
     template <typename Add>
     void ofVertex(size_t vertex, Add add) const {
         const auto indexSize = static_cast<size_t>(m_object.matrixIndices.array.size);
@@ -122,7 +122,7 @@ std::vector<GLfloat> movedNormals(const EsContext &context, const Moves &moves, 
     return moved;
 }
 
-// Of numbers that begin with those of the first vertex.
+// An array in which numbers begin with the vertex first.
 OwnArray arrayAt(const std::vector<GLfloat> &numbers, GLint size, GLuint first) {
     const uintptr_t before = uintptr_t{first} * static_cast<uintptr_t>(size) * sizeof(GLfloat);
     const auto place = reinterpret_cast<uintptr_t>(numbers.data()) - before;

@@ -108,7 +108,7 @@ bool holdsAll(const std::vector<std::string> &names, std::string_view parts) {
     return true;
 }
 
-// All of them by name, or the device's in its order.
+// All of them in alphabetical order, or the device's in its order.
 std::vector<std::string> extensionsOf(const HostFeatures &host, const std::optional<EsBlock> &device, GLint major,
                                       GLint minor) {
     std::vector<std::string> names = carriedOf(host, major);
@@ -156,7 +156,7 @@ std::vector<double> hostNumbers(GLenum pname, size_t count) {
         hostGl().getInteger64v(pname, &value);
         return {static_cast<double>(value)};
     }
-    // Two is the most that any has.
+    // No limit has more than two numbers.
     GLfloat values[2] = {};
     hostGl().getFloatv(pname, values);
     return {values[0], values[1]};
@@ -175,7 +175,7 @@ std::vector<double> meet(Rule rule, std::vector<double> host, std::span<const do
 Announcement::Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor) {
     const std::optional<EsBlock> device = readEsBlock(profileText ? profileText : "", major, minor);
     version = "OpenGL ES " + number(major, minor) + " Zelvane (" + hostText(GL_VERSION) + ')';
-    // The language's version is 1.00 for ES 2.0 and that of the context ever since.
+    // The version of the shading language is 1.00 for ES 2, and that of the context for ES 3.
     shadingLanguageVersion = "OpenGL ES GLSL ES " + (major < 3 ? "1.00" : number(major, minor) + '0');
     vendor = device && !device->vendor.empty() ? device->vendor : hostText(GL_VENDOR);
     renderer = device && !device->renderer.empty() ? device->renderer : "Zelvane (" + hostText(GL_RENDERER) + ')';

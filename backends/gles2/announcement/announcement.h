@@ -12,7 +12,7 @@
 #include <vector>
 
 struct Announcement {
-    // profileText: as zvSettingsProfileText gives it; null and the empty text mean no profile.
+    // profileText: the result of zvSettingsProfileText; null and the empty text mean no profile.
     Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor);
 
     // names: of extensions, separated by blanks.

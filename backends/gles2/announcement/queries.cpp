@@ -17,15 +17,15 @@ constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_frameb
 constexpr GLenum gpuDisjoint = 0x8FBB;                   // of EXT_disjoint_timer_query
 constexpr GLenum contextRobustAccess = 0x90F3;           // of KHR_robustness
 
-// Who answers a query.
+// Where the result of a query comes from.
 enum class Answer : uint64_t {
     Host,
     OneNumber,
     ObjectName,
-    List, // or the host, where the device profile says nothing
+    List, // the device profile's values, or the host if there are none
 };
 
-// Two bits a name, so that a query that the host answers needs no more than a look here.
+// Two bits per name, so that a query of the host costs one lookup more.
 constexpr auto answers = [] {
     std::array<uint64_t, 0x10000 / 32> bits = {};
     const auto set = [&](GLenum pname, Answer answer) { bits[pname / 32] |= uint64_t(answer) << pname % 32 * 2; };
@@ -77,10 +77,10 @@ double oneNumber(const EsContext &context, GLenum pname) {
     }
     case fragmentShaderDiscardsSamples:
         return 1;
-    // The host's clock never stops.
+    // The host's timer is never disjoint.
     case gpuDisjoint:
         return 0;
-    // The host's context may be robust anyway, or another one than was asked for.
+    // The host's context may differ from the requested robustness.
     case contextRobustAccess:
         return context.robustAccess;
     case GL_RESET_NOTIFICATION_STRATEGY:
@@ -104,7 +104,7 @@ GLuint objectName(const EsContext &context, GLenum pname) {
     }
 }
 
-// Null where the host's answer is right.
+// Null if the host's result is correct.
 const std::vector<double> *list(const Announcement &announced, GLenum pname) {
     return pname == GL_COMPRESSED_TEXTURE_FORMATS ? &announced.compressedFormats : announced.limit(pname);
 }
@@ -113,7 +113,7 @@ template <typename Value>
 Value converted(double number) {
     if constexpr (std::is_same_v<Value, GLboolean>) return number != 0;
     if constexpr (std::is_same_v<Value, GLfloat>) return static_cast<GLfloat>(number);
-    // An integer form rounds and takes the nearest that it has.
+    // Integer queries round, and clamp to the greatest value.
     constexpr auto greatest = std::numeric_limits<Value>::max();
     if (number >= static_cast<double>(greatest)) return greatest;
     return static_cast<Value>(std::llround(number));
@@ -163,7 +163,7 @@ const GLubyte *GL_APIENTRY getString(GLenum name) {
         return asBytes(announced.vendor);
     case GL_RENDERER:
         return asBytes(announced.renderer);
-    // A core context has no such string at all.
+    // Core contexts do not have this string.
     case GL_EXTENSIONS:
         return asBytes(announced.extensions);
     default:
@@ -176,7 +176,7 @@ const GLubyte *GL_APIENTRY getStringi(GLenum name, GLuint index) {
     if (!context || name != GL_EXTENSIONS) return hostGl().getStringi(name, index);
     const auto &names = context->announced.extensionNames;
     if (index < names.size()) return asBytes(names[index]);
-    // Past the host's own end, so that the host raises the error.
+    // An index past the host's last one, so the host raises the error.
     return hostGl().getStringi(name, ~0u);
 }
 

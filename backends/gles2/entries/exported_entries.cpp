@@ -1,5 +1,5 @@
-// The plain names of OpenGL ES 2.0 to 3.2, for programs that link them. Each looks its function up at its first call;
-// afterwards it costs one load and a jump. Without a host OpenGL they do nothing and return 0.
+// The exported names of OpenGL ES 2.0 to 3.2, for programs that link them. Each looks its function up at its first
+// call; later calls cost one load and a jump. Without a host OpenGL they do nothing and return 0.
 #include "common/per_back_end/plain_names.h"
 
 #include <zelvane/back_end.h>

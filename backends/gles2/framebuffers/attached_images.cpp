@@ -1,9 +1,21 @@
 #include "framebuffers/attached_images.h"
 
+#include <algorithm>
+
 #include "common/per_back_end/host_gl.h"
 #include "context/es_context.h"
 
 namespace {
+
+constexpr GLenum formatsWithoutSize[] = {GL_RED, GL_RG, GL_RGB, GL_RGBA, GL_BGRA_EXT, GL_SRGB_ALPHA_EXT};
+
+// The host too may have been given no size.
+GLenum sizedFormat(GLenum format, GLint redBits) {
+    if (format == GL_RGBA) return redBits == 4 ? GL_RGBA4 : redBits == 5 ? GL_RGB5_A1 : GL_RGBA8;
+    if (format == GL_RGB) return redBits == 5 ? GL_RGB565 : GL_RGB8;
+    if (format == GL_RG) return GL_RG8;
+    return format == GL_RED ? GL_R8 : format;
+}
 
 void askTexture(const EsContext &context, AttachedImage &image) {
     const HostGl &gl = hostGl();
@@ -17,6 +29,8 @@ void askTexture(const EsContext &context, AttachedImage &image) {
     const bool isKnown = known && known->internal != GL_NONE;
     image.hostInternal = static_cast<GLenum>(ask(GL_TEXTURE_INTERNAL_FORMAT));
     image.internal = isKnown ? known->internal : image.hostInternal;
+    const bool hasSize = std::ranges::find(formatsWithoutSize, image.internal) == std::end(formatsWithoutSize);
+    image.sized = hasSize ? image.internal : sizedFormat(image.hostInternal, ask(GL_TEXTURE_RED_SIZE));
     image.width = ask(GL_TEXTURE_WIDTH);
     image.height = ask(GL_TEXTURE_HEIGHT);
     image.samples = ask(GL_TEXTURE_SAMPLES);
@@ -30,7 +44,7 @@ void askRenderbuffer(AttachedImage &image) {
         gl.getNamedRenderbufferParameteriv(image.hostName, pname, &value);
         return value;
     };
-    image.internal = image.hostInternal = static_cast<GLenum>(ask(GL_RENDERBUFFER_INTERNAL_FORMAT));
+    image.sized = image.internal = image.hostInternal = static_cast<GLenum>(ask(GL_RENDERBUFFER_INTERNAL_FORMAT));
     image.width = ask(GL_RENDERBUFFER_WIDTH);
     image.height = ask(GL_RENDERBUFFER_HEIGHT);
     image.samples = ask(GL_RENDERBUFFER_SAMPLES);

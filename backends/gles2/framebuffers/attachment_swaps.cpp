@@ -35,7 +35,7 @@ void swapAttached(EsContext &context, const HostImage &from, const HostImage &to
         if (name == from.name) attach(attachment, to, kind == GL_TEXTURE);
     };
     for (const GLuint framebuffer : context.framebuffers.names.hostNames()) {
-        // A name that was never bound has no framebuffer object yet.
+        // A framebuffer that was never bound does not exist yet.
         if (!gl.isFramebuffer(framebuffer)) continue;
         gl.bindFramebuffer(GL_READ_FRAMEBUFFER, framebuffer);
         for (GLint index = 0; index < colorCount; ++index)

@@ -7,7 +7,7 @@
 
 namespace {
 
-// True with the error raised, for an attachment that the device has not.
+// Raises the error and returns true for an attachment that the device lacks.
 bool isRefused(GLenum attachment) {
     EsContext *const context = EsContext::current();
     if (!context || attachment < GL_COLOR_ATTACHMENT0 || attachment > GL_COLOR_ATTACHMENT31) return false;
@@ -53,7 +53,7 @@ void GL_APIENTRY getFramebufferAttachmentParameteriv(GLenum target, GLenum attac
     if (!context || !params) return gl.getFramebufferAttachmentParameteriv(target, attachment, pname, params);
     gl.getFramebufferAttachmentParameteriv(target, hostBuffer(attachment), pname, params);
     const Framebuffers &framebuffers = context->framebuffers;
-    // The host's surface can do more than it is used for.
+    // The host's surface supports sRGB even if the application's is linear.
     if (pname == GL_FRAMEBUFFER_ATTACHMENT_COLOR_ENCODING && *params == GL_SRGB && framebuffers.bound(target) == 0 &&
         !framebuffers.isSurfaceSrgb()) {
         *params = GL_LINEAR;

@@ -1,4 +1,4 @@
-// ES rejects copies into multisampled images, between certain formats that differ, and of an image to itself.
+// ES rejects blits to multisampled images, between some different formats, and of an image to itself.
 #include "common/per_back_end/host_gl.h"
 #include "context/es_context.h"
 #include "framebuffers/blit.h"
@@ -10,12 +10,12 @@ bool isThere(const std::optional<AttachedImage> &image) {
     return image && image->kind != GL_NONE;
 }
 
-// An image of several samples is copied to the same place in the same format.
+// Multisampled images can only be blitted to the same place in the same format.
 bool isPairRefused(const std::optional<AttachedImage> &from, const std::optional<AttachedImage> &to, const Blit &blit) {
     if (!isThere(from)) return false;
     if (from->samples > 0 && blit.from != blit.to) return true;
     if (!isThere(to)) return false;
-    return from->isSameAs(*to) || (from->samples > 0 && from->internal != to->internal);
+    return from->isSameAs(*to) || (from->samples > 0 && from->sized != to->sized);
 }
 
 bool isDepthRefused(const EsContext &context, GLenum attachment, const Blit &blit) {

@@ -1,6 +1,5 @@
-// Copies between framebuffers. The host may treat the surface as sRGB though the application's is linear, and has one
-// switch for reading and drawing, so copies between the surface and an image that is really sRGB go through a linear
-// image.
+// Blits between framebuffers. The host may treat the surface as sRGB although the application's is linear, and has one
+// switch for reading and drawing, so blits between the surface and an sRGB image go through a linear image.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -18,7 +17,7 @@ void copy(const Blit &blit, GLbitfield mask) {
     hostGl().blitFramebuffer(from.x0, from.y0, from.x1, from.y1, to.x0, to.y0, to.x1, to.y1, mask, filter);
 }
 
-// While it lives, the host converts sRGB values or not; then as the context has it.
+// While it lives, the host's sRGB conversion is on or off; then the context's state is restored.
 class Conversion {
 public:
     Conversion(Framebuffers &framebuffers, bool isOn) : m_framebuffers(framebuffers) { m_framebuffers.force(isOn); }
@@ -30,7 +29,7 @@ private:
     Framebuffers &m_framebuffers;
 };
 
-// A linear image in a framebuffer of its own, which the application does not meet. What is bound comes back.
+// A linear image in a framebuffer of its own, which the application cannot see. The destructor restores the bindings.
 class LinearImage {
 public:
     LinearImage(EsContext &context, GLsizei width, GLsizei height) : m_context(context) {
@@ -75,7 +74,7 @@ struct Size {
     GLint width, height;
 };
 
-// Of what is read. Where nobody knows it, what the copy reaches.
+// The size of the read image; if it is unknown, the size that the blit covers.
 Size sizeRead(const std::optional<AttachedImage> &image, const Rectangle &from) {
     if (image && image->width > 0) return {image->width, image->height};
     Size size = {0, 0};
@@ -89,7 +88,7 @@ Size sizeRead(const std::optional<AttachedImage> &image, const Rectangle &from) 
     return {std::max({from.x0, from.x1, 1}), std::max({from.y0, from.y1, 1})};
 }
 
-// The whole image comes to the same place first, so that the second copy has its borders.
+// The first blit copies the whole image to the same place, so that the second one sees the original borders.
 void copyThroughLinear(EsContext &context, const Blit &blit, const std::optional<AttachedImage> &read) {
     const HostGl &gl = hostGl();
     const Size size = sizeRead(read, blit.from);
@@ -108,7 +107,7 @@ void copyThroughLinear(EsContext &context, const Blit &blit, const std::optional
     copy(blit, GL_COLOR_BUFFER_BIT);
 }
 
-// Colours between the linear surface and an image.
+// Blits colours between the linear surface and an image.
 void copyColors(EsContext &context, const Blit &blit) {
     const auto read = imageRead(context);
     const bool isConverted =

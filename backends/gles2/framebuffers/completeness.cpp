@@ -11,7 +11,7 @@ namespace {
 
 constexpr GLenum incompleteDimensions = 0x8CD9; // GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS
 
-// The images that are there.
+// The attached images.
 std::vector<AttachedImage> attachedImages(const EsContext &context, GLenum target) {
     GLint colorCount = 0;
     hostGl().getIntegerv(GL_MAX_COLOR_ATTACHMENTS, &colorCount);
@@ -29,7 +29,7 @@ std::vector<AttachedImage> attachedImages(const EsContext &context, GLenum targe
 
 bool isDrawn(const AttachedImage &image) {
     const bool hasSize = image.internal != GL_RGB && image.internal != GL_RGBA;
-    // An image of ten bits is drawn to where the application asked for them.
+    // Ten-bit images are color-renderable only if the application requested a sized format.
     const bool isTenBits = image.hostInternal == GL_RGB10_EXT || image.hostInternal == GL_RGB10_A2;
     return isDrawnFormat(image.internal) && (hasSize || !isTenBits);
 }
@@ -57,7 +57,7 @@ GLenum GL_APIENTRY checkFramebufferStatus(GLenum target) {
     if (isSurface) return status;
     if (status == GL_FRAMEBUFFER_COMPLETE) return statusOf(*context, target);
     if (status != GL_FRAMEBUFFER_UNSUPPORTED) return status;
-    // The host cannot draw to it either, for a reason that ES has another name for.
+    // Both reject the image, but ES has another status for it.
     return statusOf(*context, target) == GL_FRAMEBUFFER_COMPLETE ? status : GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT;
 }
 

@@ -6,5 +6,5 @@
 // Whether a renderbuffer of this version of ES may have the format; the host rejects what it does not support itself.
 [[nodiscard]] bool isRenderbufferFormat(GLenum internal, GLint major);
 
-// Whether ES can draw to textures of this format where the host can.
+// Whether textures of this format are color-renderable in ES, if they are on the host.
 [[nodiscard]] bool isDrawnFormat(GLenum internal);

@@ -46,7 +46,7 @@ void GL_APIENTRY genFramebuffers(GLsizei n, GLuint *framebuffers) {
 void GL_APIENTRY deleteFramebuffers(GLsizei n, const GLuint *framebuffers) {
     EsContext *const context = EsContext::current();
     deleteNames(framebufferNames(), n, framebuffers, hostGl().deleteFramebuffers, [&](GLuint host) {
-        // Deleting what is bound binds the surface.
+        // Deleting the bound framebuffer binds the surface.
         if (host == context->framebuffers.drawn()) context->framebuffers.setDrawn(0);
         if (host == context->framebuffers.read()) context->framebuffers.setRead(0);
     });

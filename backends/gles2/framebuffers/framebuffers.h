@@ -16,13 +16,13 @@ public:
     // target: a framebuffer target.
     [[nodiscard]] GLuint bound(GLenum target) const { return target == GL_READ_FRAMEBUFFER ? m_read : m_drawn; }
     [[nodiscard]] bool isSurfaceSrgb() const { return m_isSurfaceSrgb; }
-    // The application's switch of EXT_sRGB_write_control.
+    // The application's GL_FRAMEBUFFER_SRGB_EXT of EXT_sRGB_write_control.
     [[nodiscard]] bool mayWriteSrgb() const { return m_mayWriteSrgb; }
     void setMayWriteSrgb(bool may);
     // Called when the surface may have another colour space than at the last bind.
     void setSurface(bool isSrgb);
 
-    // Enables or disables sRGB writes on the host, until tellHost() restores what the context wants.
+    // Enables or disables sRGB writes on the host, until tellHost() restores the context's state.
     void force(bool writesSrgb);
     void tellHost() { force(m_mayWriteSrgb && (m_drawn != 0 || m_isSurfaceSrgb)); }
 

@@ -12,7 +12,7 @@ GLint askHost(GLenum pname) {
     return value;
 }
 
-// Of the channels of the image that is read.
+// The component type of the read image.
 GLenum componentType(const EsContext &context) {
     if (context.framebuffers.read() == 0) return GL_UNSIGNED_NORMALIZED;
     GLint type = GL_UNSIGNED_NORMALIZED;
@@ -40,8 +40,8 @@ bool isFormOf(GLenum component, GLenum format, GLenum type) {
     }
 }
 
-// BGRA comes with EXT_read_format_bgra, sixteen bits with EXT_texture_norm16; the host judges depths, stencils and what
-// is neither format nor type.
+// BGRA requires EXT_read_format_bgra, 16-bit types EXT_texture_norm16. Depth, stencil and invalid enumerants are
+// checked by the host.
 bool isRead(const EsContext &context, GLenum format, GLenum type) {
     const bool isColor = format == GL_RGBA || format == GL_RGBA_INTEGER;
     const bool isPlain = type == GL_UNSIGNED_BYTE || type == GL_BYTE || type == GL_SHORT || type == GL_INT ||
@@ -57,11 +57,11 @@ bool isComplete() {
 
 // The error that the host does not raise, or GL_NO_ERROR.
 GLenum readError(const EsContext &context, GLenum format, GLenum type) {
-    // An image is asked for its kind only where there is one.
+    // An incomplete framebuffer has no read image to check.
     return !isComplete() || isRead(context, format, type) ? GL_NO_ERROR : GL_INVALID_OPERATION;
 }
 
-// A depth in the upper 24 of 32 bits, which desktop OpenGL has with a stencil alone.
+// A depth in the upper 24 of 32 bits, which desktop OpenGL has only together with a stencil.
 GLenum hostReadType(GLenum format, GLenum type) {
     const bool isDepth = format == GL_DEPTH_COMPONENT && type == GL_UNSIGNED_INT_24_8;
     return isDepth ? GL_UNSIGNED_INT : hostType(type);

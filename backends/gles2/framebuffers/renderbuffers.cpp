@@ -82,7 +82,7 @@ void GL_APIENTRY getRenderbufferParameteriv(GLenum target, GLenum pname, GLint *
     const bool mayBeImage = context && params && !context->shared->renderbufferImages.textures.isEmpty();
     if (mayBeImage && target == GL_RENDERBUFFER && askStandIn(*context, boundRenderbuffer(), pname, params)) return;
     hostGl().getRenderbufferParameteriv(target, pname, params);
-    // Where nothing is stored yet.
+    // The initial value, without a storage.
     if (context && pname == GL_RENDERBUFFER_INTERNAL_FORMAT && params && *params == GL_RGBA) {
         *params = GL_RGBA4;
     }

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Null for every other switch.
+// The current context, if cap is GL_FRAMEBUFFER_SRGB_EXT; otherwise null.
 EsContext *switched(GLenum cap) {
     return cap == GL_FRAMEBUFFER_SRGB_EXT ? EsContext::current() : nullptr;
 }

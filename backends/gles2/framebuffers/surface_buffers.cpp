@@ -10,8 +10,8 @@
 
 namespace {
 
-// The surface has its one buffer or none; an attachment of a framebuffer has a place of its own, where desktop OpenGL
-// takes any order. The host judges what is no buffer at all.
+// The surface accepts its one buffer or none. An attachment is only accepted at its own index, whereas desktop OpenGL
+// accepts any order. Invalid enumerants are checked by the host.
 bool isDrawBufferList(const EsContext &context, std::span<const GLenum> buffers) {
     const bool isSurface = context.framebuffers.drawn() == 0;
     if (isSurface) return buffers.size() == 1 && (buffers[0] == GL_BACK || buffers[0] == GL_NONE);
@@ -44,7 +44,7 @@ void GL_APIENTRY readBuffer(GLenum src) {
     EsContext *const context = EsContext::current();
     if (!context) return hostGl().readBuffer(src);
     const bool isAttachment = src >= GL_COLOR_ATTACHMENT0 && src <= GL_COLOR_ATTACHMENT31;
-    // The host has sides and a front.
+    // The host also accepts sides and the front buffer.
     if (!isAttachment && src != GL_BACK && src != GL_NONE) return context->raise(GL_INVALID_ENUM);
     hostGl().readBuffer(hostBuffer(src));
 }

@@ -22,7 +22,7 @@ GLuint hostName(GLenum identifier, GLuint name) {
     }
 }
 
-// EXT_debug_label has kinds of objects of its own.
+// EXT_debug_label has identifiers of its own for the kinds of objects.
 GLenum plainIdentifier(GLenum type) {
     switch (type) {
     case GL_BUFFER_OBJECT_EXT:
@@ -57,7 +57,7 @@ void GL_APIENTRY getObjectLabel(GLenum identifier, GLuint name, GLsizei bufSize,
 void GL_APIENTRY labelObject(GLenum type, GLuint object, GLsizei length, const GLchar *label) {
     EsContext *const context = EsContext::current();
     if (context && length < 0) return context->raise(GL_INVALID_VALUE);
-    // Length 0 is that of a text that ends with a null.
+    // In EXT_debug_label, length 0 means a null-terminated text.
     objectLabel(plainIdentifier(type), object, length == 0 ? -1 : length, label);
 }
 

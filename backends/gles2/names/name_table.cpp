@@ -36,7 +36,7 @@ void NameTable::set(GLuint name, GLuint hostName) {
     (*chunk)[name % chunkSize].store(hostName, std::memory_order_relaxed);
 }
 
-// A host name that can be the application's name too: one that the application has not chosen itself.
+// Generates a host name that the application has not chosen itself, so that it can be the application's name too.
 GLuint NameTable::generateUnknown(Generate *generate) {
     for (;;) {
         GLuint name = 0;
@@ -135,7 +135,7 @@ GLuint NameTable::remove(GLuint name) {
     if (hostName == 0) return 0;
     set(name, 0);
     if (name != hostName) {
-        // A program may delete such objects for ever, and few are attached still.
+        // Limits the map: a program may delete such objects endlessly, and few are still attached.
         if (m_lastNames.size() >= mostLastNames) m_lastNames.clear();
         m_lastNames[hostName] = name;
     } else if (m_hasOthers) {

@@ -30,7 +30,7 @@ GLuint programOf(GLuint pipeline, GLenum stage) {
     return static_cast<GLuint>(program);
 }
 
-// Another bind or another program may have made it valid or invalid.
+// Called when a bind or a program change may make the pipeline valid or invalid.
 void forgetPipeline() {
     if (EsContext *const context = EsContext::current()) context->programs.forgetPipeline();
 }
@@ -52,7 +52,7 @@ bool isPipelineBroken(SharedPrograms &shared, GLuint pipeline) {
     const auto from = shared.ends.find(programOf(pipeline, GL_VERTEX_SHADER));
     const auto to = shared.ends.find(programOf(pipeline, GL_FRAGMENT_SHADER));
     if (!from || !to || from->stage != GL_VERTEX_SHADER || to->stage != GL_FRAGMENT_SHADER) return false;
-    // Where a stage lies between, neither meets the other.
+    // With a stage between them the two interfaces do not meet.
     if (programOf(pipeline, GL_GEOMETRY_SHADER) || programOf(pipeline, GL_TESS_EVALUATION_SHADER)) return false;
     return from->interface && to->interface && *from->interface != *to->interface;
 }

@@ -14,7 +14,7 @@ ProgramInputs askProgramInputs(GLuint program) {
     GLint count = 0;
     GLint longest = 0;
     gl.getProgramiv(program, GL_LINK_STATUS, &isLinked);
-    // After a failed link the earlier executable is still in use.
+    // After a failed link the previous executable remains in use.
     if (!isLinked) return {};
     gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTES, &count);
     gl.getProgramiv(program, GL_ACTIVE_ATTRIBUTE_MAX_LENGTH, &longest);
@@ -25,7 +25,7 @@ ProgramInputs askProgramInputs(GLuint program) {
         GLenum type = 0;
         gl.getActiveAttrib(program, static_cast<GLuint>(index), longest, nullptr, &size, &type, name.data());
         const GLint location = gl.getAttribLocation(program, name.c_str());
-        // The system fills it in.
+        // A built-in input.
         if (location < 0) {
             if (name.c_str() == std::string_view("gl_VertexID")) inputs.readsVertexId = true;
             continue;

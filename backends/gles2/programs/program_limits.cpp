@@ -14,7 +14,7 @@ struct Variable {
     GLenum type;
     GLint count;
     bool isInBlock;
-    bool isOfVertices, isOfFragments; // which shaders read it
+    bool isOfVertices, isOfFragments; // the shaders that read it
 };
 
 // Rows of four components, packed as the shading language defines: wide variables first, then narrow ones beside them.
@@ -39,7 +39,7 @@ GLint resourceCount(GLuint program, GLenum interface) {
     return count;
 }
 
-// take: gets each variable of the interface that is not built in.
+// take: called with each variable of the interface that is not built in.
 template <typename Take>
 void forEachVariable(GLuint program, GLenum interface, Take take) {
     const HostGl &gl = hostGl();
@@ -94,7 +94,7 @@ bool areBlocksWithin(const Announcement &announced, GLuint program) {
            vertexBlocks + fragmentBlocks <= announced.most(GL_MAX_COMBINED_UNIFORM_BLOCKS);
 }
 
-// Those that are given numbers, an array's every element one.
+// Checks the attributes with a location. Each element of an array has one.
 bool areAttribsWithin(const Announcement &announced, GLuint program) {
     GLint locations = 0;
     forEachVariable(program, GL_PROGRAM_INPUT,
@@ -114,8 +114,8 @@ GLuint attachedShader(GLuint program, GLint wanted) {
     return 0;
 }
 
-// A program tells what its first shader takes. What comes between two of them is what the fragment shader takes, which
-// is first in a program of its own.
+// A program reports the inputs of its first stage. A temporary program with the fragment shader alone reports the
+// varyings.
 bool areVaryingsWithin(const Announcement &announced, GLuint program) {
     const GLint most = std::min(announced.most(GL_MAX_VARYING_VECTORS), announced.most(GL_MAX_VARYING_COMPONENTS) / 4);
     const GLuint shader = attachedShader(program, GL_FRAGMENT_SHADER);

@@ -1,5 +1,5 @@
-// Programs. ES allows one shader per stage, and needs a vertex and a fragment shader; desktop OpenGL allows several,
-// and either alone.
+// Programs. ES allows one shader per stage and requires a vertex and a fragment shader; desktop OpenGL allows several
+// per stage, and either stage alone.
 #include "programs/programs.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
@@ -18,7 +18,7 @@ GLint typeOf(GLuint shader) {
     return type;
 }
 
-// Empty for what is no program.
+// Empty for an invalid program.
 std::vector<GLint> attachedTypes(GLuint program) {
     const HostGl &gl = hostGl();
     if (!gl.isProgram(program)) return {};
@@ -32,15 +32,15 @@ std::vector<GLint> attachedTypes(GLuint program) {
 }
 
 bool isWhole(const EsContext &context, GLuint program) {
-    // The host tells of no program before its link whether it is for pipelines.
+    // Before the link the host does not report whether the program is separable.
     if (context.shared->programs.separable.find(program)) return true;
     const std::vector<GLint> types = attachedTypes(program);
     const auto has = [&](GLint type) { return std::ranges::find(types, type) != types.end(); };
-    // The host judges the others: a program without shaders or of a compute shader.
+    // The host checks the others: programs without shaders or with a compute shader.
     return has(GL_VERTEX_SHADER) == has(GL_FRAGMENT_SHADER) || has(GL_COMPUTE_SHADER);
 }
 
-// A shader that was never compiled makes the host's link fail, with a log.
+// An uncompiled shader makes the host's link fail, with a log.
 void linkInVain(GLuint program) {
     const HostGl &gl = hostGl();
     const GLuint shader = gl.createShader(GL_FRAGMENT_SHADER);
@@ -50,7 +50,7 @@ void linkInVain(GLuint program) {
     gl.deleteShader(shader);
 }
 
-// Whoever draws with it in the group has to look again.
+// All contexts of the group that draw with the program query its inputs again.
 void forgetInputs(GLuint program) {
     if (EsContext *const context = EsContext::current()) context->shared->programs.forgetInputs(program);
 }
@@ -60,7 +60,7 @@ void forgetSeparable(EsContext &context, GLuint program) {
     context.shared->programs.ends.remove(program);
 }
 
-// For the pipelines that the program may be used in.
+// Records the interface for pipelines that use the program.
 void noteEnd(GLuint program) {
     EsContext *const context = EsContext::current();
     if (!context || !context->shared->programs.separable.find(program)) return;
@@ -129,7 +129,7 @@ void GL_APIENTRY programBinary(GLuint program, GLenum format, const void *binary
 
 GLuint GL_APIENTRY createProgram() {
     const GLuint program = hostGl().createProgram();
-    // The name may have been another program's.
+    // A program with this name may have existed before.
     forgetInputs(program);
     if (EsContext *const context = EsContext::current()) forgetSeparable(*context, program);
     return program;
@@ -148,7 +148,7 @@ void GL_APIENTRY programParameteri(GLuint program, GLenum pname, GLint value) {
 GLuint GL_APIENTRY createShaderProgramv(GLenum type, GLsizei count, const GLchar *const *strings) {
     const EsContext *const context = EsContext::current();
     if (!context || count < 0 || !strings) return hostGl().createShaderProgramv(type, count, strings);
-    // By the steps that the call stands for, so that the source goes the way of all sources.
+    // Uses the equivalent steps, so that the source is translated as all sources are.
     const GLuint shader = createShader(type);
     if (shader == 0) return 0;
     const GLuint program = createProgram();

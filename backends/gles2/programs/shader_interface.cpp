@@ -12,14 +12,14 @@ bool isOfWord(char character) {
     return std::isalnum(static_cast<unsigned char>(character)) || character == '_';
 }
 
-// After a comment or directive at the start of the text; the text itself if it starts with none.
+// The text after the comment or directive at its start; the text itself if it starts with none.
 std::string_view behindNoise(std::string_view text) {
     if (text.starts_with("/*")) return text.substr(std::min(text.find("*/", 2), text.size() - 2) + 2);
     const bool isLine = text.starts_with("//") || text.starts_with('#');
     return isLine ? text.substr(std::min(text.find('\n'), text.size())) : text;
 }
 
-// Words, numbers and single marks, without comments and directives.
+// The words, numbers and punctuators, without comments and directives.
 Tokens tokensOf(std::string_view text) {
     Tokens tokens;
     while (!text.empty()) {
@@ -48,14 +48,14 @@ bool isQualifier(std::string_view word) {
     return std::ranges::find(all, word) != std::end(all);
 }
 
-// Which default precision a type has: that of float, of int or none.
+// The type whose default precision a type uses: float, int or none.
 std::string_view precisionClass(std::string_view type) {
     if (type == "float" || type.starts_with("vec") || type.starts_with("mat")) return "float";
     if (type == "int" || type == "uint" || type.starts_with("ivec") || type.starts_with("uvec")) return "int";
     return "";
 }
 
-// Reads declarations one behind the other.
+// Reads a sequence of declarations.
 class Parser {
 public:
     Parser(const Tokens &tokens, GLenum stage, std::string_view direction) : m_tokens(tokens), m_direction(direction) {
@@ -85,7 +85,7 @@ private:
         ++m_at;
         return true;
     }
-    // Behind the mark that closes the one which comes next.
+    // Skips up to the token that closes the next pair.
     void skipPair(std::string_view open, std::string_view close) {
         int depth = 0;
         do {
@@ -108,7 +108,7 @@ private:
         skipStatement();
     }
 
-    // To behind the next semicolon, or behind the body of a function.
+    // Skips past the next semicolon, or past the body of a function.
     void skipStatement() {
         while (!isAtEnd()) {
             if (peek() == "{") {
@@ -152,7 +152,7 @@ private:
         return text;
     }
 
-    // Of the type that comes next, as it has to be on the other side too.
+    // The next type, in a form that is equal to a matching one on the other side.
     std::string readType(const Qualifiers &qualifiers) {
         const std::string type(take());
         const auto structure = m_structs.find(type);
@@ -163,7 +163,7 @@ private:
         return (qualifiers.isFlat ? "flat " : "") + precision + ' ' + type;
     }
 
-    // Of a block or a struct, with their marks.
+    // The members of a block or a struct, with the braces.
     std::string readMembers(bool areOfBlock) {
         std::string text = "{";
         if (!takeIf("{")) return text;
@@ -205,7 +205,7 @@ private:
     const std::string_view m_direction;
     size_t m_at = 0;
     std::map<std::string, std::string, std::less<>> m_precisions; // of types
-    std::map<std::string, std::string, std::less<>> m_structs;    // with their members
+    std::map<std::string, std::string, std::less<>> m_structs;    // their members, by name
     ShaderInterface m_found;
 };
 

@@ -27,7 +27,7 @@ std::string_view firstToken(std::string_view source) {
     }
 }
 
-// The line that says the version, behind the word; nothing where there is none.
+// The rest of the #version line; nothing if there is none.
 std::optional<std::string_view> versionLine(std::string_view source) {
     constexpr std::string_view word = "version";
     source = firstToken(source);
@@ -53,7 +53,7 @@ bool isOfWord(char character) {
     return std::isalnum(static_cast<unsigned char>(character)) || character == '_';
 }
 
-// The host need not know the extension.
+// Removes the directive, since the host may not know the extension.
 void removeExtension(std::string &source, std::string_view extension) {
     constexpr std::string_view directive = "#extension";
     for (size_t at = source.find(directive); at != std::string::npos; at = source.find(directive, at + 1)) {

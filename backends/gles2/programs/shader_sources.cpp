@@ -21,7 +21,7 @@ std::string joined(std::span<const GLchar *const> strings, const GLint *lengths)
     return source;
 }
 
-// Nothing where the host has the application's.
+// The application's source; nothing if the host has the same.
 std::optional<std::string> ownSource(GLuint shader) {
     EsContext *const context = EsContext::current();
     return context ? context->shared->programs.shaderSources.find(shader) : std::nullopt;
@@ -33,7 +33,7 @@ namespace overrides {
 
 GLuint GL_APIENTRY createShader(GLenum type) {
     const GLuint shader = hostGl().createShader(type);
-    // The name may have been another shader's.
+    // A shader with this name may have existed before.
     if (EsContext *const context = EsContext::current()) context->shared->programs.shaderSources.remove(shader);
     return shader;
 }
@@ -43,7 +43,7 @@ void GL_APIENTRY shaderSource(GLuint shader, GLsizei count, const GLchar *const 
     EsContext *const context = EsContext::current();
     const bool isWellFormed =
         count > 0 && string && std::ranges::find(string, string + count, nullptr) == string + count;
-    // What is malformed goes on as it is, and the host raises the error.
+    // Malformed calls are passed on, so the host raises the error.
     if (!context || !isWellFormed || !gl.isShader(shader)) return gl.shaderSource(shader, count, string, length);
 
     const std::string source = joined({string, static_cast<size_t>(count)}, length);
@@ -68,7 +68,7 @@ void GL_APIENTRY getShaderSource(GLuint shader, GLsizei bufSize, GLsizei *length
 void GL_APIENTRY getShaderiv(GLuint shader, GLenum pname, GLint *params) {
     hostGl().getShaderiv(shader, pname, params);
     if (pname != GL_SHADER_SOURCE_LENGTH || !params) return;
-    // The length counts the null; without a text it is 0.
+    // The length includes the terminator; it is 0 for an empty source.
     if (const auto text = ownSource(shader)) *params = text->empty() ? 0 : static_cast<GLint>(text->size()) + 1;
 }
 

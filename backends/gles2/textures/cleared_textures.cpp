@@ -7,7 +7,7 @@
 
 namespace {
 
-// The host refuses a name that the application never used.
+// The host generates an error for a name that the application never used.
 GLuint knownTexture(GLuint texture) {
     const EsContext *const context = EsContext::current();
     return context ? context->shared->textures.names.find(texture) : texture;

@@ -1,4 +1,4 @@
-// Compressed images. Where the host's compression has no ETC2, which holds ETC1, this library decodes ETC1 itself.
+// Compressed images. If the host does not support ETC2, of which ETC1 is a subset, this library decodes ETC1.
 #include "common/etc1.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
@@ -24,14 +24,14 @@ struct Image {
     GLsizei width, height;
 };
 
-// The host judges target, level and border with the texels.
+// The host checks target, level and border when the texels are specified.
 GLenum setDecoded(const Image &image, GLint border, GLsizei imageSize, const void *data) {
     const GLint limit = hostInteger(GL_MAX_TEXTURE_SIZE);
     if (image.width < 0 || image.height < 0 || image.width > limit || image.height > limit) return GL_INVALID_VALUE;
     const auto width = static_cast<size_t>(image.width);
     const auto height = static_cast<size_t>(image.height);
     if (imageSize < 0 || static_cast<size_t>(imageSize) != etc1Size(width, height)) return GL_INVALID_VALUE;
-    // An ES 2 context has no such buffer, and its offset is no address.
+    // ES 2 has no such buffer, and an offset is no address.
     if (hostInteger(GL_PIXEL_UNPACK_BUFFER_BINDING) != 0) return GL_INVALID_OPERATION;
     try {
         std::vector<uint8_t> texels;
@@ -79,7 +79,7 @@ void GL_APIENTRY compressedTexImage3D(GLenum target, GLint level, GLenum interna
     hostGl().compressedTexImage3D(target, level, internalformat, width, height, depth, border, imageSize, data);
 }
 
-// A part of an ETC1 image can be replaced where the host keeps it compressed.
+// Parts of an ETC1 image can be replaced if the host stores it compressed.
 void GL_APIENTRY compressedTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint yoffset, GLsizei width,
                                          GLsizei height, GLenum format, GLsizei imageSize, const void *data) {
     EsContext *const context = EsContext::current();

@@ -13,13 +13,13 @@
 
 namespace {
 
-// What of a pixel a host texture's red and green hold, under the swizzle of its format.
+// The components of an RGBA pixel that a host texture stores, under the swizzle of its format.
 struct Channels {
     size_t count;
     size_t first;
 };
 
-// Only these two put alpha elsewhere: (0, 0, 0, r) and (r, r, r, g).
+// Only these two swizzles store alpha in another component: (0, 0, 0, r) and (r, r, r, g).
 Channels channelsOf(const Swizzle &swizzle) {
     if (swizzle[3] == GL_RED) return {1, 3};
     if (swizzle[3] == GL_GREEN) return {2, 0};
@@ -43,7 +43,7 @@ std::vector<GLubyte> readChannels(const Area &area, const Channels &channels) {
     return result;
 }
 
-// Calls with the pixels, packed, and their format.
+// upload: called with the packed pixels and their format.
 template <typename Upload>
 void copyThroughMemory(const Area &area, const Channels &channels, Upload upload) {
     const PackedPixels packed;

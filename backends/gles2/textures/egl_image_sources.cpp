@@ -1,5 +1,5 @@
-// The sources of EGL images of desktop programs. A texture or renderbuffer gets a storage that views can share, where
-// it has none; the image is a view, and so is every texture that is created from it.
+// The sources of EGL images of desktop programs. A texture or renderbuffer gets a storage that views can share, if it
+// has none; the image is a view, and so is every texture that is created from it.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/texture_contents.h"
 #include "context/es_context.h"
@@ -14,7 +14,7 @@ namespace {
 
 constexpr GLenum textureTarget = 0x1006; // GL_TEXTURE_TARGET
 
-// What an image's owner points to.
+// The object that an image's owner points to.
 using Owner = std::shared_ptr<ShareGroup>;
 
 bool canShare(const EsContext &context) {
@@ -27,12 +27,12 @@ bool isImmutable(GLenum target) {
     return value != 0;
 }
 
-// Where an image lies on the host.
+// The location of an image on the host.
 struct Place {
     GLuint texture;
     GLenum internal;
     GLuint level, layer;
-    bool isMutable; // to the application
+    bool isMutable; // for the application
 };
 
 EGLint sourceError(GLenum target, GLuint texture) {
@@ -52,7 +52,7 @@ EGLint findTexture(EsContext &context, const zvImageSource &source, Place &place
     const auto shape = boundTextureShape(target);
     if (!shape) return EGL_BAD_PARAMETER;
     if (source.level >= shape->levels) return EGL_BAD_MATCH;
-    // The host's views take none of ES's own blocks.
+    // The host does not support views of ES's own compressed formats.
     if (shape->internal == GL_NONE) return EGL_BAD_MATCH;
     const auto sibling = textures.images.siblings.find(texture);
     place = {.texture = texture,
@@ -65,7 +65,7 @@ EGLint findTexture(EsContext &context, const zvImageSource &source, Place &place
     hostGl().getTexLevelParameteriv(target == GL_TEXTURE_2D ? target : GLenum(GL_TEXTURE_CUBE_MAP_POSITIVE_X), 0,
                                     GL_TEXTURE_INTERNAL_FORMAT, &internal);
     makeShareable(*shape);
-    // The application knows it without a size still.
+    // For the application the format remains unsized.
     if (static_cast<GLenum>(internal) != shape->internal && !textures.swizzles.find(texture)) {
         textures.swizzles.set(texture, {.internal = static_cast<GLenum>(internal)});
     }
@@ -123,7 +123,7 @@ int32_t zvMakeImage(zvEsContext esContext, const zvImageSource *source, zvImage 
     if (const GLenum error = hostGl().getError(); error != GL_NO_ERROR) context.raise(error);
     try {
         if (!canShare(context)) {
-            // A whole texture can be shared all the same: both names mean one object.
+            // A whole texture can still be shared: both names then refer to one object.
             const GLuint texture = context.shared->textures.names.find(source->name);
             if (source->target != EGL_GL_TEXTURE_2D || source->level != 0) return EGL_BAD_MATCH;
             *image = {};

@@ -2,6 +2,7 @@
 // view of the host shares; any other is a record of the texture that it was created from, and the two names then map to
 // the same host object.
 #include "common/desktop_clients.h"
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -20,7 +21,7 @@ struct EglImage {
 };
 constexpr uint32_t eglGlTexture2D = 0x30B1;
 
-// Null for what cannot be one. Beyond that an image is taken by its word, as every handle of its kind is.
+// Null for a misaligned handle. Any other handle is assumed to be an image.
 const EglImage *imageOf(const void *handle) {
     const bool isAligned = reinterpret_cast<uintptr_t>(handle) % alignof(EglImage) == 0;
     return isAligned ? static_cast<const EglImage *>(handle) : nullptr;
@@ -46,7 +47,7 @@ GLuint makeView(EsContext &context, const zvImage &image) {
     return view;
 }
 
-// isMutable: to the application.
+// isMutable: for the application.
 void shareStorage(EsContext &context, const zvImage &image, bool isMutable) {
     SharedTextures &textures = context.shared->textures;
     const GLuint view = makeView(context, image);
@@ -57,7 +58,7 @@ void shareStorage(EsContext &context, const zvImage &image, bool isMutable) {
     textures.images.siblings.set(view, {image.number, isMutable});
 }
 
-// Whether the application has given the texture of this name on the host a storage that cannot change.
+// Whether the application has specified an immutable storage for the texture of this name on the host.
 bool isImmutable(const EsContext &context, GLuint texture) {
     const auto sibling = context.shared->textures.images.siblings.find(texture);
     if (sibling) return !sibling->isMutable;
@@ -88,9 +89,7 @@ void GL_APIENTRY imageTargetTexture2D(GLenum target, GLeglImageOES handle) {
     if (hostTarget(target) != GL_TEXTURE_2D) return context->raise(GL_INVALID_ENUM);
     zvImage image = {};
     if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
-    GLint bound = 0;
-    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    const auto old = static_cast<GLuint>(bound);
+    const GLuint old = textureBoundTo(GL_TEXTURE_BINDING_2D);
     const auto last = context->textures.lastNames.find(old);
     const bool hasLast = last != context->textures.lastNames.end();
     const GLuint name = hasLast ? last->second : context->shared->textures.names.nameOf(old);
@@ -106,10 +105,9 @@ void GL_APIENTRY imageTargetTexStorage(GLenum target, GLeglImageOES handle, cons
     zvImage image = {};
     if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
     if (attributes && *attributes != GL_NONE) return context->raise(GL_INVALID_VALUE);
-    GLint bound = 0;
-    hostGl().getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    const GLuint bound = textureBoundTo(GL_TEXTURE_BINDING_2D);
     const bool isTaken = image.owner && hostTarget(target) == GL_TEXTURE_2D && bound != 0;
-    if (!isTaken || isImmutable(*context, static_cast<GLuint>(bound))) return context->raise(GL_INVALID_OPERATION);
+    if (!isTaken || isImmutable(*context, bound)) return context->raise(GL_INVALID_OPERATION);
     shareStorage(*context, image, false);
 }
 
@@ -121,7 +119,7 @@ void GL_APIENTRY imageTargetRenderbufferStorage(GLenum target, GLeglImageOES han
     if (const GLenum error = findImage(*context, handle, image); error != GL_NO_ERROR) return context->raise(error);
     GLint bound = 0;
     hostGl().getIntegerv(GL_RENDERBUFFER_BINDING, &bound);
-    // Without views a texture of the host cannot be the storage of a renderbuffer.
+    // Without a view, a host texture cannot be the storage of a renderbuffer.
     if (!image.owner || bound == 0) return context->raise(GL_INVALID_OPERATION);
     const GLuint view = makeView(*context, image);
     context->shared->textures.images.siblings.set(view, {image.number, true});

@@ -29,7 +29,7 @@ struct Format {
     const BlockFormat *block; // null for texels
 
     [[nodiscard]] GLsizei bytes() const { return block ? block->bytes : blockTexelSize(internal); }
-    // Blocks or texels, of a length in texels.
+    // The number of blocks or texels for a size in texels.
     [[nodiscard]] GLsizei columns(GLsizei width) const {
         return block ? (width + block->width - 1) / block->width : width;
     }
@@ -56,7 +56,7 @@ Format formatOf(const End &end) {
     return {internal, findBlockFormat(internal)};
 }
 
-// Whether ES copies between the two and the host does not.
+// Whether ES allows copies between the two formats and the host does not.
 bool isDetour(const Format &from, const Format &to) {
     if (from.internal == to.internal || (!from.block && !to.block)) return false;
     if (from.block && to.block) return from.block->relative == to.internal;
@@ -68,12 +68,12 @@ void copyOnHost(const End &from, const End &to, const Extent &extent) {
                               to.x, to.y, to.z, extent.width, extent.height, extent.depth);
 }
 
-// Another format of texels of the same size, for all of them.
+// A format whose texels have this size.
 constexpr GLenum plainFormat(GLsizei bytes) {
     return bytes == 16 ? GL_RGBA32UI : GL_RG32UI;
 }
 
-// An image of the host's for one end of a copy, which the application does not meet. What is bound comes back.
+// A temporary host image for one end of a copy, which the application cannot see. The destructor restores the binding.
 class Between {
 public:
     Between(NameTable &names, const Format &format, const Extent &extent)
@@ -120,7 +120,7 @@ private:
     GLint m_bound = 0;
 };
 
-// What the part covers at the other end. Blocks at the border of an image may stand over it.
+// The extent of the part at the other end. Blocks at the border of an image may exceed it.
 Extent extentAt(const End &to, const Format &format, const Format &from, const Extent &extent) {
     const GLsizei columns = from.columns(extent.width);
     const GLsizei rows = from.rows(extent.height);
@@ -135,7 +135,7 @@ bool isEmpty(const Extent &extent) {
     return extent.width <= 0 || extent.height <= 0 || extent.depth <= 0;
 }
 
-// Keeps the host's pending error, so that one of the copy can be told from it.
+// Keeps the host's pending error, to tell it from an error of the copy.
 void takeHostError(EsContext &context) {
     const GLenum error = hostGl().getError();
     if (error != GL_NO_ERROR) context.raise(error);
@@ -168,7 +168,7 @@ bool isDetour(const EsContext &context, const End &from, const End &to) {
     return context.host.carries(45, "GL_ARB_direct_state_access") && isDetour(formatOf(from), formatOf(to));
 }
 
-// Gives the end the host's name for one that has an object.
+// Replaces the application's name by the host's.
 void findOnHost(const EsContext &context, End &end) {
     const ShareGroup &shared = *context.shared;
     const NameTable &names = end.target == GL_RENDERBUFFER ? shared.renderbuffers : shared.textures.names;

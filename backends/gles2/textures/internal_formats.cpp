@@ -1,4 +1,4 @@
-// glGetInternalformativ: ES allows the query only for formats that can be drawn to.
+// glGetInternalformativ: ES allows the query only for renderable formats.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-// Desktop OpenGL asks of every kind of texture, and far more.
+// Desktop OpenGL accepts all texture targets and many more names.
 bool isQuestion(GLenum target, GLenum pname) {
     const bool isTarget =
         target == GL_RENDERBUFFER || target == GL_TEXTURE_2D_MULTISAMPLE || target == GL_TEXTURE_2D_MULTISAMPLE_ARRAY;

@@ -18,8 +18,8 @@ bool isInteger(GLint type) {
     return type == GL_INT || type == GL_UNSIGNED_INT;
 }
 
-// ES makes mipmaps of formats without a size and of those that can be filtered and drawn to; it has none of compressed
-// ones.
+// ES generates mipmaps for unsized formats and for those that are both filterable and color-renderable, but not for
+// compressed ones.
 bool isRefused(EsContext &context, GLenum target) {
     if (!bindingOf(target)) return false;
     const GLint level = baseLevel(target);
@@ -48,7 +48,7 @@ void GL_APIENTRY generateMipmap(GLenum target) {
     hostGl().generateMipmap(hostTarget(target));
 }
 
-// A core context has lost this hint; it never meant anything.
+// Core contexts lack this hint, which has no effect.
 void GL_APIENTRY hint(GLenum target, GLenum mode) {
     EsContext *const context = EsContext::current();
     if (!context || target != GL_GENERATE_MIPMAP_HINT) return hostGl().hint(target, mode);

@@ -13,7 +13,7 @@ namespace {
 // The error of ES for an image of these formats, or GL_NO_ERROR.
 GLenum imageError(const EsContext &context, GLenum internal, GLenum format, GLenum type) {
     const char *const encoding = encodingExtension(internal);
-    // The host judges the pixels that it encodes.
+    // The host checks the pixels that it compresses.
     if (encoding && context.announced.hasOneOf(encoding)) return GL_NO_ERROR;
     return context.major < 3 ? es2ImageError(internal, format, type) : es3ImageError(internal, format, type);
 }
@@ -24,7 +24,7 @@ bool hasImage(GLenum target, GLint level) {
     return width != 0;
 }
 
-// The same for a part of an image that is there.
+// The same for a part of an existing image.
 GLenum partError(EsContext &context, GLenum target, GLint level, GLenum format, GLenum type) {
     auto internal = formatSwizzle(context, target).internal;
     const bool isHosts = internal == GL_NONE;
@@ -38,9 +38,9 @@ GLenum partError(EsContext &context, GLenum target, GLint level, GLenum format, 
     if (last == TakenPart{internal, format, type}) return GL_NO_ERROR;
     const GLenum error = imageError(context, internal, format, type);
     if (error == GL_NO_ERROR) last = {internal, format, type};
-    // A storage may have formats that images cannot be made of.
+    // A texture storage may have formats that glTexImage does not accept.
     if (error == GL_NO_ERROR || error == GL_INVALID_VALUE) return GL_NO_ERROR;
-    // The host judges what is not there.
+    // The host raises the error for an image that does not exist.
     return !isHosts || hasImage(target, level) ? error : GLenum(GL_NO_ERROR);
 }
 

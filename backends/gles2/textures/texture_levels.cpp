@@ -6,8 +6,8 @@
 
 namespace {
 
-// What the host is to be asked instead: where the swizzle takes alpha from, or nothing for the other channels, which
-// such a format has not.
+// The query to use on the host: that of the component that stores alpha, or none for the other components, which such a
+// format lacks.
 GLenum hostChannel(GLenum pname, const Swizzle &swizzle) {
     for (const GLenum red : {GL_TEXTURE_RED_SIZE, GL_TEXTURE_RED_TYPE}) {
         if (pname < red || pname > red + 3) continue;
@@ -28,7 +28,7 @@ void get(GLenum target, GLint level, GLenum pname, Value *params,
     const bool isAskedOfHost = isPlain && (known.internal == GL_NONE || pname != GL_TEXTURE_INTERNAL_FORMAT);
     if (isAskedOfHost) return host(target, level, pname, params);
     const GLenum hostName = isPlain ? pname : hostChannel(pname, known.ofFormat);
-    // Stays when the call is an error; a host's form for floats may write all the same.
+    // Remains if the call generates an error; the host's float query may write even then.
     constexpr GLint none = -1;
     GLint found = none;
     hostGl().getTexLevelParameteriv(target, level, hostName == GL_NONE ? pname : hostName, &found);

@@ -6,8 +6,8 @@
 namespace {
 
 struct Limits {
-    GLenum side;   // of width and height, and of the depth of three dimensions
-    GLenum layers; // GL_NONE without any
+    GLenum side;   // the limit of width and height, and of a 3D texture's depth
+    GLenum layers; // the limit of layers; GL_NONE without layers
 };
 
 Limits limitsOf(GLenum target) {

@@ -1,7 +1,7 @@
 #include "textures/texture_replacement.h"
 
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
-#include "common/per_back_end/texture_contents.h"
 #include "context/es_context.h"
 #include "framebuffers/attachment_swaps.h"
 #include "textures/texture_targets.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-// Parameters that a host lacks fail in both calls; the error is cleared.
+// Parameters that a host lacks generate errors in both calls, which are cleared.
 constexpr GLenum integerParameters[] = {
     GL_TEXTURE_MIN_FILTER, GL_TEXTURE_MAG_FILTER,         GL_TEXTURE_WRAP_S,         GL_TEXTURE_WRAP_T,
     GL_TEXTURE_WRAP_R,     GL_TEXTURE_COMPARE_MODE,       GL_TEXTURE_COMPARE_FUNC,   GL_TEXTURE_BASE_LEVEL,
@@ -19,7 +19,7 @@ constexpr GLenum integerParameters[] = {
     GL_TEXTURE_SWIZZLE_A,  GL_DEPTH_STENCIL_TEXTURE_MODE, GL_TEXTURE_SRGB_DECODE_EXT};
 constexpr GLenum floatParameters[] = {GL_TEXTURE_MIN_LOD, GL_TEXTURE_MAX_LOD, GL_TEXTURE_MAX_ANISOTROPY_EXT};
 
-// Keeps the pending error of the host's, and lets those of the calls between go.
+// Keeps the host's pending error and clears those of the calls in between.
 class Unnoticed {
 public:
     explicit Unnoticed(EsContext &context) {
@@ -49,36 +49,15 @@ void bindWithParameters(EsContext &context, GLenum target, GLuint texture) {
     gl.texParameterfv(target, GL_TEXTURE_BORDER_COLOR, border.data());
 }
 
-void rebindUnits(GLenum target, GLuint old, GLuint fresh) {
-    const HostGl &gl = hostGl();
-    GLint active = GL_TEXTURE0;
-    GLint count = 0;
-    gl.getIntegerv(GL_ACTIVE_TEXTURE, &active);
-    gl.getIntegerv(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS, &count);
-    for (GLint unit = 0; unit < count; ++unit) {
-        gl.activeTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
-        GLint bound = 0;
-        gl.getIntegerv(bindingOf(target), &bound);
-        if (static_cast<GLuint>(bound) == old) gl.bindTexture(target, fresh);
-    }
-    gl.activeTexture(static_cast<GLenum>(active));
-}
-
-GLuint boundTo(GLenum target) {
-    GLint bound = 0;
-    hostGl().getIntegerv(bindingOf(target), &bound);
-    return static_cast<GLuint>(bound);
-}
-
 } // namespace
 
 void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh) {
     SharedTextures &textures = context.shared->textures;
-    const GLuint old = boundTo(target);
+    const GLuint old = textureBoundTo(bindingOf(target));
     const GLuint name = textures.names.nameOf(old);
     bindWithParameters(context, target, fresh);
     textures.names.replace(name, fresh);
-    rebindUnits(target, old, fresh);
+    rebindUnits(target, bindingOf(target), GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS, old, fresh);
     swapAttached(context, {GL_TEXTURE, old}, {GL_TEXTURE, fresh});
     if (const auto swizzle = textures.swizzles.find(old)) {
         textures.swizzles.set(fresh, *swizzle);
@@ -95,16 +74,13 @@ void leaveImage(EsContext &context, GLenum target, GLint level) {
     if (textures.images.siblings.isEmpty()) return;
     const GLenum whole = wholeTarget(target);
     if (!bindingOf(whole)) return;
-    const auto sibling = textures.images.siblings.find(boundTo(whole));
+    const auto sibling = textures.images.siblings.find(textureBoundTo(bindingOf(whole)));
     const auto shape = sibling && sibling->isMutable ? boundTextureShape(whole) : std::nullopt;
     if (!shape) return;
-    const GLint face = whole == GL_TEXTURE_CUBE_MAP ? static_cast<GLint>(target - GL_TEXTURE_CUBE_MAP_POSITIVE_X) : 0;
-    const bool isAllReplaced = shape->levels == 1 && shape->faces() == 1 && level == 0;
-    if (isAllReplaced) return replaceBoundTexture(context, whole, textures.names.generateHidden(hostGl().genTextures));
     try {
-        const TextureContents contents(*shape);
-        replaceBoundTexture(context, whole, textures.names.generateHidden(hostGl().genTextures));
-        contents.defineAllBut(face, level);
+        replaceAllBut(*shape, hostTarget(target), level, [&] {
+            replaceBoundTexture(context, whole, textures.names.generateHidden(hostGl().genTextures));
+        });
     } catch (const std::bad_alloc &) {
         context.raise(GL_OUT_OF_MEMORY);
     }

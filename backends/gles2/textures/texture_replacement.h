@@ -2,7 +2,7 @@
 // host does not.
 #pragma once
 
-#include "es_gl.h"
+#include "common/per_back_end/texture_contents.h"
 
 class EsContext;
 
@@ -12,9 +12,6 @@ class EsContext;
 // target: not a cube face. fresh: hidden in the table of names until now.
 void replaceBoundTexture(EsContext &context, GLenum target, GLuint fresh);
 
-// As the index of the level that gets a new image: no level does, and all are kept.
-constexpr GLint allLevels = -1;
-
-// Called before the texture that is bound to the target gets an image of this level. A sibling of an EGL image gets a
-// storage of its own first; its other levels are kept. Out of memory is raised as in ES.
+// Called before an image of this level is specified for the texture that is bound to the target. A sibling of an EGL
+// image first gets a storage of its own, with its other levels. Raises GL_OUT_OF_MEMORY as ES does.
 void leaveImage(EsContext &context, GLenum target, GLint level);

@@ -1,5 +1,6 @@
 #include "textures/texture_swizzles.h"
 
+#include "common/per_back_end/bound_textures.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -16,10 +17,9 @@ struct Place {
 };
 
 Place placeOf(EsContext &context, GLenum target) {
-    GLint bound = 0;
-    hostGl().getIntegerv(bindingOf(target), &bound);
+    const GLuint bound = textureBoundTo(bindingOf(target));
     if (bound == 0) return {&context.textures.swizzlesOfZero, target};
-    return {&context.shared->textures.swizzles, static_cast<GLuint>(bound)};
+    return {&context.shared->textures.swizzles, bound};
 }
 
 bool isSwizzle(GLenum pname) {
@@ -51,15 +51,13 @@ bool setApplications(GLenum target, GLenum pname, GLint value) {
     return true;
 }
 
-// A sibling of an EGL image has a storage on the host that cannot change, which the application does not meet.
+// A sibling of an EGL image has an immutable storage on the host, which is not reported to the application.
 template <typename Value>
 bool hideStorage(GLenum target, GLenum pname, Value *params) {
     const EsContext *const context = pname == GL_TEXTURE_IMMUTABLE_FORMAT ? EsContext::current() : nullptr;
     target = hostTarget(target);
     if (!context || !params || context->shared->textures.images.siblings.isEmpty() || !bindingOf(target)) return false;
-    GLint bound = 0;
-    hostGl().getIntegerv(bindingOf(target), &bound);
-    const auto sibling = context->shared->textures.images.siblings.find(static_cast<GLuint>(bound));
+    const auto sibling = context->shared->textures.images.siblings.find(textureBoundTo(bindingOf(target)));
     const bool isHidden = sibling && sibling->isMutable;
     if (isHidden) *params = GL_FALSE;
     return isHidden;
@@ -80,7 +78,7 @@ bool getApplications(GLenum target, GLenum pname, Value *params) {
 
 void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const HostTextureFormat &format) {
     const bool isFloat = format.type == GL_FLOAT || format.type == GL_HALF_FLOAT;
-    // An image of floats without a size has one from here on.
+    // A float image has a sized format on the host, even if it is specified with an unsized one.
     const bool isOwn = format.swizzle == plainSwizzle && (format.internal == internal || isFloat);
     if (isOwn && hasNone(context)) return;
     target = wholeTarget(target);

@@ -17,7 +17,7 @@ using TextureSwizzles = SharedMap<TextureSwizzle>;
 
 class EsContext;
 
-// Called when the texture that is bound to the target has got an image of this format.
+// Called after an image of this format was specified for the texture that is bound to the target.
 // internal: the application's format.
 void setFormatSwizzle(EsContext &context, GLenum target, GLenum internal, const HostTextureFormat &format);
 

@@ -10,7 +10,7 @@ void GL_APIENTRY textureView(GLuint texture, GLenum target, GLuint origtexture, 
                              GLuint numlevels, GLuint minlayer, GLuint numlayers) {
     const EsContext *const context = EsContext::current();
     if (!context) return;
-    // A view takes a name without a texture yet, and an original with one: nothing is made for either.
+    // The view's name has no texture yet and the original has one, so no object is created for either.
     const NameTable &names = context->shared->textures.names;
     hostGl().textureView(names.find(texture), target, names.find(origtexture),
                          hostTextureFormat(internalformat).internal, minlevel, numlevels, minlayer, numlayers);

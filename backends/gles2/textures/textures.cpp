@@ -14,7 +14,7 @@ NameTable *textureNames() {
     return context ? &context->shared->textures.names : nullptr;
 }
 
-// An external texture has no mipmaps and does not repeat.
+// External textures have no mipmaps and do not repeat.
 void setExternalDefaults(GLuint texture) {
     const HostGl &gl = hostGl();
     if (texture == 0 || gl.isTexture(texture)) return;

@@ -1,5 +1,5 @@
-// Commands on the buffer of a target. The host may have a buffer of ours bound for indices where the application has
-// none; the application must not access it.
+// Commands on the buffer of a target. If the application has no index buffer, the host may have one of this library's
+// bound, which the application must not access.
 #include "common/host_library.h"
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-// The host, with the application's buffer bound to the target.
+// The host's functions, after binding the application's buffer to the target.
 const HostGl &hostFor(GLenum target) {
     if (target == GL_ELEMENT_ARRAY_BUFFER) {
         if (EsContext *const context = EsContext::current()) hideStreamedIndices(*context);

@@ -17,7 +17,7 @@ GLuint hostBuffer(GLuint name) {
     return names ? names->findOrMake(name, gl.genBuffers, gl.isBuffer) : name;
 }
 
-// True with the error raised, for a binding that the device has not.
+// Raises the error and returns true for a binding that the device lacks.
 bool isRefused(GLenum target, GLuint index) {
     EsContext *const context = EsContext::current();
     if (!context || (target != GL_UNIFORM_BUFFER && target != GL_TRANSFORM_FEEDBACK_BUFFER)) return false;
@@ -28,7 +28,7 @@ bool isRefused(GLenum target, GLuint index) {
     return isOver;
 }
 
-// The same for a place in a buffer where the device's blocks cannot begin.
+// The same for an offset that violates the device's alignment.
 bool isMisaligned(GLenum target, GLintptr offset) {
     EsContext *const context = target == GL_UNIFORM_BUFFER ? EsContext::current() : nullptr;
     const auto *const limit = context ? context->announced.limit(GL_UNIFORM_BUFFER_OFFSET_ALIGNMENT) : nullptr;
@@ -80,7 +80,7 @@ void GL_APIENTRY bindBufferRange(GLenum target, GLuint index, GLuint buffer, GLi
 void GL_APIENTRY bindVertexBuffer(GLuint binding, GLuint buffer, GLintptr offset, GLsizei stride) {
     EsContext *const context = EsContext::current();
     const bool isObjectZero = context && context->vertices.bound == &context->vertices.objectZero;
-    // It has no bindings apart from its arrays.
+    // Object 0 has no bindings other than those of its arrays.
     if (isObjectZero) return context->raise(GL_INVALID_OPERATION);
     const GLuint host = hostBuffer(buffer);
     hostGl().bindVertexBuffer(binding, host, offset, stride);

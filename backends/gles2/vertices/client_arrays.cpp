@@ -41,14 +41,14 @@ FedVertices::FedVertices(EsContext &context, const DrawnVertices &drawn) {
     mask &= ~m_switchedOff;
     if (mask == 0) return;
     NameTable &names = context.shared->buffers.names;
-    // Every array of the draw has to begin at the same slot, and the program must not see which.
+    // Requires that all arrays of the draw begin at the same slot, and that the program cannot see which.
     const bool hasOthers = state.enabledAttribs & ~state.clientAttribs & inputs.attribs;
     if (!hasOthers && !inputs.readsVertexId && !m_switchedOff && !hasDivisor(state, mask)) {
         const bool isThere = state.layout.fits(state, mask, drawn.count, vertices.stream);
         m_isComplete = isThere || state.layout.make(state, mask, drawn.count, vertices.stream, names);
         const auto slot = m_isComplete ? state.layout.put(drawn.first, drawn.count, vertices.stream) : std::nullopt;
         m_isComplete = slot.has_value();
-        // The host adds them up modulo 2^32.
+        // The host adds base and index modulo 2^32.
         if (slot) m_shift = static_cast<GLint>(*slot - drawn.first);
         if (isThere && vertices.stream.staysMapped()) return;
     } else {
@@ -90,7 +90,7 @@ std::optional<int64_t> gatherVertices(EsContext &context, const IndexList &list,
         std::array<int64_t, mostGathered> numbers;
         for (GLsizei place = 0; place < list.count; ++place) {
             numbers[static_cast<size_t>(place)] = int64_t(indices[place]) + baseVertex;
-            // It may restart a primitive.
+            // This index may restart a primitive.
             if (indices[place] == greatestIndex(list.type)) return std::nullopt;
         }
         StreamLayout *const layout = usualLayout(context, list.count);

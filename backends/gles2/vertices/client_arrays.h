@@ -1,5 +1,5 @@
-// Vertex arrays and index lists in client memory: a core context draws from buffers only, so what a draw reads is
-// copied into the stream buffer before it, and no more than that.
+// Vertex arrays and index lists in client memory. A core context draws from buffers only, so the part that a draw reads
+// is copied to the stream buffer first.
 #pragma once
 
 #include "common/index_size.h"
@@ -17,7 +17,7 @@ public:
 
     // False when the vertices do not exist or the host is out of memory: the draw is skipped.
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
-    // The value that the draw has to add to the index of each vertex.
+    // The value to add to the index of each vertex.
     [[nodiscard]] GLint shift() const { return m_shift; }
 
 private:
@@ -34,7 +34,7 @@ struct IndexList {
     [[nodiscard]] size_t size() const { return static_cast<size_t>(count) * static_cast<size_t>(indexSize(type)); }
 };
 
-// The index range of what the draw reads. Nothing when it reads none.
+// The index range of the vertices that the draw reads. Nothing when it reads none.
 [[nodiscard]] std::optional<IndexRange> findIndexRange(EsContext &context, const IndexList &list);
 
 // The fast path of FedVertices, inline: the layout whose next slots hold the vertices of the draw. Null when the draw
@@ -58,6 +58,6 @@ struct IndexList {
 // is out of memory.
 [[nodiscard]] std::optional<const void *> putIndices(EsContext &context, const IndexList &list);
 
-// The host may have a buffer of ours bound for indices while the application has none. Unbinds it, for a call through
-// which the application could access it.
+// Unbinds this library's index buffer, which the host may have bound while the application has none, for a call that
+// could access it.
 void hideStreamedIndices(EsContext &context);

@@ -10,7 +10,7 @@ bool isPipelineRefused(EsContext *context) {
     return context && context->programs.isPipelineBroken(context->shared->programs);
 }
 
-// What an indirect draw reads lies in buffers, and the object is not object 0.
+// Indirect draws require buffers, and a vertex array object other than 0.
 bool isIndirectRefused(EsContext &context) {
     if (isPipelineRefused(&context)) return true;
     const Vertices &vertices = context.vertices;
@@ -23,7 +23,7 @@ EsContext *prepare() {
     return context;
 }
 
-// draw: takes the number of the first vertex.
+// draw: called with the number of the first vertex.
 template <typename Draw>
 void drawVertices(GLint first, GLsizei count, GLsizei instanceCount, Draw draw, GLuint firstInstance = 0) {
     EsContext *const context = prepare();
@@ -48,8 +48,8 @@ struct IndexedDraw {
     GLuint firstInstance = 0;
 };
 
-// Arrays in the application's memory are fed for the vertices that the list names.
-// draw: takes the indices and what is added to each.
+// Copies arrays in client memory for the vertices in the list.
+// draw: called with the indices and the value to add to each.
 template <typename Draw>
 void feedAndDraw(EsContext &context, const IndexedDraw &call, Draw draw) {
     const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
@@ -71,7 +71,7 @@ void feedAndDraw(EsContext &context, const IndexedDraw &call, Draw draw) {
     if (vertices.isComplete()) drawList(baseVertex + vertices.shift());
 }
 
-// draw: the host's function of the call. drawAt: the one that adds a number to each index.
+// draw: the host's function for the call. drawAt: the one that adds a value to each index.
 template <typename Draw, typename DrawAt>
 void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
     const auto &[mode, list, instanceCount, baseVertex, firstInstance] = call;
@@ -80,15 +80,15 @@ void drawIndexed(const IndexedDraw &call, Draw draw, DrawAt drawAt) {
     if (isPipelineRefused(context)) return context->raise(GL_INVALID_OPERATION);
     const VertexArrayState &state = *context->vertices.bound;
     if (state.elementBuffer && !state.enabledClientAttribs()) return draw();
-    // The host raises the error: for what is malformed, and for the objects of ES 3, which take no list of the
-    // application's memory.
+    // The host raises the error for malformed calls, and for vertex array objects of ES 3, which do not accept client
+    // memory.
     const bool isWellFormed = list.count > 0 && instanceCount > 0 && indexSize(list.type) > 0;
     if (state.elementBuffer && !isWellFormed) return draw();
     if (!context->vertices.takesClientMemory()) return draw();
-    // Without a buffer it would take them all for one and the same error.
+    // Without a buffer the host would generate the same error for all of these.
     if (indexSize(list.type) == 0) return context->raise(GL_INVALID_ENUM);
     if (list.count < 0 || instanceCount < 0) return context->raise(GL_INVALID_VALUE);
-    // Nothing is drawn, yet the host looks at its state.
+    // Draws nothing, but the host checks its state.
     if (!isWellFormed) return hostGl().drawArrays(mode, 0, 0);
     if (!state.elementBuffer && !list.indices) return;
     feedAndDraw(*context, call, drawAt);

@@ -2,18 +2,13 @@
 
 #include "common/per_back_end/host_gl.h"
 
-void SharedBuffers::abandon(std::vector<StreamBuffer::Chunk> chunks) {
-    const std::lock_guard lock(m_mutex);
-    m_abandoned.insert(m_abandoned.end(), chunks.begin(), chunks.end());
+void SharedBuffers::abandon(const std::vector<StreamBuffer::Chunk> &chunks) {
+    for (const StreamBuffer::Chunk &chunk : chunks)
+        m_abandoned.add(chunk);
 }
 
 void SharedBuffers::deleteAbandoned() {
-    std::vector<StreamBuffer::Chunk> chunks;
-    {
-        const std::lock_guard lock(m_mutex);
-        chunks.swap(m_abandoned);
-    }
-    for (const StreamBuffer::Chunk &chunk : chunks) {
+    for (const StreamBuffer::Chunk &chunk : m_abandoned.take()) {
         names.forgetHidden(chunk.name);
         hostGl().deleteSync(chunk.fence);
         hostGl().deleteBuffers(1, &chunk.name);

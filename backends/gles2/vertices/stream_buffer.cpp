@@ -11,7 +11,7 @@ namespace {
 
 // Two chunks fit a core's cache, and a fence for each costs little compared with filling it.
 constexpr size_t usualCapacity = size_t(1) << 20;
-// Beyond this the application waits for the host.
+// With more bytes in use the application waits for the host.
 constexpr size_t mostRetired = size_t(1) << 26;
 
 constexpr GLbitfield mappingForEver = GL_MAP_WRITE_BIT | GL_MAP_PERSISTENT_BIT_EXT | GL_MAP_COHERENT_BIT_EXT;
@@ -34,7 +34,7 @@ std::optional<size_t> StreamBuffer::reserveInNext(NameTable &names, size_t size,
 bool StreamBuffer::mapAndWrite(size_t offset, std::span<const std::byte> bytes) {
     const HostGl &gl = hostGl();
     gl.bindBuffer(GL_ARRAY_BUFFER, m_chunk.name);
-    // Nothing that the host has yet to draw reads this range.
+    // No pending draw reads this range.
     void *const memory =
         gl.mapBufferRange(GL_ARRAY_BUFFER, static_cast<GLintptr>(offset), static_cast<GLsizeiptr>(bytes.size()),
                           GL_MAP_WRITE_BIT | GL_MAP_INVALIDATE_RANGE_BIT | GL_MAP_UNSYNCHRONIZED_BIT);
@@ -67,7 +67,7 @@ std::optional<StreamBuffer::Chunk> StreamBuffer::takeRetired(size_t capacity) {
     const auto isDrawn = [&](const Chunk &chunk, GLbitfield flags, GLuint64 timeout) {
         return chunk.capacity >= capacity && hostGl().clientWaitSync(chunk.fence, flags, timeout) != GL_TIMEOUT_EXPIRED;
     };
-    // The youngest that the host is done with, since its memory is still near.
+    // The newest chunk that the host has finished, since its memory is most likely still cached.
     for (auto chunk = m_retired.end(); chunk != m_retired.begin();)
         if (isDrawn(*--chunk, 0, 0)) return take(chunk);
     const size_t all = std::accumulate(m_retired.begin(), m_retired.end(), size_t(0),

@@ -20,7 +20,7 @@ public:
         GLuint name = 0; // the host's
         size_t capacity = 0;
         std::byte *memory = nullptr; // where the host supports persistent mapping
-        GLsync fence = nullptr;      // behind the last draw from it
+        GLsync fence = nullptr;      // after the last draw from it
     };
 
     // canStayMapped: the host has GL_ARB_buffer_storage.

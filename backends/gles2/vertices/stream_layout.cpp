@@ -15,7 +15,7 @@ constexpr size_t padded(size_t size) {
     return (size + StreamBuffer::alignment - 1) / StreamBuffer::alignment * StreamBuffer::alignment;
 }
 
-// What a draw reads of arrays with that divisor.
+// The part that a draw reads of arrays with that divisor.
 DrawnVertices readOf(const DrawnVertices &drawn, GLuint divisor) {
     if (divisor == 0) return drawn;
     return {drawn.firstInstance, (drawn.instanceCount - 1) / int64_t(divisor) + 1, drawn.instanceCount};
@@ -67,7 +67,7 @@ bool StreamLayout::putExactly(const VertexArrayState &state, uint32_t mask, cons
     const auto sizeOf = [](const Block &block, const DrawnVertices &read) {
         return padded(block.stride * static_cast<size_t>(read.count));
     };
-    // Vertex 0 may lie before the room, but not before the buffer.
+    // Vertex 0 may be before the reserved room, but not before the buffer.
     size_t size = 0;
     size_t least = 0;
     for (const Block &block : m_blocks) {
@@ -98,7 +98,7 @@ void StreamLayout::gatherBlocks(const VertexArrayState &state, uint32_t mask) {
         const size_t size = vertexSize(attrib.format);
         const size_t stride = attrib.format.stride ? static_cast<size_t>(attrib.format.stride) : size;
         const Block own = {begin, begin + size, stride, state.bindings[attrib.binding].divisor};
-        // The stride is that of the whole where arrays lie interleaved.
+        // Interleaved arrays have a common stride.
         const auto isBeside = [&](const Block &block) {
             const size_t span = std::max(block.end, own.end) - std::min(block.begin, own.begin);
             return block.stride == own.stride && block.divisor == own.divisor && span <= own.stride;
@@ -130,7 +130,7 @@ void StreamLayout::pointHost(const VertexArrayState &state, const StreamBuffer &
     }
 }
 
-// False when the arrays no longer lie to each other as they did.
+// False if the arrays have moved relative to each other.
 bool StreamLayout::findArrays(const VertexArrayState &state) {
     size_t known = 0;
     for (const Array &array : m_arrays) {
@@ -138,7 +138,7 @@ bool StreamLayout::findArrays(const VertexArrayState &state) {
         if (!pointer) return false;
         Block &block = m_blocks[array.block];
         const uintptr_t moved = pointer - array.offset - block.begin;
-        // Blocks are numbered in the order of their first arrays, and the first one moves its block.
+        // Blocks are numbered in the order of their first arrays; the first array moves its block.
         const bool isFirst = array.block == known;
         if (!isFirst && moved != 0) return false;
         block.begin += moved;

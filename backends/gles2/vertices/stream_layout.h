@@ -19,7 +19,7 @@ class StreamLayout {
 public:
     // Called when the object's state has changed: the next draw needs a new layout.
     void invalidate() { m_mask = 0; }
-    // Called when the arrays are elsewhere in client memory.
+    // Called when the arrays have moved in client memory.
     void followPointers() { m_arePointersOld = true; }
 
     // Whether the arrays of mask can use the existing slots.

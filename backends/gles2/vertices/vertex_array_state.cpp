@@ -13,7 +13,7 @@ void VertexArrayState::setArray(GLuint index, const VertexFormat &format, const 
     const bool isSame = attrib.format == format && attrib.binding == index && bindings[index].buffer == buffer;
     if (isSame && attrib.pointer == bytes) return;
     attrib.pointer = bytes;
-    // Applications often set only the pointers before each draw; the rest of the state stays.
+    // Applications often change only the pointers between draws.
     if (isSame) return layout.followPointers();
     attrib.format = format;
     setBinding(index, index);
@@ -46,7 +46,7 @@ void VertexArrayState::forgetBuffer(GLuint buffer) {
     for (GLuint binding = 0; binding < maxAttribs; ++binding) {
         if (bindings[binding].buffer != buffer) continue;
         setBuffer(binding, 0);
-        // Its attribs have an offset, which is no address.
+        // The attributes of a buffer have an offset, not an address.
         for (Attrib &attrib : attribs)
             if (attrib.binding == binding) attrib.pointer = nullptr;
     }

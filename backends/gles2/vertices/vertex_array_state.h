@@ -29,7 +29,7 @@ struct VertexArrayState {
     void setBuffer(GLuint binding, GLuint buffer);
     void setBinding(GLuint attrib, GLuint binding);
     void setDivisor(GLuint binding, GLuint divisor);
-    // Requires that the host has it bound.
+    // Requires that the buffer is bound on the host.
     void setElementBuffer(GLuint buffer) {
         elementBuffer = buffer;
         streamedElementBuffer = 0;
@@ -44,7 +44,7 @@ struct VertexArrayState {
     uint32_t enabledAttribs = 0;
     uint32_t clientAttribs = ~0u; // bits of the attributes whose binding has no buffer
     GLuint elementBuffer = 0;     // the host's name
-    // Our buffer that the host has bound while the application has none.
+    // This library's buffer that the host has bound while the application has none.
     GLuint streamedElementBuffer = 0;
     StreamLayout layout;
     std::array<Attrib, maxAttribs> attribs;

@@ -1,5 +1,5 @@
-// A core context cannot draw without a bound vertex array object; ES draws from object 0. An object of our own replaces
-// it. Arrays in client memory are recorded here and copied to the host when they are drawn.
+// A core context cannot draw without a vertex array object; ES draws from object 0, which an object of this library
+// replaces. Arrays in client memory are recorded here and copied to the host at the draw.
 #include "common/per_back_end/host_gl.h"
 #include "common/per_back_end/overrides.h"
 #include "context/es_context.h"
@@ -7,8 +7,8 @@
 
 namespace {
 
-// An array of the application's memory is noted, and the host is told at the draw.
-// set: the host's function of the call, which takes the pointer.
+// Records an array in client memory, which is set on the host at the draw; sets any other.
+// set: the host's function of the call, called with the pointer.
 template <typename Set>
 void setPointer(GLuint index, const VertexFormat &format, const void *pointer, Set set) {
     EsContext *const context = EsContext::current();
@@ -18,14 +18,14 @@ void setPointer(GLuint index, const VertexFormat &format, const void *pointer, S
     const bool isClient = vertices.arrayBuffer == 0 && vertices.takesClientMemory();
     const bool isGood = vertices.takesFormat(index, format);
     if (!isClient || !isGood) set(isClient ? nullptr : pointer);
-    // An array of a malformed call stays as it was, for the host raises an error.
+    // A malformed call leaves the array unchanged, since the host generates an error.
     if (!isGood) return vertices.bound->layout.invalidate();
     if (isClient || vertices.arrayBuffer || !pointer) {
         vertices.bound->setArray(index, format, pointer, vertices.arrayBuffer);
     }
 }
 
-// What the host would tell of an array in the application's memory is the stream's. Nothing where its answer is right.
+// For an array in client memory the host would report the stream buffer. Nothing if the host's value is correct.
 std::optional<GLint> ownAnswer(const EsContext &context, GLuint index, GLenum pname) {
     if (index >= context.vertices.maxAttribs) return std::nullopt;
     const VertexArrayState &state = *context.vertices.bound;
@@ -51,7 +51,7 @@ std::optional<GLint> ownAnswer(const EsContext &context, GLuint index, GLenum pn
     }
 }
 
-// Object 0 has no bindings apart from its arrays. True with the error raised.
+// Raises the error and returns true for object 0, which has no bindings other than those of its arrays.
 bool isRefusedOnObjectZero() {
     EsContext *const context = EsContext::current();
     const bool isRefused = context && context->vertices.bound == &context->vertices.objectZero;
@@ -83,7 +83,7 @@ void GL_APIENTRY bindVertexArray(GLuint array) {
     }
     auto found = context->vertices.objects.find(array);
     if (found == context->vertices.objects.end()) {
-        // The host refuses names that it did not make.
+        // The host generates an error for unknown names.
         if (!gl.isVertexArray(array)) return;
         found = context->vertices.objects.try_emplace(array).first;
     }
@@ -97,7 +97,7 @@ void GL_APIENTRY deleteVertexArrays(GLsizei n, const GLuint *arrays) {
     for (GLsizei index = 0; index < n; ++index) {
         const auto found = context->vertices.objects.find(arrays[index]);
         if (found == context->vertices.objects.end()) continue;
-        // Deleting what is bound binds object 0.
+        // Deleting the bound object binds object 0.
         if (context->vertices.bound == &found->second) bindVertexArray(0);
         context->vertices.objects.erase(found);
     }

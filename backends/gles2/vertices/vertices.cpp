@@ -35,7 +35,7 @@ bool isBeyondAttribs(GLuint index) {
 
 void Vertices::restoreArrayBuffer() {
     const HostGl &gl = hostGl();
-    // Another context may have deleted it; the host rejects a deleted name.
+    // Another context may have deleted the buffer; the host generates an error for a deleted name.
     if (arrayBuffer && !gl.isBuffer(arrayBuffer)) arrayBuffer = 0;
     gl.bindBuffer(GL_ARRAY_BUFFER, arrayBuffer);
 }

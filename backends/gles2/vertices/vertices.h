@@ -12,8 +12,8 @@ public:
     // mostAttribs: the device's limit.
     Vertices(GLint major, const HostFeatures &host, GLint mostAttribs);
 
-    // Object 0 accepts arrays and index lists in client memory. So do the objects of
-    // OES_vertex_array_object; those of ES 3 do not.
+    // Object 0 accepts arrays and index lists in client memory, and so do the objects of OES_vertex_array_object. Those
+    // of ES 3 do not.
     [[nodiscard]] bool takesClientMemory() const { return m_major < 3 || bound == &objectZero; }
     // Whether the host accepts an array of that format.
     [[nodiscard]] bool takesFormat(GLuint index, const VertexFormat &format) const {

@@ -11,12 +11,12 @@ namespace egl::standard {
 
 namespace {
 
-// A context without a config, which has the id 0, is compatible with every surface.
+// A context without a config has the config id 0 and is compatible with every surface.
 bool fits(const Context &context, const Surface &surface) {
     return context.config->attributeOr0(EGL_CONFIG_ID) == 0 || surface.sizes == drawableSizes(*context.config);
 }
 
-// Waits for the first binds of the group, which claim contexts for a moment that are bound to no thread.
+// Waits for first binds of the group, which temporarily claim contexts that are not current on any thread.
 bool isBoundElsewhere(const Context &context) {
     if (threadRecord.current == &context || !context.boundToThread) return false;
     const std::lock_guard lock(context.group->firstBinds);
@@ -26,7 +26,7 @@ bool isBoundElsewhere(const Context &context) {
 } // namespace
 
 EGLint bindError(const Display &display, const BindRequest &request) {
-    // Surfaces without a context, or one of them alone.
+    // Surfaces without a context, or only one surface.
     if (!request.context || !request.draw != !request.read)
         return refusals::because(refusals::Rule::surfacesWithoutContext, EGL_BAD_MATCH);
     const auto context = display.findContext(request.context);

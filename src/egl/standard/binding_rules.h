@@ -14,7 +14,7 @@ namespace egl::standard {
 
 // Whether the surface is the draw surface of the calling thread.
 [[nodiscard]] bool isDrawnTo(const Surface &surface);
-// The value is limited to what the context's config allows.
+// The interval, clamped to the limits of the context's config.
 [[nodiscard]] EGLint clampedSwapInterval(const Config &config, EGLint interval);
 
 // Releases whatever is current: a thread has one current context, be it of OpenGL or of OpenGL ES.

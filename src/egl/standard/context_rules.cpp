@@ -38,7 +38,7 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
         attribs.esMinor = value;
         return EGL_SUCCESS;
     case EGL_CONTEXT_FLAGS_KHR:
-        // The others are of desktop OpenGL.
+        // The other flags are for desktop OpenGL only.
         if (value & ~debugFlag) return because(Rule::wrongValue, EGL_BAD_ATTRIBUTE, pair);
         attribs.contextFlags = value;
         return EGL_SUCCESS;
@@ -84,7 +84,7 @@ EGLint promiseError(const Config &config, const ContextAttribs &attribs) {
     const auto robustness = robustnessOf(attribs);
     if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config))
         return because(Rule::notRobust, EGL_BAD_MATCH);
-    // One that checks nothing cannot promise anything.
+    // A context without error checks supports neither debugging nor robustness.
     const bool promises = attribs.contextFlags & (debugFlag | robustFlag);
     return attribs.noError && promises ? because(Rule::flagsWithoutErrors, EGL_BAD_MATCH) : EGL_SUCCESS;
 }

@@ -7,7 +7,7 @@ namespace egl::standard {
 
 namespace {
 
-// Its address is the handle.
+// The address is the device's handle.
 constexpr char theDevice = 0;
 
 EGLDeviceEXT deviceHandle() {

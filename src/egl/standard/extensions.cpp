@@ -10,7 +10,7 @@ namespace egl::standard {
 
 namespace {
 
-// A blank follows every name, the last one too.
+// A blank follows every name, even the last one.
 constexpr char always[] = "EGL_EXT_buffer_age "
                           "EGL_EXT_pixel_format_float "
                           "EGL_EXT_swap_buffers_with_damage "

@@ -1,4 +1,4 @@
-// The extensions that desktop clients are offered: only those that work for them.
+// The extensions that are advertised to desktop clients: only those that work for them.
 #pragma once
 
 #include "egl/display.h"

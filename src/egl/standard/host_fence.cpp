@@ -19,7 +19,7 @@ std::unique_ptr<HostFence> HostFence::create(Context &current) {
     if (!host.glFenceSync || !host.glClientWaitSync || !host.glDeleteSync) return nullptr;
     const auto fence = host.glFenceSync(GL_SYNC_GPU_COMMANDS_COMPLETE, 0);
     if (!fence) return nullptr;
-    // Flushes: another context may wait for the fence before this one issues more commands.
+    // Flushes, since another context may wait for the fence before this one flushes later commands.
     flush(current);
     return std::unique_ptr<HostFence>(new HostFence(current, fence));
 }

@@ -1,4 +1,4 @@
-// A host fence that any thread can query, whatever it has current.
+// A host fence that any thread can query, with or without a current context.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +20,7 @@ public:
     ~HostFence();
 
     // Whether the commands before the fence have completed; waits at most timeoutNs. A fence whose contexts are all
-    // gone has completed.
+    // destroyed has completed.
     [[nodiscard]] bool wait(uint64_t timeoutNs);
     // Makes the context that is current on the thread wait, if it shares with the fence; otherwise the thread waits.
     void waitOnHost();

@@ -21,7 +21,7 @@ EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
     for (const auto &[name, value] : AttributeList(attributes)) {
         switch (name) {
         case EGL_IMAGE_PRESERVED:
-            // The contents are preserved with either value.
+            // Both values preserve the contents.
             if (value != EGL_TRUE && value != EGL_FALSE) return EGL_BAD_PARAMETER;
             break;
         case EGL_GL_TEXTURE_LEVEL:
@@ -39,10 +39,10 @@ EGLint readAttributes(const EGLAttrib *attributes, zvImageSource &source) {
 EGLint makeStorage(Context &owner, const zvImageSource &source, zvImage &storage) {
     if (!owner.esLibrary.makeImage) return EGL_BAD_MATCH;
     Context *const current = threadRecord.current;
-    // Framebuffers of that context may hold the renderbuffer, and only it can look.
+    // The renderbuffer may be attached to framebuffers of that context, which only that context can check.
     if (source.target == EGL_GL_RENDERBUFFER && current != &owner) return EGL_BAD_ACCESS;
     const SharedEsContext esContext(&owner);
-    // A context that was never bound has no objects.
+    // A context that was never bound has no objects to use.
     if (!esContext.get()) return EGL_BAD_PARAMETER;
     EGLint error = EGL_BAD_ALLOC;
     GroupHost(owner).run([&] { error = owner.esLibrary.makeImage(esContext.get(), &source, &storage); });
@@ -60,30 +60,6 @@ Image::~Image() {
     if (storage.owner && drop) drop(&storage);
 }
 
-EGLImage Images::insert(std::shared_ptr<Image> image) {
-    const std::lock_guard lock(m_mutex);
-    m_images[++m_lastHandle] = std::move(image);
-    return reinterpret_cast<EGLImage>(m_lastHandle);
-}
-
-std::shared_ptr<Image> Images::find(const void *handle) const {
-    const std::lock_guard lock(m_mutex);
-    const auto found = m_images.find(reinterpret_cast<uintptr_t>(handle));
-    return found == m_images.end() ? nullptr : found->second;
-}
-
-std::shared_ptr<Image> Images::take(EGLImage handle) {
-    const std::lock_guard lock(m_mutex);
-    const auto node = m_images.extract(reinterpret_cast<uintptr_t>(handle));
-    return node ? node.mapped() : nullptr;
-}
-
-void Images::clear() {
-    std::map<uintptr_t, std::shared_ptr<Image>> taken;
-    const std::lock_guard lock(m_mutex);
-    taken.swap(m_images);
-}
-
 EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLClientBuffer buffer,
                      const EGLAttrib *attributes) {
     const auto owner = display.findContext(context);
@@ -96,7 +72,7 @@ EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLCl
     if (const EGLint error = readAttributes(attributes, source); error != EGL_SUCCESS) {
         return fail(error, EGL_NO_IMAGE);
     }
-    // 0 stands for a texture that belongs to one context alone.
+    // Texture 0 belongs to one context and cannot be shared.
     if (name == 0 || name > UINT32_MAX) return fail(EGL_BAD_PARAMETER, EGL_NO_IMAGE);
     zvImage storage = {};
     if (const EGLint error = makeStorage(*owner, source, storage); error != EGL_SUCCESS) {

@@ -2,12 +2,10 @@
 // its own, which the back end creates and which outlives its source.
 #pragma once
 
-#include <cstdint>
-#include <map>
 #include <memory>
-#include <mutex>
 
 #include "egl/egl_api.h"
+#include "egl/standard/locked_table.h"
 #include "zelvane/back_end.h"
 
 namespace egl {
@@ -26,24 +24,11 @@ struct Image {
     ~Image();
 
     const zvImage storage;
-    const std::shared_ptr<ContextGroup> group; // of the contexts that can use the storage
+    const std::shared_ptr<ContextGroup> group; // of the contexts that can use the image's storage
     decltype(&zvDropImage) const drop;         // the back end stays in the process from the first image on
 };
 
-// The images of a display. Any thread.
-class Images {
-public:
-    [[nodiscard]] EGLImage insert(std::shared_ptr<Image> image);
-    // Null for an unknown handle.
-    [[nodiscard]] std::shared_ptr<Image> find(const void *handle) const;
-    [[nodiscard]] std::shared_ptr<Image> take(EGLImage handle);
-    void clear();
-
-private:
-    mutable std::mutex m_mutex;
-    std::map<uintptr_t, std::shared_ptr<Image>> m_images;
-    uintptr_t m_lastHandle = 0; // never reused, so that a stale handle is unknown rather than somebody else's
-};
+using Images = LockedTable<Image>;
 
 // eglCreateImage, on an initialised display.
 [[nodiscard]] EGLImage createImage(Display &display, EGLContext context, EGLenum target, EGLClientBuffer buffer,

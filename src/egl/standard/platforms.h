@@ -1,4 +1,4 @@
-// The platforms that desktop clients can use; devices accept any.
+// The platforms that desktop clients can use. Devices accept any platform.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace egl::standard {
 
-// Stands for the native display of EGL_PLATFORM_SURFACELESS_MESA; its address is none that an application can pass.
+// The native display value of EGL_PLATFORM_SURFACELESS_MESA: no application can pass this address.
 constexpr uint64_t surfacelessDisplay = ~uint64_t{0};
 
 // The error of a display request, EGL_SUCCESS for none. A null list is an empty one.

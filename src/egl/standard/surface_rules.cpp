@@ -21,7 +21,7 @@ using refusals::Rule;
 struct AttributeRule {
     EGLint attribute;
     std::initializer_list<EGLint> values;
-    EGLint error = EGL_BAD_ATTRIBUTE; // of another value
+    EGLint error = EGL_BAD_ATTRIBUTE; // the error of a value that is not allowed
 };
 
 const AttributeRule windowRules[] = {
@@ -123,7 +123,7 @@ EGLint querySurface(Surface &surface, EGLint attribute, EGLint *value) {
     case EGL_MIPMAP_TEXTURE:
     case EGL_TEXTURE_FORMAT:
     case EGL_TEXTURE_TARGET:
-        // Of pbuffers alone.
+        // These attributes apply to pbuffers only.
         if (!isPbuffer(surface)) return EGL_SUCCESS;
         *value = surface.storedOr(attribute, attribute == EGL_TEXTURE_TARGET ? EGL_NO_TEXTURE : EGL_FALSE);
         return EGL_SUCCESS;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <memory>
+#include <mutex>
 #include <utility>
 
 #include "egl/context.h"
@@ -12,7 +14,7 @@
 
 namespace egl::standard {
 
-// The host holds a fence's state. A reusable sync holds its own.
+// The host stores a fence's state. A reusable sync stores its own.
 class Sync {
 public:
     explicit Sync(std::unique_ptr<HostFence> fence) : m_fence(std::move(fence)) {}
@@ -29,7 +31,7 @@ public:
         m_changed.notify_all();
     }
 
-    // Destroying one that threads wait for ends their waits.
+    // Destroying a sync ends the waits of all threads.
     void endWaits() {
         if (!m_fence) set(true);
     }
@@ -43,7 +45,7 @@ public:
             m_changed.wait(lock, isOver);
             return true;
         }
-        // What a clock cannot count to is as good as forever.
+        // Longer timeouts exceed the clock's range and count as EGL_FOREVER.
         constexpr EGLTime year = EGLTime{366} * 24 * 3600 * 1'000'000'000;
         return m_changed.wait_for(lock, std::chrono::nanoseconds(std::min(timeoutNs, year)), isOver);
     }
@@ -53,34 +55,11 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     bool m_isSignaled = false;
-    uint64_t m_signals = 0; // a wait ends with a signal that is taken back at once, too
+    uint64_t m_signals = 0; // counts signals, so that a wait ends even if the sync is unsignaled at once
 };
 
-EGLSync Syncs::insert(std::shared_ptr<Sync> sync) {
-    const std::lock_guard lock(m_mutex);
-    m_syncs[++m_lastHandle] = std::move(sync);
-    return reinterpret_cast<EGLSync>(m_lastHandle);
-}
-
-std::shared_ptr<Sync> Syncs::find(EGLSync handle) {
-    const std::lock_guard lock(m_mutex);
-    const auto found = m_syncs.find(reinterpret_cast<uintptr_t>(handle));
-    return found == m_syncs.end() ? nullptr : found->second;
-}
-
-std::shared_ptr<Sync> Syncs::take(EGLSync handle) {
-    const std::lock_guard lock(m_mutex);
-    const auto node = m_syncs.extract(reinterpret_cast<uintptr_t>(handle));
-    return node ? node.mapped() : nullptr;
-}
-
-void Syncs::clear() {
-    std::map<uintptr_t, std::shared_ptr<Sync>> taken;
-    {
-        const std::lock_guard lock(m_mutex);
-        taken.swap(m_syncs);
-    }
-    for (const auto &[handle, sync] : taken)
+void clearSyncs(Syncs &syncs) {
+    for (const auto &[handle, sync] : syncs.takeAll())
         sync->endWaits();
 }
 
@@ -118,7 +97,7 @@ EGLint clientWaitSync(Display &display, EGLSync handle, EGLint flags, EGLTime ti
 EGLBoolean waitSync(Display &display, EGLSync handle, EGLint flags) {
     const auto sync = display.standardSyncs.find(handle);
     if (!sync || flags) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
-    // Only the host can wait without the thread, and it knows nothing of reusable ones.
+    // Only the host can wait asynchronously, and it has no reusable syncs.
     if (!threadRecord.current || !sync->fence()) return fail(EGL_BAD_MATCH, EGL_FALSE);
     sync->fence()->waitOnHost();
     return succeed(EGL_TRUE);

@@ -2,12 +2,8 @@
 // with handles and results of EGL, and waits that need no current context.
 #pragma once
 
-#include <cstdint>
-#include <map>
-#include <memory>
-#include <mutex>
-
 #include "egl/egl_api.h"
+#include "egl/standard/locked_table.h"
 
 namespace egl {
 class Display;
@@ -17,21 +13,10 @@ namespace egl::standard {
 
 class Sync;
 
-// The syncs of a display. Any thread.
-class Syncs {
-public:
-    [[nodiscard]] EGLSync insert(std::shared_ptr<Sync> sync);
-    // Null for an unknown handle.
-    [[nodiscard]] std::shared_ptr<Sync> find(EGLSync handle);
-    [[nodiscard]] std::shared_ptr<Sync> take(EGLSync handle);
-    // Ends all waits.
-    void clear();
+using Syncs = LockedTable<Sync>;
 
-private:
-    std::mutex m_mutex;
-    std::map<uintptr_t, std::shared_ptr<Sync>> m_syncs;
-    uintptr_t m_lastHandle = 0;
-};
+// Empties the table and ends all waits.
+void clearSyncs(Syncs &syncs);
 
 // The entries of these names, on an initialised display.
 // unknownType: the error for an unknown type; the core entry and the extension's entry differ in it.

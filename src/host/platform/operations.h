@@ -99,11 +99,11 @@ struct PlatformOperations {
 
     // A context of the format, sharing objects with share unless that is null. Null when the host fails to create it.
     ContextContainer *(*createContext)(const PixelFormat *format, ContextContainer *share);
-    // Drops the owner's reference. A context that is current somewhere is destroyed when it is released; until then
-    // currentContext may not report it as ours.
+    // Drops the owner's reference. A context that is current on a thread is destroyed when it is released there; until
+    // then currentContext may return null for it.
     void (*releaseContext)(ContextContainer *container);
 
-    // The container whose context is current on the thread. Null for none, and for a foreign context.
+    // The container whose context is current on the thread. Null if none is, or one that this library did not create.
     ContextContainer *(*currentContext)();
     void (*clearCurrentContext)();
     // Makes the context current with whatever is attached to it, or without a drawable. False when the host fails.
@@ -126,7 +126,7 @@ struct PlatformOperations {
 
     // Swaps the buffers of the attached view or pixmap.
     void (*flushBuffer)(ContextContainer *container);
-    // Copies what the current context has drawn to its view or pixel buffer to a pixmap. False when the host fails.
+    // Copies the current context's rendering to its view or pixel buffer to a pixmap. False when the host fails.
     bool (*copyToPixmap)(ContextContainer *container, PixelBuffer *pixmap);
     // The age of the back buffer's contents in frames; 0 for undefined contents.
     int32_t (*bufferAge)(ContextContainer *container);
@@ -135,7 +135,7 @@ struct PlatformOperations {
     // In frames per swap, passed to the host without a bound.
     void (*setSwapInterval)(ContextContainer *container, int32_t interval);
 
-    // The thread's current context with its drawables, whoever made it current. Null for none.
+    // The thread's current context with its drawables, even a foreign context. Null for none.
     SavedBinding *(*saveBinding)();
     // Makes it current again and frees the record. Null is allowed and clears the current context.
     void (*restoreBinding)(SavedBinding *binding);

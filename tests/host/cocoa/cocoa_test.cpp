@@ -1,4 +1,4 @@
-// What the Cocoa operations say to the platform, driven through the neutral code above them.
+// The messages that the Cocoa operations send to the platform, called through the code above them.
 #include <gtest/gtest.h>
 
 #include <thread>
@@ -19,7 +19,7 @@ using namespace host;
 using namespace host::platform;
 using namespace std::string_literals;
 
-// The conversation of a case is a file in data/.
+// The messages of a case are in a file in data/.
 class Cocoa : public testing::Test {
 protected:
     Cocoa() { restart(); }

@@ -1,9 +1,9 @@
-// What the sources of host/platform/cocoa/ take from macOS' headers and GNUstep's do not have, with macOS' types.
+// Declarations that host/platform/cocoa/ uses from macOS' headers and GNUstep's lack, with macOS' types.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
-// GNUstep hands context parameters over as longs, macOS as 32-bit integers.
+// GNUstep passes context parameters as longs, macOS as 32-bit integers.
 #define setValues setLongValues
 #import <AppKit/NSOpenGL.h>
 #undef setValues

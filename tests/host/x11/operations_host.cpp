@@ -30,7 +30,7 @@ public:
         XFree(visual);
     }
     bool isForeignCurrent() override { return glXGetCurrentDisplay() == application; }
-    void refuseNext(const char *) override {} // nothing makes a server refuse
+    void refuseNext(const char *) override {} // a server cannot be made to fail
 
 private:
     void TestBody() override {}

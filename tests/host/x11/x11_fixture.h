@@ -1,4 +1,4 @@
-// An application with a connection and windows of its own, next to the operations on the same server.
+// An application with its own connection and windows, beside the operations on the same server.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 #include "host/operations_host.h"
 
-// Defines short macros; it has to come last.
+// Defines short macros; must be included last.
 #include <GL/glx.h>
 #include <X11/Xutil.h>
 
@@ -38,7 +38,7 @@ protected:
         if (application) XCloseDisplay(application);
     }
 
-    // An application's window that the server may not have heard of yet.
+    // A window of the application whose creation may not have reached the server.
     Window window(int width, int height) {
         const Window result =
             XCreateSimpleWindow(application, DefaultRootWindow(application), 0, 0, width, height, 0, 0, 0);

@@ -1,9 +1,8 @@
-// What the X11 operations promise beyond their list.
+// Promises of the X11 operations beyond the list.
 #include "x11_fixture.h"
 
 #include <csignal>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <string>
 #include <thread>
 #include <utility>
@@ -11,50 +10,46 @@
 
 #include "host/platform/x11/connection.h"
 #include "host/platform/x11/context.h"
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/swap_control.h"
 #include "host/platform/x11/x_calls.h"
 
 namespace {
 
-// What the functions of GLX below say of a host.
+// The results of the replaced GLX functions.
 GLXFBConfig slowConfig = nullptr;
 const char *glxExtensions = nullptr; // null for the host's own
-bool refusesBind = false;            // the next one, and leaves nothing current
-std::vector<GLXDrawable> paced;      // that were given a swap interval
+bool refusesBind = false;            // makes the next bind fail, with nothing current
+std::vector<GLXDrawable> paced;      // the drawables whose swap interval was set
 
-template <typename Function>
-Function *next(Function *, const char *name) {
-    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
-}
+// The host's, before the platform uses them.
+const x11::Glx hostGlx = [] {
+    const x11::Glx host = x11::glx();
+    x11::glx().fbConfigAttrib = [](Display *display, GLXFBConfig config, int attribute, int *value) {
+        const int result = hostGlx.fbConfigAttrib(display, config, attribute, value);
+        if (config != slowConfig) return result;
+        if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
+        if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
+        return result;
+    };
+    x11::glx().queryExtensionsString = [](Display *display, int screen) {
+        return glxExtensions ? glxExtensions : hostGlx.queryExtensionsString(display, screen);
+    };
+    x11::glx().makeContextCurrent = [](Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
+        if (!std::exchange(refusesBind, false)) return hostGlx.makeContextCurrent(display, draw, read, context);
+        hostGlx.makeContextCurrent(display, None, None, nullptr);
+        return False;
+    };
+    x11::glx().procAddress = [](const GLubyte *name) {
+        constexpr auto pace = [](Display *, GLXDrawable drawable, int) { paced.push_back(drawable); };
+        if (reinterpret_cast<const char *>(name) != std::string("glXSwapIntervalEXT")) return hostGlx.procAddress(name);
+        return reinterpret_cast<void (*)()>(PFNGLXSWAPINTERVALEXTPROC(pace));
+    };
+    return host;
+}();
 
 } // namespace
-
-extern "C" int glXGetFBConfigAttrib(Display *display, GLXFBConfig config, int attribute, int *value) {
-    static const auto host = next(glXGetFBConfigAttrib, "glXGetFBConfigAttrib");
-    const int result = host(display, config, attribute, value);
-    if (config == slowConfig && attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
-    return result;
-}
-
-extern "C" const char *glXQueryExtensionsString(Display *display, int screen) {
-    static const auto host = next(glXQueryExtensionsString, "glXQueryExtensionsString");
-    return glxExtensions ? glxExtensions : host(display, screen);
-}
-
-extern "C" Bool glXMakeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
-    static const auto host = next(glXMakeContextCurrent, "glXMakeContextCurrent");
-    if (!std::exchange(refusesBind, false)) return host(display, draw, read, context);
-    host(display, None, None, nullptr);
-    return False;
-}
-
-extern "C" void (*glXGetProcAddressARB(const GLubyte *name))() {
-    static const auto host = next(glXGetProcAddressARB, "glXGetProcAddressARB");
-    constexpr auto pace = [](Display *, GLXDrawable drawable, int) { paced.push_back(drawable); };
-    if (reinterpret_cast<const char *>(name) != std::string("glXSwapIntervalEXT")) return host(name);
-    return reinterpret_cast<void (*)()>(PFNGLXSWAPINTERVALEXTPROC(pace));
-}
 
 namespace {
 
@@ -84,7 +79,7 @@ TEST_F(OnX11, ThreadThatEndsWithAContextCurrentLetsItGo) {
 
 TEST_F(OnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
     const auto made = context();
-    const Window target = window(64, 48); // not flushed: the layer has to wait for the application's connection
+    const Window target = window(64, 48); // not flushed: the layer must wait for the application's connection
     ASSERT_TRUE(operations.setView(made.get(), viewOf(target)));
     ASSERT_TRUE(operations.makeCurrent(made.get()));
     EXPECT_EQ(glXGetCurrentDrawable(), target);
@@ -92,7 +87,7 @@ TEST_F(OnX11, WindowOfTheDefaultVisualIsDrawnDirectly) {
     EXPECT_NE(glXGetCurrentDrawable(), target);
 }
 
-// An application that tries one config after the other on a window found the first one's child over all later frames.
+// In an application that tries several configs on a window, the first one's child covered all later frames.
 TEST_F(OnX11, ChildIsSeenOnlyWhileItIsDrawnTo) {
     constexpr uint32_t list[] = {
         OpenGLProfile, profile3_2Core, DoubleBuffer, ColorSize, 24, SampleBuffers, 1, Samples, 4, 0};
@@ -134,7 +129,7 @@ TEST_F(OnX11, ViewThatTheHostRefusesLeavesTheOldOne) {
     EXPECT_EQ(glXGetCurrentDrawable(), old.window);
 }
 
-// The window that an application destroys and the next that it makes may have one number.
+// A destroyed window and the next one of the application may have the same number.
 TEST_F(OnX11, WindowOfAKnownNumberIsAnother) {
     static XID number;
     number = XAllocID(application);
@@ -194,7 +189,7 @@ int applicationErrors = 0;
 
 TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
     XSetErrorHandler([](Display *, XErrorEvent *) { return ++applicationErrors; });
-    XUnmapWindow(application, 0x12345); // still on its way when the trap is set
+    XUnmapWindow(application, 0x12345); // still in transit when the trap is set
     x11::ErrorTrap trap(application, X_UnmapWindow);
     EXPECT_EQ(applicationErrors, 1);
     XMapWindow(application, 0x12345); // another kind of request
@@ -207,7 +202,7 @@ TEST_F(OnX11, TrapTakesItsOwnErrorsAndNoEarlierOnes) {
 
 int applicationLosses = 0;
 
-// The server dies under a context that draws. Xlib's own handler ended the process.
+// The server dies while a context draws. Xlib's own handler ended the process.
 TEST(ServerThatDies, MakesEveryOperationFail) {
     const std::string before = getenv("DISPLAY");
     FILE *server = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 640x480x24 -nolisten tcp 2>/dev/null", "r");

@@ -1,4 +1,4 @@
-/* Prints the file of the EGL that it is linked to; only ours has zvCurrentFrameNumber. */
+/* Prints the file of the EGL that it is linked to; only Zelvane's has zvCurrentFrameNumber. */
 #define _GNU_SOURCE
 #include <EGL/egl.h>
 #include <dlfcn.h>

@@ -1,4 +1,4 @@
-// The newest lines of an endless text. They are counted from 0, so that a reader can continue where it stopped.
+// The newest lines of an endless text, numbered from 0 so that a reader can continue where it stopped.
 #pragma once
 
 #include <cstdint>
@@ -19,14 +19,14 @@ public:
             ++m_begin;
         }
     }
-    // The count goes on.
+    // Numbering continues.
     void clear() {
         m_begin = end();
         m_lines.clear();
         m_bytes = 0;
     }
 
-    // The numbers of the oldest line, and of the next one that comes.
+    // The numbers of the oldest line and of the next one.
     [[nodiscard]] uint64_t begin() const { return m_begin; }
     [[nodiscard]] uint64_t end() const { return m_begin + m_lines.size(); }
     [[nodiscard]] const std::string &operator[](uint64_t number) const { return m_lines[number - m_begin]; }

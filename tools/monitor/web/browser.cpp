@@ -19,7 +19,8 @@ bool hasDisplay() {
     return false;
 }
 
-// 0, or the number of the error. Our input and output are not the program's: they may be a terminal or a pipe of JSON.
+// 0, or the error number. The program does not inherit the command's input and output, which may be a terminal or a
+// pipe of JSON.
 int start(const char *program, const std::string &argument) {
     sigset_t none, ignored;
     sigemptyset(&none);

@@ -7,7 +7,7 @@
 
 class Browser {
 public:
-    // Starts the desktop's program for files of this kind. It gets a file that redirects to the address: all users of
+    // Starts the desktop's program for HTML files. It opens a file that redirects to the address, since all users of
     // the machine can see the arguments of programs.
     explicit Browser(const std::string &address);
 

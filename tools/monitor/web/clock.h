@@ -1,4 +1,4 @@
-// The time as pages have it.
+// The time as the pages receive it.
 #pragma once
 
 #include <chrono>

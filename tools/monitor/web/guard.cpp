@@ -11,9 +11,9 @@ bool Guard::admits(const httplib::Request &request) const {
     const std::string_view path = request.path;
     const size_t end = path.find('/', 1);
     if (end == std::string_view::npos || !isSameSecret(m_token, path.substr(1, end - 1))) return false;
-    // A host name that resolves to this address is not ours: foreign pages can reach us by such names.
+    // Other host names that resolve to this address are rejected: foreign pages could use them for requests.
     if (request.get_header_value_count("Host") != 1 || request.get_header_value("Host") != m_host) return false;
-    // Browsers tell it of every request that changes something.
+    // Browsers send the origin with every request that changes something.
     const bool isForReading = request.method == "GET" || request.method == "HEAD";
     if (!request.has_header("Origin")) return isForReading;
     return request.get_header_value_count("Origin") == 1 && request.get_header_value("Origin") == m_origin;

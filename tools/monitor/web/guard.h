@@ -18,11 +18,11 @@ public:
     [[nodiscard]] std::string address() const { return m_origin + prefix(); }
     // The prefix of all page paths.
     [[nodiscard]] std::string prefix() const { return '/' + m_token + '/'; }
-    // The token is right, the request names this host, and it comes from no foreign page.
+    // Whether the token is correct, the request names this host, and it does not come from a foreign page.
     [[nodiscard]] bool admits(const httplib::Request &request) const;
     // Headers for every response.
     static void protect(httplib::Response &response);
-    // Only scripts and styles with the nonce are used; nothing is run or loaded from elsewhere.
+    // Allows only scripts and styles with the nonce, and nothing from other origins.
     static void allowOnly(httplib::Response &response, const std::string &nonce);
 
 private:

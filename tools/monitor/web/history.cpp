@@ -112,7 +112,7 @@ std::string History::recordText() const {
 
 bool History::wait(const Cursor &cursor) const {
     using namespace std::chrono;
-    // Just behind the full second, when there is a new value of every curve.
+    // Just after the full second, when every curve has a new value.
     const auto next = m_start + seconds(duration_cast<seconds>(steady_clock::now() - m_start).count() + 1);
     std::unique_lock lock(m_mutex);
     m_isChanged.wait_until(lock, next,

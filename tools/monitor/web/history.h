@@ -1,5 +1,6 @@
-// The data for the pages of a monitor: applications with their last state, log lines, refusals. The monitor's thread
-// writes it, threads of the server read it. All of it is bounded, so that a day of logging does not grow the process.
+// The data for the pages of a monitor: applications with their last state, log lines, failed calls. The monitor's
+// thread writes it, threads of the server read it. All of it is bounded, so that long logging does not grow the
+// process.
 #pragma once
 
 #include <chrono>
@@ -19,7 +20,7 @@ struct ShownApplication {
     std::string command;
     std::string program;
     std::string device;  // empty for none
-    int64_t startMs = 0; // since 1970; 0 when it is not known
+    int64_t startMs = 0; // since 1970; 0 if unknown
     std::string title;
     bool isWireframe = false;
     int64_t endMs = 0; // 0 while it is connected
@@ -27,14 +28,14 @@ struct ShownApplication {
 
 class History {
 public:
-    // The bounds. The page has the same one for its log lines.
+    // The bounds. The page has the same bound for its log lines.
     static constexpr size_t mostLogLines = 10000;
     static constexpr size_t mostLogBytes = 8 << 20;
     static constexpr size_t mostRecords = 200000;
     static constexpr size_t mostRecordBytes = 16 << 20;
     static constexpr size_t mostEnded = 32;            // applications that stay after their end
     static constexpr size_t mostNews = 32;             // refusals, and answers to commands
-    static constexpr size_t mostReportBytes = 1 << 18; // of one application; a longer report is left out
+    static constexpr size_t mostReportBytes = 1 << 18; // of one application; a longer report is omitted
 
     History();
     History(const History &) = delete;
@@ -51,26 +52,26 @@ public:
     // Lines are JSON objects.
     void addRecord(std::string line);
     void addLogLine(std::string line);
-    // number: 0 for a process that is not an application of ours. isForTheHost: the host lacks something.
+    // number: 0 for a process that is not a connected application. isForTheHost: the host lacks a feature.
     void addRefusal(uint64_t number, const std::string &text, bool isForTheHost);
     void addNotice(const std::string &text);
 
-    // Of pages. Forgets all but the applications that are connected.
+    // Called for pages. Removes all data except the connected applications.
     void clear();
     [[nodiscard]] std::string logText() const;
     [[nodiscard]] std::string recordText() const;
 
-    // How far a page has read. A new one has read nothing.
+    // The position up to which a page has read; initially nothing.
     struct Cursor {
         uint64_t version = 0;
         int64_t second = 0;
         uint64_t line = 0;
     };
-    // Waits until there is something new, for a second at most. False once close() was called.
+    // Waits up to a second for new data. False once close() was called.
     [[nodiscard]] bool wait(const Cursor &cursor) const;
-    // Waits in any case, which limits the update rate of a page. False as above.
+    // Always waits, which limits the update rate of a page. False as above.
     [[nodiscard]] bool pause(std::chrono::milliseconds time) const;
-    // What is new, as one JSON object; empty when nothing is. Moves the cursor on.
+    // The new data as one JSON object; empty if there is none. Advances the cursor.
     [[nodiscard]] std::string update(Cursor &cursor) const;
     // Ends all waits.
     void close();
@@ -92,7 +93,7 @@ private:
     void changed(Entry &entry);
     void addNews(std::deque<News> &news, const nlohmann::ordered_json &fields);
     void forgetEnded(size_t kept);
-    // Pieces of an update: each appends what is new behind the cursor.
+    // Parts of an update: each appends the data after the cursor.
     void tellApplications(std::string &text, const Cursor &cursor) const;
     void tellFrames(std::string &text, const Cursor &cursor, int64_t now) const;
     void tellNews(std::string &text, const Cursor &cursor) const;
@@ -102,7 +103,7 @@ private:
     mutable std::mutex m_mutex; // guards all below
     mutable std::condition_variable m_isChanged, m_isClosing;
     bool m_isClosed = false;
-    uint64_t m_version = 1;    // grows with every change but frames and lines
+    uint64_t m_version = 1;    // increased by every change except frames and lines
     uint64_t m_clearedAt = 0;  // the version of the last clear()
     uint64_t m_lastNumber = 0; // of an application
     std::map<uint64_t, Entry> m_applications;

@@ -1,14 +1,14 @@
-// What a page has not heard yet, as one object:
+// The data that a page has not received, as one object:
 //   now           the time in milliseconds since 1970
-//   isWhole       true: forget all that was told before
-//   isCleared     true: forget log lines and refusals
-//   numbers       of all applications that there are; the others have been forgotten
+//   isWhole       true: discard all earlier data
+//   isCleared     true: discard log lines and refusals
+//   numbers       of all existing applications; all others are to be removed
 //   applications  those that have changed: number, pid, command, program, device, started, title, isWireframe, ended
 //   reports       the System Reports that have changed, by the number of the application
 //   frames        frames drawn in whole seconds, by the number of the application: the first second, then values
-//   refusals      all of them, when one is new: number, who, time, application (0 for none), isForTheHost, text
-//   notices       answers to commands: number, text
-//   skipped       how many log lines the page was too slow for
+//   refusals      all of them, if one is new: number, who, time, application (0 for none), isForTheHost, text
+//   notices       responses to commands: number, text
+//   skipped       the number of log lines that the page was too slow to receive
 //   log           log lines as "zelvane monitor --json" writes them
 #include <algorithm>
 
@@ -19,12 +19,12 @@
 
 namespace {
 
-// More come with the next update, so that no update keeps the monitor waiting for long.
+// Further lines are sent with the next update, so that no update blocks the monitor for long.
 constexpr uint64_t mostLinesInAnUpdate = 4000;
 
 using Json = nlohmann::json;
 
-// Texts of applications may be no UTF-8.
+// Texts of applications may not be valid UTF-8.
 std::string textOf(const Json &json) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
@@ -45,7 +45,7 @@ std::string keyOf(uint64_t number) {
     return '"' + std::to_string(number) + "\":";
 }
 
-// Items with a comma between them.
+// Appends the item, after a comma unless it is the first.
 void append(std::string &list, const std::string &item) {
     if (!list.empty()) list += ',';
     list += item;

@@ -6,7 +6,7 @@
 #include "tools/command/failure.h"
 
 MonitorPage::Pipe::Pipe() {
-    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) failCommand("no pipe can be made");
+    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) failCommand("no pipe can be created");
 }
 
 MonitorPage::Pipe::~Pipe() {

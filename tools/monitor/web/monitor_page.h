@@ -1,4 +1,4 @@
-// The monitor in a browser: what a monitor needs to serve a page beside its terminal.
+// The monitor in a browser: serves a page in addition to the terminal.
 #pragma once
 
 #include <string>
@@ -8,14 +8,14 @@
 
 class MonitorPage {
 public:
-    // port: 0 for any. Fails the command when it cannot be had.
+    // port: 0 for any. Fails the command when the port cannot be used.
     explicit MonitorPage(int port);
     MonitorPage(const MonitorPage &) = delete;
     MonitorPage &operator=(const MonitorPage &) = delete;
     ~MonitorPage();
 
     [[nodiscard]] std::string address() const { return m_server.address(); }
-    // For MonitorOptions; both live as long as this.
+    // For MonitorOptions; both are valid as long as this object.
     [[nodiscard]] MonitorOutput &output() { return m_output; }
     [[nodiscard]] int commands() const { return m_commands.ends[0]; }
 
@@ -25,7 +25,7 @@ private:
         Pipe(const Pipe &) = delete;
         Pipe &operator=(const Pipe &) = delete;
         ~Pipe();
-        // False when it is full. Lines are short enough to go in whole.
+        // False if the pipe is full. Lines are short enough to be written atomically.
         [[nodiscard]] bool write(const std::string &line) const;
         int ends[2] = {-1, -1};
     };

@@ -1,10 +1,10 @@
-// The page, which the build takes into the command.
+// The page, which the build embeds in the command.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// Stands in the page for the word that its scripts and styles carry, another one each time.
+// The placeholder for the nonce of scripts and styles, which differs in each response.
 inline constexpr std::string_view pageNonce = "@NONCE@";
 
 [[nodiscard]] std::string pageText();

@@ -15,18 +15,18 @@
 
 namespace {
 
-// Each open page holds a thread; the others are for what pages ask for. A browser has six connections for all its pages
-// of one host, and a page that hangs for want of one could not even say so.
+// Each open page occupies a thread; the others serve requests. A browser has six connections for all its pages of one
+// host, and a page without one could not report that.
 constexpr int mostStreams = 5;
 constexpr size_t threads = 16;
 constexpr size_t mostBytesOfACommand = 1024;
 constexpr std::chrono::milliseconds pauseBetweenUpdates{250};
-// How long a page waits before it tries again.
+// The time that a page waits before it reconnects.
 constexpr char reconnection[] = "retry: 1000\n\n";
 
 constexpr char notAdmitted[] = "403: this is not the address that \"zelvane monitor\" has printed.\n";
 
-// A page that comes back tells what it has heard of last.
+// The id of an update, which a reconnecting page sends to continue there.
 std::string idOf(const History::Cursor &cursor) {
     return std::to_string(cursor.version) + ' ' + std::to_string(cursor.second) + ' ' + std::to_string(cursor.line);
 }
@@ -42,12 +42,12 @@ History::Cursor cursorOf(const std::string &id) {
     const int error = whyNotFree(port);
     const std::string start = "port " + std::to_string(port) + " of 127.0.0.1 ";
     const int next = error == EADDRINUSE ? nextFreePort(port) : 0;
-    if (error != EADDRINUSE) failCommand(start + "cannot be had: " + strerror(error));
+    if (error != EADDRINUSE) failCommand(start + "cannot be used: " + strerror(error));
     failCommand(start + "is taken" +
                 (next ? "; the next free one is " + std::to_string(next) + ": --web " + std::to_string(next) : ""));
 }
 
-// The line that a user would type; empty for what is no command.
+// The command line for a request; empty for an invalid one.
 std::string lineOf(const nlohmann::json &command) {
     const auto isOn = command.find("wireframe");
     if (isOn == command.end() || !isOn->is_boolean()) return {};
@@ -67,13 +67,13 @@ void offer(httplib::Response &response, const std::string &name, const std::stri
 PageServer::PageServer(int port, History &history, Command command)
     : m_history(history), m_command(std::move(command)), m_server(std::make_unique<httplib::Server>()) {
     m_server->new_task_queue = [] { return new httplib::ThreadPool(threads); };
-    // Not those of the library, by which two servers can have one port.
+    // Replaces the library's socket options, which let two servers share a port.
     m_server->set_socket_options([](int socket) {
         const int yes = 1;
         setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
     });
     m_server->set_tcp_nodelay(true);
-    // A browser's idle connections would hold threads.
+    // Idle connections of a browser would occupy threads.
     m_server->set_keep_alive_max_count(1);
     m_server->set_payload_max_length(mostBytesOfACommand);
     const int bound = port == 0                                   ? m_server->bind_to_any_port("127.0.0.1")
@@ -83,7 +83,7 @@ PageServer::PageServer(int port, History &history, Command command)
     m_guard = std::make_unique<Guard>(bound);
     addRoutes();
     m_thread = std::thread([this] { m_server->listen_after_bind(); });
-    // What has not begun cannot be stopped.
+    // A server that has not started cannot be stopped.
     while (!m_server->is_running())
         std::this_thread::yield();
 }
@@ -126,7 +126,7 @@ void PageServer::servePage(httplib::Response &response) const {
 }
 
 void PageServer::stream(const httplib::Request &request, httplib::Response &response) {
-    // Counted down when the response goes, whatever becomes of it.
+    // Decreased when the response is destroyed.
     if (++m_streams > mostStreams) {
         --m_streams;
         response.status = 503;
@@ -135,7 +135,7 @@ void PageServer::stream(const httplib::Request &request, httplib::Response &resp
     const auto next = [this, cursor = cursorOf(request.get_header_value("Last-Event-ID"))](
                           size_t offset, httplib::DataSink &sink) mutable {
         if (offset == 0) return sink.write(reconnection, strlen(reconnection));
-        // Asks too whether the page is still there.
+        // Also checks whether the page is still connected.
         if (!m_history.wait(cursor) || !sink.is_writable()) return false;
         const std::string update = m_history.update(cursor);
         if (update.empty()) return true;

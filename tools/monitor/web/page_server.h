@@ -1,4 +1,4 @@
-// Serves the page of the monitor on the loopback address, and what the page asks for. Runs on threads of its own.
+// Serves the page of the monitor and its requests on the loopback address. Runs on threads of its own.
 #pragma once
 
 #include <atomic>
@@ -12,18 +12,18 @@
 
 class PageServer {
 public:
-    // Passes on a line as typed by a user. False when it is not accepted now. Called on threads of the server.
+    // Passes on a command line. False when it is not accepted now. Called on threads of the server.
     using Command = std::function<bool(const std::string &line)>;
 
-    // port: 0 for any. The history stays the caller's. Fails the command, with the next free port in its message, when
-    // the port is taken.
+    // port: 0 for any. The history is owned by the caller. If the port is taken, fails the command with the next free
+    // port in the message.
     PageServer(int port, History &history, Command command);
     PageServer(const PageServer &) = delete;
     PageServer &operator=(const PageServer &) = delete;
-    // Ends all streams: closes the history.
+    // Ends all streams and closes the history.
     ~PageServer();
 
-    // With the token. Whoever has it may look.
+    // The address with the token, which grants access.
     [[nodiscard]] std::string address() const { return m_guard->address(); }
 
 private:
@@ -36,6 +36,6 @@ private:
     Command m_command;
     std::unique_ptr<httplib::Server> m_server;
     std::unique_ptr<Guard> m_guard;
-    std::atomic<int> m_streams = 0; // pages that are open
+    std::atomic<int> m_streams = 0; // open pages
     std::thread m_thread;
 };

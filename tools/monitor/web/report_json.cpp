@@ -28,7 +28,7 @@ bool asksFor(const std::vector<std::string> &features, const std::string &name) 
     return std::ranges::find(features, name) != features.end();
 }
 
-// "OpenGL ES 3.0 core support" holds nothing back for "support".
+// Shortens "OpenGL ES 3.0 core support" to the name without "support".
 std::string shortName(std::string name) {
     constexpr std::string_view end = " support";
     if (name.ends_with(end)) name.resize(name.size() - end.size());
@@ -51,7 +51,7 @@ Json requirementsOf(const SystemReport::Feature &feature) {
     Json texts = Json::array();
     for (const auto &alternative : feature.alternatives) {
         std::string text = formatAlternative(alternative);
-        text.pop_back(); // the end of the line
+        text.pop_back(); // the line feed
         texts.push_back(text);
     }
     return texts;
@@ -61,7 +61,7 @@ Json requirementsOf(const SystemReport::Feature &feature) {
 
 std::string jsonOf(const SystemReport &report) {
     Json object{{"openGL", glVersionName(report.glVersion)}, {"sections", Json::array()}, {"features", Json::array()}};
-    // What holds back a version holds back every higher one.
+    // A version with missing features excludes every higher one too.
     bool isSupported = true;
     for (const auto &[key, name] : sections) {
         isSupported = isSupported && buildSection(report, report.esRequirements, key, name).missing.empty();

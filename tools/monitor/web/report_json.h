@@ -5,6 +5,6 @@
 
 #include "capability/system_report.h"
 
-// One object: openGL, sections (name, isSupported), features (name, isAvailable, requires: texts of which one must
-// hold, holdsBack: names of what requires it).
+// One object: openGL, sections (name, isSupported), features (name, isAvailable, requires: texts of alternatives, of
+// which one must be satisfied, holdsBack: the names of sections and extensions that require it).
 [[nodiscard]] std::string jsonOf(const capability::SystemReport &report);

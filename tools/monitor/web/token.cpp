@@ -6,7 +6,7 @@
 
 std::string makeToken() {
     unsigned char bytes[16];
-    if (getrandom(bytes, sizeof bytes, 0) != sizeof bytes) failCommand("the system gives no random numbers");
+    if (getrandom(bytes, sizeof bytes, 0) != sizeof bytes) failCommand("the system has no random numbers");
     std::string token;
     for (const unsigned char byte : bytes) {
         token += "0123456789abcdef"[byte >> 4];

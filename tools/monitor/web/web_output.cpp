@@ -11,8 +11,8 @@ using ui::messages::Message;
 
 namespace {
 
-// How the log lines begin by which the library and the back ends refuse an application, and whether it is for what the
-// host lacks.
+// The beginnings of the log lines in which the library and the back ends report a failed call, and whether the host's
+// capabilities are the reason.
 struct Refusal {
     std::string_view start;
     bool isForTheHost;
@@ -21,7 +21,7 @@ struct Refusal {
 constexpr Refusal refusals[] = {
     {"An OpenGL ES context of the requested version could not be created", true},
     {"no OpenGL ES ", true},
-    {"The application asks EGL for ", false},
+    {"The application requests ", false},
 };
 
 std::string textOf(const Message &message) {

@@ -1,4 +1,4 @@
-// Records the monitor's events for the pages. Lives on the monitor's thread.
+// Records the monitor's events for the pages. Used on the monitor's thread.
 #pragma once
 
 #include <map>
@@ -13,7 +13,7 @@ public:
     explicit WebOutput(History &history) : m_history(history) {}
 
     void listening(const std::string &, bool) override {}
-    // Nothing is recorded of an application before its hello.
+    // Applications are recorded from their hello on.
     void record(const MonitoredApplication &application, const ui::messages::Message &message) override;
     void ended(const MonitoredApplication &application) override;
     void notice(const std::string &text) override { m_history.addNotice(text); }

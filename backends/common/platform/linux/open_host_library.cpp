@@ -11,18 +11,15 @@ constexpr int scope = RTLD_LAZY | RTLD_LOCAL;
 } // namespace
 
 void *openHostLibrary() {
-    // Desktop programs whose loader finds libGL.so.1 in the process assume that it draws by GLX.
-    void *const plain = servesDesktopClients() ? dlopen("libOpenGL.so.0", scope) : nullptr;
-    return plain ? plain : dlopen("libGL.so.1", scope);
+    void *const library = servesDesktopClients() ? nullptr : dlopen("libGL.so.1", scope);
+    // The libGL.so.1 of desktop programs leads back to the back end.
+    const bool isHosts = library && !dlsym(library, "zvFollowLibEgl");
+    return isHosts ? library : dlopen("libGLX.so.0", scope);
 }
 
-// The library exports the functions of old versions only.
+// libGL.so.1 exports the functions of old versions only, libGLX.so.0 none.
 void *unexportedFunction(void *library, const char *name) {
     using GetProcAddress = void *(*)(const unsigned char *name);
-    static const auto getProcAddress = [library] {
-        void *const own = dlsym(library, "glXGetProcAddressARB");
-        void *const glx = own ? nullptr : dlopen("libGLX.so.0", scope);
-        return reinterpret_cast<GetProcAddress>(glx ? dlsym(glx, "glXGetProcAddressARB") : own);
-    }();
+    static const auto getProcAddress = reinterpret_cast<GetProcAddress>(dlsym(library, "glXGetProcAddressARB"));
     return getProcAddress ? getProcAddress(reinterpret_cast<const unsigned char *>(name)) : nullptr;
 }

@@ -4,7 +4,7 @@
 #include "foundation/platform/library_directories.h"
 
 const char *const hostOpenGLLibraryName = "libGL.so.1";
-const char *const hostPlainOpenGLLibraryName = "libOpenGL.so.0";
+const char *const hostPlainOpenGLLibraryName = "libGLX.so.0";
 const char *const es1LibraryName = "libGLESv1_CM.so.1";
 const char *const es2LibraryName = "libGLESv2.so.2";
 

@@ -11,7 +11,7 @@ void *findUnexportedHostFunction(const char *) {
 const char *const es1LibraryName = "libGLESv1_CM.dylib";
 const char *const es2LibraryName = "libGLESv2.dylib";
 
-// The slash at the end doubles in a full path, which is harmless.
+// The full path then has two slashes, which is harmless.
 std::vector<std::string> systemLibraryDirectories() {
     return {"/System/Library/Frameworks/OpenGL.framework/Libraries/"};
 }

@@ -23,7 +23,7 @@ bool setView(ContextContainer *container, const View &view) {
         NSOpenGLContext *context = [objectOf(container) m_context];
         const id object = objectOf(view);
         // An application may pass a pixel buffer as its window. Any other object is not attached, which is no failure:
-        // the context is then made current with what is attached already.
+        // the context is then made current with its attached drawable.
         if (!object || viewOf(view))
             attachView(context, view);
         else if ([object isKindOfClass:[NSOpenGLPixelBuffer class]])

@@ -11,11 +11,11 @@
 }
 
 - (void)resizedNotification:(NSNotification *)notification {
-    (void)notification; // one container has one context, whichever view changed
+    (void)notification; // the container updates its one context, whichever view changed
     [m_context update];
 }
 
-// The only place where a context goes for good.
+// The only place that releases a context.
 - (void)dealloc {
     [m_context release];
     [super dealloc];

@@ -19,10 +19,10 @@ bool makeCurrent(ContextContainer *container) {
     @autoreleasepool {
         [[objectOf(container) m_context] makeCurrentContext];
     }
-    return true; // Cocoa does not tell
+    return true; // Cocoa does not report failures
 }
 
-// A context keeps its drawable attached, so the context alone is the binding.
+// A context keeps its drawable attached, so saving the context is enough.
 SavedBinding *saveBinding() {
     @autoreleasepool {
         return handleOf<SavedBinding>([[NSOpenGLContext currentContext] retain]);

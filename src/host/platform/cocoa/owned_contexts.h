@@ -12,7 +12,7 @@ namespace host::platform::cocoa {
 
 void addOwner(NSOpenGLContext *context, ContextContainer *container);
 void removeOwner(NSOpenGLContext *context);
-// Null for nil and for a context that is not ours.
+// Null for nil and for a context that this library did not create.
 [[nodiscard]] ContextContainer *ownerOf(NSOpenGLContext *context);
 
 void setDisplayOf(NSOpenGLContext *context, uint64_t display);

@@ -17,7 +17,7 @@ struct OwnedContexts {
     std::map<NSOpenGLContext *, Record> records;
 };
 
-// Never destroyed, since applications draw in their exit handlers too.
+// Never destroyed, since applications may draw in their exit handlers.
 OwnedContexts &owned() {
     static auto *instance = new OwnedContexts;
     return *instance;

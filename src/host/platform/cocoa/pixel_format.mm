@@ -19,7 +19,7 @@ PixelFormat *createPixelFormat(uint64_t, const uint32_t *attributes) {
 }
 
 int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
-    int32_t value = 0; // stays for an attribute that the format does not have
+    int32_t value = 0; // the result for an attribute that the format does not have
     [objectOf(format) getValues:&value
                    forAttribute:static_cast<NSOpenGLPixelFormatAttribute>(attribute)
                forVirtualScreen:0];

@@ -29,7 +29,7 @@ void viewSize(const View &view, int32_t *width, int32_t *height) {
 
 std::string viewTitle(const View &view) {
     @autoreleasepool {
-        // Nil all the way for no view, for a view in no window and for a window without a title.
+        // Nil without a view, for a view without a window, and for a window without a title.
         const char *text = [[[viewOf(view) window] title] UTF8String];
         return text ? text : "";
     }

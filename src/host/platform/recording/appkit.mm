@@ -32,7 +32,7 @@ void note(id receiver, const std::string &message, Words... words) {
 
 } // namespace
 
-// Numbers its objects by class, notes when they go, and refuses to be initialised when the script says so.
+// Numbers its objects by class, records their deallocation, and fails to initialise if a case requests it.
 @interface Recorded : NSObject {
 @public
     int m_number;
@@ -97,7 +97,7 @@ std::string text(id object) {
 @end
 
 @implementation NSOpenGLContext
-// Handed out in a pool, as getters may.
+// Autoreleased, as the platform's getters may do.
 + (id)currentContext {
     return [[currentContext retain] autorelease];
 }
@@ -192,7 +192,7 @@ std::string text(id object) {
 NSString *NSViewFrameDidChangeNotification = @"NSViewFrameDidChangeNotification";
 
 extern "C" struct dispatch_queue_s *dispatch_get_main_queue() {
-    return nullptr; // the only queue there is
+    return nullptr; // stands for the main queue, the only one
 }
 
 extern "C" void dispatch_sync(struct dispatch_queue_s *, void (^block)(void)) {

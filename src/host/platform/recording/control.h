@@ -13,28 +13,28 @@ extern "C" {
 
 #define RECORDING_API __attribute__((visibility("default")))
 
-/* Copies the log, ended by a 0 byte, and empties it. Returns its length without the 0; a buffer that is too small gets
-   nothing and the log stays. */
+/* Copies the log, ended by a 0 byte, and empties it. Returns its length without the 0; if the buffer is too
+   small, nothing is copied and the log is kept. */
 RECORDING_API size_t recordingTakeLog(char *buffer, size_t capacity);
 
-/* Adds a line of somebody else's, so that one log shows the order of their calls and ours. */
+/* Adds a line of another fake, so that one log shows the order of all calls. */
 RECORDING_API void recordingNote(const char *line);
 
-/* Empties log and script, numbers objects from 1 again, and leaves the calling thread with nothing current. */
+/* Empties log and script, numbers objects from 1 again, and unbinds the calling thread's context. */
 RECORDING_API void recordingReset(void);
 
-/* The next call of the operation answers null or false; each call of this adds one. Operations that can fail:
+/* Makes the next call of the operation return null or false; each call of this adds one. Operations that can fail:
    createPixelFormat, derivePixelFormat, createContext, makeCurrent, setView, setPixelBuffer, createPixelBuffer. */
 RECORDING_API void recordingFailNext(const char *operation);
 
-/* Size in pixels and title in UTF-8 of a window on every display. Windows that nobody set have neither; they can be
-   drawn to all the same. */
+/* Size in pixels and title in UTF-8 of a window on every display. Other windows have neither, but can be drawn
+   to. */
 RECORDING_API void recordingSetWindow(uint64_t window, int32_t width, int32_t height, const char *title);
 
-/* What the host gives for a format attribute, whatever the lists ask. */
+/* The host's value of a format attribute, whatever the lists request. */
 RECORDING_API void recordingSetFormatValue(uint32_t attribute, int32_t value);
 
-/* Makes a context of somebody else current on the calling thread in place of what was. Any name but 0. */
+/* Makes a foreign context current on the calling thread instead of the current one. Any name but 0. */
 RECORDING_API void recordingMakeForeignCurrent(uint32_t name);
 
 #ifdef __cplusplus

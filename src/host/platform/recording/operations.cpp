@@ -18,7 +18,7 @@ struct PixelFormat {
 struct ContextContainer {
     std::string name;
     std::atomic<int> references = 1; // the owner's, and one for each thread that has it current
-    View view;                       // the rest: guarded by the script's mutex
+    View view;                       // this and the rest are guarded by the script's mutex
     PixelBuffer *buffer = nullptr;
 };
 
@@ -86,7 +86,7 @@ std::string call(const char *operation, const Arguments &...arguments) {
     return operation + ("(" + line + ")");
 }
 
-// Records a call; the mutex is held.
+// Records a call. Called with the mutex held.
 void note(const std::string &line) {
     script().log += line + "\n";
 }

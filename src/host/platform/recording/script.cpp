@@ -7,7 +7,7 @@
 namespace host::platform::recording {
 
 Script &script() {
-    static auto *instance = new Script; // calls come until the very end of the process
+    static auto *instance = new Script; // never destroyed: threads call it while the process ends
     return *instance;
 }
 

@@ -4,6 +4,7 @@
 
 #include "host/platform/x11/context.h"
 #include "host/platform/x11/current.h"
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/pixmap_copies.h"
 
@@ -22,7 +23,7 @@ GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     return connection.children().childOf(view.window, visual, facts->width, facts->height);
 }
 
-// A current context is bound anew at once; where that fails, everything goes back to what it was.
+// A current context is bound again at once. If that fails, the old attachments are restored.
 bool attach(ContextContainer &container, Attachment draw, Attachment read) {
     if (!canHold(container)) return false;
     std::swap(container.attachment, draw);
@@ -36,7 +37,7 @@ bool attach(ContextContainer &container, Attachment draw, Attachment read) {
     return false;
 }
 
-// Nothing where the host fails.
+// Without a drawable if the host fails.
 Attachment attachmentOf(ContextContainer &container, const NativeObject &object) {
     if (!object.isPixelBuffer()) {
         return {.view = object.view, .pbuffers = nullptr, .drawable = drawableFor(container, object.view)};
@@ -53,7 +54,7 @@ bool attachObject(ContextContainer &container, const NativeObject &object) {
     return draw.drawable && attach(container, std::move(draw), std::move(read));
 }
 
-// The window or its child has gone since it was attached.
+// Whether the window or its child has been destroyed since it was attached.
 bool isGone(Connection &connection, const Attachment &attachment) {
     const Window window = attachment.view.window;
     if (!connection.windows().find(window)) return true;
@@ -84,38 +85,38 @@ bool setReadObject(ContextContainer *container, const NativeObject &object) {
 }
 
 void observeViewFrame(ContextContainer *, const View &) {
-    // GLX drawables follow their window by themselves, and child windows at each flush and size query.
+    // The host resizes GLX drawables with their window. Child windows are resized at each flush and size query.
 }
 
 void flushBuffer(ContextContainer *container) {
     const auto &attachment = container->attachment;
     auto &connection = container->connection;
     if (attachment.pbuffers && attachment.pbuffers->pixmap) return showPixmap(*container);
-    // GLX answers a swap of a pixel buffer with an error.
+    // GLX generates an error for the swap of a pbuffer.
     if (!attachment.view.window) return;
-    // Hosts would go on asking the server for the size of the drawable, and not look whether it answers.
+    // Some hosts query the server for the drawable's size and do not check the reply.
     if (connection.isLost()) return clearCurrentContext();
-    // The frame before has asked the server for the drawable's size, and with the answer came all events.
+    // The host queried the drawable's size in the previous frame, and the events up to then were read with the reply.
     connection.windows().takeReadEvents();
-    // When it draws after a swap, such a renderer allocates by whatever size is left on its stack: gigabytes at times.
+    // After a failed size query such a renderer allocates by uninitialised values, which may be gigabytes.
     if (connection.isSoftware() && isGone(connection, attachment)) {
         attach(*container, {}, {});
         return;
     }
     const bool isChild = attachment.drawable != attachment.view.window;
     connection.children().show(attachment.view.window, attachment.drawable);
-    glXSwapBuffers(connection.display(), attachment.drawable);
-    // Nobody else ever flushes this connection; a frame must not wait in its buffer for the next one.
+    glx().swapBuffers(connection.display(), attachment.drawable);
+    // No other code flushes this connection, and the frame must not wait for the next one.
     connection.flush();
     if (connection.isLost()) return clearCurrentContext();
-    if (isChild) connection.windows().readEvents(); // which bring a child to its parent's size
+    if (isChild) connection.windows().readEvents(); // events that resize the child with its parent
 }
 
 int32_t bufferAge(ContextContainer *container) {
     auto &connection = container->connection;
     if (!container->attachment.view.window || !connection.hasGlxExtension("GLX_EXT_buffer_age")) return 0;
     unsigned age = 0;
-    glXQueryDrawable(connection.display(), container->attachment.drawable, GLX_BACK_BUFFER_AGE_EXT, &age);
+    glx().queryDrawable(connection.display(), container->attachment.drawable, GLX_BACK_BUFFER_AGE_EXT, &age);
     return static_cast<int32_t>(age);
 }
 

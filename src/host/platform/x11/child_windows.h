@@ -17,9 +17,9 @@ public:
 
     // The child of that visual, which fills a parent of that size, initially unmapped. None when there is no parent.
     [[nodiscard]] Window childOf(Window parent, const XVisualInfo &visual, unsigned width, unsigned height);
-    // Called with the first frame, and not before: a child that covers its parent takes every Expose event from it, and
-    // some applications draw at their first one. Unmaps the parent's other children, which would cover it; no child
-    // has the parent's own number.
+    // Called with the first frame: a child that covers its parent receives every Expose event instead, and some
+    // applications draw at their first one. Unmaps the parent's other children, which would cover this one. A child
+    // never has the parent's own number.
     void show(Window parent, Window child);
     // Resizes the parent's children to its size.
     void resize(Window parent, unsigned width, unsigned height);

@@ -4,13 +4,14 @@
 #include <memory>
 #include <mutex>
 
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/x_errors.h"
 
 namespace host::platform::x11 {
 
 namespace {
 
-// Small values cannot be addresses: they all mean the default display.
+// Smaller values are no addresses: they stand for the default display.
 constexpr uint64_t firstAddress = 4096;
 
 struct Connections {
@@ -20,7 +21,7 @@ struct Connections {
 };
 
 Connections &connections() {
-    static auto *instance = new Connections; // swaps come until the very end of the process
+    static auto *instance = new Connections; // never destroyed: threads swap while the process ends
     return *instance;
 }
 
@@ -28,7 +29,7 @@ Display *applicationDisplay(uint64_t displayWord) {
     return displayWord < firstAddress ? nullptr : reinterpret_cast<Display *>(displayWord);
 }
 
-// With the mutex held.
+// Called with the mutex held.
 Connection *openServer(Connections &all, const std::string &name) {
     if (const auto known = all.byName.find(name); known != all.byName.end()) return known->second.get();
     XInitThreads();
@@ -38,8 +39,7 @@ Connection *openServer(Connections &all, const std::string &name) {
 }
 
 bool isSoftwareRenderer(Display *display, int screen, bool canTell) {
-    const auto query = reinterpret_cast<PFNGLXQUERYRENDERERINTEGERMESAPROC>(
-        glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXQueryRendererIntegerMESA")));
+    const auto query = findGlxFunction<PFNGLXQUERYRENDERERINTEGERMESAPROC>("glXQueryRendererIntegerMESA");
     unsigned isAccelerated = 1;
     return canTell && query && query(display, screen, 0, GLX_RENDERER_ACCELERATED_MESA, &isAccelerated) &&
            !isAccelerated;
@@ -78,8 +78,8 @@ Connection::Connection(Display *display)
     : m_display(display), m_screen(DefaultScreen(display)), m_configs(display, m_screen), m_children(display),
       m_windows(display, m_screen, m_children) {
     keepErrorsFromProcess(display, m_isLost);
-    if (!glXQueryExtension(display, nullptr, nullptr)) return;
-    if (const char *extensions = glXQueryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
+    if (!glx().queryExtension(display, nullptr, nullptr)) return;
+    if (const char *extensions = glx().queryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
     m_glxExtensions = " " + m_glxExtensions + " ";
     m_isSoftware = isSoftwareRenderer(display, m_screen, hasGlxExtension("GLX_MESA_query_renderer"));
 }
@@ -89,13 +89,13 @@ bool Connection::hasGlxExtension(std::string_view name) const {
 }
 
 int32_t Connection::maxSwapInterval() const {
-    // The extensions set no bound, and hosts give none before there is a drawable.
+    // The extensions define no maximum, and hosts report one for existing drawables only.
     const bool takesAny = hasGlxExtension("GLX_EXT_swap_control") || hasGlxExtension("GLX_MESA_swap_control");
     return takesAny ? INT32_MAX : 1;
 }
 
 void Connection::flush() {
-    // Xlib's own call asks the system for events, too.
+    // XFlush reads events with a system call, even if there is nothing to send.
     if (hasRequestsToSend(m_display)) XFlush(m_display);
 }
 

@@ -3,6 +3,7 @@
 #include <span>
 #include <vector>
 
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/x_errors.h"
 
@@ -47,7 +48,7 @@ std::vector<int> contextAttributes(const PixelFormat &format) {
         list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
     }
     if (flags) list.insert(list.end(), {GLX_CONTEXT_FLAGS_ARB, flags});
-    // Without a config this alone tells the dispatcher which vendor's context it is to be.
+    // Without a config, libGLX selects the vendor by the screen.
     if (isConfigless(format)) list.insert(list.end(), {GLX_SCREEN, format.connection.screen()});
     list.push_back(None);
     return list;
@@ -58,10 +59,9 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
     const bool isLegacy = format.profile == profileLegacy;
     if (!connection.hasGlxExtension("GLX_ARB_create_context_profile")) {
         if (!isLegacy) return nullptr;
-        return glXCreateNewContext(connection.display(), format.config.handle, GLX_RGBA_TYPE, share, True);
+        return glx().createContext(connection.display(), format.config.handle, GLX_RGBA_TYPE, share, True);
     }
-    static const auto createAttribs = reinterpret_cast<PFNGLXCREATECONTEXTATTRIBSARBPROC>(
-        glXGetProcAddressARB(reinterpret_cast<const GLubyte *>("glXCreateContextAttribsARB")));
+    static const auto createAttribs = findGlxFunction<PFNGLXCREATECONTEXTATTRIBSARBPROC>("glXCreateContextAttribsARB");
     if (!createAttribs) return nullptr;
     return createAttribs(connection.display(), isConfigless(format) ? nullptr : format.config.handle, share, True,
                          contextAttributes(format).data());
@@ -69,7 +69,7 @@ GLXContext create(const PixelFormat &format, GLXContext share) {
 
 constexpr uintptr_t released = 1;
 
-// Its address tells threads apart.
+// The address identifies the thread.
 constinit thread_local const int threadWord __attribute__((tls_model("initial-exec"))) = 0;
 
 uintptr_t ownWord() {
@@ -79,8 +79,8 @@ uintptr_t ownWord() {
 void destroy(ContextContainer &container) {
     if (!container.connection.isLost()) {
         Display *display = container.connection.display();
-        glXDestroyContext(display, container.context);
-        if (container.placeholder) glXDestroyPbuffer(display, container.placeholder);
+        glx().destroyContext(display, container.context);
+        if (container.placeholder) glx().destroyPbuffer(display, container.placeholder);
     }
     delete &container;
 }
@@ -111,7 +111,7 @@ bool canHold(const ContextContainer &container) {
 }
 
 void hold(ContextContainer &container) {
-    // Held already after a binding was saved; the owner may have released it since.
+    // The context is already held if its binding was saved, and its owner may have released it since.
     if (!container.holder.load(std::memory_order_relaxed)) container.holder.store(ownWord(), std::memory_order_relaxed);
 }
 

@@ -15,7 +15,7 @@ namespace host::platform {
 
 namespace x11 {
 
-// Nothing, a view, or a pixel buffer.
+// The drawable of a context: none, a view, or a pixel buffer.
 struct Attachment {
     View view;
     std::shared_ptr<Pbuffers> pbuffers;

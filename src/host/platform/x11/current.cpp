@@ -3,41 +3,47 @@
 #include <utility>
 
 #include "host/platform/x11/context.h"
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/swap_control.h"
 #include "host/platform/x11/x_calls.h"
 
 namespace host::platform {
 
-// The application's own GLX calls can make any context current, so GLX is queried and not only our record.
+// GLX is queried, since the application's own GLX calls can make any context current.
 struct SavedBinding {
     Display *display = nullptr;
     GLXDrawable draw = 0;
     GLXDrawable read = 0;
     GLXContext context = nullptr;
-    ContextContainer *container = nullptr; // which stays held; null when the context is not ours
+    ContextContainer *container = nullptr; // which the thread still holds; null for a foreign context
 };
 
 namespace x11 {
 
 namespace {
 
-// What the thread holds. Plain, since threads make contexts current in their exit handlers too.
+// The context that the thread holds. A plain pointer, since threads make contexts current in their exit handlers too.
 constinit thread_local ContextContainer *threadContainer __attribute__((tls_model("initial-exec"))) = nullptr;
 
 void setThreadContainer(ContextContainer *container);
 
-// Lets go for a thread that ends with a context current.
+// Releases the context of a thread that ends with one current.
 struct AtThreadEnd {
-    bool isArmed = false;
     ~AtThreadEnd() { setThreadContainer(nullptr); }
 };
 
-thread_local AtThreadEnd atThreadEnd;
+constinit thread_local bool isArmed __attribute__((tls_model("initial-exec"))) = false;
+
+void armAtThreadEnd() {
+    if (isArmed) return;
+    isArmed = true;
+    [[maybe_unused]] static thread_local AtThreadEnd atThreadEnd; // its construction registers the destructor
+}
 
 void setThreadContainer(ContextContainer *container) {
     if (container == threadContainer) return;
     if (container) {
-        atThreadEnd.isArmed = true; // the first use in a thread is what arms it
+        armAtThreadEnd();
         hold(*container);
     }
     if (auto *const old = std::exchange(threadContainer, container)) letGo(*old);
@@ -50,7 +56,7 @@ bool bindWithPlaceholder(ContextContainer &container) {
         container.placeholder = calls::createPbuffer(display, container.config.handle, attributes);
     }
     const GLXPbuffer placeholder = container.placeholder;
-    return placeholder && glXMakeContextCurrent(display, placeholder, placeholder, container.context);
+    return placeholder && glx().makeContextCurrent(display, placeholder, placeholder, container.context);
 }
 
 bool bind(ContextContainer &container) {
@@ -60,7 +66,8 @@ bool bind(ContextContainer &container) {
     for (const Window window : {container.attachment.view.window, container.readAttachment.view.window}) {
         if (window && !container.connection.windows().find(window)) return false;
     }
-    if (glXMakeContextCurrent(container.connection.display(), drawable, readDrawable, container.context)) return true;
+    if (glx().makeContextCurrent(container.connection.display(), drawable, readDrawable, container.context))
+        return true;
     return !drawable && bindWithPlaceholder(container);
 }
 
@@ -68,13 +75,13 @@ bool bind(ContextContainer &container) {
 
 ContextContainer *currentContext() {
     ContextContainer *container = threadContainer;
-    return container && glXGetCurrentContext() == container->context ? container : nullptr;
+    return container && glx().currentContext() == container->context ? container : nullptr;
 }
 
 void clearCurrentContext() {
-    if (Display *display = glXGetCurrentDisplay()) {
+    if (Display *display = glx().currentDisplay()) {
         if (currentContext())
-            glXMakeContextCurrent(display, None, None, nullptr);
+            glx().makeContextCurrent(display, None, None, nullptr);
         else
             calls::makeContextCurrent(display, None, None, nullptr);
     }
@@ -89,9 +96,9 @@ bool makeCurrent(ContextContainer *container) {
 }
 
 SavedBinding *saveBinding() {
-    if (!glXGetCurrentContext()) return nullptr;
-    auto *saved = new SavedBinding{glXGetCurrentDisplay(), glXGetCurrentDrawable(), glXGetCurrentReadDrawable(),
-                                   glXGetCurrentContext(), currentContext()};
+    if (!glx().currentContext()) return nullptr;
+    auto *saved = new SavedBinding{glx().currentDisplay(), glx().currentDrawable(), glx().currentReadDrawable(),
+                                   glx().currentContext(), currentContext()};
     if (saved->container) threadContainer = nullptr;
     return saved;
 }
@@ -101,7 +108,7 @@ void restoreBinding(SavedBinding *binding) {
         clearCurrentContext();
         return;
     }
-    const auto makeContextCurrent = binding->container ? glXMakeContextCurrent : calls::makeContextCurrent;
+    const auto makeContextCurrent = binding->container ? glx().makeContextCurrent : calls::makeContextCurrent;
     const bool isRestored = makeContextCurrent(binding->display, binding->draw, binding->read, binding->context);
     if (!isRestored) clearCurrentContext();
     setThreadContainer(isRestored ? binding->container : nullptr);

@@ -1,4 +1,4 @@
-// Which context a thread has current, ours or a foreign one.
+// The current context of a thread, created by this library or not.
 #pragma once
 
 #include "host/platform/operations.h"

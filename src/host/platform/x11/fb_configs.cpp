@@ -1,9 +1,13 @@
 #include "host/platform/x11/fb_configs.h"
 
+#include "host/platform/x11/glx.h"
+
 #include <cstdlib>
 #include <memory>
 #include <optional>
 #include <tuple>
+
+#include "host/platform/x11/server_configs.h"
 
 namespace host::platform::x11 {
 
@@ -35,16 +39,20 @@ int32_t drawableTypes(int glxTypes, bool hasVisual) {
            (hasVisual && glxTypes & GLX_WINDOW_BIT ? window : 0);
 }
 
-std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, const Visuals &visuals) {
-    const auto value = [&](int attribute) {
-        int result = 0;
-        glXGetFBConfigAttrib(display, handle, attribute, &result);
-        return result;
-    };
-    const auto visual = visuals.find(static_cast<VisualID>(value(GLX_VISUAL_ID)));
+int askGlx(Display *display, GLXFBConfig handle, int attribute) {
+    int value = 0;
+    glx().fbConfigAttrib(display, handle, attribute, &value);
+    return value;
+}
+
+// row: the server's of this config, if it is known.
+std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, ServerConfigs::Row row, const Visuals &visuals) {
+    const auto value = [&](int attribute) { return row ? row.value(attribute) : askGlx(display, handle, attribute); };
+    const auto visualId = static_cast<VisualID>(value(GLX_VISUAL_ID));
+    const auto visual = visuals.find(visualId);
     const bool hasVisual = visual != visuals.end();
-    // One of a visual of another class is for programs that look for just that.
-    if (!(value(GLX_RENDER_TYPE) & GLX_RGBA_BIT) || (!hasVisual && value(GLX_VISUAL_ID))) return std::nullopt;
+    // Configs with a visual of another class than TrueColor are left out.
+    if ((!hasVisual && visualId) || !(value(GLX_RENDER_TYPE) & GLX_RGBA_BIT)) return std::nullopt;
     const ChannelSizes channels{value(GLX_RED_SIZE), value(GLX_GREEN_SIZE), value(GLX_BLUE_SIZE)};
     return FbConfig{
         .handle = handle,
@@ -60,7 +68,6 @@ std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, const Vis
                 .samples = value(GLX_SAMPLES),
             },
         .channels = channels,
-        .maxPbuffer = {value(GLX_MAX_PBUFFER_WIDTH), value(GLX_MAX_PBUFFER_HEIGHT), value(GLX_MAX_PBUFFER_PIXELS)},
         .drawableTypes = drawableTypes(value(GLX_DRAWABLE_TYPE), hasVisual),
         .hasCaveat = value(GLX_CONFIG_CAVEAT) != GLX_NONE,
         .copiesAtSwap = value(GLX_SWAP_METHOD_OML) == GLX_SWAP_COPY_OML,
@@ -85,7 +92,7 @@ int bits(const FormatSizes &sizes) {
     return sizes.color + sizes.alpha + sizes.depth + sizes.stencil;
 }
 
-// What is missing weighs more than what is too much.
+// A missing bit costs more than a surplus bit.
 int distance(int have, int want) {
     return have < want ? (want - have) * 64 : have - want;
 }
@@ -97,7 +104,7 @@ int distance(const FbConfig &config, const FormatSizes &wanted, const ChannelSiz
            distance(sampleCount(config.sizes), sampleCount(wanted)) * 16;
 }
 
-// Where two of equal sizes differ, the one that more programs can use comes first.
+// Orders configs of equal sizes: a lower value is preferred.
 auto preference(const FbConfig &config, const FormatSizes &wanted, Display *display, int screen) {
     return std::tuple(config.sizes.isDoubleBuffered != wanted.isDoubleBuffered, config.hasCaveat,
                       config.visual.depth != DefaultDepth(display, screen),
@@ -108,10 +115,12 @@ auto preference(const FbConfig &config, const FormatSizes &wanted, Display *disp
 
 void FbConfigs::read() {
     int count = 0;
-    const std::unique_ptr<GLXFBConfig[], Free> handles(glXGetFBConfigs(m_display, m_screen, &count));
+    const std::unique_ptr<GLXFBConfig[], Free> handles(glx().fbConfigs(m_display, m_screen, &count));
     const auto visuals = trueColorVisuals(m_display, m_screen);
+    const ServerConfigs server(m_display, m_screen);
     for (int i = 0; handles && i < count; ++i) {
-        if (auto config = describe(m_display, handles[i], visuals)) m_configs.push_back(*config);
+        const auto row = server.find(static_cast<uint32_t>(i), askGlx(m_display, handles[i], GLX_FBCONFIG_ID));
+        if (auto config = describe(m_display, handles[i], row, visuals)) m_configs.push_back(*config);
     }
 }
 
@@ -126,7 +135,8 @@ const FbConfig *FbConfigs::choose(const FormatSizes &wanted) {
     const auto [chosen, isNew] = m_chosen.try_emplace(wanted, nullptr);
     if (!isNew) return chosen->second;
 
-    // What was asked for comes first: a window of another visual is drawn to through a child window.
+    // The requested buffering and samples precede the visual, since a window of another visual is drawn to through a
+    // child.
     const auto rank = [&](const FbConfig &config) {
         const auto [isOtherBuffering, hasCaveat, isOtherDepth, isOtherVisual] =
             preference(config, wanted, m_display, m_screen);

@@ -37,9 +37,6 @@ struct FbConfig {
     XVisualInfo visual{}; // with id 0 where windows cannot be drawn to
     FormatSizes sizes;
     ChannelSizes channels;
-    struct {
-        int32_t width = 0, height = 0, pixels = 0;
-    } maxPbuffer;
     int32_t drawableTypes = 0; // bits of EGL_SURFACE_TYPE
     bool hasCaveat = false;
     bool copiesAtSwap = false; // so the back buffer keeps its contents

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/pixel_format.h"
 #include "host/platform/x11/x_calls.h"
 
@@ -19,7 +20,7 @@ struct PixmapFacts {
 std::optional<PixmapFacts> findPixmap(uint64_t displayWord, Pixmap pixmap) {
     auto *connection = Connection::open(displayWord);
     if (!connection || connection->isLost() || !pixmap) return std::nullopt;
-    // The application may not have sent its request for the pixmap yet.
+    // The request that creates the pixmap may still be in the application's output buffer.
     flushApplication(displayWord);
     Display *display = connection->display();
     const std::lock_guard lock(calls::trapMutex());
@@ -36,7 +37,7 @@ std::optional<PixmapFacts> findPixmap(uint64_t displayWord, Pixmap pixmap) {
 } // namespace
 
 Pbuffers::~Pbuffers() {
-    const auto destroy = pixmap ? glXDestroyPixmap : glXDestroyPbuffer;
+    const auto destroy = pixmap ? glx().destroyPixmap : glx().destroyPbuffer;
     for (const auto &[key, buffer] : m_buffers) {
         if (!key.first->isLost()) destroy(key.first->display(), buffer);
     }

@@ -1,5 +1,7 @@
 #include "host/platform/x11/pixel_format.h"
 
+#include "host/platform/x11/glx.h"
+
 namespace host::platform::x11 {
 
 namespace {
@@ -68,8 +70,8 @@ PixelFormat *choose(Connection *connection, const Request &request) {
                            .fitsAnyDrawable = request.fit == fitAnyDrawable};
 }
 
-// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server. Pixmaps are updated by a swap, which
-// has to preserve the contents.
+// Bits of EGL_SURFACE_TYPE. A software renderer copies its frames to the server, which preserves the back buffer.
+// Pixmaps are updated by a swap and require that.
 int32_t drawableTypes(const PixelFormat &format) {
     constexpr int32_t pixmap = 2, window = 4, preserved = 0x400;
     const int32_t types = format.config.drawableTypes;
@@ -78,11 +80,17 @@ int32_t drawableTypes(const PixelFormat &format) {
     return types | preserved;
 }
 
+int32_t glxValue(const PixelFormat &format, int attribute) {
+    int value = 0;
+    glx().fbConfigAttrib(format.connection.display(), format.config.handle, attribute, &value);
+    return value;
+}
+
 } // namespace
 
 int32_t robustContexts(const Connection &connection) {
     if (connection.hasGlxExtension("GLX_ARB_create_context_robustness")) return robustOnDemand;
-    // Bounds are always checked in software, and nothing can be reset.
+    // Software renderers always check bounds, and they are never reset.
     return connection.isSoftware() ? robustAlways : robustNever;
 }
 
@@ -110,11 +118,11 @@ int32_t pixelFormatValue(const PixelFormat *format, uint32_t attribute) {
     case MaxSwapInterval:
         return format->connection.maxSwapInterval();
     case MaxPbufferWidth:
-        return config.maxPbuffer.width;
+        return glxValue(*format, GLX_MAX_PBUFFER_WIDTH);
     case MaxPbufferHeight:
-        return config.maxPbuffer.height;
+        return glxValue(*format, GLX_MAX_PBUFFER_HEIGHT);
     case MaxPbufferPixels:
-        return config.maxPbuffer.pixels;
+        return glxValue(*format, GLX_MAX_PBUFFER_PIXELS);
     default:
         break;
     }

@@ -24,7 +24,7 @@ struct DesktopVersion {
 struct PixelFormat {
     x11::Connection &connection;
     const x11::FbConfig &config;
-    uint32_t profile = profileLegacy; // what a list without a profile gets
+    uint32_t profile = profileLegacy; // the default for lists without a profile
     bool fitsConfig = false;          // created for one config, whose attributes it keeps
     bool fitsAnyDrawable = false;     // its contexts have no config of their own
     bool isRobust = false;

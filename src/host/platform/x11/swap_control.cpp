@@ -2,17 +2,9 @@
 
 #include "host/platform/x11/context.h"
 #include "host/platform/x11/current.h"
+#include "host/platform/x11/glx.h"
 
 namespace host::platform::x11 {
-
-namespace {
-
-template <typename Function>
-Function lookUp(const char *name) {
-    return reinterpret_cast<Function>(glXGetProcAddressARB(reinterpret_cast<const GLubyte *>(name)));
-}
-
-} // namespace
 
 void setSwapInterval(ContextContainer *container, int32_t interval) {
     if (!canHold(*container)) return;
@@ -24,9 +16,9 @@ void applySwapInterval(const ContextContainer &container) {
     const auto &attachment = container.attachment;
     if (!container.swapInterval || !attachment.view.window) return;
     const int32_t interval = *container.swapInterval;
-    static const auto swapIntervalExt = lookUp<PFNGLXSWAPINTERVALEXTPROC>("glXSwapIntervalEXT");
-    static const auto swapIntervalMesa = lookUp<PFNGLXSWAPINTERVALMESAPROC>("glXSwapIntervalMESA");
-    static const auto swapIntervalSgi = lookUp<PFNGLXSWAPINTERVALSGIPROC>("glXSwapIntervalSGI");
+    static const auto swapIntervalExt = findGlxFunction<PFNGLXSWAPINTERVALEXTPROC>("glXSwapIntervalEXT");
+    static const auto swapIntervalMesa = findGlxFunction<PFNGLXSWAPINTERVALMESAPROC>("glXSwapIntervalMESA");
+    static const auto swapIntervalSgi = findGlxFunction<PFNGLXSWAPINTERVALSGIPROC>("glXSwapIntervalSGI");
     const auto &connection = container.connection;
     if (swapIntervalExt && connection.hasGlxExtension("GLX_EXT_swap_control")) {
         swapIntervalExt(connection.display(), attachment.drawable, interval);

@@ -9,7 +9,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// In 32-bit units; longer titles are cut.
+// In 32-bit units. Longer titles are cut.
 constexpr long titleLimit = 4096;
 
 std::string netTitle(Display *display, Window window) {
@@ -41,7 +41,7 @@ std::string plainTitle(Display *display, Window window) {
     return title;
 }
 
-// None for a window of the first level, and for one that is gone.
+// None for a child of the root window, and for a destroyed window.
 Window parentOf(Display *display, Window window) {
     Window root = None, parent = None, *children = nullptr;
     unsigned count = 0;
@@ -50,7 +50,7 @@ Window parentOf(Display *display, Window window) {
     return parent == root ? None : parent;
 }
 
-// A view is often a child of the window that bears the title.
+// Views are often children of the window with the title.
 std::string titleOf(Connection &connection, Window window) {
     Display *display = connection.display();
     std::string title;
@@ -76,7 +76,7 @@ void viewSize(const View &view, int32_t *width, int32_t *height) {
 std::string viewTitle(const View &view) {
     auto *connection = view.window ? Connection::find(view.display) : nullptr;
     if (!connection) return {};
-    // A window that the server has not heard of yet gets its title with the waiting for it.
+    // For a window whose creation has not reached the server, windowFacts waits until it has, so the title can be read.
     if (!connection->windowFacts(view)) return {};
     if (const auto known = connection->windows().findTitle(view.window)) return *known;
     const auto title = titleOf(*connection, view.window);

@@ -23,7 +23,7 @@ std::optional<WindowFacts> WindowWatch::find(Window window) {
 
 std::optional<WindowFacts> WindowWatch::watch(Window window) {
     const std::lock_guard lock(m_mutex);
-    // Selects events before the query, so that no change is missed in between.
+    // Events are selected before the query, so that no change between the two is missed.
     select(window, StructureNotifyMask);
     XWindowAttributes attributes{};
     if (!XGetWindowAttributes(m_display, window, &attributes)) {
@@ -87,7 +87,7 @@ void WindowWatch::handle(const XEvent &event) {
     }
 }
 
-// Of all windows: titles change seldom, and which ones depend on the window is not worth knowing.
+// Forgets the titles of all windows: changes are rare, and which titles depend on a window is not recorded.
 void WindowWatch::forgetTitles() {
     for (auto &[window, watched] : m_windows)
         watched.title.reset();

@@ -1,14 +1,13 @@
-// X and GLX calls that raise errors which must stay hidden or are the only sign of failure: the parameters of the call
-// of that name, and a result that reports the failure. They wait for the server, so they are for calls that happen
-// rarely.
+// Wrappers of X and GLX calls whose errors must not reach the application, or are the only sign of failure: same
+// parameters, and a result that reports the failure. They wait for the server, so they are for rare calls.
 #pragma once
 
 #include <mutex>
 
-#include <GL/glx.h>
 #include <X11/Xlib.h>
 #include <X11/Xproto.h>
 
+#include "host/platform/x11/glx.h"
 #include "host/platform/x11/x_errors.h"
 
 namespace host::platform::x11::calls {
@@ -36,7 +35,7 @@ inline GLXPbuffer createPbuffer(Display *display, GLXFBConfig config, const int 
     if (!XQueryExtension(display, "GLX", &glxOpcode, &firstEvent, &firstError)) return None;
     const std::lock_guard lock(trapMutex());
     ErrorTrap trap(display, glxOpcode);
-    const GLXPbuffer buffer = glXCreatePbuffer(display, config, attributes);
+    const GLXPbuffer buffer = glx().createPbuffer(display, config, attributes);
     return trap.sawError() ? None : buffer;
 }
 
@@ -44,7 +43,7 @@ inline GLXPbuffer createPbuffer(Display *display, GLXFBConfig config, const int 
 inline GLXPixmap createPixmap(Display *display, GLXFBConfig config, Pixmap pixmap) {
     const std::lock_guard lock(trapMutex());
     ErrorTrap trap(display);
-    const GLXPixmap drawable = glXCreatePixmap(display, config, pixmap, nullptr);
+    const GLXPixmap drawable = glx().createPixmap(display, config, pixmap, nullptr);
     return trap.sawError() ? None : drawable;
 }
 
@@ -52,7 +51,7 @@ inline GLXPixmap createPixmap(Display *display, GLXFBConfig config, Pixmap pixma
 // is held, since earlier errors of the application may be delivered meanwhile.
 inline Bool makeContextCurrent(Display *display, GLXDrawable draw, GLXDrawable read, GLXContext context) {
     const ErrorTrap trap(display);
-    const Bool isCurrent = glXMakeContextCurrent(display, draw, read, context);
+    const Bool isCurrent = glx().makeContextCurrent(display, draw, read, context);
     XSync(display, False);
     return isCurrent;
 }

@@ -22,15 +22,15 @@ void noteServerLost(Display *, void *isLost) {
     static_cast<std::atomic<bool> *>(isLost)->store(true);
 }
 
-// The process's handlers for lost servers that ours stands before.
+// The application's handlers for lost servers, which ours precedes.
 constinit std::atomic<XIOErrorHandler> oldestHandler = nullptr;
 constinit std::atomic<XIOErrorHandler> newestHandler = nullptr;
 constinit thread_local bool isPassingOn __attribute__((tls_model("initial-exec"))) = false;
 
-// Of the process. Xlib asks it first and the display's own exit handler afterwards.
+// The handler of the process. Xlib calls it first and the display's own exit handler afterwards.
 int takeOwnLosses(Display *display) {
     if (display->exit_handler == noteServerLost) return 0;
-    // One that was set after ours may call ours in its turn.
+    // A handler that was set after ours may call ours.
     if (isPassingOn) return oldestHandler.load()(display);
     isPassingOn = true;
     const int result = newestHandler.load()(display);
@@ -77,8 +77,8 @@ bool hasRequestsToSend(Display *display) {
 }
 
 ErrorTrap::ErrorTrap(Display *display, int majorOpcode) : m_display(display), m_record(std::make_unique<Record>()) {
-    // GLX raises errors of its own with the serial of the last request: Xlib would then take what the server says of
-    // earlier ones for lost.
+    // GLX generates errors itself, with the serial of the last request. Xlib would then discard the server's errors of
+    // earlier requests.
     XSync(display, False);
     m_record->majorOpcode = majorOpcode;
     m_record->handler.handler = Record::take;

@@ -1,7 +1,7 @@
 // X errors as values. Xlib calls a display's own reply handlers before the error handler of the process, so errors that
 // they catch reach neither the application's handler nor Xlib's default one, which would end the process. The
-// application's displays keep all their errors. For lost servers Xlib has one handler per process: ours is installed
-// before the application's and passes on what does not belong to our connections.
+// application's displays keep all their errors. Xlib has one handler per process for lost servers: ours is installed
+// before the application's and calls that for servers of other connections.
 #pragma once
 
 #include <atomic>
@@ -11,8 +11,8 @@
 
 namespace host::platform::x11 {
 
-// From now on, permanently: every error of this display is dropped, and a lost server sets isLost. Both arguments must
-// live as long as the process.
+// Drops every error of this display from now on, and sets isLost when the server is lost. Both arguments must live as
+// long as the process.
 void keepErrorsFromProcess(Display *display, std::atomic<bool> &isLost);
 
 // Installs our handler for lost servers before one that the application has set since. Any thread.

@@ -1,4 +1,4 @@
-// A card for each application, and its frame rate as a curve of the last minute.
+// A card for each application, with its frame rate as a curve of the last minute.
 const cards = new Map(); // by number of the application
 
 function ceilingOf(values) {
@@ -26,7 +26,7 @@ function drawFrames(card, application) {
   setText(card.querySelector('.latest'), application.ended ? 'end' : 'now');
   setText(card.querySelector('.lowest'), values.length ? `lowest ${lowest}` : 'no frames yet');
   card.querySelector('.chart').setAttribute('aria-label', values.length
-    ? `Frames a second in the last minute: ${last} last, ${lowest} at the lowest` : 'No frames yet');
+    ? `Frames per second in the last minute: ${last} last, ${lowest} at the lowest` : 'No frames yet');
   drawCurve(card, values);
 }
 
@@ -69,7 +69,7 @@ function drawCard(application) {
   drawFrames(card, application);
 }
 
-// Those that run come first, the newest in front.
+// Running applications come first, the newest in front.
 function inOrder() {
   return [...applications.values()].sort((one, other) =>
     (one.ended !== 0) - (other.ended !== 0) || other.number - one.number);

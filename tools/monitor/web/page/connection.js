@@ -1,4 +1,4 @@
-// The way to the command: updates that come as events, and commands that go back.
+// The connection to the command: updates arrive as events, commands are sent as requests.
 let source = null;
 
 function setConnection(state, words, trouble) {
@@ -21,17 +21,17 @@ function take(update) {
   if (update.refusals || update.isCleared || update.isWhole) drawRefusals();
   takeLog(update);
   for (const notice of update.notices ?? []) notify(notice.text);
-  if (update.skipped) notify(`${update.skipped} log lines came too fast and are not shown`);
+  if (update.skipped) notify(`${update.skipped} log lines arrived too fast and are not shown`);
 }
 
-// The stream was refused: the command is another one by now, with another address, or has enough pages.
+// Called if the stream is rejected: another command has the address, or too many pages are open.
 async function explain() {
   const answer = await fetch('.', { method: 'HEAD' }).catch(() => null);
   if (answer?.status === 403) {
-    setConnection('gone', 'Another monitor', 'A monitor is there again. It has a new address, which its terminal shows.');
+    setConnection('gone', 'Another monitor', 'A monitor is running again. Its terminal shows the new address.');
     return;
   }
-  if (answer?.ok) setConnection('waiting', 'Waiting', 'Too many pages are open. This one waits for its turn.');
+  if (answer?.ok) setConnection('waiting', 'Waiting', 'Too many pages are open. This one connects when another is closed.');
   setTimeout(connect, 2000);
 }
 
@@ -42,7 +42,7 @@ function connect() {
   source.onmessage = event => take(JSON.parse(event.data));
   source.onerror = () => {
     setConnection('gone', 'Not connected',
-      'The monitor has ended or cannot be reached. This page shows its last state and connects again by itself.');
+      'The monitor has ended or cannot be reached. This page shows its last state and reconnects automatically.');
     if (source.readyState === EventSource.CLOSED) explain();
   };
 }
@@ -51,7 +51,7 @@ async function command(words) {
   const answer = await fetch('commands', {
     method: 'POST', headers: { 'Content-Type': 'application/json' }, body: JSON.stringify(words),
   }).catch(() => null);
-  if (!answer?.ok) notify('The monitor did not take the command.');
+  if (!answer?.ok) notify('The monitor did not accept the command.');
 }
 
 byId('wireframe-all').onclick = event => command({ wireframe: event.currentTarget.getAttribute('aria-pressed') !== 'true' });

@@ -1,4 +1,4 @@
-# Puts the page together: cmake -D PAGE=FILE -D SCRIPTS=NAME;... -P join.cmake
+# Joins the files of the page: cmake -D PAGE=FILE -D SCRIPTS=NAME;... -P join.cmake
 file(READ ${CMAKE_CURRENT_LIST_DIR}/page.html page)
 file(READ ${CMAKE_CURRENT_LIST_DIR}/page.css style)
 foreach(name ${SCRIPTS})

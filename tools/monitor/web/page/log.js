@@ -1,11 +1,11 @@
-// The log. Only the lines in sight are elements, whatever their number.
+// The log. Only visible lines are elements, whatever the number of lines.
 const box = byId('log-lines');
 const sheet = box.firstElementChild;
 const levelNames = { log_info: 'info', log_warning: 'warning', log_error: 'error' };
 
-let lines = []; // all, the oldest first; each with its number
-let shown = []; // those that the filter lets through
-let held = []; // what has come while the log is paused
+let lines = []; // all lines, the oldest first, each with its number
+let shown = []; // the lines that pass the filter
+let held = []; // lines that arrived while the log is paused
 let nextNumber = 0;
 let isPaused = false;
 let isAtEnd = true;
@@ -54,7 +54,7 @@ function append(added) {
   const gone = shown.findIndex(line => line.number >= lines[0].number);
   const count = gone < 0 ? shown.length : gone;
   shown.splice(0, count);
-  // Who reads further up goes on reading the same lines.
+  // A reader who has scrolled up keeps the same lines in view.
   if (!isAtEnd) box.scrollTop -= count * height;
 }
 
@@ -110,7 +110,7 @@ function paintLog() {
   setText(byId('log-count'), shown.length === lines.length ? lines.length : `${shown.length} of ${lines.length}`);
   setText(byId('pause'), isPaused ? `Resume (${held.length} new)` : 'Pause');
   byId('log-empty').hidden = shown.length > 0;
-  setText(byId('log-empty'), lines.length ? 'No line passes the filter.' : 'No line yet.');
+  setText(byId('log-empty'), lines.length ? 'No line matches the filter.' : 'No line yet.');
 }
 
 function refilter() {
@@ -133,7 +133,7 @@ function choose(index) {
 function drawProcesses() {
   const select = byId('process');
   const named = inOrder().map(application => [String(application.pid), `${nameOf(application)} ${application.pid}`]);
-  // A choice stays, though its application may be forgotten.
+  // The chosen process stays in the list even if its application was removed.
   if (filter.pid && !named.some(([pid]) => pid === filter.pid)) named.push([filter.pid, filter.pid]);
   select.replaceChildren(make('option', { value: '' }, 'All processes'),
     ...named.map(([value, name]) => make('option', { value }, name)));

@@ -1,4 +1,4 @@
-// What the monitor has told. The same bounds hold in the command, which sends no more.
+// The data from the monitor. The command has the same bounds and sends no more.
 const mostLogLines = 10000;
 const curveSeconds = 60;
 
@@ -13,12 +13,12 @@ function curveOf(known, [first, ...values]) {
   return { first: first + values.length - kept.length, values: kept };
 }
 
-// What the host lacks and something asks for.
+// The missing features that something requires.
 function lackedBy(report) {
   return report.features.filter(feature => !feature.isAvailable && feature.holdsBack.length);
 }
 
-// Gives the numbers of the applications whose card has to be drawn again.
+// Returns the numbers of the applications whose card must be redrawn.
 function takeApplications(update) {
   const changed = new Set();
   if (update.isWhole) {
@@ -53,7 +53,7 @@ const nameOf = application => application.command || 'unknown';
 const clock = new Intl.DateTimeFormat(undefined, { hour: '2-digit', minute: '2-digit', second: '2-digit', hourCycle: 'h23' });
 const timeOf = milliseconds => (milliseconds ? clock.format(milliseconds) : 'unknown');
 
-// An element with texts and elements in it. Whatever applications say goes through here and stays text.
+// An element with texts and child elements. Texts of applications pass through here and cannot become markup.
 function make(tag, attributes, ...content) {
   const element = document.createElement(tag);
   for (const [name, value] of Object.entries(attributes)) element.setAttribute(name, value);

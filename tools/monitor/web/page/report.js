@@ -1,4 +1,4 @@
-// The System Report of an application as a table, and refusals in words.
+// The System Report of an application as a table, and the list of failed calls.
 let shownReport = null;
 
 function featureRow(feature) {
@@ -25,7 +25,7 @@ function showReport(application) {
   const { report, lacks } = application;
   setText(byId('report-title'), `System Report of ${nameOf(application)} ${application.pid}`);
   setText(byId('report-host'), `The host has OpenGL ${report.openGL}. ` +
-    (lacks ? `Features that it lacks and that hold something back: ${lacks}.` : 'Nothing is held back.'));
+    (lacks ? `Missing features that something requires: ${lacks}.` : 'No required feature is missing.'));
   byId('report-sections').replaceChildren(...report.sections.map(section =>
     make('li', section.isSupported ? {} : { class: 'missing' }, `${section.isSupported ? '✓' : '✕'} ${section.name}`)));
   byId('report-missing').checked = lacks > 0;
@@ -54,7 +54,7 @@ function refusalItem(refusal) {
   return make('li', { 'data-number': refusal.number }, words, actions);
 }
 
-// Only what has changed is touched: a screen reader speaks what comes in.
+// Only changed elements are replaced, since screen readers announce new ones.
 function drawRefusals() {
   const list = byId('refusals').querySelector('ul');
   const wanted = refusals.filter(refusal => !dismissed.has(refusal.number));

@@ -1,0 +1,9 @@
+// The answers of a library as text.
+#pragma once
+
+#include <string>
+
+#include "tools/command/json.h"
+
+// info: "device" and the fields of askLibrary().
+[[nodiscard]] std::string infoAsText(const Json &info);
