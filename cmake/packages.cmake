@@ -11,16 +11,17 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_COMPONENT_ZELVANE_DESCRIPTION
     "Runs OpenGL ES programs on the desktop's OpenGL as they would run on a handheld
 device, with its configs, versions and limits, and shows what they report.
-The libraries lie in a directory of their own, and programs get them from
-zelvane run.")
+The libraries are installed in a directory of their own; zelvane run makes
+programs load them.")
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_NAME zelvane)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_ZELVANE_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-# The host's OpenGL is loaded at run time.
-set(CPACK_DEBIAN_ZELVANE_PACKAGE_DEPENDS libgl1)
-set(CPACK_DEBIAN_ZELVANE_PACKAGE_RECOMMENDS libgl1-mesa-dri)
-set(CPACK_DEBIAN_ZELVANE_PACKAGE_SUGGESTS "xvfb, mesa-utils, xdg-utils")
+# Loaded at run time: libGL.so.1, and libGLX.so.0 for desktop programs. zelvane lab starts Xvfb, and zelvane monitor
+# --open the user's browser.
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_DEPENDS "libgl1, libglx0")
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_RECOMMENDS "libgl1-mesa-dri, xvfb")
+set(CPACK_DEBIAN_ZELVANE_PACKAGE_SUGGESTS "mesa-utils, xdg-utils")
 
 set(CPACK_COMPONENT_ZELVANE-DEV_DESCRIPTION
     "Headers for back ends and GUIs of Zelvane, a pkg-config file and a CMake\npackage.")

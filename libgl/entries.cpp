@@ -5,9 +5,9 @@
 
 #include "foundation/resolver_code.h"
 
-// A function is 32 bytes, its two resolvers are 16 bytes each. The number of a resolver is that of its slot, shifted
-// left by one, with the lowest bit set for calls with an EGL context. Offset 0 leads to a word that is never null:
-// until there is a word to follow, such calls are resolved each time.
+// A function has 32 bytes, each of its two resolvers 16. The number of a resolver is that of its slot, shifted left by
+// one, with the lowest bit set for calls with an EGL context. Offset 0 refers to a word that is never null: until there
+// is a word to follow, such calls are resolved each time.
 // clang-format off
 asm(R"(
     .macro follows

@@ -1,5 +1,5 @@
-// The exported functions and those of names that are in no table, a slot for each. A function jumps to the host's, or
-// while an EGL context is current on the thread to the function of that.
+// The exported functions and those of names that are in no table, with a slot for each. A function jumps to the host's
+// function, or to that of the EGL context that is current on the thread.
 #pragma once
 
 #include <cstddef>
@@ -22,18 +22,18 @@ inline constexpr Name names[] = {
 };
 
 inline constexpr size_t namedSlots = sizeof names / sizeof *names;
-inline constexpr size_t unnamedSlots = 512; // for names that are in no table, all of kind follows
+inline constexpr size_t unnamedSlots = 512; // for names that are in no table, all of the kind follows
 inline constexpr size_t slotCount = namedSlots + unnamedSlots;
 
 // The function of a slot.
 [[nodiscard]] Function entry(size_t slot);
 
-// Switches the functions to follow the word at this offset from the thread pointer.
+// Makes the functions follow the word at this offset from the thread pointer.
 void follow(ptrdiff_t context);
 // Whether there is a word to follow.
 [[nodiscard]] bool isReady();
 
-// Keeps the function that a slot jumps to: on the host, or while a context of EGL is current.
+// Stores the function that a slot jumps to: on the host, or while an EGL context is current.
 void keepHostFunction(size_t slot, Function function);
 void keepEglFunction(size_t slot, Function function);
 

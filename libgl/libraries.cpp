@@ -15,7 +15,7 @@ namespace {
 
 using GetProcAddress = Function (*)(const unsigned char *name);
 
-// The names alone would lead to our own functions. Opened once, or once by each of several first threads.
+// Opened by paths, since the names would find this library. Opened once, or once by each of several first threads.
 void *hostLibrary() {
     static constinit std::atomic<void *> opened = nullptr;
     if (void *const library = opened.load(std::memory_order_acquire)) return library;
@@ -32,10 +32,10 @@ ptrdiff_t offsetInThread(const void *word) {
     return static_cast<ptrdiff_t>(reinterpret_cast<uintptr_t>(word) - thread);
 }
 
-// The word of a process without libEGL.
+// The word for processes without libEGL.
 constinit thread_local const void *const noContext __attribute__((tls_model("initial-exec"))) = nullptr;
 
-// Passes on what a libEGL tells that was loaded before; a later one calls zvFollowLibEgl itself.
+// Passes on the link of a libEGL that was loaded before; a later one calls zvFollowLibEgl itself.
 [[gnu::constructor]] void followLoadedLibEgl() {
     follow(offsetInThread(&noContext));
     void *const library = dlopen("libEGL.so.1", RTLD_LAZY | RTLD_NOLOAD);
@@ -53,7 +53,7 @@ constinit thread_local const void *const noContext __attribute__((tls_model("ini
 Function findHostFunction(const char *name) {
     void *const library = hostLibrary();
     if (!library) return nullptr;
-    // It exports GLX of old versions, and no OpenGL.
+    // It exports old versions of GLX, and no OpenGL.
     void *const exported = strncmp(name, "glX", 3) == 0 ? dlsym(library, name) : nullptr;
     if (exported) return reinterpret_cast<Function>(exported);
     const auto getProcAddress = reinterpret_cast<GetProcAddress>(dlsym(library, "glXGetProcAddressARB"));

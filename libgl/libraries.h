@@ -5,9 +5,9 @@
 
 namespace libgl {
 
-// The host's function of this name; null when it has none. Any thread.
+// The host's function of this name; null if it has none. Any thread.
 [[nodiscard]] Function findHostFunction(const char *name);
-// The entry of libEGL; null when it has none. Any thread.
+// libEGL's entry of this name; null if it has none. Any thread.
 [[nodiscard]] Function findEglFunction(const char *name);
 
 } // namespace libgl

@@ -1,4 +1,4 @@
-// glXGetProcAddress: returns our own functions, so that what a program has looked up follows too.
+// glXGetProcAddress: returns this library's functions, so that looked-up functions follow the current context too.
 #include <cstring>
 
 #include "libgl/entries.h"
@@ -13,10 +13,10 @@ extern "C" [[gnu::visibility("default")]] Function glXGetProcAddressARB(const un
     if (strcmp(name, "glXGetProcAddress") == 0 || strcmp(name, "glXGetProcAddressARB") == 0)
         return reinterpret_cast<Function>(glXGetProcAddressARB);
     const Function onHost = libgl::findHostFunction(name);
-    // A null result says that an extension is missing. The host has a function of every GL name.
+    // Null means that the extension is missing, but the host returns a function for every GL name.
     if (!onHost) return nullptr;
     size_t slot = libgl::findNamedSlot(name);
-    // GLX functions that no table knows act on what they are given.
+    // GLX functions that are in no table only use their arguments.
     if (slot == libgl::noSlot && strncmp(name, "glX", 3) != 0) slot = libgl::takeUnnamedSlot(name);
     return slot == libgl::noSlot ? onHost : libgl::entry(slot);
 }

@@ -1,4 +1,4 @@
-// The first call of each function.
+// Resolves each function at its first call.
 #include "libgl/entries.h"
 #include "libgl/libraries.h"
 #include "libgl/slots.h"
@@ -7,7 +7,7 @@ namespace libgl {
 
 namespace {
 
-// The host may have the function later, when it has loaded a driver: only what it has is kept.
+// Only existing functions are stored, since the host may have others later, when it has loaded a driver.
 Function resolveOnHost(size_t slot) {
     const Function found = findHostFunction(nameOfSlot(slot));
     if (!found) return libgl_nothing;
@@ -16,7 +16,7 @@ Function resolveOnHost(size_t slot) {
 }
 
 Function resolveForEgl(size_t slot) {
-    // Another library's constructor may call before ours has run.
+    // The constructor of another library may call before this library's has run.
     if (!isReady()) return resolveOnHost(slot);
     const bool isGl = slot >= namedSlots || names[slot].kind == Kind::follows;
     const Function found = isGl ? findEglFunction(nameOfSlot(slot)) : nullptr;
@@ -29,7 +29,7 @@ Function resolveForEgl(size_t slot) {
 
 } // namespace libgl
 
-// Called by the resolvers, with their number.
+// Called by the resolvers with their number.
 extern "C" libgl::Function libgl_resolve(unsigned number) {
     return number & 1 ? libgl::resolveForEgl(number >> 1) : libgl::resolveOnHost(number >> 1);
 }

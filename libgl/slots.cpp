@@ -10,7 +10,7 @@ namespace libgl {
 
 namespace {
 
-// Entries are written before their function is handed out, and never change.
+// Entries are written before their function is returned, and never change.
 struct Unnamed {
     pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;
     size_t count = 0;

@@ -45,7 +45,7 @@ constexpr bool isNumberedFrom1(std::span<const ExtensionRow> rows) {
     }
     return true;
 }
-static_assert(isNumberedFrom1(hostExtensions) && isNumberedFrom1(esExtensions), "a value is the place in its table");
+static_assert(isNumberedFrom1(hostExtensions) && isNumberedFrom1(esExtensions), "a value is an index into the table");
 
 constexpr const char *unknownExtension = "<unknown extension>";
 

@@ -49,7 +49,7 @@ constexpr auto directStorageEntryPoints = std::to_array<const char *>({
 
 static_assert(std::ranges::is_sorted(families, {}, &FamilyRow::feature) &&
                   std::ranges::is_sorted(entryPoints, {}, &EntryPointRow::feature),
-              "the rows of a feature stand together, and the features in their order");
+              "rows are grouped by feature, in the order of the features");
 
 template <typename Row, size_t count>
 std::span<const Row> rowsOf(const std::array<Row, count> &rows, Feature feature) {

@@ -1,4 +1,4 @@
-// The texts by which the host's OpenGL identifies itself.
+// The strings that identify the host's OpenGL.
 #pragma once
 
 #include <memory>
@@ -11,10 +11,10 @@
 namespace capability {
 
 struct HostIdentity {
-    std::string vendor, renderer, version; // empty where the host has no text
+    std::string vendor, renderer, version; // empty if the host has no such string
 };
 
-// Probes with a context on the calling thread. Nothing when that cannot be created.
+// Probes with a context on the calling thread. Nothing when none can be created.
 [[nodiscard]] std::optional<HostIdentity> probeHostIdentity(const DynamicLibrary &library,
                                                             const std::shared_ptr<glove::WSAPI> &windowSystem);
 

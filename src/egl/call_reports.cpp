@@ -75,7 +75,7 @@ Json sizesJson(const Config &config) {
     return sizes;
 }
 
-// The attribute that the configs failed on which matched the most others.
+// The attribute that rejected the nearest configs: those that match the most attributes before it.
 std::string whyNone(const ChoiceAccount &account) {
     if (account.fallenOut.empty()) return "the device has no configs";
     using FallenOut = ChoiceAccount::FallenOut;

@@ -14,7 +14,7 @@ namespace {
 
 gl::Function findGlEntry(const char *name) {
     const gl::Function known = gl::findEntry(name);
-    // Names that no back end has get an entry too, which reports the call.
+    // Names that no back end has also get an entry, which reports the call.
     return known ? known : gl::dynamicEntry(name);
 }
 
@@ -27,7 +27,7 @@ extern "C" ZV_EXPORT void zvDescribeToLibGl(LibGlLink *link) {
 }
 
 void egl::connectLibGl() {
-    // By its path, since the process may have loaded the host's library of that name too.
+    // Opened by its path, since the process may have loaded the host's library of that name too.
     void *const library = dlopen((getOwnDirectory() + libGlFromLibEgl).c_str(), RTLD_LAZY | RTLD_NOLOAD);
     if (!library) return;
     if (auto *const follow = reinterpret_cast<FollowLibEgl *>(dlsym(library, "zvFollowLibEgl"))) {

@@ -1,9 +1,9 @@
-// The libGL.so.1 of desktop programs, whose functions follow our current contexts.
+// The link to the libGL.so.1 of desktop programs, whose functions follow the current EGL contexts.
 #pragma once
 
 namespace egl {
 
-// Connects it, if the process has loaded it already. One that is loaded later connects itself.
+// Connects the library if the process has loaded it already. One that is loaded later connects itself.
 void connectLibGl();
 
 } // namespace egl

@@ -26,7 +26,7 @@ constinit std::atomic<bool> isStateLoaded = false;
 
 State::State()
     : m_profile(defaultProfile),
-      // A process that has loaded the host's libGL.so.1 or libOpenGL.so.0 would not load the one that follows our
+      // A process that has loaded the host's libGL.so.1 or libOpenGL.so.0 would not load the one that follows EGL
       // contexts.
       m_openGLLibrary(desktop_clients::isOn() ? host::openPlainHostOpenGLLibrary() : host::openHostOpenGLLibrary()),
       m_uiLink(setRenderModeOfAll) {

@@ -1,5 +1,5 @@
-// What libEGL tells the libGL.so.1 of desktop programs, so that its functions follow the current context of OpenGL ES.
-// Of the two libraries the one that is loaded second passes it on.
+// The data that libEGL passes to the libGL.so.1 of desktop programs, so that its functions follow the current context
+// of OpenGL ES. The library that is loaded second passes it on.
 #pragma once
 
 struct LibGlLink {
@@ -9,12 +9,12 @@ struct LibGlLink {
     // The calling thread's word that is not null while a context of OpenGL ES is current. It is in libEGL's static
     // thread-local storage: at the same offset from the thread pointer in all threads.
     const void *context;
-    // The entry of a GL name, which calls the function of the current context. Null when there are too many names. Any
+    // The entry of a GL name, which calls the function of the current context. Null if there are too many names. Any
     // thread.
     FindEntry findEntry;
 };
 
-// Where libGL.so.1 is, seen from the directory of libEGL.
+// The directory of libGL.so.1, relative to that of libEGL.
 inline constexpr char libGlFromLibEgl[] = "/desktop/libGL.so.1";
 
 extern "C" {

@@ -7,7 +7,7 @@ namespace host {
 
 // Searches the directory of this library, then the system's library directories. May be empty: check isLoaded().
 [[nodiscard]] DynamicLibrary openHostOpenGLLibrary();
-// Prefers the library that exports no OpenGL functions and returns them from GLX.
+// Prefers the library that exports no OpenGL functions, only GLX, which returns them.
 [[nodiscard]] DynamicLibrary openPlainHostOpenGLLibrary();
 
 } // namespace host

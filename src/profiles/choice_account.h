@@ -11,7 +11,7 @@ struct FallOut {
     int32_t attribute;
     int32_t wanted;
     int32_t had;
-    int32_t passed = 0; // how many attributes before it the config matched
+    int32_t passed = 0; // the number of attributes before it that the config matched
 };
 
 // In place of an attribute when the colour bits decide: the sum of the colour sizes that the list requests.

@@ -19,7 +19,8 @@ namespace {
 
 constexpr std::string_view generic = "Generic ";
 
-// Parsing all texts takes longer than the host takes for a context. No embedded name is written with entities.
+// A fast check before parsing: parsing all texts takes longer than the host's creation of a context. No embedded name
+// contains entities.
 bool canHaveName(std::string_view text, std::string_view name) {
     if (text.find(name) != text.npos) return true;
     return name.starts_with(generic) && text.find(name.substr(generic.size())) != text.npos;

@@ -24,7 +24,7 @@ class Following : public testing::TestWithParam<Order> {
 protected:
     Following() : m_x(XOpenDisplay(nullptr)) {
         if (GetParam().isGlFirst) openGl();
-        // As toolkits open it; the names of libGL.so.1 are in its scope.
+        // Opened as toolkits do; the names of libGL.so.1 are in its scope.
         m_egl = dlopen(OWN_EGL, RTLD_NOW | RTLD_LOCAL);
         if (!GetParam().isGlFirst && !GetParam().isGlAfterTheBind) openGl();
     }

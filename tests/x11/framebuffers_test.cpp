@@ -99,7 +99,7 @@ TEST_F(BackEndFramebuffers, ResolveIntoTexturesOfTheFormat) {
         GLenum error;
     } rows[] = {
         {GL_RGBA8, GL_RGBA8, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR},
-        {GL_RGBA8, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR}, // no size is 8 bits
+        {GL_RGBA8, GL_RGBA, GL_RGBA, GL_UNSIGNED_BYTE, GL_NO_ERROR}, // an unsized format has 8 bits
         {GL_RGB8, GL_RGB, GL_RGB, GL_UNSIGNED_BYTE, GL_NO_ERROR},
         {GL_RGB565, GL_RGB, GL_RGB, GL_UNSIGNED_SHORT_5_6_5, GL_NO_ERROR},
         {GL_RGBA8, GL_RGB, GL_RGB, GL_UNSIGNED_BYTE, GL_INVALID_OPERATION},

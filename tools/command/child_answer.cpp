@@ -15,7 +15,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr char failureKey[] = "failure of the question";
+constexpr char failureKey[] = "failure of the query";
 
 void write(int end, const std::string &text) {
     for (size_t done = 0; done < text.size();) {
@@ -25,7 +25,7 @@ void write(int end, const std::string &text) {
     }
 }
 
-// The parent's exit handlers and buffers are not the child's.
+// Ends with _exit, since the exit handlers and buffers are those of the parent.
 [[noreturn]] void answer(const std::function<Json()> &question, int end) {
     Json json;
     try {
@@ -40,7 +40,7 @@ void write(int end, const std::string &text) {
     _exit(EXIT_SUCCESS);
 }
 
-// Whether the end of the text came in time.
+// Reads to the end of the text. False if the limit is reached first.
 bool readAll(int end, std::string &text, Clock::time_point limit) {
     for (;;) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(limit - Clock::now()).count();
@@ -55,18 +55,18 @@ bool readAll(int end, std::string &text, Clock::time_point limit) {
 
 std::string endText(int status) {
     if (WIFSIGNALED(status)) return std::string("ends by the signal \"") + strsignal(WTERMSIG(status)) + '"';
-    return "ends without an answer";
+    return "ends without a result";
 }
 
 } // namespace
 
 ChildAnswer askInChild(const std::function<Json()> &question, std::chrono::seconds limit) {
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be made");
+    if (pipe2(ends, O_CLOEXEC) != 0) failCommand("no pipe can be created");
     std::cout.flush();
     fflush(stdout);
     const pid_t child = fork();
-    if (child < 0) failCommand(std::string("no process can be made: ") + strerror(errno));
+    if (child < 0) failCommand(std::string("no process can be created: ") + strerror(errno));
     if (child == 0) {
         close(ends[0]);
         answer(question, ends[1]);

@@ -1,4 +1,4 @@
-// Questions that are asked in a child process.
+// Runs queries in a child process.
 #pragma once
 
 #include <chrono>
@@ -10,10 +10,10 @@
 
 struct ChildAnswer {
     std::optional<Json> json;
-    std::string failure; // why there is none: "does not answer within 10 seconds"
+    std::string failure; // the reason if there is none: "does not answer within 10 seconds"
 };
 
-// Runs the question in a fork of this process and returns its result. A library that crashes, or a server that never
-// answers, then ends the child only. An exception of the question is a failure with its text, and a Failure is thrown
-// here again. Call it while the process has one thread.
+// Runs the query in a fork of this process and returns its result, so that a crash of a library or a hanging server
+// ends only the child. An exception of the query is a failure with its text; a Failure is thrown again. Must be called
+// while the process has one thread.
 [[nodiscard]] ChildAnswer askInChild(const std::function<Json()> &question, std::chrono::seconds limit);

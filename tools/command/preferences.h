@@ -10,7 +10,7 @@ public:
     // Reads the file, creating it if there is none. Fails the verb when it cannot be read completely: writing it back
     // would lose what follows the error.
     ToolPreferences();
-    // The same, but a failure is a text in error, and nothing else may be called then except path().
+    // The same, but a failure sets error. Then only path() may be called.
     explicit ToolPreferences(std::string &error);
 
     [[nodiscard]] std::string storedDirectory();
@@ -22,13 +22,14 @@ public:
 
     // Each of these writes the file; other keys are unchanged. A failure fails the verb.
     void setProfile(const std::string &directory, const std::string &name);
+    void setDirectory(const std::string &directory);
     void removeProfile();
     void setStrict(bool strict);
 
-    [[nodiscard]] const std::string &path() const { return m_path; } // empty before it was found
+    [[nodiscard]] const std::string &path() const { return m_path; } // empty until it is determined
 
 private:
-    // Returns why not.
+    // Returns the reason for a failure.
     [[nodiscard]] std::string read();
     void storeString(const char *name, const std::string &value);
     void save();

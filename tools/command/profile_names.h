@@ -10,7 +10,7 @@
 // The files of a directory, in its order, whatever their contents. Prints an error when it cannot be read.
 [[nodiscard]] std::vector<std::string> fileNames(const std::string &directory);
 
-// The profile of programs whose user has chosen none, which is installed with the command as a file, and its directory.
+// The default profile of programs, which is installed with the command as a file, and its directory.
 inline constexpr char desktopProfile[] = "Desktop";
 [[nodiscard]] std::string shippedProfiles();
 

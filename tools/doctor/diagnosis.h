@@ -12,18 +12,18 @@ struct Finding {
 };
 
 struct Diagnosis {
-    // Of objects: a section's name, then the names of its facts. Null is a fact that there is none.
+    // An object of sections, each an object of facts by name. Null means that the fact does not exist.
     Json facts = Json::object();
     std::vector<Finding> findings;
 
     void add(const std::string &problem, const std::string &remedy) { findings.push_back({problem, remedy}); }
 };
 
-// Each adds a section. None waits longer than ten seconds for a server.
+// Each adds a section, and waits at most ten seconds for a server.
 void examineLibraries(Diagnosis &diagnosis);
 void examineBackEnds(Diagnosis &diagnosis);
 void examineXServer(Diagnosis &diagnosis);
-// Only with an X server.
+// Requires an X server.
 void examineHost(Diagnosis &diagnosis);
 void examinePreferences(Diagnosis &diagnosis);
 void examineSocket(Diagnosis &diagnosis);

@@ -4,7 +4,7 @@
 
 namespace {
 
-// "profileInForce" as "profile in force". Names of files, variables and extensions stay as they are.
+// "profileInForce" becomes "profile in force". Names of files, variables and extensions are unchanged.
 std::string words(const std::string &name) {
     if (name == "xServer") return "X server";
     if (name == "guiSocket") return "GUI socket";
@@ -43,7 +43,7 @@ std::string diagnosisAsText(const Diagnosis &diagnosis) {
     std::string text;
     for (const auto &[name, facts] : diagnosis.facts.items())
         text += factText(name, facts, "") + '\n';
-    if (diagnosis.findings.empty()) return text + "nothing is wrong\n";
+    if (diagnosis.findings.empty()) return text + "no problem found\n";
     for (const Finding &finding : diagnosis.findings)
         text += "wrong:  " + finding.problem + "\nremedy: " + finding.remedy + '\n';
     return text;

@@ -1,4 +1,4 @@
-// zelvane doctor: the parts of this installation and of the system that programs depend on, and what is wrong.
+// zelvane doctor: examines the installation and the system for problems that affect programs.
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -29,10 +29,10 @@ void examine(bool asJson) {
 
 void addDoctorCommand(const Verb &top) {
     const Verb doctor =
-        top.verb("doctor", "Find what keeps programs from running on this library",
+        top.verb("doctor", "Find problems that keep programs from running",
                  "Prints the libraries that programs load, the X server, the host's OpenGL, the back ends,\n"
                  "the preferences and the monitor, then each problem with a remedy.\n"
-                 "Exit status: 0 nothing is wrong, 1 something is.");
+                 "Exit status: 0 no problem found, 1 problems found.");
     const auto asJson = std::make_shared<bool>(false);
     doctor.flag("--json", *asJson, "print one JSON object");
     doctor.action([asJson] { examine(*asJson); });

@@ -1,4 +1,4 @@
-// The preferences file, what it puts in force, and the variables that change it.
+// The preferences file, the profile that it selects, and the variables that change it.
 #include <cstdlib>
 #include <filesystem>
 
@@ -17,7 +17,7 @@ Json setVariables() {
     return variables;
 }
 
-// As in the library: an embedded profile needs no file, and none is read without a directory.
+// As in the library, an embedded profile needs no file, and no profile is read without a directory.
 void examineProfile(Diagnosis &diagnosis, Json &facts, const std::string &name, const std::string &directory) {
     facts["chosenProfile"] = orNull(name);
     facts["profileInForce"] = nullptr;

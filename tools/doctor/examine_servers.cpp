@@ -1,4 +1,4 @@
-// The X server with its GLX, and the host's OpenGL on it. Both are asked in child processes.
+// The X server with its GLX, and the host's OpenGL on it. Both are queried in child processes.
 #include <cstdlib>
 #include <stdexcept>
 
@@ -16,7 +16,7 @@ constexpr std::chrono::seconds limit(10);
 
 struct UsedExtension {
     const char *name;
-    const char *lack; // what its absence means; null where the library does without it
+    const char *lack; // the feature that is missing without it; null if the library does not require it
 };
 
 constexpr UsedExtension usedExtensions[] = {
@@ -54,7 +54,7 @@ Json queryHost() {
     const auto library = host::openHostOpenGLLibrary();
     if (!library.isLoaded()) throw std::runtime_error("there is no OpenGL library " + library.name());
     const auto identity = capability::probeHostIdentity(library, std::make_shared<glove::WSAPI>());
-    if (!identity) throw std::runtime_error("the host gives no OpenGL 3.2 core context");
+    if (!identity) throw std::runtime_error("the host has no OpenGL 3.2 core context");
     return {{"vendor", identity->vendor}, {"renderer", identity->renderer}, {"version", identity->version}};
 }
 

@@ -1,4 +1,5 @@
-// Who listens at the socket for GUIs. A connection would show up there as an application, so the kernel is asked.
+// The process that listens at the socket for GUIs. Queried from the kernel, since a connection would appear there as an
+// application.
 #include <cctype>
 #include <filesystem>
 #include <fstream>
@@ -56,7 +57,7 @@ void examineSocket(Diagnosis &diagnosis) {
     struct stat file {};
     if (lstat(path.c_str(), &file) != 0) return;
     if (!S_ISSOCK(file.st_mode))
-        return diagnosis.add('"' + path + "\" is in the way of the monitor's socket", "rm -r \"" + path + '"');
+        return diagnosis.add('"' + path + "\" blocks the monitor's socket", "rm -r \"" + path + '"');
     const std::string inode = listeningInode(path);
     if (inode.empty()) return;
     facts["listener"] = listenerText(inode);

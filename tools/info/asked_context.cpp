@@ -23,7 +23,7 @@ struct Queries {
     void (*getIntegeri)(uint32_t, uint32_t, int32_t *);
 };
 
-// Null for a limit that the context does not answer for.
+// Null for a limit that the context does not report.
 Json valueOf(const EsLimit &limit, const Queries &queries, const journal::DeviceView &view) {
     const uint32_t name = enumerantOf(limit).value;
     std::array<int32_t, 4> integers{};
@@ -59,7 +59,7 @@ Json askContext(const LoadedEgl &egl) {
     const Queries queries(table);
     Json json = view.words();
     const auto *language = queries.getString(GL_SHADING_LANGUAGE_VERSION);
-    (void)view.takeError(); // ES 1 has none
+    (void)view.takeError(); // ES 1 lacks the query
     json["shadingLanguageVersion"] = language ? Json(reinterpret_cast<const char *>(language)) : Json(nullptr);
     json["compressedTextureFormats"] = jsonList(
         view.compressedFormats(), [](int32_t format) { return journal::enumerantName(static_cast<uint32_t>(format)); });

@@ -26,7 +26,7 @@ constexpr Request requests[] = {{"1.1", 1, 1, EGL_OPENGL_ES_BIT},
                                 {"3.1", 3, 1, EGL_OPENGL_ES3_BIT},
                                 {"3.2", 3, 2, EGL_OPENGL_ES3_BIT}};
 
-// The last line of the list of refused calls that a library under "zelvane run" keeps; empty without one.
+// The last line of the list of failed calls that the library writes under "zelvane run"; empty without a list.
 std::string lastRefusal() {
     const char *path = getenv("ZELVANE_REFUSALS");
     std::ifstream list(path ? path : "");
@@ -39,7 +39,7 @@ std::string lastRefusal() {
     return text;
 }
 
-// Keeps what the library writes for people off the terminal: a refused context is a result here.
+// Discards the library's messages: a failed context creation is a result here.
 class SilentErrors {
 public:
     SilentErrors() : m_before(dup(STDERR_FILENO)) {
@@ -78,7 +78,7 @@ public:
 private:
     [[nodiscard]] std::string error() const { return egl::errorName(m_egl.getError()); }
     [[nodiscard]] EGLint attribute(EGLConfig config, EGLint name) const;
-    // One that has pbuffers too, if there is any. Null for none.
+    // Prefers a config with pbuffers. Null if none matches.
     [[nodiscard]] EGLConfig configFor(const Request &request) const;
 
     const LoadedEgl &m_egl;

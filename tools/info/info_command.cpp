@@ -1,4 +1,4 @@
-// zelvane info: what a program sees under "zelvane run", queried from the library itself.
+// zelvane info: prints what EGL and OpenGL ES report to a program under "zelvane run", queried from the library.
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -50,7 +50,7 @@ void printInfo(const Options &options) {
 
 void addInfoCommand(const Verb &top) {
     const Verb info =
-        top.verb("info", "Print what a program sees: EGL, configs, and each version's extensions and limits",
+        top.verb("info", "Print what programs get: EGL, configs, and each version's extensions and limits",
                  "Queries the library itself, set up as by \"zelvane run\".\n"
                  "Exit status: 0 success, 1 EGL cannot be initialised, or there is no such profile.");
     const auto options = std::make_shared<Options>();

@@ -1,4 +1,4 @@
-// The answers of a library as text.
+// The results of askLibrary() as text.
 #pragma once
 
 #include <string>

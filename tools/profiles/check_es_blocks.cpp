@@ -20,7 +20,7 @@ using tinyxml2::XMLElement;
 
 struct LimitElement {
     std::string name;
-    size_t count; // of numbers; 0 for elements of which each is a value of a list
+    size_t count; // of numbers; 0 for repeated elements with one value each
 };
 
 std::vector<LimitElement> limitElements() {
@@ -37,7 +37,7 @@ std::string withPrefix(const std::string &name) {
     return name.starts_with("GL_") ? name : "GL_" + name;
 }
 
-// The vendor's own, which no other list has.
+// Vendor extensions, which no other list contains.
 void addExtensionsOfBuiltInDevices(std::vector<std::string> &names) {
     for (const std::string_view text : egl::embeddedProfiles) {
         tinyxml2::XMLDocument document;
@@ -49,7 +49,7 @@ void addExtensionsOfBuiltInDevices(std::vector<std::string> &names) {
     }
 }
 
-// With "GL_" in front, as back ends report them.
+// With the prefix "GL_", as back ends report them.
 std::vector<std::string> extensionNames() {
     std::vector<std::string> names;
     for (const std::string_view name : journal::esExtensionNames())
@@ -72,14 +72,14 @@ private:
     void checkConfigsFor(const XMLElement &block, capability::EsVersion version);
     void checkExtension(const XMLElement &element);
     void checkLimit(const XMLElement &element);
-    // Whether there is a number.
+    // Whether the text is a number.
     bool checkNumber(const std::string &name, const XMLElement &element);
 
     const egl::DeviceProfile &m_profile;
     ProfileFindings &m_findings;
     const std::vector<LimitElement> m_limits = limitElements();
     const std::vector<std::string> m_extensions = extensionNames();
-    std::map<capability::EsVersion, int> m_lines; // of the blocks so far
+    std::map<capability::EsVersion, int> m_lines; // by version, of the blocks so far
 };
 
 void EsCheck::checkBlock(const XMLElement &block) {

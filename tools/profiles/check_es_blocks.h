@@ -7,6 +7,6 @@ namespace tinyxml2 {
 class XMLElement;
 }
 
-// Finds in the es blocks what back ends ignore or read differently: versions, limits, extensions; and versions that no
-// config supports. profile: as the reader makes it of the same text.
+// Checks the es blocks for content that back ends ignore or read differently: versions, limits, extensions; and for
+// versions that no config supports. profile: read from the same text.
 void checkEsBlocks(const tinyxml2::XMLElement &root, const egl::DeviceProfile &profile, ProfileFindings &findings);

@@ -31,7 +31,7 @@ std::string summary(const egl::Config &config) {
            value(EGL_STENCIL_SIZE) + ", samples" + value(EGL_SAMPLES);
 }
 
-// The configs that differ as that one does. Empty when one before it does.
+// The ids of all configs with the same differences; empty if an earlier config has them too.
 std::string idsOfSame(const std::vector<ConfigDifference::Changed> &changed, size_t index) {
     std::string ids;
     for (size_t other = 0; other < changed.size(); ++other) {

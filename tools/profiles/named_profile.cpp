@@ -18,7 +18,7 @@ bool isFile(const fs::path &path) {
     return fs::is_regular_file(path, error);
 }
 
-// The file of a name that is not built in.
+// The path of the file, for a name that is not built in.
 fs::path fileOf(const std::string &name) {
     const std::string directory = ToolPreferences().profilesDirectory();
     if (!directory.empty() && isFile(fs::path(directory) / name)) return fs::path(directory) / name;

@@ -6,7 +6,7 @@
 #include "profiles/device_profile.h"
 
 struct NamedProfile {
-    std::string name; // as given
+    std::string name; // as given by the user
     std::string text; // well-formed
     egl::DeviceProfile profile;
 };

@@ -13,7 +13,7 @@
 // "1.x, 2.0", or "none".
 [[nodiscard]] std::string versionsText(const egl::DeviceProfile &profile);
 
-// Their number, and one row a config.
+// The number of configs, then one row per config.
 [[nodiscard]] std::string configTable(const std::vector<egl::Config> &configs);
 
 // Identity, configs as a table in the values that programs see, then extensions and limits of each es block.

@@ -31,7 +31,7 @@ std::vector<ValueDifference> differencesOf(const Values &a, const Values &b) {
     return list;
 }
 
-// The order of a's and of b's names is kept.
+// Keeps the order of the names in a and in b.
 OnlyIn onlyIn(const std::vector<std::string> &a, const std::vector<std::string> &b) {
     const auto without = [](const std::vector<std::string> &names, const std::vector<std::string> &others) {
         std::vector<std::string> rest;
@@ -87,7 +87,7 @@ std::vector<std::string> versionNames(const egl::DeviceProfile &profile) {
     return names;
 }
 
-// Of each version the first block, which back ends read.
+// The first block of each version, which back ends read.
 std::map<capability::EsVersion, EsBlockText> blocksOf(const tinyxml2::XMLElement &root) {
     std::map<capability::EsVersion, EsBlockText> blocks;
     for (const EsBlockText &block : readEsBlocks(root))
@@ -95,7 +95,7 @@ std::map<capability::EsVersion, EsBlockText> blocksOf(const tinyxml2::XMLElement
     return blocks;
 }
 
-// As a back end reports it.
+// As back ends report it.
 std::vector<std::string> extensionNames(const EsBlockText &block) {
     std::vector<std::string> names = block.extensions;
     for (std::string &name : names)

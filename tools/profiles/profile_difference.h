@@ -10,7 +10,7 @@
 
 struct ValueDifference {
     std::string name;
-    std::string a, b; // empty where a profile does not have it
+    std::string a, b; // empty if a profile does not have it
 
     bool operator==(const ValueDifference &) const = default;
 };
@@ -22,7 +22,7 @@ struct OnlyIn {
 
 struct ConfigDifference {
     struct Renumbered {
-        int32_t a, b; // ids of configs of the same values
+        int32_t a, b; // ids of configs with equal values
     };
     struct Changed {
         int32_t id;
@@ -31,7 +31,7 @@ struct ConfigDifference {
 
     size_t sameCount = 0;
     std::vector<Renumbered> renumbered;
-    std::vector<Changed> changed; // one id, other values
+    std::vector<Changed> changed; // same id, other values
     std::vector<egl::Config> onlyInA, onlyInB;
 
     [[nodiscard]] bool isNone() const {
@@ -40,10 +40,10 @@ struct ConfigDifference {
 };
 
 struct EsDifference {
-    capability::EsVersion version; // that both have
+    capability::EsVersion version; // that both profiles have
     OnlyIn extensions;
     std::vector<ValueDifference> limits;
-    std::vector<std::pair<std::string, OnlyIn>> lists; // elements that are repeated, as for formats
+    std::vector<std::pair<std::string, OnlyIn>> lists; // repeated elements, such as formats
 
     [[nodiscard]] bool isNone() const { return extensions.isNone() && limits.empty() && lists.empty(); }
 };
@@ -53,14 +53,14 @@ struct ProfileDifference {
     std::vector<ValueDifference> identity;
     OnlyIn esVersions;
     ConfigDifference configs;
-    std::vector<EsDifference> es; // versions without a difference are left out
+    std::vector<EsDifference> es; // versions without a difference are omitted
 
     [[nodiscard]] bool isNone() const {
         return identity.empty() && esVersions.isNone() && configs.isNone() && es.empty();
     }
 };
 
-// A config is matched with one of the same id and values, else of the same values, else of the same id.
+// A config is matched with one of the same id and values, else one of the same values, else one of the same id.
 [[nodiscard]] ProfileDifference compareProfiles(const NamedProfile &a, const NamedProfile &b);
 
 [[nodiscard]] std::string differenceAsText(const ProfileDifference &difference);

@@ -1,4 +1,4 @@
-// What a check of a profile has found, by line.
+// The findings of a profile check, by line.
 #pragma once
 
 #include <map>
@@ -10,7 +10,7 @@
 struct ProfileFinding {
     std::string lines; // "12" or "12,40,68"
     std::string text;
-    bool isProblem; // otherwise it is a remark, which does no harm
+    bool isProblem; // otherwise a harmless remark
 };
 
 class ProfileFindings {
@@ -19,7 +19,7 @@ public:
     void note(int line, const std::string &text) { m_lines[{text, false}].push_back(line); }
 
     [[nodiscard]] bool hasProblems() const;
-    // In the order of the first line. Findings of one text are one.
+    // In the order of the first line. Equal findings are combined.
     [[nodiscard]] std::vector<ProfileFinding> list() const;
 
 private:

@@ -9,7 +9,7 @@ namespace {
 
 constexpr GLenum formatsWithoutSize[] = {GL_RED, GL_RG, GL_RGB, GL_RGBA, GL_BGRA_EXT, GL_SRGB_ALPHA_EXT};
 
-// The host too may have been given no size.
+// The host's format may be unsized too.
 GLenum sizedFormat(GLenum format, GLint redBits) {
     if (format == GL_RGBA) return redBits == 4 ? GL_RGBA4 : redBits == 5 ? GL_RGB5_A1 : GL_RGBA8;
     if (format == GL_RGB) return redBits == 5 ? GL_RGB565 : GL_RGB8;

@@ -16,7 +16,7 @@ struct AttachedImage {
     // The fields below are unset for an object that was deleted since.
     GLenum internal = GL_NONE;
     GLenum hostInternal = GL_NONE;
-    GLenum sized = GL_NONE; // internal, with sizes where the application specified none
+    GLenum sized = GL_NONE; // internal, or a sized format if the application specified an unsized one
     GLint width = 0;
     GLint height = 0;
     GLint samples = 0;

@@ -23,14 +23,14 @@ const char *glxExtensions = nullptr; // null for the host's own
 bool refusesBind = false;            // makes the next bind fail, with nothing current
 std::vector<GLXDrawable> paced;      // the drawables whose swap interval was set
 
-// The host's, before the platform uses them.
+// The host's functions, read before the platform uses them.
 const x11::Glx hostGlx = [] {
     const x11::Glx host = x11::glx();
     x11::glx().fbConfigAttrib = [](Display *display, GLXFBConfig config, int attribute, int *value) {
         const int result = hostGlx.fbConfigAttrib(display, config, attribute, value);
         if (config != slowConfig) return result;
         if (attribute == GLX_CONFIG_CAVEAT) *value = GLX_SLOW_CONFIG;
-        if (attribute == GLX_FBCONFIG_ID) *value = 0; // none that the server knows
+        if (attribute == GLX_FBCONFIG_ID) *value = 0; // an id that the server does not have
         return result;
     };
     x11::glx().queryExtensionsString = [](Display *display, int screen) {

@@ -12,12 +12,12 @@ constexpr int scope = RTLD_LAZY | RTLD_LOCAL;
 
 void *openHostLibrary() {
     void *const library = servesDesktopClients() ? nullptr : dlopen("libGL.so.1", scope);
-    // The libGL.so.1 of desktop programs leads back to the back end.
+    // The libGL.so.1 of desktop programs would call the back end again.
     const bool isHosts = library && !dlsym(library, "zvFollowLibEgl");
     return isHosts ? library : dlopen("libGLX.so.0", scope);
 }
 
-// libGL.so.1 exports the functions of old versions only, libGLX.so.0 none.
+// libGL.so.1 exports the functions of old OpenGL versions only, libGLX.so.0 none.
 void *unexportedFunction(void *library, const char *name) {
     using GetProcAddress = void *(*)(const unsigned char *name);
     static const auto getProcAddress = reinterpret_cast<GetProcAddress>(dlsym(library, "glXGetProcAddressARB"));

@@ -45,7 +45,7 @@ int askGlx(Display *display, GLXFBConfig handle, int attribute) {
     return value;
 }
 
-// row: the server's of this config, if it is known.
+// row: the config's row in the server's list, if it is known.
 std::optional<FbConfig> describe(Display *display, GLXFBConfig handle, ServerConfigs::Row row, const Visuals &visuals) {
     const auto value = [&](int attribute) { return row ? row.value(attribute) : askGlx(display, handle, attribute); };
     const auto visualId = static_cast<VisualID>(value(GLX_VISUAL_ID));

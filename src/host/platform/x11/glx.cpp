@@ -6,7 +6,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// Hosts whose GLX is in another library keep the linked function.
+// If the host's GLX is in another library, the linked function is kept.
 template <typename Function>
 Function find(void *library, const char *name, Function linked) {
     void *const found = library ? dlsym(library, name) : nullptr;

@@ -12,7 +12,7 @@ struct Glx {
 #undef GLX_FUNCTION
 };
 
-// Complete, and the same at each call; only tests replace functions. Any thread.
+// Complete, and constant except in tests, which replace functions. Any thread.
 [[nodiscard]] Glx &glx();
 
 // A function of an extension; null when the host lacks it.

@@ -14,7 +14,7 @@ namespace host::platform::x11 {
 
 namespace {
 
-// The display is locked.
+// Called with the display locked.
 bool requestConfigs(Display *display, int opcode, int screen, xGLXGetFBConfigsReply &reply) {
     auto *request =
         static_cast<xGLXGetFBConfigsReq *>(_XGetRequest(display, static_cast<CARD8>(opcode), sz_xGLXGetFBConfigsReq));
@@ -34,7 +34,7 @@ ServerConfigs::ServerConfigs(Display *display, int screen) {
     LockDisplay(display);
     xGLXGetFBConfigsReply reply{};
     if (requestConfigs(display, opcode, screen, reply)) {
-        const size_t size = size_t(reply.length) * 4; // of what follows, whatever the counts say
+        const size_t size = size_t(reply.length) * 4; // the size of the data, whether or not it matches the counts
         m_pairsOfRow = reply.numAttribs;
         m_values.resize(reply.length);
         _XRead(display, reinterpret_cast<char *>(m_values.data()), static_cast<long>(size));

@@ -1,5 +1,5 @@
-// The server's own list of FBConfigs, read in one request. GLX searches all configs for each value that it is asked
-// for, and servers have hundreds of them.
+// The server's own list of FBConfigs, read in one request. For each queried value GLX searches all configs, of which
+// servers have hundreds.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace host::platform::x11 {
 
 class ServerConfigs {
 public:
-    // Empty when the server does not answer, and with another GLX than Mesa's, which may have configs of its own.
+    // Empty when the server does not reply, and with a GLX other than Mesa's, which may have configs of its own.
     ServerConfigs(Display *display, int screen);
 
     // The attributes of one config. The values are those that GLX reports, except for the limits of pbuffers, which
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] Row find(uint32_t place, int id) const;
 
 private:
-    std::vector<uint32_t> m_values; // row after row
+    std::vector<uint32_t> m_values; // the rows, one after the other
     uint32_t m_pairsOfRow = 0;
 };
 
