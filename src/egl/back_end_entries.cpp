@@ -13,7 +13,7 @@ const zvThread *zvCurrentThread(void) {
 }
 
 zvEsContext zvCurrentEsContext(void) {
-    return threadRecord.current ? threadRecord.current->esContext.load() : nullptr;
+    return threadRecord.currentEs ? threadRecord.currentEs->esContext.load() : nullptr;
 }
 
 int zvFindImage(const void *handle, zvImage *image) {

@@ -23,9 +23,10 @@ bool refuseBind(Rule rule, const Context &context) {
 }
 
 // The back end requires the share context's back-end context. Creates those of a whole chain.
+// Contexts of desktop OpenGL need none.
 void primeShareContext(Context &context, const SurfacePair &surfaces) {
     const auto &share = context.shareContext;
-    if (!share || share->esContext.load() || !share->hostContext()) return;
+    if (!share || share->isDesktop() || share->esContext.load() || !share->hostContext()) return;
     BindClaim claim(*share);
     if (!claim.isHeld()) return;
     if (bindContext(std::shared_ptr(share), surfaces)) claim.keep();
@@ -52,6 +53,12 @@ void tellOfHostWithoutContext(const ContextAttribs &attribs) {
                attribs.legacyClient ? "1" : "2 and 3");
 }
 
+// The object that the context reads from if it is not the drawn one. On devices contexts read what they draw.
+const glove::ISurface *readObject(const SurfacePair &surfaces) {
+    const bool isOther = desktop_clients::isOn() && surfaces.read && surfaces.read != surfaces.draw;
+    return isOther ? surfaces.read->hostSurface.get() : nullptr;
+}
+
 // Creates the back-end context at the first bind and sets its attributes at every later one.
 bool bindEsContext(Context &context, host::HostBinding binding) {
     if (const zvEsContext esContext = context.esContext) {
@@ -64,7 +71,7 @@ bool bindEsContext(Context &context, host::HostBinding binding) {
     const SharedEsContext shared(share);
     context.esContext = state().createEsContext(context.esLibrary, context.attribs, context.display, shared.get());
     if (!context.esContext.load()) return refuseBind(Rule::backEndRefuses, context);
-    if (share && share->attribs.requestedMajor != context.attribs.requestedMajor) {
+    if (share && !share->isDesktop() && share->attribs.requestedMajor != context.attribs.requestedMajor) {
         logMessage(LogWarning, "Attempting to share two contexts of differing API versions is unsupported.");
     }
     return true;
@@ -116,7 +123,7 @@ bool bindContext(std::shared_ptr<Context> &&context, const SurfacePair &surfaces
     if (threadRecord.current && threadRecord.current->surfaces.draw.get() != draw) showPixmap(*threadRecord.current);
 
     const auto *hostContext = context->claimedHostContext();
-    const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get())
+    const auto binding = draw ? host::makeHostContextCurrent(hostContext, draw->hostSurface.get(), readObject(surfaces))
                               : host::makeHostContextCurrentWithoutDrawable(hostContext);
     if (binding == host::HostBinding::failed) return refuseBind(Rule::hostBind, *context);
     // If the host failed to create the context, the first bind reports it.
@@ -124,8 +131,8 @@ bool bindContext(std::shared_ptr<Context> &&context, const SurfacePair &surfaces
         tellOfHostWithoutContext(context->attribs);
         return refuseBind(Rule::noHostContext, *context);
     }
-    // Clears an error that the bind generated on the host.
-    state().hostEGL(binding == host::HostBinding::current).sweepError();
+    // Clears an error that the bind generated on the host. Contexts of desktop OpenGL keep the application's errors.
+    if (!context->isDesktop()) state().hostEGL(binding == host::HostBinding::current).sweepError();
 
     // A later bind to a linear surface does not reset it: the attribute remains set for the back end.
     if (draw && draw->isSrgb) context->attribs.srgbFramebuffer = 1;

@@ -124,15 +124,17 @@ void context(EGLContext answer, EGLDisplay dpy, EGLConfig config, EGLContext sha
     if (!made) return;
     journal::RecordedContext::forget(made.get());
     const auto &attribs = made->attribs;
-    journal::write("context", {{"context", number(answer)},
-                               {"config", number(config)},
-                               {"share", number(share)},
-                               {"asked", attributesJson(attributes)},
-                               {"sizes", sizesJson(*made->config)},
-                               {"requestedMajor", attribs.requestedMajor},
-                               {"granted", std::to_string(attribs.esMajor) + '.' + std::to_string(attribs.esMinor)},
-                               {"isStrict", attribs.strictContextMode != 0},
-                               {"checksErrors", attribs.noError == 0}});
+    Json fields = {{"context", number(answer)},
+                   {"config", number(config)},
+                   {"share", number(share)},
+                   {"asked", attributesJson(attributes)},
+                   {"sizes", sizesJson(*made->config)},
+                   {"requestedMajor", attribs.requestedMajor},
+                   {"granted", std::to_string(attribs.esMajor) + '.' + std::to_string(attribs.esMinor)},
+                   {"isStrict", attribs.strictContextMode != 0},
+                   {"checksErrors", attribs.noError == 0}};
+    if (made->isDesktop()) fields["api"] = "OpenGL";
+    journal::write("context", fields);
 }
 
 void surface(EGLSurface answer, const char *call, EGLDisplay dpy, EGLConfig config, const EGLint *attributes) {

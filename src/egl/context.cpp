@@ -4,6 +4,7 @@
 #include "egl/display.h"
 #include "egl/private_buffers.h"
 #include "egl/standard/context_rules.h"
+#include "egl/standard/desktop_contexts.h"
 #include "egl/state.h"
 #include "egl/surface.h"
 #include "egl/thread_record.h"
@@ -18,12 +19,13 @@ ContextAttribs withHandle(ContextAttribs attribs, uint64_t handle) {
 }
 
 std::shared_ptr<host::HostContextHandle> createHostContextFor(const Config &config, const Context *share,
-                                                              const ContextAttribs &attribs) {
+                                                              const ContextAttribs &attribs, EGLenum api) {
     host::HostContextRequest request;
     // A config that the profile lacks has no host format, so the bind fails without a host context.
     request.format = config.hostConfig() ? config.hostConfig()->format() : nullptr;
     request.legacy = attribs.legacyClient;
     if (desktop_clients::isOn()) request.robustness = standard::robustnessOf(attribs);
+    if (api == EGL_OPENGL_API) request.desktop = standard::desktopContextOf(attribs);
     if (const auto shareHandle = share ? share->hostContext() : nullptr) request.share = shareHandle->context;
     return host::createHostContext(request);
 }
@@ -33,6 +35,11 @@ void leaveBehind(std::shared_ptr<host::HostContextHandle> hostContext) {
     if (hostContext) new std::shared_ptr(std::move(hostContext));
 }
 
+EsLibrary openBackEnd(const ContextAttribs &attribs, EGLenum api) {
+    if (api == EGL_OPENGL_API) return EsLibrary::ofDesktop();
+    return EsLibrary(State::loadEsLibrary(attribs.requestedMajor));
+}
+
 gl::Function askBackEnd(void *context, const char *name) {
     return reinterpret_cast<gl::Function>(static_cast<Context *>(context)->getExtProcAddress(name));
 }
@@ -40,12 +47,12 @@ gl::Function askBackEnd(void *context, const char *name) {
 } // namespace
 
 Context::Context(Display &display, uint64_t handle, std::shared_ptr<const Config> config,
-                 std::shared_ptr<Context> share, const ContextAttribs &attribs)
-    : display(display), handle(handle), config(std::move(config)), shareContext(std::move(share)),
+                 std::shared_ptr<Context> share, const ContextAttribs &attribs, EGLenum api)
+    : display(display), handle(handle), api(api), config(std::move(config)), shareContext(std::move(share)),
       group(shareContext ? shareContext->group : std::make_shared<ContextGroup>()),
-      functions(gl::functionTableAt(this, askBackEnd)), esLibrary(State::loadEsLibrary(attribs.requestedMajor)),
+      functions(gl::functionTableAt(this, askBackEnd, !isDesktop())), esLibrary(openBackEnd(attribs, api)),
       attribs(withHandle(attribs, handle)),
-      m_hostContext(createHostContextFor(*this->config, shareContext.get(), attribs)) {}
+      m_hostContext(createHostContextFor(*this->config, shareContext.get(), attribs, api)) {}
 
 Context::~Context() {
     leavePrivateBuffer(std::move(privateBuffer));

@@ -40,14 +40,17 @@ struct ContextGroup {
 class Context : public std::enable_shared_from_this<Context> {
 public:
     // Opens the back-end library and creates the host context. A failure of either is reported by the first bind.
+    // api: EGL_OPENGL_ES_API or EGL_OPENGL_API.
     Context(Display &display, uint64_t handle, std::shared_ptr<const Config> config, std::shared_ptr<Context> share,
-            const ContextAttribs &attribs);
+            const ContextAttribs &attribs, EGLenum api);
     Context(const Context &) = delete;
     Context &operator=(const Context &) = delete;
     // Leaks the host context unless deleteEsContext has destroyed it: a context that eglTerminate releases may still
     // own objects that others share.
     ~Context();
 
+    // A context of desktop OpenGL; all others are of OpenGL ES.
+    [[nodiscard]] bool isDesktop() const { return api == EGL_OPENGL_API; }
     // The back end's function of this name, or null. Queries the back end at every call.
     [[nodiscard]] void *getExtProcAddress(const char *name) const;
     // Destroys the host context and the back-end context; deferred if another thread has the context current. False
@@ -63,6 +66,8 @@ public:
     // Releases the claim, and runs a deletion that another thread requested meanwhile.
     void letGo();
 
+    // False if the host has created none.
+    [[nodiscard]] bool hasHostContext() const { return m_hostContext && m_hostContext->context->container(); }
     // Null once deleteEsContext has run. Any thread.
     [[nodiscard]] std::shared_ptr<host::HostContextHandle> hostContext() const;
     // The same, for the thread that has the claim only.
@@ -71,6 +76,7 @@ public:
     // Constant after construction.
     Display &display;
     const uint64_t handle;
+    const EGLenum api;
     const std::shared_ptr<const Config> config;
     const std::shared_ptr<Context> shareContext; // lives until every context that shares with it is destroyed
     const std::shared_ptr<ContextGroup> group;

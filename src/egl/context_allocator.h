@@ -1,5 +1,5 @@
 // Memory of contexts. GL proxies identify a context by its address and reuse a dead one's functions for the next at
-// that address, so memory is reused only within one back-end library: ES 1 functions never reach an ES 2 context.
+// that address, so memory is reused only within one back end: ES 1 functions never reach an ES 2 context.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@
 
 namespace egl {
 
-enum class BackEndKind { Es1, Es2 };
+enum class BackEndKind { Es1, Es2, Desktop };
 
 // For std::allocate_shared, which allocates one object at a time. Any thread.
 template <typename Object>
@@ -54,7 +54,7 @@ private:
 
     // Never destroyed: contexts may end after static destruction has begun.
     static Pool &poolOf(BackEndKind kind) {
-        static auto &pools = *new std::array<Pool, 2>;
+        static auto &pools = *new std::array<Pool, 3>;
         return pools[static_cast<size_t>(kind)];
     }
 

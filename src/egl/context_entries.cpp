@@ -8,6 +8,7 @@
 #include "egl/print_system_report.h"
 #include "egl/refusal.h"
 #include "egl/standard/context_rules.h"
+#include "egl/standard/desktop_contexts.h"
 #include "foundation/log.h"
 
 namespace egl {
@@ -62,9 +63,34 @@ bool canShare(const ContextAttribs &attribs, const ContextAttribs &share) {
     return !desktop_clients::isOn() || attribs.resetStrategy == share.resetStrategy;
 }
 
+// The error of a share context for one of the API; of another API, it is no context to share with.
+EGLint shareError(const Context *share, const ContextAttribs &attribs, EGLenum api) {
+    if (!share) return EGL_BAD_CONTEXT;
+    if (share->api != api) return because(Rule::sharesWithOtherApi, EGL_BAD_CONTEXT);
+    return canShare(attribs, share->attribs) ? EGL_SUCCESS : because(Rule::otherResetStrategy, EGL_BAD_MATCH);
+}
+
+// The host decides at once which versions it has: programs try one after the other.
+EGLContext createDesktopContext(Display &display, std::shared_ptr<const Config> config, EGLContext shareHandle,
+                                const EGLint *list) {
+    ContextAttribs attribs = defaultContextAttribs();
+    const EGLint error = standard::readDesktopContextAttributes(*config, list, attribs);
+    if (error != EGL_SUCCESS) return fail(error, EGL_NO_CONTEXT);
+    const auto share = shareHandle ? display.findContext(shareHandle) : nullptr;
+    const EGLint ofShare = shareHandle ? shareError(share.get(), attribs, EGL_OPENGL_API) : EGL_SUCCESS;
+    if (ofShare != EGL_SUCCESS) return fail(ofShare, EGL_NO_CONTEXT);
+    const auto context = display.createContext(std::move(config), share, attribs, EGL_OPENGL_API);
+    if (context->hasHostContext()) return succeed(asHandle<EGLContext>(context->handle));
+    display.destroyContext(context->handle);
+    const EGLint refused =
+        because(Rule::hostWithoutOpenGl, EGL_BAD_MATCH, {.major = attribs.requestedMajor, .minor = attribs.esMinor});
+    return fail(refused, EGL_NO_CONTEXT);
+}
+
 EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext shareHandle, const EGLint *list) {
     const auto config = configHandle ? display.findConfig(configHandle) : display.noConfig();
     if (!config) return fail(EGL_BAD_CONFIG, EGL_NO_CONTEXT);
+    if (threadRecord.api == EGL_OPENGL_API) return createDesktopContext(display, config, shareHandle, list);
 
     ContextAttribs attribs = defaultContextAttribs();
     if (const EGLint error = readAttributes(*config, list, attribs); error != EGL_SUCCESS) return refuse(error);
@@ -73,8 +99,8 @@ EGLContext createContext(Display &display, EGLConfig configHandle, EGLContext sh
     std::shared_ptr<Context> share;
     if (shareHandle) {
         share = display.findContext(shareHandle);
-        if (!share) return refuse(EGL_BAD_CONTEXT);
-        if (!canShare(attribs, share->attribs)) return refuse(because(Rule::otherResetStrategy, EGL_BAD_MATCH));
+        const EGLint error = shareError(share.get(), attribs, EGL_OPENGL_ES_API);
+        if (error != EGL_SUCCESS) return refuse(error);
     }
     if (const auto answer = settleVersion(*config, attribs); answer != capability::HostAnswer::carries) {
         logMessage(LogWarning, "%s", hostFallsShort);

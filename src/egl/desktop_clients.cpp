@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <cstring>
+#include <string_view>
 
 #include "egl/es_library.h"
 #include "egl/extension_entries.h"
@@ -36,6 +37,11 @@ const Entry entries[] = {
     {"eglSignalSyncKHR", reinterpret_cast<Function>(standard::signalSync)},
 };
 
+bool isSet(const char *variable) {
+    const char *value = findVariable(variable);
+    return value && strcmp(value, "1") == 0;
+}
+
 const std::array<EsLibrary, 2> &backEnds() {
     static const auto &libraries =
         *new std::array{EsLibrary(State::loadEsLibrary(2)), EsLibrary(State::loadEsLibrary(1))};
@@ -45,11 +51,13 @@ const std::array<EsLibrary, 2> &backEnds() {
 } // namespace
 
 bool isOn() {
-    static const bool on = [] {
-        const char *value = findVariable("ZELVANE_DESKTOP_CLIENTS");
-        return value && strcmp(value, "1") == 0;
-    }();
+    static const bool on = isSet("ZELVANE_DESKTOP_CLIENTS");
     return on;
+}
+
+bool haveOpenGl() {
+    static const bool have = isOn() && isSet("ZELVANE_DESKTOP_OPENGL");
+    return have;
 }
 
 Function findEntry(const char *name) {
@@ -67,6 +75,12 @@ bool isKnownToBackEnd(const char *name) {
     });
 }
 
+Function findHostFunction(const char *name) {
+    const std::string_view wanted = name;
+    if (!haveOpenGl() || !wanted.starts_with("gl") || wanted.starts_with("glX")) return nullptr;
+    return reinterpret_cast<Function>(state().openGLLibrary().getSymbol(name));
+}
+
 void loadBackEnds() {
     if (isOn()) (void)backEnds();
 }
@@ -80,8 +94,11 @@ uint64_t drawableOf(void *native) {
 void tellOfOtherApi(EGLenum api) {
     static std::atomic<bool> isTold = false;
     if (!isOn() || isTold.exchange(true)) return;
-    const char *wanted = api == EGL_OPENGL_API ? "desktop OpenGL" : "an API of another kind";
-    logMessage(LogError, "%s%s%s", "The application requests ", wanted, "; this EGL supports OpenGL ES only.");
+    const bool isOpenGl = api == EGL_OPENGL_API;
+    const char *wanted = isOpenGl ? "desktop OpenGL" : "an API of another kind";
+    const char *offered = haveOpenGl() ? "OpenGL and OpenGL ES only" : "OpenGL ES only";
+    logMessage(LogError, "%s%s%s%s%s", "The application requests ", wanted, "; this EGL supports ", offered,
+               isOpenGl ? "; try --opengl." : ".");
 }
 
 } // namespace egl::desktop_clients

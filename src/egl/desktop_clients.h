@@ -14,6 +14,9 @@ using Function = void (*)();
 // Whether desktop mode is on for the process.
 [[nodiscard]] bool isOn();
 
+// Whether desktop mode offers contexts of desktop OpenGL, which ZELVANE_DESKTOP_OPENGL=1 requests.
+[[nodiscard]] bool haveOpenGl();
+
 // What eglGetProcAddress returns before it searches its tables: the core EGL entries, and extension entries that
 // differ for desktop clients. Null for all other names.
 [[nodiscard]] Function findEntry(const char *name);
@@ -24,6 +27,10 @@ void loadBackEnds();
 
 // Whether a back end has a function of that name on some host, so that it needs an entry.
 [[nodiscard]] bool isKnownToBackEnd(const char *name);
+
+// The host's function of a name that no entry exists for, where contexts of desktop OpenGL are offered. The host has a
+// function for nearly any name.
+[[nodiscard]] Function findHostFunction(const char *name);
 
 // The window or pixmap behind the argument of a platform entry: dereferences the pointer in desktop mode, otherwise
 // returns it as the handle. 0 for a null pointer.

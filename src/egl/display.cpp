@@ -1,5 +1,7 @@
 #include "egl/display.h"
 
+#include <algorithm>
+
 #include "capability/host_egl.h"
 #include "egl/context.h"
 #include "egl/context_allocator.h"
@@ -17,6 +19,11 @@ uint64_t number(const void *handle) {
     return reinterpret_cast<uintptr_t>(handle);
 }
 
+BackEndKind backEndKind(const ContextAttribs &attribs, EGLenum api) {
+    if (api == EGL_OPENGL_API) return BackEndKind::Desktop;
+    return attribs.requestedMajor == 1 ? BackEndKind::Es1 : BackEndKind::Es2;
+}
+
 } // namespace
 
 Display::Display(uint64_t nativeDisplay, Display *older) : nativeDisplay(nativeDisplay), older(older) {}
@@ -26,7 +33,10 @@ void Display::initialize(const DeviceProfile &profile) {
     const std::lock_guard lock(m_displayMutex);
     if (m_initialized) return;
     const auto kind = desktop_clients::isOn() ? ConfigKind::ofDesktop : ConfigKind::ofDevice;
-    m_configs = std::make_shared<ConfigList>(profile, nativeDisplay, kind);
+    auto configs = std::make_shared<ConfigList>(profile, nativeDisplay, kind);
+    // Profiles of devices say themselves whether they have it.
+    if (desktop_clients::haveOpenGl() && profile.hasConfigsOfHostOnly) configs->addApi(EGL_OPENGL_BIT);
+    m_configs = std::move(configs);
     m_initialized = true;
 }
 
@@ -91,11 +101,12 @@ std::vector<std::shared_ptr<Context>> Display::contexts() const {
 }
 
 std::shared_ptr<Context> Display::createContext(std::shared_ptr<const Config> config, std::shared_ptr<Context> share,
-                                                const ContextAttribs &attribs) {
+                                                const ContextAttribs &attribs, EGLenum api) {
     const std::lock_guard lock(m_displayMutex);
     const uint64_t handle = m_contexts.takeHandle();
-    const ContextAllocator<Context> memory(attribs.requestedMajor == 1 ? BackEndKind::Es1 : BackEndKind::Es2);
-    auto context = std::allocate_shared<Context>(memory, *this, handle, std::move(config), std::move(share), attribs);
+    const ContextAllocator<Context> memory(backEndKind(attribs, api));
+    auto context =
+        std::allocate_shared<Context>(memory, *this, handle, std::move(config), std::move(share), attribs, api);
     m_contexts.insert(handle, context);
     return context;
 }
@@ -121,6 +132,13 @@ std::shared_ptr<Surface> Display::findSurface(EGLSurface handle) const {
     if (draw && draw->handle == number(handle)) return draw;
     if (read && read->handle == number(handle)) return read;
     return nullptr;
+}
+
+bool Display::hasSurfaceOf(uint64_t window) const {
+    const std::lock_guard lock(m_displayMutex);
+    return std::ranges::any_of(m_surfaces.all(), [window](const auto &surface) {
+        return surface->hostSurface && surface->hostSurface->nativeHandle().view.window == window;
+    });
 }
 
 std::shared_ptr<Surface> Display::insertSurface(uint64_t handle, std::shared_ptr<glove::ISurface> hostSurface,

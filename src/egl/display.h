@@ -60,11 +60,14 @@ public:
     // In handle order.
     [[nodiscard]] std::vector<std::shared_ptr<Context>> contexts() const;
     [[nodiscard]] std::shared_ptr<Context> createContext(std::shared_ptr<const Config> config,
-                                                         std::shared_ptr<Context> share, const ContextAttribs &attribs);
+                                                         std::shared_ptr<Context> share, const ContextAttribs &attribs,
+                                                         EGLenum api = EGL_OPENGL_ES_API);
     // False for an unknown handle, and when the back end cannot delete the context, which then stays in the table.
     bool destroyContext(uint64_t handle);
 
     [[nodiscard]] std::shared_ptr<Surface> findSurface(EGLSurface handle) const;
+    // Whether a surface of that window exists.
+    [[nodiscard]] bool hasSurfaceOf(uint64_t window) const;
     // Null when the host surface cannot be created; the handle is consumed all the same.
     [[nodiscard]] std::shared_ptr<Surface> createWindowSurface(const Config &config, uint64_t window,
                                                                const EGLint *attributes);

@@ -9,6 +9,9 @@ namespace egl {
 // A function that the library lacks is null; all are null when the library could not be opened.
 struct EsLibrary {
     explicit EsLibrary(DynamicLibrary opened);
+    // The back end of desktop OpenGL, which is part of this library: its contexts are the host's, and so are its
+    // functions.
+    [[nodiscard]] static EsLibrary ofDesktop();
 
     const DynamicLibrary library;
     decltype(&zvCreateEsContext) const createEsContext;
@@ -20,6 +23,9 @@ struct EsLibrary {
     decltype(&zvDropImage) const dropImage;
 
 private:
+    EsLibrary(DynamicLibrary host, decltype(&zvCreateEsContext) create, decltype(&zvDeleteEsContext) remove,
+              decltype(&zvGetExtProcAddress) find);
+
     template <typename Function>
     [[nodiscard]] Function find(const char *name) const {
         return reinterpret_cast<Function>(library.getSymbol(name));

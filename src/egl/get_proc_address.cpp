@@ -45,7 +45,8 @@ gl::Function findFunction(const char *name) {
         // For back ends, whose exported functions are called without this function.
         if (journal::isOn() && strcmp(name, "zvRecordedFunction") == 0) return asFunction(journal::recorded);
         if (const auto function = gl::findEntry(name)) return function;
-        return desktop_clients::isKnownToBackEnd(name) ? gl::dynamicEntry(name) : nullptr;
+        if (desktop_clients::isKnownToBackEnd(name)) return gl::dynamicEntry(name);
+        return desktop_clients::findHostFunction(name);
     }
     if (const auto function = desktop_clients::findEntry(name)) return function;
     for (const gl::ProcTableRow &row : extensionEntries) {

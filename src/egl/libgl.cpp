@@ -23,7 +23,7 @@ gl::Function findGlEntry(const char *name) {
 } // namespace egl
 
 extern "C" ZV_EXPORT void zvDescribeToLibGl(LibGlLink *link) {
-    *link = {&egl::threadRecord.current, egl::findGlEntry};
+    *link = {&egl::threadRecord.currentEs, egl::findGlEntry};
 }
 
 void egl::connectLibGl() {

@@ -59,7 +59,7 @@ const char *EGLAPIENTRY eglQueryString(EGLDisplay dpy, EGLint name) {
         case EGL_VERSION:
             return succeed(versionString());
         case EGL_CLIENT_APIS:
-            return succeed<const char *>("OpenGL_ES");
+            return succeed<const char *>(desktop_clients::haveOpenGl() ? "OpenGL OpenGL_ES" : "OpenGL_ES");
         case EGL_EXTENSIONS:
             return succeed(desktop_clients::isOn() ? standard::displayExtensions(display) : displayExtensions);
         default:

@@ -41,8 +41,9 @@ EGLint windowSurfaceError(const Display &display, const Config &config, EGLNativ
                           const EGLint *attributes) {
     if (desktop_clients::isOn()) {
         const EGLint error = standard::windowSurfaceError(config, attributes);
-        const host::platform::View view{display.nativeDisplay, hostWord(window)};
-        return error == EGL_SUCCESS && !host::isHostWindow(view) ? EGL_BAD_NATIVE_WINDOW : error;
+        if (error != EGL_SUCCESS) return error;
+        if (!host::isHostWindow({display.nativeDisplay, hostWord(window)})) return EGL_BAD_NATIVE_WINDOW;
+        return display.hasSurfaceOf(hostWord(window)) ? because(Rule::windowInUse, EGL_BAD_ALLOC) : EGL_SUCCESS;
     }
     return keysError(attributes, windowAttributes);
 }

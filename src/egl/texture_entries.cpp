@@ -1,6 +1,8 @@
 // eglBindTexImage and eglReleaseTexImage. A bind is a one-time copy: no link between surface and texture remains.
 #include "egl/context.h"
+#include "egl/desktop_clients.h"
 #include "egl/entry_frame.h"
+#include "egl/standard/pbuffer_textures.h"
 #include "egl/surface.h"
 #include "foundation/gl_types.h"
 
@@ -14,8 +16,8 @@ bool canBeBound(Surface &surface) {
            (format == EGL_TEXTURE_RGB || format == EGL_TEXTURE_RGBA);
 }
 
-// Copies from the current read surface, which is this surface only if the application bound it. The target is the
-// texture that is bound on the host, without the back end.
+// On devices: copies from the current read surface, which is this surface only if the application bound it. The target
+// is the texture that is bound on the host, without the back end.
 void copyToBoundTexture(Surface &surface) {
     const host::EGL &hostEGL = state().hostEGL();
     if (!hostEGL.glCopyTexImage2D) return;
@@ -31,11 +33,12 @@ void copyToBoundTexture(Surface &surface) {
 using namespace egl;
 
 EGLBoolean EGLAPIENTRY eglBindTexImage(EGLDisplay dpy, EGLSurface surface, EGLint buffer) {
-    return entry(dpy, EGL_FALSE, [&](Display &display) {
+    return entry<EGLBoolean>(dpy, EGL_FALSE, [&](Display &display) -> EGLBoolean {
         if (buffer != EGL_BACK_BUFFER) return fail(EGL_BAD_PARAMETER, EGL_FALSE);
         const auto found = display.findSurface(surface);
         if (!found || !canBeBound(*found)) return fail(EGL_BAD_SURFACE, EGL_FALSE);
         if (!threadRecord.current) return fail(EGL_BAD_CONTEXT, EGL_FALSE);
+        if (desktop_clients::isOn()) return finish(standard::copyPbufferToTexture(*threadRecord.current, *found));
         copyToBoundTexture(*found);
         return succeed(EGL_TRUE);
     });

@@ -13,23 +13,15 @@ EGLint EGLAPIENTRY eglGetError(void) {
     return std::exchange(threadRecord.error, EGL_SUCCESS);
 }
 
-// Stores nothing, since no other API is supported.
-EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
-    if (api != EGL_OPENGL_ES_API) {
-        desktop_clients::tellOfOtherApi(api);
-        const EGLint error = refusals::because(refusals::Rule::otherApi, EGL_BAD_PARAMETER);
-        return reports::told<EGLBoolean>(fail(error, EGL_FALSE), reports::bindApi, api);
-    }
-    return reports::told<EGLBoolean>(succeed(EGL_TRUE), reports::bindApi, api);
-}
-
-EGLenum EGLAPIENTRY eglQueryAPI(void) {
-    return succeed<EGLenum>(EGL_OPENGL_ES_API);
-}
-
 namespace egl {
 
 namespace {
+
+EGLint becauseOfApi(EGLenum api) {
+    using refusals::Rule;
+    if (desktop_clients::haveOpenGl()) return refusals::because(Rule::noSuchApi, EGL_BAD_PARAMETER);
+    return refusals::because(api == EGL_OPENGL_API ? Rule::openGlIsOff : Rule::otherApi, EGL_BAD_PARAMETER);
+}
 
 // On devices the waits return at once without a glFinish on the host, so a wait in every frame costs nothing.
 EGLBoolean waitForClient() {
@@ -43,6 +35,20 @@ EGLBoolean waitForClient() {
 } // namespace
 
 } // namespace egl
+
+EGLBoolean EGLAPIENTRY eglBindAPI(EGLenum api) {
+    const bool isOffered = api == EGL_OPENGL_ES_API || (api == EGL_OPENGL_API && desktop_clients::haveOpenGl());
+    if (!isOffered) {
+        desktop_clients::tellOfOtherApi(api);
+        return reports::told<EGLBoolean>(fail(becauseOfApi(api), EGL_FALSE), reports::bindApi, api);
+    }
+    threadRecord.api = api;
+    return reports::told<EGLBoolean>(succeed(EGL_TRUE), reports::bindApi, api);
+}
+
+EGLenum EGLAPIENTRY eglQueryAPI(void) {
+    return succeed(threadRecord.api);
+}
 
 EGLBoolean EGLAPIENTRY eglWaitClient(void) {
     return waitForClient();

@@ -64,7 +64,8 @@ bool prepareThread() {
 void setCurrentContext(std::shared_ptr<Context> context, Display *display) {
     threadRecord.current = context.get();
     threadRecord.currentDisplay = display;
-    threadRecord.backEnd = backEndView(context.get());
+    threadRecord.currentEs = context && !context->isDesktop() ? context.get() : nullptr;
+    threadRecord.backEnd = backEndView(threadRecord.currentEs);
     gl::currentFunctions = context ? &context->functions : &gl::functionsWithoutContext;
     // Swapped, so that the old context is destroyed after the record refers to the new one.
     if (threadRecord.hold) threadRecord.hold->current.swap(context);

@@ -16,8 +16,10 @@ struct ThreadHold;
 // Trivially destructible and statically initialised, so that reading it is one plain thread-local load.
 struct ThreadRecord {
     EGLint error = EGL_SUCCESS;
+    EGLenum api = EGL_OPENGL_ES_API;   // of new contexts
     bool ended = false;                // in the last round of exit handlers: the thread can no longer hold a context
     Context *current = nullptr;        // null when nothing is current
+    Context *currentEs = nullptr;      // the same, null too while a context of desktop OpenGL is current
     Display *currentDisplay = nullptr; // of the current context
     zvThread backEnd = {};             // read by back ends
     ThreadHold *hold = nullptr;        // created at the first bind, destroyed with the thread

@@ -1,13 +1,13 @@
-// The data that libEGL passes to the libGL.so.1 of desktop programs, so that its functions follow the current EGL
-// context. The library that is loaded second passes it on.
+// The data that libEGL passes to the libGL.so.1 of desktop programs, so that its functions follow the current context
+// of OpenGL ES. The library that is loaded second passes it on.
 #pragma once
 
 struct LibGlLink {
     using Function = void (*)();
     using FindEntry = Function (*)(const char *name);
 
-    // The calling thread's word that is not null while an EGL context is current. It is in libEGL's static thread-local
-    // storage: at the same offset from the thread pointer in all threads.
+    // The calling thread's word that is not null while a context of OpenGL ES is current. It is in libEGL's static
+    // thread-local storage: at the same offset from the thread pointer in all threads.
     const void *context;
     // The entry of a GL name, which calls the function of the current context. Null if there are too many names. Any
     // thread.

@@ -22,7 +22,7 @@ Function resolveEntry(const GLEntryProxy &proxy, Function nothing) {
         return nothing;
     }
     Function answer = table.ask(table.context, proxy.name);
-    if (recorder) answer = recorder(proxy.name, answer);
+    if (recorder && table.isRecorded) answer = recorder(proxy.name, answer);
     // The back end may have called this entry during the lookup; the first result is kept.
     Function resolver = functionsWithoutContext.at(proxy.slot);
     const bool isKept = std::atomic_ref(table.slots[proxy.slot])

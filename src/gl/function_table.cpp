@@ -32,11 +32,11 @@ void openSlot(size_t slot, Function resolver) {
         std::atomic_ref(table->slots[slot]).store(resolver, std::memory_order_relaxed);
 }
 
-FunctionTable &functionTableAt(void *context, FunctionTable::Ask ask) {
+FunctionTable &functionTableAt(void *context, FunctionTable::Ask ask, bool isRecorded) {
     const std::lock_guard lock(tables().mutex);
     auto &table = tables().byContext[context];
     if (!table) {
-        table.reset(new FunctionTable{.context = context, .ask = ask, .slots = {}});
+        table.reset(new FunctionTable{.context = context, .ask = ask, .slots = {}, .isRecorded = isRecorded});
         std::ranges::copy(functionsWithoutContext.slots, table->slots);
     }
     return *table;

@@ -24,6 +24,7 @@ struct FunctionTable {
     void *const context = nullptr;
     const Ask ask = nullptr;
     Function slots[slotCount];
+    const bool isRecorded = true; // whether the recorder receives its functions
 
     [[nodiscard, gnu::always_inline]] Function at(size_t slot) {
         return std::atomic_ref(slots[slot]).load(std::memory_order_relaxed);
@@ -44,7 +45,7 @@ extern constinit Recorder recorder;
 
 // The table of the context at that address. It is never freed: a context that is created at the address of a dead one
 // inherits its functions. Any thread.
-[[nodiscard]] FunctionTable &functionTableAt(void *context, FunctionTable::Ask ask);
+[[nodiscard]] FunctionTable &functionTableAt(void *context, FunctionTable::Ask ask, bool isRecorded = true);
 
 // Sets a dynamic slot to its resolver in every table. Called before its entry is returned. Any thread.
 void openSlot(size_t slot, Function resolver);

@@ -25,7 +25,8 @@ LiveContexts &liveContexts() {
 
 constinit thread_local uint64_t threadHostContext __attribute__((tls_model("initial-exec"))) = 0;
 
-bool attach(ContextContainer *container, const NativeObject &native) {
+bool attach(ContextContainer *container, const NativeObject &native, const NativeObject &read) {
+    if (!read.isNull() && !operations.setReadObject(container, read)) return false;
     if (native.isPixelBuffer()) return operations.setPixelBuffer(container, native.pixelBuffer);
     if (!operations.setView(container, native.view)) return false;
     // Registered again at every bind and never removed: each registration updates the context once when the frame
@@ -34,7 +35,8 @@ bool attach(ContextContainer *container, const NativeObject &native) {
     return true;
 }
 
-host::HostBinding bindHostContext(const glove::GLContext *context, const NativeObject &native) {
+host::HostBinding bindHostContext(const glove::GLContext *context, const NativeObject &native,
+                                  const NativeObject &read) {
     using host::HostBinding;
     auto *container = context ? context->container() : nullptr;
     if (!container) {
@@ -42,7 +44,7 @@ host::HostBinding bindHostContext(const glove::GLContext *context, const NativeO
         return HostBinding::current;
     }
     if (native.isNull()) return operations.setView(container, {}) ? HostBinding::detached : HostBinding::failed;
-    const bool isCurrent = attach(container, native) && host::makeHostContextCurrentAsIs(*context);
+    const bool isCurrent = attach(container, native, read) && host::makeHostContextCurrentAsIs(*context);
     return isCurrent ? HostBinding::current : HostBinding::failed;
 }
 
@@ -79,16 +81,19 @@ std::unique_ptr<HostContextHandle> createHostContext(const HostContextRequest &r
     ContextContainer *container = nullptr;
     if (request.format) {
         // The derived format is never released: contexts may use it until the process ends.
-        const auto *derived = deriveContextPixelFormat(request.format, request.legacy == 1, request.robustness);
+        const auto *derived = deriveContextPixelFormat(request.format, request.legacy == 1, request.robustness,
+                                                       request.desktop ? &*request.desktop : nullptr);
         auto *share = request.share ? request.share->container() : nullptr;
         if (derived) container = operations.createContext(derived, share);
     }
     return std::make_unique<HostContextHandle>(HostContextHandle{glove::GLContext::create(container)});
 }
 
-HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface) {
+HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface,
+                                   const glove::ISurface *read) {
     const auto *context = hostContext ? hostContext->context.get() : nullptr;
-    const auto binding = bindHostContext(context, context && surface ? surface->nativeHandle() : NativeObject{});
+    const auto binding = bindHostContext(context, context && surface ? surface->nativeHandle() : NativeObject{},
+                                         read ? read->nativeHandle() : NativeObject{});
     if (binding != HostBinding::failed) setCurrentHostContext(context ? context->number() : 0);
     return binding;
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "host/host_surface.h"
 #include "host/pixel_format.h"
@@ -44,6 +45,7 @@ struct HostContextRequest {
     platform::PixelFormat *format = nullptr;
     int32_t legacy = 0; // 1 for a legacy context, any other value for 3.2 core
     Robustness robustness = {};
+    std::optional<DesktopContext> desktop = {}; // nothing for a context that carries OpenGL ES
     std::shared_ptr<glove::GLContext> share = nullptr;
 };
 
@@ -57,8 +59,10 @@ enum class HostBinding {
 };
 
 // Binds the context to the surface on the calling thread; null means none. A context without a surface, or with one
-// that has no native object, is only detached.
-[[nodiscard]] HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface);
+// that has no native object, is only detached. read: a surface with a native object to read from in place of that one;
+// null for none.
+[[nodiscard]] HostBinding makeHostContextCurrent(const HostContextHandle *hostContext, const glove::ISurface *surface,
+                                                 const glove::ISurface *read = nullptr);
 
 // Makes it current without a default framebuffer.
 [[nodiscard]] HostBinding makeHostContextCurrentWithoutDrawable(const HostContextHandle *hostContext);

@@ -25,6 +25,14 @@ void appendOtherSizes(std::vector<uint32_t> &list, const PixelFormatRequest &req
     append(list, Samples, request.samples);
 }
 
+void appendDesktopContext(std::vector<uint32_t> &list, const DesktopContext &desktop) {
+    append(list, DesktopMajorVersion, desktop.major);
+    append(list, DesktopMinorVersion, desktop.minor);
+    append(list, DesktopProfileMask, desktop.profileMask);
+    append(list, DesktopFlags, desktop.flags);
+    if (desktop.checksNoErrors) append(list, DesktopNoError, 1);
+}
+
 } // namespace
 
 PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request) {
@@ -67,7 +75,8 @@ PixelFormat *makeProbePixelFormat() {
     return operations.createPixelFormat(0, list);
 }
 
-PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy, const Robustness &robustness) {
+PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy, const Robustness &robustness,
+                                      const DesktopContext *desktop) {
     int32_t values[std::size(readBack)];
     for (size_t i = 0; i < std::size(readBack); ++i) {
         values[i] = operations.pixelFormatValue(format, readBack[i]);
@@ -78,6 +87,7 @@ PixelFormat *deriveContextPixelFormat(const PixelFormat *format, bool legacy, co
         append(list, readBack[i], values[i]);
     if (robustness.isRobust) append(list, RobustAccess, 1);
     if (robustness.losesContextOnReset) append(list, LosesContextOnReset, 1);
+    if (desktop) appendDesktopContext(list, *desktop);
     list.push_back(0);
     return operations.derivePixelFormat(format, list.data());
 }

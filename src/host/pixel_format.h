@@ -23,6 +23,14 @@ struct Robustness {
     bool losesContextOnReset = false;
 };
 
+// A context that is the application's own desktop OpenGL, as it requests it.
+struct DesktopContext {
+    int32_t major = 1, minor = 0;
+    int32_t profileMask = 0;
+    int32_t flags = 0; // debug, forward compatible
+    bool checksNoErrors = false;
+};
+
 // Null when the host has no matching format.
 [[nodiscard]] platform::PixelFormat *makeHostPixelFormat(const PixelFormatRequest &request);
 // A format for one config only: the host's nearest, or one of exactly these sizes. Null when there is none.
@@ -31,8 +39,10 @@ struct Robustness {
 [[nodiscard]] platform::PixelFormat *makeConfiglessPixelFormat(uint64_t display);
 // A core format on the default display with no other attributes.
 [[nodiscard]] platform::PixelFormat *makeProbePixelFormat();
-// Reads the format's values and requests them again, always double-buffered, with the given profile.
+// Reads the format's values and requests them again, always double-buffered, with the given profile. desktop: null for
+// a context that carries OpenGL ES.
 [[nodiscard]] platform::PixelFormat *deriveContextPixelFormat(const platform::PixelFormat *format, bool legacy,
-                                                              const Robustness &robustness = {});
+                                                              const Robustness &robustness = {},
+                                                              const DesktopContext *desktop = nullptr);
 
 } // namespace host

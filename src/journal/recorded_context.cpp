@@ -39,7 +39,7 @@ constinit thread_local Remembered remembered;
 
 RecordedContext *RecordedContext::current() {
     const gl::FunctionTable &table = *gl::currentFunctions;
-    if (!table.context) return nullptr;
+    if (!table.context || !table.isRecorded) return nullptr;
     const uint64_t now = generation.load(std::memory_order_acquire);
     if (remembered.context == table.context && remembered.generation == now) return remembered.record;
     RecordedContext *record = nullptr;

@@ -16,7 +16,7 @@ class RecordedContext {
 public:
     explicit RecordedContext(const gl::FunctionTable &table) : device(table) {}
 
-    // Null without a current context. Created at the first call, which writes the device's line.
+    // Null without a current context that is recorded. Created at the first call, which writes the device's line.
     [[nodiscard]] static RecordedContext *current();
     // Called when a new context gets the address of a recorded one.
     static void forget(void *context);

@@ -57,6 +57,16 @@ ConfigList::ConfigList(const DeviceProfile &profile, uint64_t nativeDisplay, Con
     m_noConfig.setAttribute(EGL_CONFIG_ID, 0);
 }
 
+void ConfigList::addApi(int32_t bit) {
+    const auto addTo = [bit](Config &config) {
+        for (const int32_t attribute : {EGL_RENDERABLE_TYPE, EGL_CONFORMANT})
+            config.setAttribute(attribute, config.attributeOr0(attribute) | bit);
+    };
+    for (auto &[handle, config] : m_configs)
+        addTo(config);
+    addTo(m_noConfig);
+}
+
 uint32_t ConfigList::listConfigs(void **out, int32_t size) const {
     if (!out) return configCount();
     int32_t stored = 0;

@@ -26,6 +26,9 @@ public:
     ConfigList(const ConfigList &) = delete;
     ConfigList &operator=(const ConfigList &) = delete;
 
+    // Adds a bit of EGL_RENDERABLE_TYPE to that attribute and to EGL_CONFORMANT of all configs.
+    void addApi(int32_t bit);
+
     [[nodiscard]] uint32_t configCount() const { return static_cast<uint32_t>(m_configs.size()); }
     // Both store EGL_CONFIG_ID values, sign-extended, and return how many. With a null out they return the total number
     // and ignore size.

@@ -141,6 +141,11 @@ std::optional<int32_t> readWord(Kind kind, std::string_view word) {
     return readNumber(word);
 }
 
+bool canBeNone(int32_t attribute) {
+    const Kind kind = kindOf(attribute);
+    return kind == Kind::caveat || kind == Kind::transparency || attribute == EGL_NATIVE_VISUAL_TYPE;
+}
+
 } // namespace
 
 std::string attributeName(int32_t attribute) {
@@ -172,8 +177,12 @@ std::string errorName(int32_t error) {
 
 std::string attributeListText(const int32_t *list) {
     std::string text;
-    for (const auto &[name, value] : AttributeList(list))
-        text += (text.empty() ? "" : ", ") + attributeName(name) + ' ' + valueText(name, value);
+    for (const auto &[name, value] : AttributeList(list)) {
+        text += (text.empty() ? "" : ", ") + attributeName(name);
+        // The end of a list that lacks the last value.
+        if (value == EGL_NONE && !canBeNone(name)) break;
+        text += ' ' + valueText(name, value);
+    }
     return text;
 }
 

@@ -44,10 +44,13 @@ TEST_F(DesktopClients, FindWhatTheyExpect) {
 
     unsigned long window = 77;
     const auto create = procAddress<PFNEGLCREATEPLATFORMWINDOWSURFACEEXTPROC>("eglCreatePlatformWindowSurfaceEXT");
-    EXPECT_EQ(querySurface(create(m_display, config(), &window, nullptr), EGL_WIDTH), 640) << "through the pointer";
+    const EGLSurface surface = create(m_display, config(), &window, nullptr);
+    EXPECT_EQ(querySurface(surface, EGL_WIDTH), 640) << "through the pointer";
+    EXPECT_FAILS(EGL_BAD_ALLOC, create(m_display, config(), &window, nullptr)); // a window has one
+    EXPECT_TRUE(eglDestroySurface(m_display, surface));
     EXPECT_EQ(querySurface(eglCreatePlatformWindowSurface(m_display, config(), &window, nullptr), EGL_WIDTH), 640);
     EXPECT_FAILS(EGL_BAD_NATIVE_WINDOW, create(m_display, config(), nullptr, nullptr));
     EXPECT_EQ(errorsOf([] { EXPECT_FALSE(eglBindAPI(EGL_OPENGL_API) || eglBindAPI(EGL_OPENGL_API)); }),
-              "(Error) The application requests desktop OpenGL; this EGL supports OpenGL ES only.\n")
+              "(Error) The application requests desktop OpenGL; this EGL supports OpenGL ES only; try --opengl.\n")
         << "told once";
 }

@@ -78,7 +78,7 @@ _zelvane() {
     fi
     local words
     case $verb in
-    run) words='--profile --bare --strict --loose --backends --journal --monitor --help' ;;
+    run) words='--profile --bare --strict --loose --opengl --backends --journal --monitor --help' ;;
     lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
     info) words='--profile --bare --json --help' ;;
     profiles)

@@ -60,6 +60,7 @@ complete -c zelvane -n '__zelvane_has_verb run' -l profile -xa '(__zelvane_profi
 complete -c zelvane -n '__zelvane_has_verb run' -l strict -d 'Reject contexts that the host does not fully support'
 complete -c zelvane -n '__zelvane_has_verb run' -l bare -d 'No device'
 complete -c zelvane -n '__zelvane_has_verb run' -l loose -d 'Accept contexts that the host does not fully support'
+complete -c zelvane -n '__zelvane_has_verb run' -l opengl -d 'Also offer desktop OpenGL'
 complete -c zelvane -n '__zelvane_has_verb run' -l backends -xa '(__fish_complete_directories)' -d 'OpenGL ES libraries'
 complete -c zelvane -n '__zelvane_has_verb run' -l journal -rF -d 'The file of the journal'
 complete -c zelvane -n '__zelvane_has_verb run' -l monitor -d 'Also show the output of the monitor'

@@ -23,6 +23,7 @@ struct Options {
     bool loose = false;
     std::string backEnds;
     std::string journal; // a file
+    bool openGl = false;
     bool monitor = false;
 };
 
@@ -61,6 +62,7 @@ int runProgram(const Options &options, const std::vector<std::string> &words) {
     const std::string path = libraries.searchPath() + (before && *before ? std::string(":") + before : "");
     setenv("LD_LIBRARY_PATH", path.c_str(), 1);
     setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
+    if (options.openGl) setenv("ZELVANE_DESKTOP_OPENGL", "1", 1);
     // Absolute, since the program may change its working directory.
     if (!options.journal.empty()) setenv("ZELVANE_JOURNAL", std::filesystem::absolute(options.journal).c_str(), 1);
     checkXServer();
@@ -90,6 +92,7 @@ void addRunCommand(const Verb &top, const std::vector<std::string> &program) {
         .excludes(profile);
     const Word strict = run.flag("--strict", options->strict, "reject contexts that the host does not fully support");
     run.flag("--loose", options->loose, "accept contexts that the host does not fully support").excludes(strict);
+    run.flag("--opengl", options->openGl, "also offer desktop OpenGL, for programs that require it");
     run.option("--backends", options->backEnds, "DIRECTORY", "a directory whose OpenGL ES libraries replace Zelvane's");
     run.option("--journal", options->journal, "FILE",
                "append a journal of EGL and GL calls to a file, one JSON object per line");

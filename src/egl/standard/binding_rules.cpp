@@ -49,6 +49,11 @@ EGLint clampedSwapInterval(const Config &config, EGLint interval) {
 }
 
 void releaseThread() {
+    threadRecord.api = EGL_OPENGL_ES_API;
+    releaseCurrentContext();
+}
+
+void releaseCurrentContext() {
     if (!threadRecord.current) return;
     unbindCurrent(threadRecord.current->display);
     static_cast<void>(host::makeHostContextCurrent(nullptr, nullptr));
@@ -57,7 +62,7 @@ void releaseThread() {
 EGLBoolean releaseCurrent(EGLDisplay dpy) {
     if (!ensureLoaded()) return fail(EGL_NOT_INITIALIZED, EGL_FALSE);
     if (!state().findDisplay(dpy)) return fail(EGL_BAD_DISPLAY, EGL_FALSE);
-    releaseThread();
+    releaseCurrentContext();
     return succeed(EGL_TRUE);
 }
 

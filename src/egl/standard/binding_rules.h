@@ -17,7 +17,9 @@ namespace egl::standard {
 // The interval, clamped to the limits of the context's config.
 [[nodiscard]] EGLint clampedSwapInterval(const Config &config, EGLint interval);
 
-// As eglReleaseThread: releases whatever is current.
+// Releases whatever is current: a thread has one current context, be it of OpenGL or of OpenGL ES.
+void releaseCurrentContext();
+// As eglReleaseThread: releases whatever is current, and new contexts are of OpenGL ES again.
 void releaseThread();
 // As eglMakeCurrent without context and surfaces. Accepts a display that is not initialised.
 [[nodiscard]] EGLBoolean releaseCurrent(EGLDisplay dpy);

@@ -19,7 +19,15 @@ bool isBoolean(EGLint value) {
     return value == EGL_TRUE || value == EGL_FALSE;
 }
 
-// The error of one pair. Versions are checked together after all pairs.
+EGLint renderBuffer(const Context &context) {
+    const auto &draw = context.surfaces.draw;
+    if (!context.boundToThread || !draw) return EGL_NONE;
+    if (!draw->hostSurface || draw->hostSurface->isPixmap()) return EGL_SINGLE_BUFFER;
+    return draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
+}
+
+} // namespace
+
 EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
     const Facts pair{.attribute = attribute, .value = value};
     switch (attribute) {
@@ -61,15 +69,6 @@ EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs) {
     }
 }
 
-EGLint renderBuffer(const Context &context) {
-    const auto &draw = context.surfaces.draw;
-    if (!context.boundToThread || !draw) return EGL_NONE;
-    if (!draw->hostSurface || draw->hostSurface->isPixmap()) return EGL_SINGLE_BUFFER;
-    return draw->hostSurface->isPBuffer() ? EGL_BACK_BUFFER : draw->attribute(EGL_RENDER_BUFFER);
-}
-
-} // namespace
-
 bool canBeRobust(const Config &config) {
     const auto *format = config.hostConfig() ? config.hostConfig()->format() : nullptr;
     return format && host::platform::operations.pixelFormatValue(format, host::platform::RobustContexts) !=
@@ -79,6 +78,15 @@ bool canBeRobust(const Config &config) {
 host::Robustness robustnessOf(const ContextAttribs &attribs) {
     return {.isRobust = (attribs.contextFlags & robustFlag) != 0,
             .losesContextOnReset = attribs.resetStrategy == EGL_LOSE_CONTEXT_ON_RESET};
+}
+
+EGLint promiseError(const Config &config, const ContextAttribs &attribs) {
+    const auto robustness = robustnessOf(attribs);
+    if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config))
+        return because(Rule::notRobust, EGL_BAD_MATCH);
+    // A context without error checks supports neither debugging nor robustness.
+    const bool promises = attribs.contextFlags & (debugFlag | robustFlag);
+    return attribs.noError && promises ? because(Rule::flagsWithoutErrors, EGL_BAD_MATCH) : EGL_SUCCESS;
 }
 
 EGLint readContextAttributes(const Config &config, const DeviceProfile &profile, const EGLint *attributes,
@@ -92,11 +100,7 @@ EGLint readContextAttributes(const Config &config, const DeviceProfile &profile,
     const bool isAVersion =
         attribs.requestedMajor == 1 ? isAnEs1 : isEsVersionAllowed(profile, attribs.requestedMajor, attribs.esMinor);
     if (!isAVersion) return refusals::becauseOfVersion(attribs.requestedMajor, attribs.esMinor, EGL_BAD_MATCH);
-    const auto robustness = robustnessOf(attribs);
-    if ((robustness.isRobust || robustness.losesContextOnReset) && !canBeRobust(config))
-        return because(Rule::notRobust, EGL_BAD_MATCH);
-    // A context without error checks supports neither debugging nor robustness.
-    if (attribs.noError && attribs.contextFlags) return because(Rule::flagsWithoutErrors, EGL_BAD_MATCH);
+    if (const EGLint error = promiseError(config, attribs); error != EGL_SUCCESS) return error;
     if (config.supportsClientVersion(attribs.requestedMajor)) return EGL_SUCCESS;
     return because(
         Rule::configWithoutVersion, EGL_BAD_CONFIG,
@@ -109,7 +113,7 @@ EGLint queryContext(const Context &context, EGLint attribute, EGLint *value) {
         *value = context.config->attributeOr0(EGL_CONFIG_ID);
         return EGL_SUCCESS;
     case EGL_CONTEXT_CLIENT_TYPE:
-        *value = EGL_OPENGL_ES_API;
+        *value = static_cast<EGLint>(context.api);
         return EGL_SUCCESS;
     case EGL_CONTEXT_CLIENT_VERSION:
         *value = context.attribs.requestedMajor;

@@ -13,6 +13,11 @@ namespace egl::standard {
 [[nodiscard]] EGLint readContextAttributes(const Config &config, const DeviceProfile &profile, const EGLint *attributes,
                                            ContextAttribs &attribs);
 
+// Parses one pair. Returns its error; versions are checked together at the end.
+[[nodiscard]] EGLint readPair(EGLint attribute, EGLint value, ContextAttribs &attribs);
+// The error of the robustness, debugging and freedom of errors that the record requests.
+[[nodiscard]] EGLint promiseError(const Config &config, const ContextAttribs &attribs);
+
 // Whether the host can create robust contexts on the config.
 [[nodiscard]] bool canBeRobust(const Config &config);
 // The robustness that the record requests of the host context. Nothing if the record was not read by these rules.

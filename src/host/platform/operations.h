@@ -65,6 +65,13 @@ enum PixelFormatAttribute : uint32_t {
     // reset.
     RobustAccess = 0x10020,
     LosesContextOnReset = 0x10021,
+    // Of contexts that are the application's own desktop OpenGL, in place of OpenGLProfile: the bits of the mask and of
+    // the flags (debug, forward compatible) are those of GLX and EGL alike.
+    DesktopMajorVersion = 0x10022,
+    DesktopMinorVersion = 0x10023,
+    DesktopProfileMask = 0x10024,
+    DesktopFlags = 0x10025,
+    DesktopNoError = 0x10026,
 };
 
 constexpr int32_t robustNever = 0;
@@ -110,6 +117,10 @@ struct PlatformOperations {
     // Attaches a pixel buffer in place of whatever was attached; null detaches. Takes effect at once on a current
     // context.
     bool (*setPixelBuffer)(ContextContainer *container, PixelBuffer *buffer);
+    // An object to read from in place of the next one that is attached for drawing; it is attached in the same step,
+    // since hosts may drop the contents of a window that nothing is bound to. False when the host fails. Hosts that
+    // only read what they draw ignore it.
+    bool (*setReadObject)(ContextContainer *container, const NativeObject &object);
     // Registers the context to follow the view's frame. Registrations add up, and none is ever removed.
     void (*observeViewFrame)(ContextContainer *container, const View &view);
 

@@ -8,6 +8,7 @@ namespace host::platform::cocoa {
 bool setView(ContextContainer *container, const View &view);
 View view(const ContextContainer *container);
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer);
+bool setReadObject(ContextContainer *container, const NativeObject &object);
 void observeViewFrame(ContextContainer *container, const View &view);
 void flushBuffer(ContextContainer *container);
 // Always 0: Cocoa does not report it.

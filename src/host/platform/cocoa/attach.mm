@@ -49,6 +49,10 @@ bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer) {
     }
 }
 
+bool setReadObject(ContextContainer *, const NativeObject &) {
+    return true;
+}
+
 void observeViewFrame(ContextContainer *container, const View &view) {
     NSView *observed = viewOf(view);
     if (!observed) return;

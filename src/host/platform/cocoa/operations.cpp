@@ -23,6 +23,7 @@ constinit const PlatformOperations operations = {
     .setView = cocoa::setView,
     .view = cocoa::view,
     .setPixelBuffer = cocoa::setPixelBuffer,
+    .setReadObject = cocoa::setReadObject,
     .observeViewFrame = cocoa::observeViewFrame,
     .flushBuffer = cocoa::flushBuffer,
     .copyToPixmap = cocoa::copyToPixmap,

@@ -201,6 +201,13 @@ bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer) {
     return true;
 }
 
+bool setReadObject(ContextContainer *container, const NativeObject &object) {
+    const std::lock_guard lock(script().mutex);
+    note(call("setReadObject", container) + " = " +
+         (object.isPixelBuffer() ? text(object.pixelBuffer) : text(object.view)));
+    return true;
+}
+
 void observeViewFrame(ContextContainer *container, const View &view) {
     const std::lock_guard lock(script().mutex);
     note(call("observeViewFrame", container, view));
@@ -331,6 +338,7 @@ constinit const PlatformOperations operations = {
     .setView = recording::setView,
     .view = recording::view,
     .setPixelBuffer = recording::setPixelBuffer,
+    .setReadObject = recording::setReadObject,
     .observeViewFrame = recording::observeViewFrame,
     .flushBuffer = recording::flushBuffer,
     .copyToPixmap = recording::copyToPixmap,

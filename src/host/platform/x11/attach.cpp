@@ -23,15 +23,35 @@ GLXDrawable drawableFor(ContextContainer &container, const View &view) {
     return connection.children().childOf(view.window, visual, facts->width, facts->height);
 }
 
-// A current context is bound again at once. If that fails, the old attachment is restored.
-bool attach(ContextContainer &container, Attachment attachment) {
+// A current context is bound again at once. If that fails, the old attachments are restored.
+bool attach(ContextContainer &container, Attachment draw, Attachment read) {
     if (!canHold(container)) return false;
-    std::swap(container.attachment, attachment);
-    const bool isBoundAnew = container.attachment.drawable != attachment.drawable && currentContext() == &container;
-    if (!isBoundAnew || makeCurrent(&container)) return true;
-    container.attachment = std::move(attachment);
+    std::swap(container.attachment, draw);
+    std::swap(container.readAttachment, read);
+    const bool isAnother =
+        container.attachment.drawable != draw.drawable || container.readAttachment.drawable != read.drawable;
+    if (!isAnother || currentContext() != &container || makeCurrent(&container)) return true;
+    container.attachment = std::move(draw);
+    container.readAttachment = std::move(read);
     makeCurrent(&container);
     return false;
+}
+
+// Without a drawable if the host fails.
+Attachment attachmentOf(ContextContainer &container, const NativeObject &object) {
+    if (!object.isPixelBuffer()) {
+        return {.view = object.view, .pbuffers = nullptr, .drawable = drawableFor(container, object.view)};
+    }
+    if (container.connection.isLost()) return {};
+    const auto &pbuffers = object.pixelBuffer->pbuffers;
+    return {.view = {}, .pbuffers = pbuffers, .drawable = pbuffers->bufferFor(container.connection, container.config)};
+}
+
+bool attachObject(ContextContainer &container, const NativeObject &object) {
+    Attachment read = std::exchange(container.nextReadAttachment, {});
+    if (object.isNull()) return attach(container, {}, {});
+    Attachment draw = attachmentOf(container, object);
+    return draw.drawable && attach(container, std::move(draw), std::move(read));
 }
 
 // Whether the window or its child has been destroyed since it was attached.
@@ -44,9 +64,7 @@ bool isGone(Connection &connection, const Attachment &attachment) {
 } // namespace
 
 bool setView(ContextContainer *container, const View &view) {
-    if (!view.window) return attach(*container, {});
-    const GLXDrawable drawable = drawableFor(*container, view);
-    return drawable && attach(*container, {.view = view, .pbuffers = nullptr, .drawable = drawable});
+    return attachObject(*container, {view, nullptr});
 }
 
 View view(const ContextContainer *container) {
@@ -54,11 +72,16 @@ View view(const ContextContainer *container) {
 }
 
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer) {
-    if (!buffer) return attach(*container, {});
-    if (container->connection.isLost()) return false;
-    if (container->attachment.pbuffers == buffer->pbuffers) return canHold(*container);
-    const GLXDrawable drawable = buffer->pbuffers->bufferFor(container->connection, container->config);
-    return drawable && attach(*container, {.view = {}, .pbuffers = buffer->pbuffers, .drawable = drawable});
+    const auto &read = container->readAttachment.drawable, &nextRead = container->nextReadAttachment.drawable;
+    const bool isAttached = buffer && container->attachment.pbuffers == buffer->pbuffers && !read && !nextRead;
+    if (isAttached && !container->connection.isLost()) return canHold(*container);
+    return attachObject(*container, {{}, buffer});
+}
+
+bool setReadObject(ContextContainer *container, const NativeObject &object) {
+    if (!canHold(*container)) return false;
+    container->nextReadAttachment = attachmentOf(*container, object);
+    return container->nextReadAttachment.drawable != None;
 }
 
 void observeViewFrame(ContextContainer *, const View &) {
@@ -77,7 +100,7 @@ void flushBuffer(ContextContainer *container) {
     connection.windows().takeReadEvents();
     // After a failed size query such a renderer allocates by uninitialised values, which may be gigabytes.
     if (connection.isSoftware() && isGone(connection, attachment)) {
-        attach(*container, {});
+        attach(*container, {}, {});
         return;
     }
     const bool isChild = attachment.drawable != attachment.view.window;

@@ -8,6 +8,7 @@ namespace host::platform::x11 {
 bool setView(ContextContainer *container, const View &view);
 View view(const ContextContainer *container);
 bool setPixelBuffer(ContextContainer *container, PixelBuffer *buffer);
+bool setReadObject(ContextContainer *container, const NativeObject &object);
 void observeViewFrame(ContextContainer *container, const View &view);
 void flushBuffer(ContextContainer *container);
 int32_t bufferAge(ContextContainer *container);

@@ -21,16 +21,33 @@ bool isConfigless(const PixelFormat &format) {
     return format.fitsAnyDrawable && format.connection.hasGlxExtension("GLX_EXT_no_config_context");
 }
 
-std::vector<int> contextAttributes(const PixelFormat &format) {
+std::vector<int> desktopAttributes(const PixelFormat &format) {
+    const auto &[major, minor, profileMask, flags, checksNoErrors] = format.desktop;
+    std::vector<int> list{GLX_CONTEXT_MAJOR_VERSION_ARB, major, GLX_CONTEXT_MINOR_VERSION_ARB, minor};
+    list.insert(list.end(), {GLX_CONTEXT_PROFILE_MASK_ARB, profileMask});
+    // A context that does check keeps the promise too.
+    const bool canCheckNone = format.connection.hasGlxExtension("GLX_ARB_create_context_no_error");
+    if (checksNoErrors && canCheckNone) list.insert(list.end(), {GLX_CONTEXT_OPENGL_NO_ERROR_ARB, True});
+    return list;
+}
+
+std::vector<int> versionAttributes(const PixelFormat &format) {
+    if (format.desktop.major) return desktopAttributes(format);
     const std::span<const int> ofProfile =
         format.profile == profileLegacy ? std::span<const int>(legacyAttributes) : coreAttributes;
-    std::vector<int> list(ofProfile.begin(), ofProfile.end());
-    if (robustContexts(format.connection) == robustOnDemand) {
-        if (format.isRobust) list.insert(list.end(), {GLX_CONTEXT_FLAGS_ARB, GLX_CONTEXT_ROBUST_ACCESS_BIT_ARB});
-        if (format.losesContextOnReset) {
-            list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
-        }
+    return {ofProfile.begin(), ofProfile.end()};
+}
+
+std::vector<int> contextAttributes(const PixelFormat &format) {
+    std::vector<int> list = versionAttributes(format);
+    int flags = format.desktop.flags;
+    const bool isOnDemand = robustContexts(format.connection) == robustOnDemand;
+    // Where all contexts are robust, the flag only changes what an application reads of its own.
+    if (format.isRobust && (isOnDemand || format.desktop.major)) flags |= GLX_CONTEXT_ROBUST_ACCESS_BIT_ARB;
+    if (format.losesContextOnReset && isOnDemand) {
+        list.insert(list.end(), {GLX_CONTEXT_RESET_NOTIFICATION_STRATEGY_ARB, GLX_LOSE_CONTEXT_ON_RESET_ARB});
     }
+    if (flags) list.insert(list.end(), {GLX_CONTEXT_FLAGS_ARB, flags});
     // Without a config, libGLX selects the vendor by the screen.
     if (isConfigless(format)) list.insert(list.end(), {GLX_SCREEN, format.connection.screen()});
     list.push_back(None);

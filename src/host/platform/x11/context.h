@@ -35,7 +35,9 @@ struct ContextContainer {
     // Used by the holder; without one, by the thread that binds it; callers ensure that there is only one.
     x11::Attachment attachment;
     std::optional<int32_t> swapInterval;
-    GLXPbuffer placeholder = 0; // replaces no drawable on hosts that require one
+    GLXPbuffer placeholder = 0;          // replaces no drawable on hosts that require one
+    x11::Attachment readAttachment = {}; // without a drawable unless it differs
+    x11::Attachment nextReadAttachment = {};
 };
 
 namespace x11 {

@@ -62,9 +62,12 @@ bool bindWithPlaceholder(ContextContainer &container) {
 bool bind(ContextContainer &container) {
     if (container.connection.isLost() || !canHold(container)) return false;
     const GLXDrawable drawable = container.attachment.drawable;
-    const Window window = container.attachment.view.window;
-    if (window && !container.connection.windows().find(window)) return false;
-    if (glx().makeContextCurrent(container.connection.display(), drawable, drawable, container.context)) return true;
+    const GLXDrawable readDrawable = container.readAttachment.drawable ? container.readAttachment.drawable : drawable;
+    for (const Window window : {container.attachment.view.window, container.readAttachment.view.window}) {
+        if (window && !container.connection.windows().find(window)) return false;
+    }
+    if (glx().makeContextCurrent(container.connection.display(), drawable, readDrawable, container.context))
+        return true;
     return !drawable && bindWithPlaceholder(container);
 }
 

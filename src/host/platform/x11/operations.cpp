@@ -25,6 +25,7 @@ constinit const PlatformOperations operations = {
     .setView = x11::setView,
     .view = x11::view,
     .setPixelBuffer = x11::setPixelBuffer,
+    .setReadObject = x11::setReadObject,
     .observeViewFrame = x11::observeViewFrame,
     .flushBuffer = x11::flushBuffer,
     .copyToPixmap = x11::copyToPixmap,

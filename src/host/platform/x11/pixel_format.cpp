@@ -28,6 +28,7 @@ struct Request {
     uint32_t fit = 0;
     bool isRobust = false;
     bool losesContextOnReset = false;
+    DesktopVersion desktop;
 };
 
 Request read(const uint32_t *attributes) {
@@ -40,6 +41,11 @@ Request read(const uint32_t *attributes) {
         if (attribute == Fit) request.fit = value;
         if (attribute == RobustAccess) request.isRobust = value;
         if (attribute == LosesContextOnReset) request.losesContextOnReset = value;
+        if (attribute == DesktopMajorVersion) request.desktop.major = size;
+        if (attribute == DesktopMinorVersion) request.desktop.minor = size;
+        if (attribute == DesktopProfileMask) request.desktop.profileMask = size;
+        if (attribute == DesktopFlags) request.desktop.flags = size;
+        if (attribute == DesktopNoError) request.desktop.checksNoErrors = value;
         if (attribute == RedSize) request.channels.red = size;
         if (attribute == GreenSize) request.channels.green = size;
         if (attribute == BlueSize) request.channels.blue = size;
@@ -135,7 +141,8 @@ PixelFormat *derivePixelFormat(const PixelFormat *format, const uint32_t *attrib
                            .fitsConfig = format->fitsConfig,
                            .fitsAnyDrawable = format->fitsAnyDrawable,
                            .isRobust = request.isRobust,
-                           .losesContextOnReset = request.losesContextOnReset};
+                           .losesContextOnReset = request.losesContextOnReset,
+                           .desktop = request.desktop};
 }
 
 void releasePixelFormat(PixelFormat *format) {

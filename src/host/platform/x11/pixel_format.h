@@ -8,6 +8,18 @@
 
 namespace host::platform {
 
+namespace x11 {
+
+// The desktop OpenGL that a context is to be; no version for one that carries OpenGL ES.
+struct DesktopVersion {
+    int32_t major = 0, minor = 0;
+    int32_t profileMask = 0;
+    int32_t flags = 0;
+    bool checksNoErrors = false;
+};
+
+} // namespace x11
+
 // Constant; the connection and its configs live as long as the process.
 struct PixelFormat {
     x11::Connection &connection;
@@ -17,6 +29,7 @@ struct PixelFormat {
     bool fitsAnyDrawable = false;     // its contexts have no config of their own
     bool isRobust = false;
     bool losesContextOnReset = false;
+    x11::DesktopVersion desktop = {};
 };
 
 namespace x11 {
