@@ -22,6 +22,7 @@ if(TARGET zelvane_command)
   set(completions ${PROJECT_SOURCE_DIR}/tools/completions)
   install(TARGETS zelvane_command RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   install(FILES ${PROJECT_SOURCE_DIR}/tools/run/profiles/Desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/zelvane/profiles)
+  install(FILES ${PROJECT_SOURCE_DIR}/tools/capture/zelvane-capture.c DESTINATION ${CMAKE_INSTALL_DATADIR}/zelvane)
   install(FILES ${CMAKE_BINARY_DIR}/man/zelvane.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
   install(FILES ${completions}/zelvane.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
           RENAME zelvane)

@@ -33,4 +33,4 @@ TEST_P(Session, GoesAsWritten) {
     EXPECT_EQ(played, session);
 }
 
-INSTANTIATE_TEST_SUITE_P(, Session, testing::Values("diff", "doctor", "run", "use"));
+INSTANTIATE_TEST_SUITE_P(, Session, testing::Values("diff", "doctor", "import", "run", "use"));

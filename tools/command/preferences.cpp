@@ -60,6 +60,11 @@ void ToolPreferences::setProfile(const std::string &directory, const std::string
     save();
 }
 
+void ToolPreferences::setDirectory(const std::string &directory) {
+    storeString("profiles_directory", directory);
+    save();
+}
+
 void ToolPreferences::removeProfile() {
     m_store.remove(settingKey("current_profile"));
     save();

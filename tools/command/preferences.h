@@ -22,6 +22,7 @@ public:
 
     // Each of these writes the file; other keys are unchanged. A failure fails the verb.
     void setProfile(const std::string &directory, const std::string &name);
+    void setDirectory(const std::string &directory);
     void removeProfile();
     void setStrict(bool strict);
 

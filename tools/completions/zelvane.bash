@@ -51,8 +51,9 @@ _zelvane() {
         ;;
     lab:--out) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     lab:--fail-on) mapfile -t COMPREPLY < <(compgen -W 'start error refusal lacking picture' -- "$word"); return ;;
-    profiles:check | run:--journal) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+    profiles:check | profiles:import | run:--journal) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
     profiles:show | profiles:diff) _zelvane_profiles "${word//\\/}"; return ;;
+    profiles:export) _zelvane_profiles "${word//\\/}"; [[ Desktop == "$word"* ]] && COMPREPLY+=(Desktop); return ;;
     monitor:--level) mapfile -t COMPREPLY < <(compgen -W 'info warning error' -- "$word"); return ;;
     monitor:--type)
         mapfile -t COMPREPLY < <(compgen -W 'log log_info log_warning log_error process_hello link_stop window_title
@@ -81,7 +82,7 @@ _zelvane() {
     lab) words='--devices --all --frames --seconds --out --jobs --here --reference --fail-on --help' ;;
     info) words='--profile --bare --json --help' ;;
     profiles)
-        words='show check diff --json --names --help'
+        words='show check diff import export --json --names --name --replace --help'
         [[ ${COMP_WORDS[2]} == diff ]] && { _zelvane_profiles "${word//\\/}"; words='--json --help'; }
         ;;
     use) words='--none --directory --help'; [[ $word == -* ]] || _zelvane_profiles "${word//\\/}" ;;

@@ -99,8 +99,15 @@ complete -c zelvane -n '__zelvane_profiles_verb' -l names -d 'Print only the nam
 complete -c zelvane -n '__zelvane_profiles_verb' -a show -d 'Print a profile'
 complete -c zelvane -n '__zelvane_profiles_verb' -a check -d 'Check a file'
 complete -c zelvane -n '__zelvane_profiles_verb' -a diff -d 'Compare two profiles'
+complete -c zelvane -n '__zelvane_profiles_verb' -a import -d 'Install a profile file'
+complete -c zelvane -n '__zelvane_profiles_verb' -a export -d 'Print the text of a profile'
 complete -c zelvane -n '__zelvane_profiles_verb show' -a '(__zelvane_profiles)'
 complete -c zelvane -n '__zelvane_profiles_verb check' -F
+complete -c zelvane -n '__zelvane_profiles_verb import' -F
+complete -c zelvane -n '__zelvane_profiles_verb import' -l name -x -d 'The name of the profile'
+complete -c zelvane -n '__zelvane_profiles_verb import' -l replace -d 'Replace a file of this name'
+complete -c zelvane -n '__zelvane_profiles_verb export' -a 'Desktop (__zelvane_profiles)'
+complete -c zelvane -n '__zelvane_profiles_verb export' -l replace -d 'Overwrite the file'
 complete -c zelvane -n '__zelvane_profiles_verb diff' -Fa '(__zelvane_profiles)'
 complete -c zelvane -n '__zelvane_profiles_verb diff' -l json -d 'Print one JSON object'
 

@@ -16,6 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 const std::vector<std::string> names = {"libEGL.so.1", es2LibraryName, es1LibraryName};
+constexpr char desktopName[] = "libGL.so.1"; // for desktop programs, under "zelvane run" alone
 
 std::string variable(const char *name) {
     const char *value = getenv(name);
@@ -100,11 +101,13 @@ void findMixture(Diagnosis &diagnosis, const LoaderTrace &plain, const std::stri
 void examineLibraries(Diagnosis &diagnosis) {
     const std::string own = ownLibraries(), path = variable("LD_LIBRARY_PATH");
     Json &facts = diagnosis.facts["libraries"] = {{"directory", orNull(own)}};
-    const LoaderTrace plain = traceLibraries(names, path);
-    const LoaderTrace run = traceLibraries(names, own + (path.empty() ? "" : ':' + path));
-    for (const std::string &name : names)
-        facts[name] = {{"plainly", orNull(fileOf(plain, name))},
-                       {"underRun", own.empty() ? Json(nullptr) : orNull(fileOf(run, name))}};
+    std::vector<std::string> all = names;
+    all.emplace_back(desktopName);
+    const LoaderTrace plain = traceLibraries(all, path);
+    LoaderTrace run;
+    if (!own.empty()) run = traceLibraries(all, RunLibraries("").searchPath() + (path.empty() ? "" : ':' + path));
+    for (const std::string &name : all)
+        facts[name] = {{"plainly", orNull(fileOf(plain, name))}, {"underRun", orNull(fileOf(run, name))}};
     if (own.empty()) {
         diagnosis.add("libEGL.so.1 is not where it was installed, seen from this command",
                       "build or install Zelvane again");

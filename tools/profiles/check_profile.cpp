@@ -12,6 +12,7 @@
 #include "profiles/embedded_profiles.h"
 #include "profiles/profile_reader.h"
 #include "tools/profiles/check_es_blocks.h"
+#include "tools/profiles/es_blocks.h"
 
 namespace {
 
@@ -117,7 +118,7 @@ void Check::checkEgl(const XMLElement &egl) {
     for (auto *child = egl.FirstChildElement(); child; child = child->NextSiblingElement()) {
         if (std::string_view(child->Name()) == "config")
             checkConfig(*child);
-        else
+        else if (std::string_view(child->Name()) != capturedElement)
             problem(child->GetLineNum(), std::string(child->Name()) + " is not an element of egl: ignored");
     }
     if (!m_ids.contains(1)) problem(egl.GetLineNum(), "no config has the id 1: one with default values is added");
@@ -154,7 +155,7 @@ void Check::checkDescendants(const XMLElement &parent, const std::string &contai
             checkValue(*rule, *child);
         } else if (rule) {
             note(line, name + " is never read: the library's own values apply");
-        } else if (!isChildOf(container, name)) {
+        } else if (name != capturedElement && container != capturedElement && !isChildOf(container, name)) {
             problem(line, name + " is not an element of " + (container.empty() ? "config" : container) + ": ignored");
         }
         checkDescendants(*child, name, seen);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -9,8 +10,8 @@ namespace tinyxml2 {
 class XMLElement;
 }
 
-// The element for data of a capture that no profile needs. Not a limit.
-inline constexpr char capturedElement[] = "captured";
+// Below a config, egl or es: what a capture reports of a device and profiles have no place for. Nothing reads it.
+inline constexpr std::string_view capturedElement = "captured";
 
 struct EsBlockText {
     std::string version; // empty without the attribute

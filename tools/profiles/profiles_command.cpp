@@ -9,6 +9,8 @@
 #include "tools/command/verbs.h"
 #include "tools/profiles/check_profile.h"
 #include "tools/profiles/diff_command.h"
+#include "tools/profiles/export.h"
+#include "tools/profiles/import.h"
 #include "tools/profiles/print_profile.h"
 #include "tools/profiles/profile_list.h"
 
@@ -40,6 +42,32 @@ void checkFile(const std::string &path) {
     std::cout << path << ": no faults\n";
 }
 
+void addImportVerb(const Verb &profiles) {
+    const Verb verb = profiles.verb(
+        "import", "Install a profile file into the profiles directory",
+        "Lists the faults that \"zelvane profiles check\" finds. Without a profiles directory, the default one is\n"
+        "created and set.\n"
+        "Exit status: 0 success, 1 the file is not a profile, its name is in use, or it cannot be installed.");
+    auto import = std::make_shared<ProfileImport>();
+    verb.word("file", import->path, "the path of the file; - is standard input").required();
+    verb.option("--name", import->name, "NAME",
+                "the profile's name; by default its device, or else the name of the file")
+        .checkedBy([](const std::string &name) { return std::string(name.empty() ? "the name is empty" : ""); });
+    verb.flag("--replace", import->mayReplace, "overwrite an existing profile");
+    verb.action([import] { importProfile(*import); });
+}
+
+void addExportVerb(const Verb &profiles) {
+    const Verb verb = profiles.verb("export", "Print the text of a profile, or write it to a file",
+                                    "Exit status: 0 success, 1 there is no such profile, or the file exists or cannot\n"
+                                    "be written.");
+    auto wanted = std::make_shared<ProfileExport>();
+    verb.word("name", wanted->name, "a name that \"zelvane profiles\" lists, or Desktop").required();
+    verb.word("file", wanted->path, "the path of a new file; by default standard output");
+    verb.flag("--replace", wanted->mayReplace, "overwrite an existing file");
+    verb.action([wanted] { exportProfile(*wanted); });
+}
+
 } // namespace
 
 void addProfilesCommand(const Verb &top) {
@@ -66,5 +94,7 @@ void addProfilesCommand(const Verb &top) {
     check.word("file", options->path, "the path of the file").required();
     check.action([options] { checkFile(options->path); });
     addProfilesDiffCommand(profiles);
+    addImportVerb(profiles);
+    addExportVerb(profiles);
     profiles.canStandAlone();
 }

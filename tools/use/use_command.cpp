@@ -1,10 +1,10 @@
 #include <filesystem>
 #include <iostream>
 
-#include "foundation/paths.h"
 #include "tools/command/failure.h"
 #include "tools/command/preferences.h"
 #include "tools/command/profile_names.h"
+#include "tools/command/profiles_directory.h"
 #include "tools/command/verbs.h"
 
 namespace {
@@ -14,16 +14,6 @@ struct Options {
     std::string directory;
     bool none = false;
 };
-
-std::string makeOwnDirectory() {
-    std::string directory;
-    if (!getConfigDirectory(directory)) failCommand("there is no home directory");
-    directory += "/profiles";
-    std::error_code error;
-    std::filesystem::create_directories(directory, error);
-    if (error) failCommand("\"" + directory + "\" cannot be made: " + error.message());
-    return directory;
-}
 
 void useProfile(const std::string &name, std::string directory) {
     ToolPreferences preferences;
@@ -37,7 +27,7 @@ void useProfile(const std::string &name, std::string directory) {
     }
     const bool isNew = directory.empty();
     checkProfileName(name, directory);
-    if (isNew) directory = makeOwnDirectory();
+    if (isNew) directory = makeOwnProfilesDirectory();
     if (directory != preferences.storedDirectory()) {
         std::cout << "profiles directory: now " << directory
                   << (isNew     ? "; none was set, and without one no profile is read"

@@ -8,14 +8,15 @@
 
 namespace {
 
+enum class Form { number, range, size };
 struct Limit {
     GLenum name;
     const char *element;
-    size_t count;
+    Form form;
 };
 
 constexpr Limit limits[] = {
-#define LIMIT(name, element, count) {name, element, count},
+#define LIMIT(name, element, form) {name, element, Form::form},
 #include "announcement/limits.def"
 #undef LIMIT
 };
@@ -55,9 +56,10 @@ const std::vector<double> *told(const std::optional<EsBlock> &device, std::strin
 }
 
 // A range that does not intersect the host's leaves the host's unchanged.
-void cut(std::vector<double> &host, const std::vector<double> &device) {
-    if (host.size() == 1) {
-        host[0] = std::min(host[0], device[0]);
+void cut(Form form, std::vector<double> &host, const std::vector<double> &device) {
+    if (form != Form::range) {
+        std::ranges::transform(host, device, host.begin(),
+                               [](double own, double other) { return std::min(own, other); });
     } else if (device[0] <= host[1] && device[1] >= host[0]) {
         host = {std::max(host[0], device[0]), std::min(host[1], device[1])};
     }
@@ -78,12 +80,14 @@ const std::vector<double> *Limits::find(GLenum pname) const {
 
 void Limits::cutLimits(const std::optional<EsBlock> &device) {
     for (const Limit &limit : limits) {
-        const auto *const numbers = told(device, limit.element, limit.count);
+        const size_t count = limit.form == Form::number ? 1 : 2;
+        const auto *const numbers = told(device, limit.element, count);
         if (!numbers) continue;
         std::array<GLfloat, 2> hosts = {};
         hostGl().getFloatv(limit.name, hosts.data());
-        std::vector<double> values(hosts.begin(), hosts.begin() + static_cast<ptrdiff_t>(limit.count));
-        cut(values, *numbers);
+        if (hostGl().getError() != GL_NO_ERROR) continue;
+        std::vector<double> values(hosts.begin(), hosts.begin() + static_cast<ptrdiff_t>(count));
+        cut(limit.form, values, *numbers);
         m_values[limit.name] = std::move(values);
     }
 }

@@ -66,7 +66,7 @@ constexpr CompressedFormat compressedFormatRows[] = {
 #undef COMPRESSED_FORMAT
 };
 
-enum class Rule { least, most, range };
+enum class Rule { least, most, range, indexed };
 struct LimitRow {
     GLenum pname;
     std::string_view element;
@@ -77,6 +77,11 @@ constexpr LimitRow limitRows[] = {
 #include "announcement/limits.def"
 #undef LIMIT
 };
+
+size_t countOf(const LimitRow &row) {
+    if (row.rule == Rule::indexed) return 3;
+    return row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
+}
 
 bool isCarried(const HostFeatures &host, GLint esMajor, std::string_view name) {
     const auto known = std::ranges::find(esExtensions, name, &EsExtension::name);
@@ -150,13 +155,24 @@ std::vector<double> formatsOf(std::vector<double> host, const std::optional<EsBl
     return host;
 }
 
+// Doubles hold every integer up to here.
+constexpr double exactIntegers = 1LL << std::numeric_limits<double>::digits;
+
 std::vector<double> hostNumbers(GLenum pname, size_t count) {
     if (count == 1) {
         GLint64 value = 0;
         hostGl().getInteger64v(pname, &value);
         return {static_cast<double>(value)};
     }
-    // No limit has more than two numbers.
+    if (count == 3) {
+        std::vector<double> numbers;
+        for (GLuint index = 0; index < count; ++index) {
+            GLint value = 0;
+            hostGl().getIntegeri_v(pname, index, &value);
+            numbers.push_back(value);
+        }
+        return numbers;
+    }
     GLfloat values[2] = {};
     hostGl().getFloatv(pname, values);
     return {values[0], values[1]};
@@ -200,9 +216,15 @@ std::vector<Announcement::Limit> Announcement::limitsOf(const EsBlock &device) {
     std::vector<Limit> limits;
     for (const LimitRow &row : limitRows) {
         const auto found = device.limits.find(row.element);
-        const size_t count = row.rule == Rule::range || row.pname == GL_MAX_VIEWPORT_DIMS ? 2 : 1;
+        const size_t count = countOf(row);
         if (found == device.limits.end() || found->second.size() < count) continue;
-        limits.push_back({row.pname, meet(row.rule, hostNumbers(row.pname, count), found->second)});
+        std::vector<double> host = hostNumbers(row.pname, count);
+        // The device's version may be higher than the context's.
+        if (hostGl().getError() != GL_NO_ERROR) continue;
+        std::vector<double> met = meet(row.rule, host, found->second);
+        // A double does not hold it exactly: the host answers itself.
+        if (met == host && met.front() > exactIntegers) continue;
+        limits.push_back({row.pname, std::move(met)});
     }
     std::ranges::sort(limits, {}, &Limit::pname);
     return limits;

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <string_view>
 #include <type_traits>
 
 namespace {
@@ -43,7 +44,8 @@ constexpr auto answers = [] {
 #include "announcement/name_queries.def"
 #undef NAME_QUERY
     set(GL_COMPRESSED_TEXTURE_FORMATS, Answer::List);
-#define LIMIT(pname, element, rule) set(pname, Answer::List);
+#define LIMIT(pname, element, rule)                                                                                    \
+    if (std::string_view(#rule) != "indexed") set(pname, Answer::List);
 #include "announcement/limits.def"
 #undef LIMIT
     return bits;
@@ -207,6 +209,11 @@ void GL_APIENTRY getIntegeri_v(GLenum target, GLuint index, GLint *data) {
     case GL_UNIFORM_BUFFER_BINDING:
     case GL_VERTEX_BINDING_BUFFER:
         *data = static_cast<GLint>(context->shared->buffers.names.nameOf(static_cast<GLuint>(*data)));
+        break;
+    case GL_MAX_COMPUTE_WORK_GROUP_COUNT:
+    case GL_MAX_COMPUTE_WORK_GROUP_SIZE:
+        if (const auto *const limit = context->announced.limit(target); limit && index < limit->size())
+            *data = static_cast<GLint>((*limit)[index]);
         break;
     case GL_IMAGE_BINDING_NAME:
         *data = static_cast<GLint>(context->shared->textures.names.nameOf(static_cast<GLuint>(*data)));
