@@ -99,6 +99,7 @@ protected:
     PFNGLTEXSUBIMAGE2DPROC texSubImage2D = Named("glTexSubImage2D");
     PFNGLTEXPARAMETERIPROC texParameteri = Named("glTexParameteri");
     PFNGLGETINTEGERVPROC getIntegerv = Named("glGetIntegerv");
+    PFNGLACTIVETEXTUREPROC activeTexture = Named("glActiveTexture");
     PFNGLGENERATEMIPMAPPROC generateMipmap = Named("glGenerateMipmap");
     PFNGLEGLIMAGETARGETTEXTURE2DOESPROC targetTexture = Named("glEGLImageTargetTexture2DOES");
     PFNGLEGLIMAGETARGETTEXSTORAGEEXTPROC targetStorage = Named("glEGLImageTargetTexStorageEXT");
@@ -161,7 +162,12 @@ TEST_F(DesktopImages, SiblingsShareUntilOneGetsAnotherImage) {
     gl.bindTexture(GL_TEXTURE_2D, source);
     gl.getTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, &filter);
     EXPECT_EQ(filter, GL_NEAREST) << "each has parameters of its own";
+    activeTexture(GL_TEXTURE1);
+    gl.bindTexture(GL_TEXTURE_2D, source);
     define(GL_TEXTURE_2D, 1, red);
+    activeTexture(GL_TEXTURE0);
+    getIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    EXPECT_EQ(bound, static_cast<GLint>(source)) << "bound in every unit as before";
     EXPECT_EQ(pixel(), green) << "other levels stay";
     EXPECT_EQ(drawn(1, 0, 0), red) << "attached before, and not shared any more";
     gl.getTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, &filter);
