@@ -6,7 +6,7 @@ pointers written as "const GLchar *const *" and "void **".
 
 import re
 import xml.etree.ElementTree as ElementTree
-from typing import Dict, List, NamedTuple, Tuple
+from typing import Dict, List, NamedTuple, Set, Tuple
 
 REGISTRY_FILE = "/usr/share/khronos-api/gl.xml"
 
@@ -20,14 +20,43 @@ ES_FEATURES = [
 ]
 
 
+# The vendors whose extensions of ES devices and supported hosts have. Our own are not in the registry.
+VENDORS = {"AMD", "ANDROID", "ANGLE", "APPLE", "ARM", "EXT", "INTEL", "KHR", "MESA", "NV", "OES", "OVR", "QCOM"}
+
+
 class Command(NamedTuple):
     result: str
     parameters: List[Tuple[str, str]]  # type text, parameter name
 
 
+def load(path: str = REGISTRY_FILE) -> ElementTree.Element:
+    """The registry's root, without extensions of ES that are of other vendors or take names of theirs."""
+    root = ElementTree.parse(path).getroot()
+    extensions, commands = root.find("extensions"), root.find("commands")
+    others = {e.get("name").split("_")[1] for e in extensions} - VENDORS
+    dropped = [e for e in extensions if _is_for_es_only(e) and _vendors(e) & others]
+    for extension in dropped:
+        extensions.remove(extension)
+    rest = {c.get("name") for c in root.iterfind(".//require/command")}
+    gone = {c.get("name") for e in dropped for c in e.iterfind("require/command")} - rest
+    for command in [c for c in commands if c.findtext("proto/name") in gone]:
+        commands.remove(command)
+    return root
+
+
+def _is_for_es_only(extension: ElementTree.Element) -> bool:
+    return set(extension.get("supported", "").split("|")) <= {"gles1", "gles2"}
+
+
+def _vendors(extension: ElementTree.Element) -> Set[str]:
+    """The vendor of its name, and the ends of the names that it requires."""
+    names = [item.get("name") for kind in ("enum", "command") for item in extension.iterfind(f"require/{kind}")]
+    return {extension.get("name").split("_")[1]} | {re.search("[A-Z]*$", name).group() for name in names}
+
+
 class Registry:
     def __init__(self, path: str = REGISTRY_FILE):
-        root = ElementTree.parse(path).getroot()
+        root = load(path)
         # All commands of all APIs, by name.
         self.commands: Dict[str, Command] = {}
         for element in root.iterfind("commands/command"):

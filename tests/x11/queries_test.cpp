@@ -78,6 +78,14 @@ TEST_F(BackEnd, DesktopProgramsGetExtensionsWhoseFunctionsOthersCannotCall) {
     EXPECT_EQ(integer(GL_CLIP_ORIGIN_EXT), GL_UPPER_LEFT_EXT);
 }
 
+TEST_F(BackEnd, TellsWhetherTheContextChecksErrors) {
+    for (const uint8_t noError : {0, 1}) {
+        attribs.noError = noError;
+        start(3, 2);
+        EXPECT_EQ(integer(GL_CONTEXT_FLAGS) & GL_CONTEXT_FLAG_NO_ERROR_BIT_KHR, noError * 8);
+    }
+}
+
 TEST_F(BackEnd, ListsTheSameExtensionsInBothForms) {
     start(3, 0);
     const auto count = static_cast<GLuint>(integer(GL_NUM_EXTENSIONS));

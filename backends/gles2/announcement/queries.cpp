@@ -17,6 +17,7 @@ namespace {
 constexpr GLenum fragmentShaderDiscardsSamples = 0x8A52; // of EXT_shader_framebuffer_fetch
 constexpr GLenum gpuDisjoint = 0x8FBB;                   // of EXT_disjoint_timer_query
 constexpr GLenum contextRobustAccess = 0x90F3;           // of KHR_robustness
+constexpr GLuint noErrorFlag = 8;                        // of KHR_no_error, in GL_CONTEXT_FLAGS
 
 // Where the result of a query comes from.
 enum class Answer : uint64_t {
@@ -36,6 +37,7 @@ constexpr auto answers = [] {
     set(fragmentShaderDiscardsSamples, Answer::OneNumber);
     set(gpuDisjoint, Answer::OneNumber);
     set(contextRobustAccess, Answer::OneNumber);
+    set(GL_CONTEXT_FLAGS, Answer::OneNumber);
     set(GL_RESET_NOTIFICATION_STRATEGY, Answer::OneNumber);
     set(GL_FRAMEBUFFER_SRGB_EXT, Answer::OneNumber);
     for (GLenum pname = GL_DRAW_BUFFER0; pname <= GL_DRAW_BUFFER15; ++pname)
@@ -87,6 +89,9 @@ double oneNumber(const EsContext &context, GLenum pname) {
         return context.robustAccess;
     case GL_RESET_NOTIFICATION_STRATEGY:
         return context.resetStrategy;
+    // The host's context checks errors all the same.
+    case GL_CONTEXT_FLAGS:
+        return askHost(pname) | (context.noError ? noErrorFlag : 0);
     case GL_FRAMEBUFFER_SRGB_EXT:
         return context.framebuffers.mayWriteSrgb();
     default:

@@ -16,6 +16,7 @@ constexpr int32_t losesContext = 0x31BF;
 
 EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsContext share)
     : major(attribs.esMajor), minor(attribs.esMinor), robustAccess(attribs.contextFlags & robustFlag ? 1 : 0),
+      noError(attribs.noError != 0),
       resetStrategy(attribs.resetStrategy == losesContext ? GL_LOSE_CONTEXT_ON_RESET : GL_NO_RESET_NOTIFICATION),
       announced(host, zvSettingsProfileText(settings), major, minor), shared(this, share),
       vertices(major, host, announced.most(GL_MAX_VERTEX_ATTRIBS)) {

@@ -33,6 +33,7 @@ public:
     const GLint major;
     const GLint minor;
     const GLuint robustAccess;  // 1 when the application requested it
+    const bool noError;         // the application requested a context without errors
     const GLenum resetStrategy; // as glGetIntegerv returns it
     const Announcement announced;
     const ShareGroupMember<ShareGroup> shared;

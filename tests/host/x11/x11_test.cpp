@@ -3,6 +3,8 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <malloc.h>
+#include <memory>
 #include <string>
 #include <thread>
 #include <utility>
@@ -117,6 +119,15 @@ TEST_F(OnX11, PixelBuffersOutliveTheirReleaseAndLeaveTheContextCurrent) {
     EXPECT_TRUE(operations.setPixelBuffer(other.get(), nullptr));
     EXPECT_EQ(operations.currentContext(), other.get());
     EXPECT_TRUE(operations.makeCurrent(made.get()));
+}
+
+// A mapping for each would be returned to the system, and faulted in, at each draw.
+TEST_F(OnX11, BuffersOfASoftwareRendererComeFromTheHeap) {
+    const auto made = context();
+    if (!made->connection.isSoftware()) GTEST_SKIP() << "the host draws in hardware";
+    const size_t mappings = mallinfo2().hblks;
+    const std::unique_ptr<void, decltype(&free)> buffer(malloc(size_t(1) << 20), free);
+    EXPECT_EQ(mallinfo2().hblks, mappings);
 }
 
 TEST_F(OnX11, ViewThatTheHostRefusesLeavesTheOldOne) {

@@ -1,5 +1,6 @@
 #include "host/platform/x11/connection.h"
 
+#include <cstdlib>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -23,6 +24,14 @@ struct Connections {
 Connections &connections() {
     static auto *instance = new Connections; // never destroyed: threads swap while the process ends
     return *instance;
+}
+
+// A draw of Mesa's software renderer allocates and frees a megabyte and more. With its first thresholds, glibc returns
+// that to the system each time and faults it in again. It raises them to the size of the largest mapping that is freed.
+void raiseHeapThresholds() {
+    constexpr size_t size = size_t(4) << 20;
+    void *volatile memory = std::malloc(size); // volatile: compilers leave out the pair
+    std::free(memory);
 }
 
 Display *applicationDisplay(uint64_t displayWord) {
@@ -82,6 +91,7 @@ Connection::Connection(Display *display)
     if (const char *extensions = glx().queryExtensionsString(display, m_screen)) m_glxExtensions = extensions;
     m_glxExtensions = " " + m_glxExtensions + " ";
     m_isSoftware = isSoftwareRenderer(display, m_screen, hasGlxExtension("GLX_MESA_query_renderer"));
+    if (m_isSoftware) raiseHeapThresholds();
 }
 
 bool Connection::hasGlxExtension(std::string_view name) const {
