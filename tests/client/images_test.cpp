@@ -103,6 +103,7 @@ protected:
     PFNGLGENERATEMIPMAPPROC generateMipmap = Named("glGenerateMipmap");
     PFNGLEGLIMAGETARGETTEXTURE2DOESPROC targetTexture = Named("glEGLImageTargetTexture2DOES");
     PFNGLEGLIMAGETARGETTEXSTORAGEEXTPROC targetStorage = Named("glEGLImageTargetTexStorageEXT");
+    PFNGLTEXTUREVIEWOESPROC textureView = Named("glTextureViewOES");
     PFNGLEGLIMAGETARGETRENDERBUFFERSTORAGEOESPROC targetRenderbuffer = Named("glEGLImageTargetRenderbufferStorageOES");
 };
 
@@ -184,6 +185,13 @@ TEST_F(DesktopImages, SiblingsShareUntilOneGetsAnotherImage) {
     EXPECT_EQ(pixel(), green);
     define(GL_TEXTURE_2D, 0, red);
     EXPECT_EQ(gl.getError(), GLenum(GL_INVALID_OPERATION)) << "such a storage cannot change";
+    EXPECT_EQ(pixel(), green);
+
+    GLuint view = 0;
+    genTextures(1, &view);
+    textureView(view, GL_TEXTURE_2D, sibling, GL_RGBA, 0, 1, 0, 1);
+    attach(GL_TEXTURE_2D, view);
+    EXPECT_EQ(gl.getError(), GLenum(GL_NO_ERROR));
     EXPECT_EQ(pixel(), green);
 }
 

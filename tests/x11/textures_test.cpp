@@ -37,20 +37,6 @@ protected:
 
 } // namespace
 
-TEST_F(BackEndTextures, ViewByAFormatWithoutASizeHasThatOfItsOriginal) {
-    setenv("ZELVANE_DESKTOP_CLIENTS", "1", 1);
-    startTextured(3, 2);
-    const GLuint original = bindNew();
-    ES(glTexStorage2D)(GL_TEXTURE_2D, 1, GL_RGBA8, 1, 1);
-    ES(glTexSubImage2D)(GL_TEXTURE_2D, 0, 0, 0, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, green.data());
-    GLuint view = 0;
-    ES(glGenTextures)(1, &view);
-    ES(glTextureViewOES)(view, GL_TEXTURE_2D, original, GL_RGBA, 0, 1, 0, 1);
-    bind(view);
-    EXPECT_EQ(level(GL_TEXTURE_INTERNAL_FORMAT), GL_RGBA8);
-    EXPECT_EQ(sampled(), green);
-}
-
 TEST_F(BackEndTextures, FormatsThatOnlyEsHasAreWhatEsSays) {
     startTextured(3, 1);
     const GLubyte bytes[] = {51, 102, 153, 204};

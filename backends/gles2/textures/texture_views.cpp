@@ -6,9 +6,10 @@
 
 namespace {
 
-// A view by a format without a size has the format of its original, as far as the host can tell.
-GLenum viewFormat(GLuint original, GLenum internal) {
-    if ((internal != GL_RGB && internal != GL_RGBA) || !hostGl().getTextureLevelParameteriv)
+// A texture with the storage of an EGL image has a format without a size for the application, and views may have it.
+GLenum viewFormat(const SharedImages &images, GLuint original, GLenum internal) {
+    const bool isUnsized = internal == GL_RGB || internal == GL_RGBA;
+    if (!isUnsized || !images.siblings.find(original) || !hostGl().getTextureLevelParameteriv)
         return hostTextureFormat(internal).internal;
     auto format = static_cast<GLint>(internal);
     hostGl().getTextureLevelParameteriv(original, 0, GL_TEXTURE_INTERNAL_FORMAT, &format);
@@ -24,10 +25,11 @@ void GL_APIENTRY textureView(GLuint texture, GLenum target, GLuint origtexture, 
     const EsContext *const context = EsContext::current();
     if (!context) return;
     // The view's name has no texture yet and the original has one, so no object is created for either.
-    const NameTable &names = context->shared->textures.names;
-    const GLuint original = names.find(origtexture);
-    hostGl().textureView(names.find(texture), target, original, viewFormat(original, internalformat), minlevel,
-                         numlevels, minlayer, numlayers);
+    const SharedTextures &textures = context->shared->textures;
+    const GLuint original = textures.names.find(origtexture);
+    hostGl().textureView(textures.names.find(texture), target, original,
+                         viewFormat(textures.images, original, internalformat), minlevel, numlevels, minlayer,
+                         numlayers);
 }
 
 } // namespace overrides
