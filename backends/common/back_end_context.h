@@ -7,6 +7,7 @@
 #include <utility>
 
 class BackEndContext {
+protected:
     const std::shared_ptr<const HostFeatures> m_host = HostFeatures::ofCurrentContext();
 
 public:

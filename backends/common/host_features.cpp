@@ -1,14 +1,12 @@
 #include "common/host_features.h"
 
 #include "common/host_library.h"
-#include "common/never_destroyed.h"
+#include "common/known_values.h"
 
 #include <GLES3/gl3.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <map>
-#include <mutex>
 
 namespace {
 
@@ -43,29 +41,11 @@ std::string contextKind() {
     return version + '\n' + hostString(GL_RENDERER) + '\n' + std::to_string(count);
 }
 
-struct Known {
-    std::mutex mutex;
-    std::map<std::string, std::shared_ptr<const HostFeatures>> byKind; // guarded by mutex
-};
-
-// Empties the map when the library is unloaded. Contexts that still exist when the process ends keep their features.
-const struct Forgetting {
-    ~Forgetting() {
-        Known &known = neverDestroyed<Known>();
-        const std::lock_guard lock(known.mutex);
-        known.byKind.clear();
-    }
-} forgetting;
-
 } // namespace
 
 std::shared_ptr<const HostFeatures> HostFeatures::ofCurrentContext() {
-    Known &known = neverDestroyed<Known>();
-    const std::string kind = contextKind();
-    const std::lock_guard lock(known.mutex);
-    auto &features = known.byKind[kind];
-    if (!features) features.reset(new HostFeatures);
-    return features;
+    return KnownValues<std::string, HostFeatures>::find(
+        contextKind(), [] { return std::shared_ptr<const HostFeatures>(new HostFeatures); });
 }
 
 HostFeatures::HostFeatures() {

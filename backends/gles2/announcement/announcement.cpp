@@ -1,12 +1,14 @@
 #include "announcement/announcement.h"
 
 #include "common/desktop_clients.h"
+#include "common/known_values.h"
 #include "common/per_back_end/host_gl.h"
 
 #include <algorithm>
 #include <limits>
 #include <optional>
 #include <span>
+#include <tuple>
 
 namespace {
 
@@ -188,8 +190,16 @@ std::vector<double> meet(Rule rule, std::vector<double> host, std::span<const do
 
 } // namespace
 
-Announcement::Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor) {
-    const std::optional<EsBlock> device = readEsBlock(profileText ? profileText : "", major, minor);
+std::shared_ptr<const Announcement> Announcement::of(const std::shared_ptr<const HostFeatures> &host,
+                                                     const char *profileText, GLint major, GLint minor) {
+    using Key = std::tuple<std::shared_ptr<const HostFeatures>, std::string, GLint, GLint>;
+    const Key key(host, profileText ? profileText : "", major, minor);
+    return KnownValues<Key, Announcement>::find(
+        key, [&] { return std::make_shared<const Announcement>(*host, std::get<1>(key), major, minor); });
+}
+
+Announcement::Announcement(const HostFeatures &host, const std::string &profileText, GLint major, GLint minor) {
+    const std::optional<EsBlock> device = readEsBlock(profileText, major, minor);
     version = "OpenGL ES " + number(major, minor) + " Zelvane (" + hostText(GL_VERSION) + ')';
     // The version of the shading language is 1.00 for ES 2, and that of the context for ES 3.
     shadingLanguageVersion = "OpenGL ES GLSL ES " + (major < 3 ? "1.00" : number(major, minor) + '0');

@@ -7,13 +7,18 @@
 
 #include "es_gl.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 struct Announcement {
-    // profileText: the result of zvSettingsProfileText; null and the empty text mean no profile.
-    Announcement(const HostFeatures &host, const char *profileText, GLint major, GLint minor);
+    // That of a context of the version, determined once for each kind of host context.
+    // host: of the current context. profileText: the result of zvSettingsProfileText; null and the empty text mean no
+    // profile.
+    [[nodiscard]] static std::shared_ptr<const Announcement> of(const std::shared_ptr<const HostFeatures> &host,
+                                                                const char *profileText, GLint major, GLint minor);
+    Announcement(const HostFeatures &host, const std::string &profileText, GLint major, GLint minor);
 
     // names: of extensions, separated by blanks.
     [[nodiscard]] bool hasOneOf(std::string_view names) const;

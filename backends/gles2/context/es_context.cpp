@@ -18,7 +18,7 @@ EsContext::EsContext(const ContextAttribs &attribs, const void *settings, zvEsCo
     : major(attribs.esMajor), minor(attribs.esMinor), robustAccess(attribs.contextFlags & robustFlag ? 1 : 0),
       noError(attribs.noError != 0),
       resetStrategy(attribs.resetStrategy == losesContext ? GL_LOSE_CONTEXT_ON_RESET : GL_NO_RESET_NOTIFICATION),
-      announced(host, zvSettingsProfileText(settings), major, minor), shared(this, share),
+      announcement(Announcement::of(m_host, zvSettingsProfileText(settings), major, minor)), shared(this, share),
       vertices(major, host, announced.most(GL_MAX_VERTEX_ATTRIBS)) {
     const GLint units = announced.most(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS);
     if (announced.limit(GL_MAX_COMBINED_TEXTURE_IMAGE_UNITS)) {

@@ -35,7 +35,8 @@ public:
     const GLuint robustAccess;  // 1 when the application requested it
     const bool noError;         // the application requested a context without errors
     const GLenum resetStrategy; // as glGetIntegerv returns it
-    const Announcement announced;
+    const std::shared_ptr<const Announcement> announcement;
+    const Announcement &announced = *announcement;
     const ShareGroupMember<ShareGroup> shared;
 
     Vertices vertices;
