@@ -1,5 +1,6 @@
 #include "x11/back_end_fixture.h"
 
+#include <dlfcn.h>
 #include <functional>
 #include <memory>
 #include <numeric>
@@ -54,6 +55,27 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Hosts, BackEndClientArrays, testing::Bool());
 
 } // namespace
+
+TEST_P(BackEndClientArrays, BuffersOfADeadContextAreDeletedByTheNextBindOfItsGroup) {
+    startColumns(3, 0);
+    setColumns(columns.data());
+    ES(glDrawArrays)(GL_POINTS, 0, 3);
+    const uint64_t displayAndHandle[2] = {1, 2};
+    const zvEsContext sharing = OWN(zvCreateEsContext)(&attribs, displayAndHandle, nullptr, current);
+    using Lookup = void (*(*)(const char *))();
+    const auto lookup = reinterpret_cast<Lookup>(dlsym(RTLD_DEFAULT, "glXGetProcAddressARB"));
+    const auto isHostBuffer = reinterpret_cast<decltype(&::glIsBuffer)>(lookup("glIsBuffer"));
+    const auto hostBuffers = [&] {
+        int count = 0;
+        for (GLuint name = 1; name < 100; ++name)
+            count += isHostBuffer(name);
+        return count;
+    };
+    OWN(zvDeleteEsContext)(std::exchange(current, sharing));
+    const int before = hostBuffers();
+    OWN(zvSetEsContextAttribs)(sharing, &attribs);
+    EXPECT_LT(hostBuffers(), before);
+}
 
 TEST_P(BackEndClientArrays, EveryDrawReadsTheApplicationsMemory) {
     startColumns(3, 2);

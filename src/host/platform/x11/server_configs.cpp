@@ -14,6 +14,8 @@ namespace host::platform::x11 {
 
 namespace {
 
+constexpr uint32_t mostWords = 1 << 24; // of a reply; servers with a thousand configs send a hundred thousand
+
 // Called with the display locked.
 bool requestConfigs(Display *display, int opcode, int screen, xGLXGetFBConfigsReply &reply) {
     auto *request =
@@ -34,10 +36,13 @@ ServerConfigs::ServerConfigs(Display *display, int screen) {
     LockDisplay(display);
     xGLXGetFBConfigsReply reply{};
     if (requestConfigs(display, opcode, screen, reply)) {
-        const size_t size = size_t(reply.length) * 4; // the size of the data, whether or not it matches the counts
-        m_pairsOfRow = reply.numAttribs;
-        m_values.resize(reply.length);
-        _XRead(display, reinterpret_cast<char *>(m_values.data()), static_cast<long>(size));
+        if (reply.length == uint64_t(reply.numFBConfigs) * reply.numAttribs * 2 && reply.length <= mostWords) {
+            m_pairsOfRow = reply.numAttribs;
+            m_values.resize(reply.length);
+            _XRead(display, reinterpret_cast<char *>(m_values.data()), static_cast<long>(m_values.size() * 4));
+        } else {
+            _XEatDataWords(display, reply.length);
+        }
     }
     UnlockDisplay(display);
     if (display->synchandler) display->synchandler(display);
